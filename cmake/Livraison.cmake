@@ -1,0 +1,20 @@
+# What is shipped beside the executable: in the build tree under "partage", after installation under "share/bulleo".
+include(GNUInstallDirs)
+set(BULLEO_PARTAGE ${CMAKE_BINARY_DIR}/partage)
+add_custom_target(partage ALL)
+
+# Copies the files of a folder of data/ into the shipped folder, again when one of them changes.
+function(livrer_dossier source destination)
+    file(GLOB fichiers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${source}/*)
+    foreach(fichier IN LISTS fichiers)
+        get_filename_component(nom ${fichier} NAME)
+        set(copie ${BULLEO_PARTAGE}/${destination}/${nom})
+        add_custom_command(OUTPUT ${copie} DEPENDS ${fichier} VERBATIM
+            COMMAND ${CMAKE_COMMAND} -E copy ${fichier} ${copie})
+        list(APPEND copies ${copie})
+    endforeach()
+    string(MAKE_C_IDENTIFIER "partage_${destination}" cible)
+    add_custom_target(${cible} DEPENDS ${copies})
+    add_dependencies(partage ${cible})
+    install(DIRECTORY ${source}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/bulleo/${destination})
+endfunction()

@@ -1,0 +1,198 @@
+#include "browse/Fiche.h"
+
+#include "core/Texte.h"
+#include "core/Traduction.h"
+#include "db/Base.h"
+
+#include <QStringList>
+#include <array>
+
+using namespace Champs;
+
+namespace {
+
+constexpr qsizetype LongueurTitre = 50;
+constexpr qsizetype LongueurTome = 3;
+
+/// Text of one of several captions chosen by number; empty for a number that has none.
+template <std::size_t N>
+QString parmi(const std::array<Txt, N> &libelles, int numero)
+{
+    return numero >= 0 && numero < static_cast<int>(N) ? texte(libelles[static_cast<std::size_t>(numero)])
+                                                       : QString();
+}
+
+QString nombreOuRien(const QVariant &valeur)
+{
+    const int nombre = valeur.toInt();
+    return nombre == 0 ? QString() : QString::number(nombre);
+}
+
+QString prix(const QVariant &valeur)
+{
+    if (!valeur.isValid() || valeur.toDouble() == 0.0)
+        return {};
+    const QString montant = Traduction::courant().locale().toString(valeur.toDouble(), 'f', 2);
+    return montant + u' ' + texte(Txt::Euro);
+}
+
+/// Grades are shown by stars; what is no grade is shown as it is.
+QString note(const QVariant &valeur)
+{
+    bool nombre = false;
+    const int grade = valeur.toString().trimmed().toInt(&nombre);
+    return nombre ? QString::number(grade) : valeur.toString().trimmed();
+}
+
+QString nomDe(const Champ &champ, int id, const QVariant &stockee)
+{
+    if (champ.source->liens)
+        return Fiche::LireNomsLies(*champ.source, id);
+    return Fiche::LireNom(*champ.source, stockee.toInt());
+}
+
+/// A number in this program's language or with a point; nothing when it is none.
+std::optional<double> montant(const QString &saisie)
+{
+    QString net = saisie;
+    net.remove(texte(Txt::Euro)).remove(u' ').remove(QChar(0x00A0)).remove(QChar(0x202F));
+    bool sur = false;
+    const double valeur = net.replace(u',', u'.').toDouble(&sur);
+    return sur ? std::optional(valeur) : std::nullopt;
+}
+
+std::optional<QVariant> entier(const QString &saisie, const QVariant &siVide)
+{
+    if (saisie.isEmpty())
+        return siVide;
+    bool sur = false;
+    const int valeur = saisie.toInt(&sur);
+    return sur ? std::optional<QVariant>(valeur) : std::nullopt;
+}
+
+}
+
+std::optional<Valeurs> Fiche::Lire(Feuille feuille, int id)
+{
+    const Base base;
+    Valeurs valeurs;
+    bool trouvee = false;
+    for (const Ligne &ligne : Lignes()) {
+        if (ligne.feuille != feuille)
+            continue;
+        const auto rs = base.OpenRecordset(QLatin1String(ligne.lecture), {id});
+        trouvee = trouvee || !rs.AtEnd();
+        for (const Champ &champ : Tous()) {
+            if (champ.feuille != feuille || qstrcmp(champ.table, ligne.table) != 0)
+                continue;
+            ValeurDeChamp &valeur = valeurs[QLatin1String(champ.nom)];
+            if (champ.colonne && !rs.AtEnd())
+                valeur.stockee = rs.Fields(QLatin1String(champ.colonne));
+            valeur.affichee
+                = champ.source ? nomDe(champ, id, valeur.stockee) : Afficher(champ, valeur.stockee);
+        }
+    }
+    return trouvee ? std::optional(valeurs) : std::nullopt;
+}
+
+QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
+{
+    static constexpr std::array Formats{
+        Txt::FormatNormal, Txt::GrandFormat, Txt::FormatItalienne, Txt::AutreFormat};
+    static constexpr std::array Couleurs{Txt::Couleur, Txt::NoirEtBlanc, Txt::Infographie};
+    switch (champ.vue) {
+    case Vue::Tome:
+        return nombreOuRien(stockee);
+    case Vue::Prix:
+        return prix(stockee);
+    case Vue::Etoiles:
+        return note(stockee);
+    case Vue::Case:
+        return texte(stockee.toBool() ? Txt::Oui : Txt::Non);
+    case Vue::Format:
+        return stockee.isValid() ? parmi(Formats, stockee.toInt()) : QString();
+    case Vue::Couleur:
+        return parmi(Couleurs, stockee.toInt() - 1);
+    case Vue::Memo:
+        return Texte::EstVide(stockee.toString()) ? QString() : stockee.toString();
+    case Vue::Texte:
+    case Vue::Nom:
+    case Vue::Image:
+        break;
+    }
+    return stockee.toString().trimmed();
+}
+
+std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisie)
+{
+    const QString net = Texte::EstVide(saisie) ? QString() : saisie.trimmed();
+    switch (champ.regle) {
+    case Regle::Titre:
+        return net.left(LongueurTitre);
+    case Regle::Tome: {
+        const auto tome = entier(net.left(LongueurTome), 0);
+        return tome && tome->toInt() >= 0 ? tome : std::nullopt;
+    }
+    case Regle::Nombre:
+    case Regle::Identifiant:
+        return entier(net, {});
+    case Regle::Pages:
+        return net.isEmpty() || montant(net) ? std::optional<QVariant>(net) : std::nullopt;
+    case Regle::Prix: {
+        if (net.isEmpty())
+            return QVariant();
+        const auto valeur = montant(net);
+        return valeur ? std::optional<QVariant>(*valeur) : std::nullopt;
+    }
+    case Regle::Drapeau:
+        return QVariant(net != QLatin1String("0") && !net.isEmpty());
+    case Regle::Texte:
+        break;
+    }
+    return champ.vue == Vue::Memo ? saisie : net;
+}
+
+void Fiche::Ecrire(Feuille feuille, int id, const char *nom, const QVariant &valeur)
+{
+    const Champ *champ = Chercher(feuille, nom);
+    Q_ASSERT(champ && champ->colonne);
+    const Base base;
+    for (const Ligne &ligne : Lignes()) {
+        if (ligne.feuille != feuille || qstrcmp(ligne.table, champ->table) != 0)
+            continue;
+        auto rs = base.OpenRecordset(QLatin1String(ligne.ecriture), {id});
+        if (rs.RecordCount() == 0)
+            return;
+        rs.Edit();
+        rs.SetField(QLatin1String(champ->colonne), valeur);
+        rs.Update();
+    }
+}
+
+QString Fiche::LireNom(const Source &source, int id)
+{
+    const Base base;
+    const auto rs = base.OpenRecordset(QLatin1String(source.lecture), {id});
+    if (rs.AtEnd())
+        return {};
+    const QString nom = rs.Fields(1).toString().trimmed();
+    return source.prenom ? Texte::NomPrenom(nom, rs.Fields(2).toString()) : nom;
+}
+
+QString Fiche::LireNomsLies(const Source &source, int album)
+{
+    const Base base;
+    QStringList noms;
+    for (auto liens = base.OpenRecordset(QLatin1String(source.liens), {album}); !liens.AtEnd();
+         liens.MoveNext())
+        noms << LireNom(source, liens.Fields(0).toInt());
+    noms.removeAll(QString());
+    return noms.join(QStringLiteral(", "));
+}
+
+QString Fiche::MotDeLaNote(int note)
+{
+    static constexpr std::array Mots{
+        Txt::TresMauvaise, Txt::Mauvaise, Txt::Moyenne, Txt::Passable, Txt::Excellente};
+    return texte(Mots[static_cast<std::size_t>(note >= 1 && note <= 5 ? note - 1 : 0)]);
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "browse/Champs.h"
+
+#include <QString>
+#include <QVariant>
+#include <map>
+#include <optional>
+
+/// What a sheet holds for one field: the value as stored and the text to show, empty where there is none.
+struct ValeurDeChamp
+{
+    QVariant stockee;
+    QString affichee;
+};
+
+/// A loaded sheet: its values by field name.
+using Valeurs = std::map<QString, ValeurDeChamp>;
+
+/// The routines that every sheet shares; they walk the field table. All throw Error.
+namespace Fiche {
+
+/// The values of an entry's sheet, or nothing when there is no such entry.
+std::optional<Valeurs> Lire(Champs::Feuille feuille, int id);
+
+/// A stored value as a person reads it, in the language in force; empty for nothing.
+QString Afficher(const Champs::Champ &champ, const QVariant &stockee);
+
+/// The value to store for an entered text, or nothing when the field refuses it.
+std::optional<QVariant> Verifier(const Champs::Champ &champ, const QString &saisie);
+
+/// Writes one value of an entry; nothing happens when the entry is gone.
+void Ecrire(Champs::Feuille feuille, int id, const char *nom, const QVariant &valeur);
+
+/// The name of an entry that a choice offers, or empty.
+QString LireNom(const Champs::Source &source, int id);
+/// The names of all entries that an album is linked to, joined by ", ".
+QString LireNomsLies(const Champs::Source &source, int album);
+
+/// The word for a grade of 1 to 5 stars; any other value is the lowest.
+QString MotDeLaNote(int note);
+
+}

@@ -1,0 +1,333 @@
+#include "browse/General.h"
+
+#include "browse/Fiche.h"
+#include "core/Dossier.h"
+#include "core/Error.h"
+#include "core/Texte.h"
+#include "db/Base.h"
+#include "db/Transaction.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <array>
+
+using namespace General;
+using Champs::Feuille;
+
+namespace {
+
+constexpr std::array Genres{
+    Genre{
+        Tri::Albums, Txt::ListeDesAlbums, Txt::AlbumsNombre, Txt::AlbumsDeBD, Feuille::Album, "liste-albums"},
+    Genre{Tri::Series, Txt::ListeDesSeries, Txt::SeriesNombre, Txt::Series, Feuille::Serie, "liste-series"},
+    Genre{Tri::Dessinateurs, Txt::ListeDesDessinateurs, Txt::DessinateursNombre, Txt::Dessinateurs,
+        Feuille::Auteur, "liste-dessinateurs"},
+    Genre{Tri::Scenaristes, Txt::ListeDesScenaristes, Txt::ScenaristesNombre, Txt::Scenaristes,
+        Feuille::Auteur, "liste-scenaristes"},
+    Genre{Tri::Coloristes, Txt::ListeDesColoristes, Txt::ColoristesNombre, Txt::Coloristes, Feuille::Auteur,
+        "liste-coloristes"},
+    Genre{Tri::ExLibris, Txt::ListeDesExLibris, Txt::ExLibrisNombre, Txt::ExLibris, Feuille::ExLibris,
+        "liste-exlibris"},
+    Genre{Tri::Presse, Txt::ListeDesPressesBD, Txt::PressesBDNombre, Txt::PressesBD, Feuille::Presse,
+        "liste-presse"},
+    Genre{Tri::Editeurs, Txt::ListeDesEditeurs, Txt::EditeursNombre, Txt::Editeurs, Feuille::Editeur,
+        "liste-editeurs"},
+    Genre{Tri::Collections, Txt::ListeDesCollections, Txt::CollectionsNombre, Txt::Collections, Feuille::Coll,
+        "liste-collections"},
+};
+
+/// How the second part of a line's text is joined to the first.
+enum class Forme { Nom, NomPrenom, NomNumero };
+
+/// The queries of a kind. Each names the columns that the lines show, so that an index covers it.
+struct Requetes
+{
+    const char *table;
+    const char *liste;
+    const char *ligne; ///< one line, by identifier
+    const char *albums; ///< identifier and title of the linked albums, or null
+    Forme forme;
+};
+
+constexpr std::array<Requetes, NombreDeTris> ToutesLesRequetes{
+    Requetes{"LAlbums", "SELECT NAlbum, TAlbum From LAlbums order by TAlbum asc",
+        "SELECT NAlbum, TAlbum From LAlbums where NAlbum = ?", nullptr, Forme::Nom},
+    Requetes{"Serie", "SELECT NSerie, Nom From Serie order by Nom asc",
+        "SELECT NSerie, Nom From Serie where NSerie = ?",
+        "SELECT l.NAlbum, l.TAlbum From SerieAlbums s join LAlbums l on l.NAlbum = s.NAlbum"
+        " where s.NSerie = ? order by s.NumeroAlbum2 asc",
+        Forme::Nom},
+    Requetes{"Auteurs", "SELECT NAuteur, Nom, Prenom From Auteurs where Dessin <> 0 order by Nom asc",
+        "SELECT NAuteur, Nom, Prenom From Auteurs where NAuteur = ?",
+        "SELECT l.NAlbum, l.TAlbum From AuteursAlbums a join LAlbums l on l.NAlbum = a.NAlbum"
+        " where a.NAuteur= ? and a.Dessin <> 0 order by a.rowid asc",
+        Forme::NomPrenom},
+    Requetes{"Auteurs", "SELECT NAuteur, Nom, Prenom From Auteurs where Scena <> 0 order by Nom asc",
+        "SELECT NAuteur, Nom, Prenom From Auteurs where NAuteur = ?",
+        "SELECT l.NAlbum, l.TAlbum From AuteursAlbums a join LAlbums l on l.NAlbum = a.NAlbum"
+        " where a.NAuteur= ? and a.Scena = -1 order by a.rowid asc",
+        Forme::NomPrenom},
+    Requetes{"Auteurs", "SELECT NAuteur, Nom, Prenom From Auteurs where Color <> 0 order by Nom asc",
+        "SELECT NAuteur, Nom, Prenom From Auteurs where NAuteur = ?",
+        "SELECT l.NAlbum, l.TAlbum From AuteursAlbums a join LAlbums l on l.NAlbum = a.NAlbum"
+        " where a.NAuteur= ? and a.Color <> 0 order by a.rowid asc",
+        Forme::NomPrenom},
+    Requetes{"ExLibris", "SELECT NExLibris, Nom From ExLibris order by Nom asc",
+        "SELECT NExLibris, Nom From ExLibris where NExLibris = ?", nullptr, Forme::Nom},
+    Requetes{"PresseBD", "SELECT NPressBD, Nom, NPresseBD From PresseBD order by Nom asc",
+        "SELECT NPressBD, Nom, NPresseBD From PresseBD where NPressBD = ?", nullptr, Forme::NomNumero},
+    Requetes{"Editeur", "SELECT NEdit, Nom From editeur order by Nom asc",
+        "SELECT NEdit, Nom From editeur where NEdit = ?",
+        "SELECT l.NAlbum, l.TAlbum From EditeurAlbums e join LAlbums l on l.NAlbum = e.NAlbum"
+        " where e.NEdit = ? order by e.rowid asc",
+        Forme::Nom},
+    Requetes{"Coll", "SELECT NColl, Nom From Coll order by Nom asc",
+        "SELECT NColl, Nom From Coll where NColl = ?",
+        "SELECT l.NAlbum, l.TAlbum From CollAlbums c join LAlbums l on l.NAlbum = c.NAlbum"
+        " where c.NColl = ? order by c.rowid asc",
+        Forme::Nom},
+};
+
+const Requetes &requetes(Tri tri)
+{
+    return ToutesLesRequetes[static_cast<std::size_t>(tri)];
+}
+
+std::string_view sansBlancs(std::string_view texte)
+{
+    const std::size_t debut = texte.find_first_not_of(' ');
+    if (debut == std::string_view::npos)
+        return {};
+    return texte.substr(debut, texte.find_last_not_of(' ') - debut + 1);
+}
+
+void ajouterLigne(Entrees &entrees, const Recordset &rs, Forme forme)
+{
+    entrees.ajouter(static_cast<int>(rs.Int64(0)), rs.Utf8(1));
+    if (forme == Forme::Nom)
+        return;
+    const std::string_view second = sansBlancs(rs.Utf8(2));
+    if (forme == Forme::NomNumero || !second.empty()) {
+        entrees.prolonger(forme == Forme::NomNumero ? " - " : ", ");
+        entrees.prolonger(second);
+    }
+}
+
+Entrees remplir(Recordset rs, Forme forme, const Avance &avance)
+{
+    constexpr int Pas = 1 << 16;
+    Entrees entrees;
+    const qint64 total = avance ? rs.RecordCount() : 0;
+    for (; !rs.AtEnd(); rs.MoveNext()) {
+        ajouterLigne(entrees, rs, forme);
+        if (avance && entrees.size() % Pas == 0)
+            avance(entrees.size(), total);
+    }
+    if (avance && !entrees.empty())
+        avance(entrees.size(), entrees.size());
+    return entrees;
+}
+
+std::optional<int> nombre(const QString &texte)
+{
+    bool sur = false;
+    const int valeur = texte.trimmed().toInt(&sur);
+    return sur ? std::optional(valeur) : std::nullopt;
+}
+
+Renommage ecrireNom(Feuille feuille, int id, const char *champ, const QString &libelle)
+{
+    const auto valeur = Fiche::Verifier(*Champs::Chercher(feuille, champ), libelle);
+    Fiche::Ecrire(feuille, id, champ, *valeur);
+    return valeur->toString() == libelle ? Renommage::Fait : Renommage::Coupe;
+}
+
+Renommage renommerAuteur(int id, const QString &libelle)
+{
+    const Base base;
+    Transaction transaction(base);
+    const qsizetype virgule = libelle.indexOf(u',');
+    const QString nom = virgule < 0 ? libelle : libelle.left(virgule).trimmed();
+    if (!nom.isEmpty())
+        Fiche::Ecrire(Feuille::Auteur, id, "Nom", nom);
+    Fiche::Ecrire(
+        Feuille::Auteur, id, "Prenom", virgule < 0 ? QString() : libelle.mid(virgule + 1).trimmed());
+    transaction.Commit();
+    return Renommage::Fait;
+}
+
+Renommage renommerPresse(int id, const QString &libelle)
+{
+    const Base base;
+    Transaction transaction(base);
+    const LibelleDePresse lu = LireLibelleDePresse(libelle);
+    if (!lu.nom.isEmpty())
+        Fiche::Ecrire(Feuille::Presse, id, "NomP", lu.nom);
+    if (lu.numero)
+        Fiche::Ecrire(Feuille::Presse, id, "NumP", *lu.numero);
+    transaction.Commit();
+    return Renommage::Fait;
+}
+
+bool touche(const Changements &changements, std::initializer_list<const char *> tables)
+{
+    for (const Changement &changement : changements) {
+        for (const char *table : tables) {
+            if (changement.table.compare(QLatin1String(table), Qt::CaseInsensitive) == 0)
+                return true;
+        }
+    }
+    return false;
+}
+
+}
+
+const Genre &General::GenreDe(Tri tri)
+{
+    return Genres[static_cast<std::size_t>(tri)];
+}
+
+Tri General::TriDe(int numero)
+{
+    return numero >= 0 && numero < NombreDeTris ? static_cast<Tri>(numero) : Tri::Albums;
+}
+
+Entrees General::LireListe(Tri tri, const Avance &avance)
+{
+    const Base base;
+    return remplir(base.OpenRecordset(QLatin1String(requetes(tri).liste)), requetes(tri).forme, avance);
+}
+
+Entrees General::LireAlbums(Tri tri, int id)
+{
+    const char *sql = requetes(tri).albums;
+    if (!sql)
+        return {};
+    const Base base;
+    return remplir(base.OpenRecordset(QLatin1String(sql), {id}), Forme::Nom, {});
+}
+
+Entrees General::LirePresse(int editeur)
+{
+    const Base base;
+    return remplir(
+        base.OpenRecordset(
+            QStringLiteral("SELECT * From PresseBD where NEdit = ? order by NPressBD asc"), {editeur}),
+        Forme::NomNumero, {});
+}
+
+std::vector<int> General::LirePretes()
+{
+    const Base base;
+    std::vector<int> numeros;
+    for (auto rs = base.OpenRecordset(QStringLiteral("SELECT Num From Album where NPret > 0")); !rs.AtEnd();
+         rs.MoveNext())
+        numeros.push_back(static_cast<int>(rs.Int64(0)));
+    std::sort(numeros.begin(), numeros.end());
+    return numeros;
+}
+
+QString General::LireTexte(Tri tri, int id)
+{
+    const Base base;
+    const Entrees ligne
+        = remplir(base.OpenRecordset(QLatin1String(requetes(tri).ligne), {id}), requetes(tri).forme, {});
+    return ligne.empty() ? QString() : ligne.texte(0);
+}
+
+Totaux General::LireTotaux()
+{
+    const Base base;
+    const auto albums = base.OpenRecordset(
+        QStringLiteral("SELECT count(*), coalesce(sum(PrixA), 0.0) From Album where +Num > 0"));
+    const auto series = base.OpenRecordset(QStringLiteral("SELECT count(*) From Serie where NSerie > 0"));
+    return {albums.Int64(0), series.Int64(0), albums.Fields(1).toDouble()};
+}
+
+LibelleDePresse General::LireLibelleDePresse(const QString &libelle)
+{
+    const qsizetype dernier = libelle.lastIndexOf(u'-');
+    if (dernier < 0)
+        return {libelle.trimmed(), {}};
+    const QString fin = libelle.mid(dernier + 1).trimmed();
+    const auto numero = nombre(fin);
+    if (numero || fin.isEmpty())
+        return {libelle.left(dernier).trimmed(), numero};
+    const qsizetype premier = libelle.indexOf(u'-');
+    if (const auto debut = nombre(libelle.left(premier)))
+        return {libelle.mid(premier + 1).trimmed(), debut};
+    return {libelle.trimmed(), {}};
+}
+
+Renommage General::Renommer(Tri tri, int id, const QString &libelle)
+{
+    const QString net = libelle.trimmed();
+    if (net.isEmpty())
+        return Renommage::Rien;
+    switch (GenreDe(tri).feuille) {
+    case Feuille::Album:
+        return ecrireNom(Feuille::Album, id, "TAlbum", net);
+    case Feuille::Serie:
+        return ecrireNom(Feuille::Serie, id, "Nom", net);
+    case Feuille::Auteur:
+        return renommerAuteur(id, net);
+    case Feuille::ExLibris:
+        return ecrireNom(Feuille::ExLibris, id, "DescriptionX", net);
+    case Feuille::Presse:
+        return renommerPresse(id, net);
+    case Feuille::Editeur:
+        return ecrireNom(Feuille::Editeur, id, "NomE", net);
+    case Feuille::Coll:
+        return ecrireNom(Feuille::Coll, id, "NomC", net);
+    }
+    Q_UNREACHABLE();
+}
+
+bool General::Concerne(const Changements &changements, Tri tri)
+{
+    return touche(changements, {requetes(tri).table});
+}
+
+bool General::ConcerneFiche(const Changements &changements, Tri)
+{
+    // A sheet shows names of many tables; reading it again costs less than knowing which.
+    return !changements.empty();
+}
+
+QString General::VerifierCopie(const QString &chemin)
+{
+    for (const QString &nom : {QStringLiteral("bd.mdb"), QStringLiteral("BDbase.bd")}) {
+        const QFileInfo propre(Dossier::courant().chemin(nom));
+        const QFileInfo cible(chemin);
+        const bool memeNom
+            = cible.absoluteFilePath().compare(propre.absoluteFilePath(), Qt::CaseInsensitive) == 0;
+        const bool memeFichier = cible.exists() && cible.canonicalFilePath() == propre.canonicalFilePath();
+        if (memeNom || memeFichier)
+            return nom;
+    }
+    return {};
+}
+
+void General::CopierBase(const QString &chemin)
+{
+    const auto echec = [&](const QString &details) {
+        throw Error(
+            QCoreApplication::translate("General", "La copie n'a pas pu être faite."), chemin, details);
+    };
+    QFile source(Dossier::courant().chemin(QStringLiteral("bd.mdb")));
+    if (!source.open(QIODevice::ReadOnly))
+        echec(source.errorString());
+    QSaveFile copie(chemin);
+    if (!copie.open(QIODevice::WriteOnly))
+        echec(copie.errorString());
+    constexpr qint64 Morceau = 1 << 20;
+    while (!source.atEnd()) {
+        const QByteArray octets = source.read(Morceau);
+        if (octets.isEmpty() || copie.write(octets) != octets.size())
+            echec(copie.errorString());
+    }
+    if (!copie.commit())
+        echec(copie.errorString());
+}

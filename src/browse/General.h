@@ -1,0 +1,89 @@
+#pragma once
+
+#include "browse/Champs.h"
+#include "browse/Entrees.h"
+#include "core/Collection.h"
+
+#include <QString>
+#include <functional>
+#include <span>
+
+/// The lists of the collection.
+namespace General {
+
+/// What a list shows; the numbers are those of the setting "Tris".
+enum class Tri {
+    Albums,
+    Series,
+    Dessinateurs,
+    Scenaristes,
+    Coloristes,
+    ExLibris,
+    Presse,
+    Editeurs,
+    Collections
+};
+constexpr int NombreDeTris = 9;
+
+/// One kind of list as the window presents it.
+struct Genre
+{
+    Tri tri;
+    Txt titre;
+    Txt prefixe; ///< stands before the number of lines
+    Txt bouton;
+    Champs::Feuille feuille;
+    const char *icone;
+};
+const Genre &GenreDe(Tri tri);
+/// The kind of a stored number; albums when there is no such kind.
+Tri TriDe(int numero);
+
+/// Called now and then during a long fill, with lines done and lines in all.
+using Avance = std::function<void(qint64 faites, qint64 total)>;
+
+/// All entries of a kind, in order. Throws Error.
+Entrees LireListe(Tri tri, const Avance &avance = {});
+/// The albums linked to an entry; none for the kinds that have no albums. Throws Error.
+Entrees LireAlbums(Tri tri, int id);
+/// The press items of a publisher. Throws Error.
+Entrees LirePresse(int editeur);
+/// Numbers of the albums that are lent, in rising order. Throws Error.
+std::vector<int> LirePretes();
+/// One line of a list, read anew; its text is empty when the entry is gone. Throws Error.
+QString LireTexte(Tri tri, int id);
+
+/// How many albums and series there are, and what the albums cost. Throws Error.
+struct Totaux
+{
+    qint64 albums = 0;
+    qint64 series = 0;
+    double valeur = 0;
+};
+Totaux LireTotaux();
+
+/// Writes the text of a list's label back into the entry: a title is cut at 50 characters, an author's text
+/// at its first comma, a press item's apart into name and number. A blank text changes nothing. Throws Error.
+enum class Renommage { Rien, Fait, Coupe };
+Renommage Renommer(Tri tri, int id, const QString &libelle);
+
+/// Name and number of a press item as its label shows them; no number when the label has none.
+struct LibelleDePresse
+{
+    QString nom;
+    std::optional<int> numero;
+};
+LibelleDePresse LireLibelleDePresse(const QString &libelle);
+
+/// True when changes may show in this list.
+bool Concerne(const Changements &changements, Tri tri);
+/// True when changes may show on the sheets or in the linked lists of entries of this kind.
+bool ConcerneFiche(const Changements &changements, Tri tri);
+
+/// Why a copy of the collection may not be saved under this path: the name of the file that it would hit.
+/// Empty when it may.
+QString VerifierCopie(const QString &chemin);
+/// Copies the collection file; an existing file is replaced once the copy is whole. Throws Error.
+void CopierBase(const QString &chemin);
+
+}

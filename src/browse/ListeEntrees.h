@@ -1,0 +1,48 @@
+#pragma once
+
+#include "browse/Entrees.h"
+#include "browse/General.h"
+
+#include <QAbstractListModel>
+#include <QIcon>
+
+/// The lines of one list for a view: text, key ("N 12", in Qt::UserRole) and icon of each.
+class ListeEntrees : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    /// Replaces all lines. `tri` is the kind of the entries.
+    void remplir(General::Tri tri, Entrees entrees);
+    void vider() { remplir(m_tri, {}); }
+    /// The icon of every line, and the one of albums that are lent.
+    void poserIcones(const QIcon &icone, const QIcon &pretee);
+    /// Numbers of the lent albums, in rising order.
+    void poserPretes(std::vector<int> numeros);
+
+    General::Tri tri() const { return m_tri; }
+    int id(const QModelIndex &index) const { return index.isValid() ? m_entrees.id(index.row()) : 0; }
+    QModelIndex indexDe(int id) const;
+    const Entrees &entrees() const { return m_entrees; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool setData(const QModelIndex &index, const QVariant &valeur, int role) override;
+
+Q_SIGNALS:
+    /// A label was edited. The line keeps its text until the collection says that it has changed.
+    void renommageDemande(General::Tri tri, int id, const QString &libelle);
+
+private:
+    bool estPretee(int id) const;
+
+    General::Tri m_tri = General::Tri::Albums;
+    Entrees m_entrees;
+    std::vector<int> m_pretes;
+    QIcon m_icone;
+    QIcon m_iconePretee;
+};

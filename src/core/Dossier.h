@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/Courant.h"
+
+#include <QLockFile>
+#include <QString>
+#include <memory>
+
+/// The application folder, where the collection and all that belongs to it lives.
+class Dossier : public Courant<Dossier>
+{
+public:
+    /// `racine` is the application folder, `livre` the folder of what is shipped with the program.
+    Dossier(const QString &racine, const QString &livre);
+
+    /// The folder to use: the one asked for; else the executable's own when it holds a collection; else the
+    /// per-user data folder.
+    static QString Choisir(const QString &demande);
+    /// The folder of what is shipped: beside the executable in a build tree, else the installed one.
+    static QString Livre();
+
+    /// Full path of a file given relative to the application folder, "\" or "/" between the parts. Each part
+    /// is matched without regard to case when it exists.
+    QString chemin(const QString &nom) const;
+    QString racine() const { return m_racine; }
+
+    /// Fills a new or empty folder from what is shipped and adds what a folder with a collection lacks. A
+    /// folder that holds files but no collection is left alone: an empty one must never hide a lost one.
+    /// Throws Error when a copy fails.
+    void preparer() const;
+
+    /// False when another running program holds this folder. The lock of a dead process is taken over.
+    bool verrouiller();
+
+private:
+    void copierLivre(const QString &source, const QString &nom) const;
+
+    QString m_racine;
+    QString m_livre;
+    std::unique_ptr<QLockFile> m_verrou;
+};

@@ -1,0 +1,101 @@
+#include "core/Images.h"
+
+#include "core/Dossier.h"
+#include "core/Error.h"
+#include "core/Texte.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <array>
+
+namespace {
+
+const QString Rangement = QStringLiteral("images");
+const std::array DossiersDImages{Rangement, QStringLiteral("image")};
+
+QString existant(const QString &chemin)
+{
+    return QFileInfo(chemin).isFile() ? chemin : QString();
+}
+
+QString parDernierePartie(const QString &nom)
+{
+    for (const QString &dossier : DossiersDImages) {
+        const QString chemin = existant(Dossier::courant().chemin(dossier + u'/' + nom));
+        if (!chemin.isEmpty())
+            return chemin;
+    }
+    return {};
+}
+
+/// A path of the platform that the collection may come from: "C:\..." or "\\server\...".
+bool estCompletAilleurs(const QString &chemin)
+{
+    return chemin.startsWith(u'/') || (chemin.size() > 2 && chemin[1] == u':' && chemin[0].isLetter());
+}
+
+bool memeContenu(const QString &a, const QString &b)
+{
+    QFile fa(a);
+    QFile fb(b);
+    return fa.size() == fb.size() && fa.open(QIODevice::ReadOnly) && fb.open(QIODevice::ReadOnly)
+        && fa.readAll() == fb.readAll();
+}
+
+}
+
+bool Images::EstUneImage(const QString &nom)
+{
+    static const std::array<QString, 6> extensions{QStringLiteral("jpg"), QStringLiteral("jpeg"),
+        QStringLiteral("bmp"), QStringLiteral("png"), QStringLiteral("wmf"), QStringLiteral("ico")};
+    const QString suffixe = QFileInfo(nom.trimmed()).suffix().toLower();
+    return std::find(extensions.begin(), extensions.end(), suffixe) != extensions.end();
+}
+
+QString Images::Trouver(const QString &nom)
+{
+    if (Texte::EstVide(nom))
+        return {};
+    const QString chemin = nom.trimmed().replace(u'\\', u'/');
+    const QString derniere = chemin.section(u'/', -1);
+    QString trouve;
+    if (estCompletAilleurs(chemin))
+        trouve = existant(chemin);
+    else if (chemin != derniere)
+        trouve = existant(Dossier::courant().chemin(chemin));
+    return trouve.isEmpty() ? parDernierePartie(derniere) : trouve;
+}
+
+QString Images::Copier(const QString &chemin)
+{
+    const QFileInfo source(chemin);
+    const auto cible = [](const QString &nom) { return Dossier::courant().chemin(Rangement + u'/' + nom); };
+    QString nom = source.fileName();
+    for (int rang = 2; QFileInfo::exists(cible(nom)); ++rang) {
+        if (memeContenu(chemin, cible(nom)))
+            return QFileInfo(cible(nom)).fileName();
+        nom = QStringLiteral("%1 (%2).%3").arg(source.completeBaseName()).arg(rang).arg(source.suffix());
+    }
+    QFile fichier(chemin);
+    if (!fichier.copy(cible(nom)))
+        throw Error(QCoreApplication::translate("Images", "Cette image ne peut pas être copiée."), chemin,
+            fichier.errorString());
+    return nom;
+}
+
+QImage Images::Decoder(const QString &chemin, const QSize &taille)
+{
+    QImageReader lecteur(chemin);
+    lecteur.setAutoTransform(true);
+    lecteur.setDecideFormatFromContent(true);
+    const QSize entiere = lecteur.size();
+    if (!entiere.isValid() || qint64(entiere.width()) * entiere.height() > PixelsMax)
+        return {};
+    const bool couche = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const QSize cadre = couche ? taille.transposed() : taille;
+    if (entiere.width() > cadre.width() || entiere.height() > cadre.height())
+        lecteur.setScaledSize(entiere.scaled(cadre, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return lecteur.read();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+/// The pictures of the collection: where their files are, how one is taken in, how one is decoded.
+namespace Images {
+
+/// More pixels than this are refused, so that no file can freeze the program or eat its memory.
+constexpr qint64 PixelsMax = 120'000'000;
+
+/// True for a name that ends like a picture file (.jpg, .jpeg, .bmp, .png, .wmf, .ico).
+bool EstUneImage(const QString &nom);
+
+/// Full path of a stored picture name, or empty when there is no such file. A bare name is looked for in
+/// "images", then "image"; a relative path from the application folder, then by its last part; a full path
+/// as it is, and when it does not exist (a path of another machine) by its last part.
+QString Trouver(const QString &nom);
+
+/// Copies a picture into "images" and returns the bare name to store. A picture that is already there is
+/// not copied again; a name that another picture has gets " (2)" and so on. Throws Error.
+QString Copier(const QString &chemin);
+
+/// Decoded picture of a file, reduced to fit `taille` (pixels) when it is larger; upright by its own
+/// orientation mark. Null when the file is no picture, is damaged or has more than PixelsMax pixels.
+/// Safe in any thread.
+QImage Decoder(const QString &chemin, const QSize &taille);
+
+}

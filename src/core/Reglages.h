@@ -1,0 +1,68 @@
+#pragma once
+
+#include "core/Courant.h"
+
+#include <QSettings>
+#include <QString>
+#include <functional>
+#include <set>
+
+/// The settings that the program keeps for each user. What a key is called, its type and its default stand
+/// in one table in the source.
+enum class Cle {
+    SplashAuto,
+    Tris,
+    FirstTime,
+    Loop,
+    FondScreen,
+    RepFondScreen,
+    Defilement,
+    Apercu,
+    TriImp,
+    Langue,
+    IniLu,
+    Splash,
+    FontName,
+    FontSize,
+    FontBold,
+    FontItalic,
+    Forecolor,
+    Height,
+    Width,
+    Volets,
+    DossierImages,
+    DossierCopies,
+    Site,
+};
+
+class Reglages : public Courant<Reglages>
+{
+public:
+    /// The platform's per-user store.
+    Reglages();
+    /// A store in a file of its own.
+    explicit Reglages(const QString &fichier);
+
+    /// Receives, once for each key, the words that a stored value could not be understood; its default is used.
+    std::function<void(const QString &)> avertir;
+
+    bool booleen(Cle cle) const;
+    int entier(Cle cle) const;
+    double nombre(Cle cle) const;
+    QString texte(Cle cle) const;
+
+    void ecrire(Cle cle, bool valeur);
+    void ecrire(Cle cle, int valeur);
+    void ecrire(Cle cle, const QString &valeur);
+
+    /// Takes the known keys of a settings file ("[section]", "key=value") into the store, once for each
+    /// content. Returns how many were taken. Throws Error when the file cannot be read.
+    int importerIni(const QString &chemin);
+
+private:
+    QString brut(Cle cle) const;
+    void signaler(Cle cle) const;
+
+    mutable QSettings m_magasin;
+    mutable std::set<Cle> m_signalees;
+};

@@ -1,0 +1,119 @@
+#include "db/Connexion.h"
+
+#include "core/Error.h"
+#include "db/Collation.h"
+#include "db/Schema.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QThread>
+#include <SQLiteCpp/Exception.h>
+#include <map>
+#include <sqlite3.h>
+
+namespace {
+
+constexpr int AttenteMs = 250;
+
+std::map<QString, std::weak_ptr<Connexion>> &ouvertes()
+{
+    static std::map<QString, std::weak_ptr<Connexion>> connexions;
+    return connexions;
+}
+
+QString dire(const char *texte)
+{
+    return QCoreApplication::translate("Base", texte);
+}
+
+Error traduire(const SQLite::Exception &e, const QString &chemin)
+{
+    const QString mots = QString::fromUtf8(e.what());
+    switch (e.getErrorCode()) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return {Error::Sorte::EnUsage, dire("La base est utilisée par un autre programme."), chemin};
+    case SQLITE_READONLY:
+        return {Error::Sorte::LectureSeule, dire("La base est en lecture seule."), chemin};
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return {Error::Sorte::Abimee, dire("La base est abîmée."), chemin, mots};
+    case SQLITE_FULL:
+        return {dire("Le disque est plein."), chemin, mots};
+    default:
+        return {dire("La base a refusé l'opération."), chemin, mots};
+    }
+}
+
+}
+
+std::shared_ptr<Connexion> Connexion::ouvrir(const QString &chemin, Entete::Nature nature)
+{
+    Q_ASSERT(!qApp || QThread::currentThread() == qApp->thread());
+    const QString cle = QFileInfo(chemin).absoluteFilePath();
+    if (auto ouverte = ouvertes()[cle].lock())
+        return ouverte;
+    for (;;) {
+        try {
+            auto connexion = std::make_shared<Connexion>(cle, nature);
+            ouvertes()[cle] = connexion;
+            return connexion;
+        } catch (const Error &e) {
+            const bool enUsage = e.sorte() == Error::Sorte::EnUsage;
+            if (!enUsage || !Collection::courant().reessayer || !Collection::courant().reessayer(e))
+                throw;
+        }
+    }
+}
+
+Connexion::Connexion(const QString &chemin, Entete::Nature nature)
+    : m_chemin(chemin)
+    , m_annonce(nature == Entete::Nature::Collection)
+{
+    Entete::Verifier(chemin, nature);
+    executer([&] {
+        m_db = std::make_unique<SQLite::Database>(
+            chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, AttenteMs);
+        preparer(nature);
+    });
+}
+
+void Connexion::preparer(Entete::Nature nature)
+{
+    if (sqlite3_db_readonly(m_db->getHandle(), "main") == 1)
+        throw Error(Error::Sorte::LectureSeule, dire("La base est en lecture seule."), m_chemin);
+    Collation::Enregistrer(m_db->getHandle());
+    // A first read alone would not hold the file against others: the empty exclusive transaction does.
+    m_db->exec("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT");
+    if (nature == Entete::Nature::Collection)
+        verifierIndex();
+    m_journal.suivre(m_db->getHandle());
+}
+
+void Connexion::verifierIndex()
+{
+    const int inscrite = m_db->execAndGet("PRAGMA user_version").getInt();
+    if (inscrite == Schema::Version())
+        return;
+    m_db->exec(
+        "BEGIN; REINDEX FRANCAIS; PRAGMA user_version=" + std::to_string(Schema::Version()) + "; COMMIT");
+}
+
+Connexion::~Connexion()
+{
+    const Changements changements = m_journal.prendre();
+    m_db.reset();
+    if (m_annonce && !changements.empty())
+        Collection::courant().annoncer(changements);
+}
+
+void Connexion::executer(const std::function<void()> &acte)
+{
+    const std::size_t marque = m_journal.taille();
+    try {
+        acte();
+    } catch (const SQLite::Exception &e) {
+        m_journal.couper(marque);
+        throw traduire(e, m_chemin);
+    }
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "db/Entete.h"
+#include "db/Journal.h"
+
+#include <SQLiteCpp/Database.h>
+#include <functional>
+#include <memory>
+
+/// One open database file. Base, Recordset and Transaction share it; the last one out closes it, which
+/// announces what was changed.
+class Connexion
+{
+public:
+    /// The open connection to this file, or a new one. Throws Error.
+    static std::shared_ptr<Connexion> ouvrir(const QString &chemin, Entete::Nature nature);
+
+    Connexion(const QString &chemin, Entete::Nature nature);
+    ~Connexion();
+    Connexion(const Connexion &) = delete;
+    Connexion &operator=(const Connexion &) = delete;
+
+    SQLite::Database &db() { return *m_db; }
+    Journal &journal() { return m_journal; }
+
+    /// Runs one act on the engine. What the engine refuses becomes an Error that names the file, and what the
+    /// act had already noted in the journal is forgotten.
+    void executer(const std::function<void()> &acte);
+
+    int profondeur = 0; ///< of nested transactions
+
+private:
+    void preparer(Entete::Nature nature);
+    void verifierIndex();
+
+    QString m_chemin;
+    Journal m_journal;
+    std::unique_ptr<SQLite::Database> m_db;
+    bool m_annonce;
+};

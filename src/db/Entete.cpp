@@ -1,0 +1,60 @@
+#include "db/Entete.h"
+
+#include "core/Error.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+namespace {
+
+constexpr qsizetype Taille = 100;
+constexpr qsizetype PositionTaillePage = 16;
+constexpr qsizetype PositionCompteur = 24;
+constexpr qsizetype PositionPages = 28;
+constexpr qsizetype PositionApplication = 68;
+constexpr qsizetype PositionValidite = 92;
+
+quint32 mot(const QByteArray &octets, qsizetype position)
+{
+    return qFromBigEndian<quint32>(octets.constData() + position);
+}
+
+/// Length in bytes that the header promises; 0 when it makes no promise that can be trusted.
+qint64 longueurPromise(const QByteArray &octets)
+{
+    const qint64 page = qFromBigEndian<quint16>(octets.constData() + PositionTaillePage);
+    const bool fiable = mot(octets, PositionCompteur) == mot(octets, PositionValidite);
+    return fiable ? (page == 1 ? 65536 : page) * mot(octets, PositionPages) : 0;
+}
+
+QString dire(const char *texte)
+{
+    return QCoreApplication::translate("Entete", texte);
+}
+
+}
+
+void Entete::Verifier(const QString &chemin, Nature nature)
+{
+    QFile fichier(chemin);
+    if (!fichier.exists())
+        throw Error(Error::Sorte::Introuvable, dire("Le fichier est introuvable."), chemin);
+    if (!fichier.open(QIODevice::ReadOnly))
+        throw Error(dire("Le fichier ne peut pas être ouvert."), chemin, fichier.errorString());
+    const QByteArray octets = fichier.read(Taille);
+    if (octets.mid(4).startsWith("Standard Jet DB") || octets.mid(4).startsWith("Standard ACE DB"))
+        throw Error(Error::Sorte::Ancienne, dire("Ce fichier est au format d'une ancienne version."), chemin);
+    if (octets.isEmpty())
+        throw Error(Error::Sorte::Etrangere, dire("Le fichier est vide."), chemin);
+    const QByteArray magie("SQLite format 3", 16);
+    if (octets.size() < Taille || !octets.startsWith(magie)
+        || mot(octets, PositionApplication) != static_cast<quint32>(nature))
+        throw Error(Error::Sorte::Etrangere, dire("Ce fichier n'est pas une base de Bulleo."), chemin);
+    // After a crash the length may be wrong until the engine has rolled the journal back.
+    const bool enSuspens = QFileInfo::exists(chemin + QStringLiteral("-journal"));
+    if (!enSuspens && fichier.size() < longueurPromise(octets))
+        throw Error(
+            Error::Sorte::Abimee, dire("Le fichier est abîmé : il est plus court qu'il ne devrait."), chemin);
+}

@@ -1,0 +1,265 @@
+#include "db/Recordset.h"
+
+#include "core/Error.h"
+#include "db/Connexion.h"
+#include "db/Sql.h"
+#include "db/Valeur.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <SQLiteCpp/Statement.h>
+
+Recordset::Recordset(std::shared_ptr<Connexion> connexion, const QString &sql, const QVariantList &valeurs)
+    : m_connexion(std::move(connexion))
+    , m_sql(Sql::Normaliser(sql))
+    , m_valeurs(valeurs)
+{
+    const auto uneTable = Sql::Decomposer(m_sql);
+    if (uneTable)
+        m_table = uneTable->table;
+    const QString marche
+        = uneTable ? QStringLiteral("SELECT rowid FROM %1%2").arg(m_table, uneTable->suite) : m_sql;
+    m_connexion->executer([&] {
+        m_marche = preparer(marche, m_valeurs);
+        if (uneTable)
+            m_ligne
+                = preparer(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(m_table), {QVariant(0)});
+    });
+    MoveFirst();
+}
+
+Recordset::Recordset(Recordset &&) noexcept = default;
+Recordset::~Recordset() = default;
+
+Recordset::Instruction Recordset::preparer(const QString &sql, const QVariantList &valeurs) const
+{
+    auto instruction = std::make_unique<SQLite::Statement>(m_connexion->db(), sql.toStdString());
+    for (int i = 0; i < valeurs.size(); ++i)
+        Valeur::Lier(*instruction, i + 1, valeurs[i]);
+    return instruction;
+}
+
+qint64 Recordset::RecordCount()
+{
+    if (!m_table.isEmpty()) {
+        completer();
+        return static_cast<qint64>(m_cles.size());
+    }
+    qint64 nombre = 0;
+    m_connexion->executer([&] {
+        const Instruction compte
+            = preparer(QStringLiteral("SELECT count(*) FROM (%1)").arg(m_sql), m_valeurs);
+        compte->executeStep();
+        nombre = compte->getColumn(0).getInt64();
+    });
+    return nombre;
+}
+
+/// One step of the walk: the next row itself, or the next row number into the list.
+void Recordset::avancer()
+{
+    m_connexion->executer([&] {
+        m_epuisee = m_epuisee || !m_marche->executeStep();
+        if (!m_epuisee && !m_table.isEmpty())
+            m_cles.push_back(m_marche->getColumn(0).getInt64());
+    });
+}
+
+void Recordset::completer()
+{
+    while (!m_epuisee)
+        avancer();
+}
+
+bool Recordset::charger(qint64 cle) const
+{
+    bool trouvee = false;
+    m_connexion->executer([&] {
+        m_ligne->reset();
+        m_ligne->bind(1, static_cast<int64_t>(cle));
+        trouvee = m_ligne->executeStep();
+    });
+    return trouvee;
+}
+
+void Recordset::MoveFirst()
+{
+    if (m_table.isEmpty()) {
+        m_connexion->executer([&] { m_marche->reset(); });
+        m_epuisee = false;
+        avancer();
+        m_fin = m_epuisee;
+        return;
+    }
+    m_position = 0;
+    if (m_cles.empty() && !m_epuisee)
+        avancer();
+    m_fin = m_cles.empty();
+    if (!m_fin && !charger(m_cles[0]))
+        MoveNext();
+}
+
+void Recordset::MoveNext()
+{
+    m_mode = Mode::Lecture;
+    if (m_table.isEmpty()) {
+        avancer();
+        m_fin = m_epuisee;
+        return;
+    }
+    // A row that was deleted since the list was made is passed over.
+    do {
+        ++m_position;
+        if (m_position >= m_cles.size())
+            avancer();
+        m_fin = m_position >= m_cles.size();
+    } while (!m_fin && !charger(m_cles[m_position]));
+}
+
+SQLite::Statement &Recordset::ligne() const
+{
+    SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : *m_ligne;
+    if (!instruction.hasRow())
+        throw Error(QCoreApplication::translate("Base", "Il n'y a plus d'enregistrement ici."), m_sql);
+    return instruction;
+}
+
+int Recordset::indiceDe(const QString &nom) const
+{
+    if (m_colonnes.isEmpty()) {
+        const SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : *m_ligne;
+        for (int i = 0; i < instruction.getColumnCount(); ++i)
+            m_colonnes.insert(QString::fromUtf8(instruction.getColumnName(i)).toLower(), i);
+    }
+    const int indice = m_colonnes.value(nom.toLower(), -1);
+    Q_ASSERT_X(indice >= 0, "Recordset", qPrintable(nom));
+    return indice;
+}
+
+QVariant Recordset::Fields(int indice) const
+{
+    return Valeur::Lire(ligne().getColumn(indice));
+}
+
+QVariant Recordset::Fields(const QString &nom) const
+{
+    return Fields(indiceDe(nom));
+}
+
+qint64 Recordset::Int64(int indice) const
+{
+    return ligne().getColumn(indice).getInt64();
+}
+
+std::string_view Recordset::Utf8(int indice) const
+{
+    return Valeur::Utf8(ligne().getColumn(indice));
+}
+
+void Recordset::AddNew()
+{
+    Q_ASSERT(!m_table.isEmpty());
+    m_mode = Mode::Ajout;
+    m_saisie.clear();
+}
+
+void Recordset::Edit()
+{
+    Q_ASSERT(!m_table.isEmpty());
+    ligne();
+    completer();
+    m_mode = Mode::Edition;
+    m_saisie.clear();
+}
+
+void Recordset::SetField(const QString &nom, const QVariant &valeur)
+{
+    Q_ASSERT(m_mode != Mode::Lecture);
+    indiceDe(nom);
+    const auto deja = std::find_if(m_saisie.begin(), m_saisie.end(),
+        [&](const auto &paire) { return paire.first.compare(nom, Qt::CaseInsensitive) == 0; });
+    if (deja != m_saisie.end())
+        deja->second = valeur;
+    else
+        m_saisie.emplace_back(nom, valeur);
+}
+
+void Recordset::SetField(int indice, const QVariant &valeur)
+{
+    SetField(QString::fromUtf8(m_ligne->getColumnName(indice)), valeur);
+}
+
+void Recordset::Update()
+{
+    Q_ASSERT(m_mode != Mode::Lecture);
+    completer();
+    if (m_mode == Mode::Ajout)
+        inserer();
+    else
+        modifier();
+    m_mode = Mode::Lecture;
+    m_saisie.clear();
+}
+
+void Recordset::inserer()
+{
+    QStringList noms;
+    QVariantList valeurs;
+    for (const auto &[nom, valeur] : m_saisie) {
+        noms << Sql::Nom(nom);
+        valeurs << valeur;
+    }
+    const QString marques = QStringList(noms.size(), QStringLiteral("?")).join(u',');
+    const QString sql = noms.isEmpty()
+        ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(m_table)
+        : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(m_table, noms.join(u','), marques);
+    m_connexion->executer([&] {
+        preparer(sql, valeurs)->exec();
+        m_derniere = m_connexion->db().getLastInsertRowid();
+    });
+    m_cles.push_back(m_derniere);
+}
+
+void Recordset::modifier()
+{
+    QStringList ecritures;
+    QVariantList valeurs;
+    for (const auto &[nom, valeur] : m_saisie) {
+        if (Valeur::Egales(Fields(nom), valeur))
+            continue;
+        ecritures << Sql::Nom(nom) + QStringLiteral(" = ?");
+        valeurs << valeur;
+    }
+    const qint64 cle = m_cles[m_position];
+    m_derniere = cle;
+    if (ecritures.isEmpty())
+        return;
+    m_connexion->executer([&] {
+        // The row read before must not hold the statement open while it is rewritten.
+        m_ligne->reset();
+        const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
+                                .arg(m_table, ecritures.join(QStringLiteral(", ")));
+        if (preparer(sql, valeurs + QVariantList{cle})->exec() == 0)
+            throw Error(QCoreApplication::translate("Base", "La fiche n'existe plus."), m_table);
+    });
+    charger(cle);
+}
+
+void Recordset::Delete()
+{
+    ligne();
+    completer();
+    m_connexion->executer([&] {
+        m_ligne->reset();
+        preparer(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(m_table), {m_cles[m_position]})->exec();
+    });
+}
+
+void Recordset::SetBookmark(qint64 signet)
+{
+    completer();
+    const auto trouvee = std::find(m_cles.begin(), m_cles.end(), signet);
+    Q_ASSERT(trouvee != m_cles.end());
+    m_position = static_cast<std::size_t>(trouvee - m_cles.begin());
+    m_fin = !charger(signet);
+}

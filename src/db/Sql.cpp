@@ -1,0 +1,40 @@
+#include "db/Sql.h"
+
+#include <QRegularExpression>
+
+QString Sql::Normaliser(const QString &sql)
+{
+    static const QRegularExpression morceau(
+        QStringLiteral(R"('(?:[^']|'')*'|"(?:[^"]|"")*"|\b(true|false)\b)"),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression queue(QStringLiteral(R"([\s;]+$)"));
+    QString resultat;
+    qsizetype debut = 0;
+    for (auto trouve = morceau.globalMatch(sql); trouve.hasNext();) {
+        const auto m = trouve.next();
+        if (m.capturedLength(1) == 0)
+            continue;
+        const bool vrai = m.captured(1).compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
+        resultat += QStringView(sql).mid(debut, m.capturedStart() - debut);
+        resultat += vrai ? QStringLiteral("-1") : QStringLiteral("0");
+        debut = m.capturedEnd();
+    }
+    resultat += QStringView(sql).mid(debut);
+    return resultat.remove(queue);
+}
+
+std::optional<Sql::UneTable> Sql::Decomposer(const QString &sql)
+{
+    static const QRegularExpression forme(
+        QStringLiteral(R"(^\s*select\s+\*\s+from\s+(\w+)((?:\s+(?:where|order)\b.*)?)$)"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    const auto m = forme.match(sql);
+    if (!m.hasMatch())
+        return std::nullopt;
+    return UneTable{m.captured(1), m.captured(2)};
+}
+
+QString Sql::Nom(const QString &nom)
+{
+    return u'"' + QString(nom).replace(u'"', QStringLiteral("\"\"")) + u'"';
+}

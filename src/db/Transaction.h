@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+class Base;
+class Connexion;
+
+/// Several writes that belong together: undone at the end of its life unless Commit was called. Nested ones
+/// undo their own part only.
+class Transaction
+{
+public:
+    explicit Transaction(const Base &base);
+    ~Transaction();
+    Transaction(const Transaction &) = delete;
+    Transaction &operator=(const Transaction &) = delete;
+
+    /// Throws Error; the writes are then undone.
+    void Commit();
+
+private:
+    Connexion &m_connexion;
+    std::size_t m_marque;
+    bool m_ouverte = true;
+};
