@@ -290,12 +290,6 @@ bool General::Concerne(const Changements &changements, Tri tri)
     return touche(changements, {requetes(tri).table});
 }
 
-bool General::ConcerneFiche(const Changements &changements, Tri)
-{
-    // A sheet shows names of many tables; reading it again costs less than knowing which.
-    return !changements.empty();
-}
-
 QString General::VerifierCopie(const QString &chemin)
 {
     for (const QString &nom : {QStringLiteral("bd.mdb"), QStringLiteral("BDbase.bd")}) {

@@ -25,6 +25,14 @@ enum class Tri {
 };
 constexpr int NombreDeTris = 9;
 
+/// An entry as the forms name it to each other.
+struct Entree
+{
+    Tri tri = Tri::Albums;
+    int id = 0;
+    bool operator==(const Entree &) const = default;
+};
+
 /// One kind of list as the window presents it.
 struct Genre
 {
@@ -77,8 +85,6 @@ LibelleDePresse LireLibelleDePresse(const QString &libelle);
 
 /// True when changes may show in this list.
 bool Concerne(const Changements &changements, Tri tri);
-/// True when changes may show on the sheets or in the linked lists of entries of this kind.
-bool ConcerneFiche(const Changements &changements, Tri tri);
 
 /// Why a copy of the collection may not be saved under this path: the name of the file that it would hit.
 /// Empty when it may.

@@ -1,0 +1,201 @@
+#include "Bureau.h"
+
+#include "browse/Frmmain.h"
+#include "core/Dossier.h"
+#include "core/Error.h"
+#include "core/Reglages.h"
+#include "core/Splash.h"
+#include "core/Traduction.h"
+#include "core/ui/Messages.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMetaEnum>
+#include <QTextStream>
+#include <QTimer>
+
+using Nom = Forme::Nom;
+
+namespace {
+
+constexpr int AttenteCaptureMs = 700;
+
+}
+
+Bureau::Bureau(const Options &options)
+    : m_options(options)
+{
+    declarer<Frmmain>(Nom::Frmmain);
+    declarer<Splash>(Nom::Splash);
+}
+
+Bureau::~Bureau() = default;
+
+template <class F>
+void Bureau::declarer(Nom nom)
+{
+    m_fabriques[nom] = [this] {
+        auto *forme = new F;
+        brancher(forme);
+        return forme;
+    };
+}
+
+template <class F>
+void Bureau::brancher(F *forme)
+{
+    if constexpr (requires { &F::formeDemandee; })
+        connect(forme, &F::formeDemandee, this, &Bureau::montrer);
+    if constexpr (requires { &F::entreeDemandee; })
+        connect(forme, &F::entreeDemandee, this,
+            [this](General::Entree entree) { this->forme<Frmmain>(Nom::Frmmain)->montrerEntree(entree); });
+    if constexpr (requires { &F::triDemande; })
+        connect(forme, &F::triDemande, this, [this](auto tri) {
+            this->forme<Frmmain>(Nom::Frmmain)->montrerTri(General::TriDe(static_cast<int>(tri)));
+        });
+    if constexpr (requires { &F::langueDemandee; })
+        connect(forme, &F::langueDemandee, this, &Bureau::choisirLangue);
+    if constexpr (requires { &F::copieDemandee; })
+        connect(forme, &F::copieDemandee, this, &Bureau::sauvegarderCopie);
+    if constexpr (requires { &F::actualiser; })
+        connect(&Collection::courant(), &Collection::changee, forme, &F::actualiser);
+    if constexpr (requires { &F::poserDisponibles; })
+        forme->poserDisponibles([this](Nom nom) { return existe(nom); });
+}
+
+void Bureau::brancherParticuliers()
+{
+    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
+    connect(fenetre, &Frmmain::sortie, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+Forme *Bureau::ouvrir(Nom nom)
+{
+    auto &forme = m_formes[nom];
+    if (!forme)
+        forme.reset(m_fabriques.at(nom)());
+    return forme.get();
+}
+
+void Bureau::montrer(Nom nom)
+{
+    if (!existe(nom))
+        return;
+    Forme *voulue = ouvrir(nom);
+    if (nom == Nom::Splash)
+        forme<Splash>(nom)->poserTri(Reglages::courant().entier(Cle::Tris));
+    voulue->show();
+    voulue->raise();
+    voulue->activateWindow();
+}
+
+void Bureau::demarrer()
+{
+    Collection::courant().reessayer
+        = [](const Error &e) { return Messages::Reessayer(QApplication::activeWindow(), e.message()); };
+    Reglages::courant().avertir = [](const QString &avis) {
+        QTimer::singleShot(0, qApp, [avis] { Messages::Avertir(QApplication::activeWindow(), avis); });
+    };
+    chargerTextes();
+    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
+    brancherParticuliers();
+    fenetre->charger();
+    fenetre->show();
+    if (m_options.capture.isEmpty())
+        premierDemarrage();
+    else
+        QTimer::singleShot(AttenteCaptureMs, this, &Bureau::capturer);
+}
+
+void Bureau::chargerTextes()
+{
+    try {
+        Traduction::courant().chargerCourante();
+    } catch (const Error &e) {
+        QTimer::singleShot(0, this, [e] { throw e; });
+    }
+    m_catalogues.charger(Traduction::courant().locale(), Dossier::Livre() + QStringLiteral("/tr"));
+}
+
+void Bureau::choisirLangue(const QString &fichier)
+{
+    if (fichier == Traduction::LangueCourante()
+        && QFileInfo::exists(Dossier::courant().chemin(QStringLiteral("defaut.lng"))))
+        return;
+    try {
+        Traduction::courant().choisir(fichier);
+    } catch (const Error &) {
+        annoncerLangue();
+        throw;
+    }
+    annoncerLangue();
+}
+
+/// Every open form takes its captions anew, hidden ones too.
+void Bureau::annoncerLangue()
+{
+    m_catalogues.charger(Traduction::courant().locale(), Dossier::Livre() + QStringLiteral("/tr"));
+    for (const auto &[nom, forme] : m_formes)
+        QCoreApplication::postEvent(forme.get(), new QEvent(QEvent::LanguageChange));
+}
+
+/// The launcher comes by itself when the user wants it, and the first time of all.
+void Bureau::premierDemarrage()
+{
+    Reglages &reglages = Reglages::courant();
+    const bool premiere = reglages.nombre(Cle::FirstTime) != 1;
+    const bool voulu = reglages.booleen(Cle::SplashAuto);
+    if (voulu)
+        reglages.ecrire(Cle::SplashAuto, true);
+    if (premiere || voulu)
+        QTimer::singleShot(0, this, [this] {
+            montrer(Nom::Splash);
+            Reglages::courant().ecrire(Cle::FirstTime, 1);
+        });
+    else
+        reglages.ecrire(Cle::FirstTime, 1);
+}
+
+void Bureau::sauvegarderCopie()
+{
+    QWidget *devant = QApplication::activeWindow();
+    Reglages &reglages = Reglages::courant();
+    const QString chemin = Messages::EnregistrerFichier(devant, texte(Txt::SauvegarderLaBase),
+        reglages.texte(Cle::DossierCopies), texte(Txt::FiltreSauvegarde));
+    if (chemin.isEmpty())
+        return;
+    const QString interdit = General::VerifierCopie(chemin);
+    if (!interdit.isEmpty()) {
+        Messages::Informer(
+            devant, QStringLiteral("%1 (%2) !!!").arg(texte(Txt::NePasSauvegarderAvecCeNom), interdit));
+        return;
+    }
+    General::CopierBase(chemin);
+    reglages.ecrire(Cle::DossierCopies, QFileInfo(chemin).absolutePath());
+    Messages::Informer(devant, texte(Txt::SauvegardeEffectuee));
+}
+
+void Bureau::capturer()
+{
+    bool connue = false;
+    const int valeur = QMetaEnum::fromType<Nom>().keyToValue(m_options.forme.toLatin1().constData(), &connue);
+    const auto nom = static_cast<Nom>(valeur);
+    if (!connue || !existe(nom)) {
+        QTextStream(stderr) << m_options.forme << QStringLiteral(" ?\n");
+        return QCoreApplication::exit(2);
+    }
+    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
+    if (m_options.entree)
+        fenetre->montrerEntree({General::TriDe(Reglages::courant().entier(Cle::Tris)), *m_options.entree});
+    if (nom != Nom::Frmmain)
+        montrer(nom);
+    QTimer::singleShot(AttenteCaptureMs, this, [this, nom] { enregistrerCapture(ouvrir(nom)); });
+}
+
+void Bureau::enregistrerCapture(QWidget *fenetre)
+{
+    const bool ecrite = fenetre->grab().save(m_options.capture);
+    if (!ecrite)
+        QTextStream(stderr) << m_options.capture << QStringLiteral(" ?\n");
+    QCoreApplication::exit(ecrite ? 0 : 1);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Options.h"
+#include "core/Catalogues.h"
+#include "core/Collection.h"
+#include "core/ui/Forme.h"
+
+#include <QPointer>
+#include <functional>
+#include <map>
+
+class Frmmain;
+class Splash;
+
+/// The one place that knows all forms: it makes each on first use and connects what they wish to what there is.
+class Bureau : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Bureau(const Options &options);
+    ~Bureau() override;
+
+    void demarrer();
+
+private:
+    /// Says how a form is made; only forms that were said so exist.
+    template <class F>
+    void declarer(Forme::Nom nom);
+    template <class F>
+    F *forme(Forme::Nom nom)
+    {
+        return static_cast<F *>(ouvrir(nom));
+    }
+    /// Connects the wishes and slots that a form has, whichever they are.
+    template <class F>
+    void brancher(F *forme);
+    void brancherParticuliers();
+
+    bool existe(Forme::Nom nom) const { return m_fabriques.contains(nom); }
+    /// The form, made if need be; not shown.
+    Forme *ouvrir(Forme::Nom nom);
+    void montrer(Forme::Nom nom);
+
+    void chargerTextes();
+    void choisirLangue(const QString &fichier);
+    void annoncerLangue();
+    void premierDemarrage();
+    void sauvegarderCopie();
+    void capturer();
+    void enregistrerCapture(QWidget *fenetre);
+
+    Options m_options;
+    Catalogues m_catalogues;
+    std::map<Forme::Nom, std::function<Forme *()>> m_fabriques;
+    std::map<Forme::Nom, std::unique_ptr<Forme>> m_formes;
+};

@@ -1,0 +1,217 @@
+#include "browse/Bandeau.h"
+
+#include "core/Reglages.h"
+#include "core/Traduction.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QToolButton>
+#include <optional>
+
+namespace {
+
+/// What a menu button shows: a short word under its icon, the whole caption as tool tip and in the title.
+struct Commande
+{
+    const char *icone;
+    std::optional<Forme::Nom> forme;
+    bool titre; ///< the caption is followed by the program's title
+    Txt libelle;
+};
+
+constexpr std::array<Commande, 7> Commandes{
+    Commande{"lanceur", Forme::Nom::Splash, true, Txt::AccederAuMenuPrincipal},
+    Commande{"creation", Forme::Nom::Manuelle, false, Txt::Creation},
+    Commande{"recherche", Forme::Nom::Recherche, false, Txt::AccederAuPanneauDeRecherche},
+    Commande{"impression", Forme::Nom::Impression, false, Txt::AccederAuMenuDImpression},
+    Commande{"aide", std::nullopt, true, Txt::AccederALAide},
+    Commande{"web", std::nullopt, false, Txt::SiteWeb},
+    Commande{"apropos", std::nullopt, true, Txt::AProposDe},
+};
+constexpr int Aide = 4;
+constexpr int Web = 5;
+constexpr int APropos = 6;
+constexpr int Quitter = 7;
+
+QString libelleDe(int rang)
+{
+    if (rang == Quitter)
+        return Bandeau::tr("Quitter");
+    const Commande &commande = Commandes[static_cast<std::size_t>(rang)];
+    return commande.titre ? texte(commande.libelle) + u' ' + titre() : texte(commande.libelle);
+}
+
+QString motDe(int rang)
+{
+    switch (rang) {
+    case 0:
+        return Bandeau::tr("Menu");
+    case 1:
+        return texte(Txt::Creation);
+    case 2:
+        return texte(Txt::Recherche);
+    case 3:
+        return texte(Txt::Impression);
+    case Aide:
+        return Bandeau::tr("Aide");
+    case Web:
+        return texte(Txt::SiteWeb);
+    case APropos:
+        return texte(Txt::APropos);
+    default:
+        return Bandeau::tr("Quitter");
+    }
+}
+
+}
+
+Bandeau::Bandeau(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *ligne = new QHBoxLayout(this);
+    ligne->setContentsMargins(Theme::Moyen, Theme::Fin, Theme::Moyen, Theme::Fin);
+    ligne->setSpacing(2);
+    m_titre = nommer(new QLabel(this), QStringLiteral("Titre"));
+    m_titre->setWordWrap(true);
+    m_titre->setFont(Theme::Taille(font(), 1.2, QFont::Bold));
+    m_titre->setForegroundRole(QPalette::Link);
+    ligne->addWidget(m_titre);
+    construireMenu();
+    ligne->addStretch(1);
+    construireDroite();
+    Traduire();
+}
+
+void Bandeau::construireMenu()
+{
+    for (int i = 0; i <= Quitter; ++i) {
+        auto *bouton = nommer(new QToolButton(this), QStringLiteral("Menu"), i);
+        const auto rang = static_cast<std::size_t>(i);
+        bouton->setIcon(Icones::Charger(
+            i == Quitter ? QStringLiteral("quitter") : QString::fromLatin1(Commandes[rang].icone)));
+        bouton->setIconSize({20, 20});
+        bouton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        bouton->setAutoRaise(true);
+        bouton->setFont(Theme::Taille(font(), 0.85));
+        bouton->setMinimumSize(74, 44);
+        bouton->installEventFilter(this);
+        connect(bouton, &QToolButton::clicked, this, [this, i] { agir(i); });
+        layout()->addWidget(bouton);
+        m_menu[rang] = bouton;
+    }
+}
+
+void Bandeau::construireDroite()
+{
+    m_loops = nommer(new QToolButton(this), QStringLiteral("Loops"));
+    m_loops->setIcon(Icones::Charger(QStringLiteral("diaporama")));
+    m_loops->setCheckable(true);
+    m_langues = nommer(new QToolButton(this), QStringLiteral("Langues"));
+    m_langues->setIcon(Icones::Charger(QStringLiteral("langue")));
+    m_langues->setPopupMode(QToolButton::InstantPopup);
+    m_menuLangues = new QMenu(m_langues);
+    m_langues->setMenu(m_menuLangues);
+    for (QToolButton *bouton : {m_loops, m_langues}) {
+        bouton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        bouton->setAutoRaise(true);
+        layout()->addWidget(bouton);
+    }
+    connect(m_loops, &QToolButton::toggled, this, &Bandeau::loopBascule);
+    connect(m_menuLangues, &QMenu::aboutToShow, this, &Bandeau::remplirLangues);
+}
+
+void Bandeau::remplirLangues()
+{
+    m_menuLangues->clear();
+    const QString courante = Traduction::LangueCourante();
+    const QStringList langues = Traduction::Langues();
+    for (const QString &fichier : langues) {
+        QAction *action = m_menuLangues->addAction(QFileInfo(fichier).completeBaseName());
+        action->setObjectName(fichier);
+        action->setCheckable(true);
+        action->setChecked(fichier == courante);
+        connect(action, &QAction::triggered, this, [this, fichier] { Q_EMIT langueDemandee(fichier); });
+    }
+}
+
+void Bandeau::agir(int rang)
+{
+    switch (rang) {
+    case Aide:
+        return Q_EMIT aideDemandee();
+    case Web:
+        return Q_EMIT siteDemande();
+    case APropos:
+        return Q_EMIT aProposDemande();
+    case Quitter:
+        return Q_EMIT sortieDemandee();
+    default:
+        return Q_EMIT formeDemandee(*Commandes[static_cast<std::size_t>(rang)].forme);
+    }
+}
+
+void Bandeau::Traduire()
+{
+    m_titre->setText(titre());
+    for (int i = 0; i <= Quitter; ++i) {
+        QToolButton *bouton = m_menu[static_cast<std::size_t>(i)];
+        bouton->setText(motDe(i));
+        expliquer(bouton, libelleDe(i));
+    }
+    libeller(m_loops, tr("Diaporama"));
+    m_loops->setToolTip(tr("Montrer tour à tour la couverture et le dos"));
+    libeller(m_langues, QFileInfo(Traduction::LangueCourante()).completeBaseName());
+    m_langues->setToolTip(texte(Txt::SelectionnerLaLangue));
+    m_menu[Web]->setVisible(!Reglages::courant().texte(Cle::Site).isEmpty());
+    if (m_disponible)
+        poserDisponibles(m_disponible);
+}
+
+void Bandeau::poserDisponibles(const std::function<bool(Forme::Nom)> &disponible)
+{
+    m_disponible = disponible;
+    for (std::size_t i = 0; i < Commandes.size(); ++i) {
+        if (!Commandes[i].forme)
+            continue;
+        const bool la = disponible(*Commandes[i].forme);
+        m_menu[i]->setEnabled(la);
+        if (!la)
+            m_menu[i]->setToolTip(libelleDe(static_cast<int>(i)) + u'\n' + tr("Pas encore disponible"));
+    }
+}
+
+void Bandeau::poserLoop(bool actif)
+{
+    m_loops->setChecked(actif);
+}
+
+void Bandeau::poserLargeurTitre(int largeur)
+{
+    m_titre->setFixedWidth(largeur);
+}
+
+bool Bandeau::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (evenement->type() == QEvent::Enter || evenement->type() == QEvent::Leave) {
+        const auto trouve = std::find(m_menu.begin(), m_menu.end(), objet);
+        const bool entre = evenement->type() == QEvent::Enter && trouve != m_menu.end();
+        m_titre->setText(
+            entre ? titre() + u' ' + libelleDe(static_cast<int>(trouve - m_menu.begin())) : titre());
+    }
+    return QWidget::eventFilter(objet, evenement);
+}
+
+void Bandeau::paintEvent(QPaintEvent *)
+{
+    QPainter p(this);
+    p.fillRect(rect(), palette().color(QPalette::Window));
+    p.setPen(Theme::Trait(palette()));
+    p.drawLine(0, height() - 1, width(), height() - 1);
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "browse/ChargerAlbums.h"
+#include "browse/FicheForme.h"
+
+#include <QTimer>
+
+class BandeSerie;
+class CadreImage;
+class Legende;
+class QBoxLayout;
+class QToolButton;
+class TitreGroupe;
+
+/// The sheet of an album, laid out like a library card: head, cover and series at the left, what the album is,
+/// what it cost and who has it in two columns, summary and comment below.
+class FicheAlbum : public FicheForme
+{
+    Q_OBJECT
+
+public:
+    explicit FicheAlbum(QWidget *parent = nullptr);
+
+    void montrer(const ChargerAlbums::FicheAlbum &fiche);
+    /// Slideshow: front and back cover take turns.
+    void poserDefilement(bool defile);
+
+protected:
+    void Traduire() override;
+
+private:
+    /// A grid of two columns of values that grows with what it must show, and keeps an empty last row.
+    struct Grille
+    {
+        QString noms[2];
+        QGridLayout *place = nullptr;
+        std::vector<Legende *> cellules[2];
+    };
+
+    QWidget *construireEnTete();
+    QWidget *construireCouverture();
+    QWidget *construireColonneGauche();
+    QWidget *construireColonneDroite();
+    QWidget *construireMemos();
+    TitreGroupe *titreDe(Txt texte);
+    QGridLayout *ouvrirGroupe(QBoxLayout *colonne, Txt titre);
+    void construireCases(QBoxLayout *colonne);
+    void construireDedicaces(QBoxLayout *colonne);
+    Grille construireGrille(QBoxLayout *colonne, Txt titre, const QString &gauche, const QString &droite);
+    void remplirGrille(Grille &grille, const std::vector<std::pair<QString, QString>> &lignes);
+
+    void montrerInfos(const InfosAlbum &infos);
+    void montrerDedicaces(const Valeurs &valeurs);
+    void montrerFace(bool dos);
+    void agrandir(int pas);
+
+    ChargerAlbums::FicheAlbum m_fiche;
+    std::vector<std::pair<TitreGroupe *, Txt>> m_titres;
+    std::vector<QGridLayout *> m_gauche;
+    QWidget *m_zoneImage = nullptr;
+    QToolButton *m_rectoVerso = nullptr;
+    QToolButton *m_agrandir = nullptr;
+    QToolButton *m_retrecir = nullptr;
+    BandeSerie *m_bande = nullptr;
+    QLabel *m_tomeSur = nullptr;
+    QLabel *m_manquants = nullptr;
+    QToolButton *m_precedent = nullptr;
+    QToolButton *m_suivant = nullptr;
+    CadreImage *m_photosD[2] = {};
+    Grille m_intervenants;
+    Grille m_cotes;
+    QTimer m_defilement;
+    int m_taille = 0;
+    bool m_dos = false;
+};

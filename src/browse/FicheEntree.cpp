@@ -1,0 +1,35 @@
+#include "browse/FicheEntree.h"
+
+#include "core/Traduction.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+#include "core/ui/TitreGroupe.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+FicheEntree::FicheEntree(QWidget *parent)
+    : Carte(parent)
+{
+    setObjectName(QStringLiteral("FicheEntree"));
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    m_genre = nommer(new TitreGroupe(this), QStringLiteral("GenreEntree"));
+    m_nom = nommer(new QLabel(this), QStringLiteral("NomEntree"));
+    m_nom->setTextFormat(Qt::PlainText);
+    m_nom->setWordWrap(true);
+    m_nom->setFont(Theme::Taille(Theme::PoliceChoisie(), 1.55, QFont::Bold));
+    m_albums = nommer(new QLabel(this), QStringLiteral("AlbumsEntree"));
+    m_albums->setForegroundRole(QPalette::PlaceholderText);
+    for (QLabel *label : {m_genre, m_nom, m_albums})
+        colonne->addWidget(label);
+    colonne->addStretch(1);
+}
+
+void FicheEntree::montrer(General::Entree entree, const QString &nom, int albums)
+{
+    m_genre->setText(texte(General::GenreDe(entree.tri).bouton));
+    m_nom->setText(nom);
+    m_albums->setText(
+        albums > 0 ? QStringLiteral("%1 %2").arg(albums).arg(texte(Txt::AlbumsUnite)) : QString());
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "browse/Fiche.h"
+#include "browse/General.h"
+#include "core/ui/Carte.h"
+
+#include <QLabel>
+#include <map>
+#include <vector>
+
+class QGridLayout;
+
+/// What all sheets share: a control for each field of the table, made, captioned and filled by it.
+class FicheForme : public Carte
+{
+    Q_OBJECT
+
+public:
+    FicheForme(Champs::Feuille feuille, const QString &nom, QWidget *parent);
+
+    /// Puts the user's font and colour on every value of the sheet.
+    void AppliquerPolicesFiche();
+
+Q_SIGNALS:
+    void entreeDemandee(General::Entree entree);
+
+protected:
+    /// Takes all captions from the texts in force.
+    virtual void Traduire();
+    void changeEvent(QEvent *evenement) override;
+
+    /// Makes the control of a field. Its caption, if it has one, is made by `ajouterLigne`.
+    QWidget *creer(const char *champ);
+    /// Caption and control of a field as the next row of a grid of two columns.
+    void ajouterLigne(QGridLayout *grille, const char *champ);
+    /// Gives the captions of several grids one width, so that their values stand in one line.
+    static void alignerLibelles(const std::vector<QGridLayout *> &grilles);
+    template <class T>
+    T *controle(const char *champ) const
+    {
+        return qobject_cast<T *>(m_controles.at(champ));
+    }
+
+    void montrerValeurs(const Valeurs &valeurs);
+
+private:
+    void montrer(const Champs::Champ &champ, QWidget *controle, const ValeurDeChamp &valeur);
+
+    Champs::Feuille m_feuille;
+    std::map<std::string, QWidget *> m_controles;
+    std::map<std::string, QLabel *> m_libelles;
+};

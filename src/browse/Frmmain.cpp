@@ -1,0 +1,392 @@
+#include "browse/Frmmain.h"
+
+#include "browse/Bandeau.h"
+#include "browse/ChargerAlbums.h"
+#include "browse/FicheAlbum.h"
+#include "browse/FicheEntree.h"
+#include "browse/Fond.h"
+#include "browse/VoletListes.h"
+#include "browse/VueListe.h"
+#include "core/Dossier.h"
+#include "core/Error.h"
+#include "core/Reglages.h"
+#include "core/Traduction.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Liens.h"
+#include "core/ui/Messages.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+#include "db/Schema.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QRandomGenerator>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+
+using namespace General;
+
+namespace {
+
+constexpr QSize TailleDessinee(1280, 800);
+constexpr QSize TailleMinimale(860, 560);
+constexpr int LargeurVolet = 318;
+
+}
+
+Frmmain::Frmmain()
+    : Forme(QStringLiteral("Frmmain"))
+{
+    setWindowIcon(Icones::Programme());
+    resize(TailleDessinee);
+    setMinimumSize(TailleMinimale);
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(0, 0, 0, 0);
+    page->setSpacing(0);
+    m_bandeau = new Bandeau(this);
+    page->addWidget(m_bandeau);
+    construireCorps(page);
+    construirePied(page);
+    brancher();
+    raccourcis();
+    Frmmain::Traduire();
+}
+
+void Frmmain::construireCorps(QBoxLayout *page)
+{
+    m_partage = nommer(new QSplitter(this), QStringLiteral("SSResizer1"));
+    m_partage->setChildrenCollapsible(false);
+    m_volet = new VoletListes(m_partage);
+    m_volet->setMinimumWidth(LargeurVolet - 18);
+    m_fond = new Fond(m_partage);
+    auto *surFond = new QVBoxLayout(m_fond);
+    surFond->setContentsMargins(Theme::Petit, Theme::Moyen, Theme::Moyen, Theme::Moyen);
+
+    m_defilement = new QScrollArea(m_fond);
+    m_defilement->setWidgetResizable(true);
+    m_defilement->setFrameShape(QFrame::NoFrame);
+    m_defilement->setFocusPolicy(Qt::NoFocus);
+    m_defilement->viewport()->setAutoFillBackground(false);
+    m_fiches = new QStackedWidget(m_defilement);
+    m_fiches->setAutoFillBackground(false);
+    m_fiches->addWidget(new QWidget(m_fiches));
+    m_defilement->setWidget(m_fiches);
+    m_fiches->setAutoFillBackground(false);
+    surFond->addWidget(m_defilement);
+
+    m_partage->addWidget(m_volet);
+    m_partage->addWidget(m_fond);
+    m_partage->setStretchFactor(1, 1);
+    m_partage->setSizes({LargeurVolet, TailleDessinee.width() - LargeurVolet});
+    m_bandeau->poserLargeurTitre(LargeurVolet - Theme::Moyen);
+    page->addWidget(m_partage, 1);
+}
+
+void Frmmain::construirePied(QBoxLayout *page)
+{
+    auto *pied = new QWidget(this);
+    auto *ligne = new QHBoxLayout(pied);
+    ligne->setContentsMargins(Theme::Moyen, 3, Theme::Moyen, 3);
+    ligne->setSpacing(Theme::Grand);
+    m_message = nommer(new QLabel(pied), QStringLiteral("Message"));
+    m_anim = nommer(new QLabel(pied), QStringLiteral("Anim"));
+    m_totaux = nommer(new QLabel(pied), QStringLiteral("Totaux"));
+    for (QLabel *label : {m_message, m_anim, m_totaux}) {
+        label->setFont(Theme::Taille(font(), 0.85));
+        label->setTextFormat(Qt::PlainText);
+    }
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_totaux->setForegroundRole(QPalette::PlaceholderText);
+    ligne->addWidget(m_message, 1);
+    ligne->addWidget(m_anim);
+    ligne->addWidget(m_totaux);
+    page->addWidget(pied);
+    m_timer.setObjectName(QStringLiteral("Timer1"));
+    m_timer.setInterval(1000);
+}
+
+void Frmmain::brancher()
+{
+    connect(m_volet, &VoletListes::triDemande, this, &Frmmain::montrerTri);
+    connect(m_volet, &VoletListes::entreeChoisie, this, &Frmmain::choisir);
+    connect(m_volet, &VoletListes::renommageDemande, this, &Frmmain::renommer);
+    connect(m_bandeau, &Bandeau::formeDemandee, this, &Frmmain::formeDemandee);
+    connect(m_bandeau, &Bandeau::langueDemandee, this, &Frmmain::langueDemandee);
+    connect(m_bandeau, &Bandeau::aideDemandee, this, &Frmmain::ouvrirAide);
+    connect(
+        m_bandeau, &Bandeau::siteDemande, this, [] { Liens::Ouvrir(Reglages::courant().texte(Cle::Site)); });
+    connect(m_bandeau, &Bandeau::aProposDemande, this, &Frmmain::apropos);
+    connect(m_bandeau, &Bandeau::sortieDemandee, this, &Frmmain::close);
+    connect(m_bandeau, &Bandeau::loopBascule, this, [this](bool actif) {
+        Reglages::courant().ecrire(Cle::Loop, actif);
+        if (m_ficheAlbum)
+            m_ficheAlbum->poserDefilement(actif);
+    });
+    connect(&m_timer, &QTimer::timeout, this, &Frmmain::animer);
+}
+
+void Frmmain::raccourcis()
+{
+    const auto ajouter = [this](const QKeySequence &touches, auto acte) {
+        auto *action = new QAction(this);
+        action->setShortcut(touches);
+        connect(action, &QAction::triggered, this, acte);
+        addAction(action);
+    };
+    ajouter(QKeySequence::HelpContents, [this] { ouvrirAide(); });
+    ajouter(QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+    ajouter(QKeySequence::New, [this] { Q_EMIT formeDemandee(Nom::Manuelle); });
+    ajouter(QKeySequence::Print, [this] { Q_EMIT formeDemandee(Nom::Impression); });
+    for (int i = 0; i < NombreDeTris; ++i)
+        ajouter(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + i)), [this, i] { montrerTri(TriDe(i)); });
+}
+
+void Frmmain::charger()
+{
+    Schema::MettreANiveau();
+    try {
+        importerIni();
+    } catch (const Error &e) {
+        // Told once the window is there; the start goes on.
+        QTimer::singleShot(0, this, [e] { throw e; });
+    }
+    m_fond->charger();
+    restaurerTaille();
+    m_bandeau->poserLoop(Reglages::courant().booleen(Cle::Loop));
+    // From the event loop, so that a collection that cannot be opened is told of like any other error, and
+    // still before the window is first painted.
+    QTimer::singleShot(0, this, [this] { m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris))); });
+}
+
+void Frmmain::importerIni()
+{
+    const QDir dossier(Dossier::courant().racine());
+    const QStringList fichiers = dossier.entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Name);
+    if (!fichiers.isEmpty())
+        Reglages::courant().importerIni(dossier.filePath(fichiers.first()));
+}
+
+void Frmmain::restaurerTaille()
+{
+    const Reglages &reglages = Reglages::courant();
+    const int hauteur = static_cast<int>(reglages.nombre(Cle::Height));
+    const int largeur = static_cast<int>(reglages.nombre(Cle::Width));
+    QSize taille(largeur > 0 ? largeur : width(), hauteur > 0 ? hauteur : height());
+    taille = taille.expandedTo(TailleMinimale).boundedTo(screen()->availableSize());
+    resize(taille);
+    const QStringList volets = reglages.texte(Cle::Volets).split(u'|');
+    if (volets.size() == 2) {
+        m_partage->restoreState(QByteArray::fromBase64(volets[0].toLatin1()));
+        m_volet->poserEtat(QByteArray::fromBase64(volets[1].toLatin1()));
+    }
+}
+
+void Frmmain::memoriserTaille()
+{
+    Reglages &reglages = Reglages::courant();
+    const QSize taille = isMaximized() ? normalGeometry().size() : size();
+    reglages.ecrire(Cle::Height, taille.height());
+    reglages.ecrire(Cle::Width, taille.width());
+    reglages.ecrire(Cle::Volets,
+        QString::fromLatin1(m_partage->saveState().toBase64() + '|' + m_volet->etat().toBase64()));
+}
+
+void Frmmain::montrerTri(Tri tri)
+{
+    m_volet->montrer(tri);
+    Reglages::courant().ecrire(Cle::Tris, static_cast<int>(tri));
+    m_courante = {};
+    montrerPremiere();
+}
+
+void Frmmain::montrerPremiere()
+{
+    poserTotaux();
+    VueListe *liste = m_volet->liste();
+    if (m_courante.id > 0)
+        return;
+    if (liste->modele().rowCount() == 0) {
+        m_fiches->setCurrentIndex(0);
+        return;
+    }
+    const int premiere = liste->modele().entrees().id(0);
+    liste->choisir(premiere);
+    choisir({liste->modele().tri(), premiere});
+    liste->setFocus();
+}
+
+void Frmmain::montrerEntree(Entree entree)
+{
+    // An album shows beside any list that has albums; every other entry belongs to its own list.
+    if (entree.tri != Tri::Albums && entree.tri != m_volet->tri()) {
+        m_volet->montrer(entree.tri);
+        Reglages::courant().ecrire(Cle::Tris, static_cast<int>(entree.tri));
+    }
+    if (entree.tri == m_volet->tri()) {
+        m_volet->liste()->choisir(entree.id);
+        choisir(entree);
+        return;
+    }
+    m_volet->albums()->choisir(entree.id);
+    montrerFiche(entree);
+}
+
+/// An entry was chosen in a list: its sheet, and what is linked to it when the main list shows it.
+void Frmmain::choisir(Entree entree)
+{
+    if (entree.tri == m_volet->tri())
+        m_volet->montrerLies(entree);
+    montrerFiche(entree);
+}
+
+void Frmmain::montrerFiche(Entree entree)
+{
+    m_courante = entree;
+    if (entree.tri == Tri::Albums) {
+        const auto fiche = ChargerAlbums::AfficherAlbum(entree.id);
+        if (!fiche)
+            return;
+        if (!m_ficheAlbum) {
+            m_ficheAlbum = new FicheAlbum(m_fiches);
+            m_fiches->addWidget(m_ficheAlbum);
+            connect(m_ficheAlbum, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree,
+                Qt::QueuedConnection);
+            m_ficheAlbum->poserDefilement(Reglages::courant().booleen(Cle::Loop));
+        }
+        m_ficheAlbum->montrer(*fiche);
+        m_fiches->setCurrentWidget(m_ficheAlbum);
+        return;
+    }
+    if (!m_ficheEntree) {
+        m_ficheEntree = new FicheEntree(m_fiches);
+        m_fiches->addWidget(m_ficheEntree);
+    }
+    m_ficheEntree->montrer(entree, LireTexte(entree.tri, entree.id), m_volet->albums()->modele().rowCount());
+    m_fiches->setCurrentWidget(m_ficheEntree);
+}
+
+void Frmmain::renommer(Tri tri, int id, const QString &libelle)
+{
+    if (Renommer(tri, id, libelle) == Renommage::Coupe)
+        dire(tr("Le titre a été coupé à 50 caractères."));
+}
+
+void Frmmain::actualiser(const Changements &changements)
+{
+    m_volet->actualiser(changements);
+    if (m_courante.id > 0)
+        montrerFiche(m_courante);
+    poserTotaux();
+}
+
+void Frmmain::poserTotaux()
+{
+    const Totaux totaux = LireTotaux();
+    const QLocale &locale = Traduction::courant().locale();
+    QStringList parties{tr("%n album(s)", nullptr, static_cast<int>(totaux.albums)),
+        tr("%n série(s)", nullptr, static_cast<int>(totaux.series))};
+    if (totaux.valeur > 0)
+        parties << tr("valeur %1").arg(locale.toString(totaux.valeur, 'f', 2) + u' ' + texte(Txt::Euro));
+    m_totaux->setText(parties.join(QStringLiteral(" · ")));
+}
+
+void Frmmain::appliquerApparence()
+{
+    m_volet->appliquerApparence();
+    if (m_ficheAlbum)
+        m_ficheAlbum->AppliquerPolicesFiche();
+    m_fond->charger();
+}
+
+void Frmmain::dire(const QString &message)
+{
+    m_message->setText(message);
+}
+
+void Frmmain::poserDisponibles(const std::function<bool(Forme::Nom)> &disponible)
+{
+    m_bandeau->poserDisponibles(disponible);
+}
+
+void Frmmain::Traduire()
+{
+    setWindowTitle(titre());
+    m_bandeau->Traduire();
+    m_volet->Traduire();
+    m_anim->setText(texte(Txt::CliquezPourMenuContextuel));
+    if (m_courante.id > 0)
+        QTimer::singleShot(0, this, [this] { actualiser({}); });
+}
+
+/// A new shade of pure red, never the one that it has.
+void Frmmain::animer()
+{
+    QPalette palette = m_anim->palette();
+    const int courante = palette.color(QPalette::WindowText).red();
+    int rouge = courante;
+    while (rouge == courante)
+        rouge = QRandomGenerator::global()->bounded(256);
+    palette.setColor(QPalette::WindowText, QColor(rouge, 0, 0));
+    m_anim->setPalette(palette);
+}
+
+bool Frmmain::event(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::WindowActivate)
+        m_timer.start();
+    else if (evenement->type() == QEvent::WindowDeactivate)
+        m_timer.stop();
+    else if (evenement->type() == QEvent::Paint && !std::exchange(m_peinte, true))
+        // The list is on screen; only now is there time for the first sheet.
+        QTimer::singleShot(0, this, &Frmmain::montrerPremiere);
+    return Forme::event(evenement);
+}
+
+void Frmmain::keyPressEvent(QKeyEvent *evenement)
+{
+    // Escape closes forms, not the program: here it only clears the status line.
+    if (evenement->key() == Qt::Key_Escape)
+        dire({});
+    else
+        Forme::keyPressEvent(evenement);
+}
+
+void Frmmain::closeEvent(QCloseEvent *evenement)
+{
+    const QString question = texte(Txt::VoulezVousQuitter) + u' ' + titre() + QStringLiteral(" ?");
+    if (m_question && !Messages::Demander(this, question)) {
+        evenement->ignore();
+        return;
+    }
+    memoriserTaille();
+    QFile::remove(Dossier::courant().chemin(QStringLiteral("temp.bmp")));
+    evenement->accept();
+    Q_EMIT sortie();
+}
+
+void Frmmain::ouvrirAide()
+{
+    const QString chemin = Dossier::courant().chemin(QStringLiteral("Help\\index.htm"));
+    if (!QFileInfo::exists(chemin) || !QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)))
+        throw Error(tr("L'aide ne peut pas être ouverte."), chemin);
+}
+
+void Frmmain::apropos()
+{
+    Messages::Informer(this,
+        QStringList{titre(), texte(Txt::LeGestionnaireDeBDTheque), QString(),
+            tr("Version %1").arg(QCoreApplication::applicationVersion()),
+            tr("Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure")}
+            .join(u'\n'));
+}

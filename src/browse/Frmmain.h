@@ -1,0 +1,88 @@
+#pragma once
+
+#include "browse/General.h"
+#include "core/ui/Forme.h"
+
+#include <QTimer>
+#include <functional>
+
+class Bandeau;
+class FicheAlbum;
+class FicheEntree;
+class Fond;
+class QBoxLayout;
+class QLabel;
+class QScrollArea;
+class QSplitter;
+class QStackedWidget;
+class VoletListes;
+
+/// The browsing window: menu row, lists, and the sheet of the chosen entry.
+class Frmmain : public Forme
+{
+    Q_OBJECT
+
+public:
+    Frmmain();
+
+    /// The start-up steps: upgrade, settings file, background, size, list of the stored kind.
+    void charger();
+    /// Shows a kind of list and remembers it. Throws Error.
+    void montrerTri(General::Tri tri);
+    /// Shows an entry's sheet, with its list when it is another one. Throws Error.
+    void montrerEntree(General::Entree entree);
+    /// Shows the list's first entry, when nothing is shown yet. Throws Error.
+    void montrerPremiere();
+
+    void actualiser(const Changements &changements);
+    void appliquerApparence();
+    void dire(const QString &message);
+    void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
+    /// Lets the window close without the question.
+    void sortirSansQuestion() { m_question = false; }
+
+Q_SIGNALS:
+    void formeDemandee(Forme::Nom forme);
+    void langueDemandee(const QString &fichier);
+    /// The user has left the program.
+    void sortie();
+
+protected:
+    void Traduire() override;
+    void closeEvent(QCloseEvent *evenement) override;
+    void keyPressEvent(QKeyEvent *evenement) override;
+    bool event(QEvent *evenement) override;
+
+private:
+    void construireCorps(QBoxLayout *page);
+    void construirePied(QBoxLayout *page);
+    void brancher();
+    void raccourcis();
+    void importerIni();
+    void restaurerTaille();
+    void memoriserTaille();
+
+    void choisir(General::Entree entree);
+    void montrerFiche(General::Entree entree);
+    void renommer(General::Tri tri, int id, const QString &libelle);
+    void poserTotaux();
+    void animer();
+    void ouvrirAide();
+    void apropos();
+
+    Bandeau *m_bandeau = nullptr;
+    QSplitter *m_partage = nullptr;
+    VoletListes *m_volet = nullptr;
+    Fond *m_fond = nullptr;
+    QScrollArea *m_defilement = nullptr;
+    QStackedWidget *m_fiches = nullptr;
+    FicheAlbum *m_ficheAlbum = nullptr;
+    FicheEntree *m_ficheEntree = nullptr;
+    QLabel *m_message = nullptr;
+    QLabel *m_anim = nullptr;
+    QLabel *m_totaux = nullptr;
+    QTimer m_timer;
+    General::Entree m_courante;
+    bool m_question = true;
+    bool m_peinte = false;
+};

@@ -1,0 +1,245 @@
+#include "browse/VoletListes.h"
+
+#include "browse/VueListe.h"
+#include "core/Traduction.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+
+#include <QButtonGroup>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace General;
+
+namespace {
+
+constexpr int CoteTri = 30;
+constexpr int HauteurFilet = 3;
+
+QHBoxLayout *ligneDeTitre(QLabel *titre, QLabel *nombre)
+{
+    auto *ligne = new QHBoxLayout;
+    titre->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    nombre->setForegroundRole(QPalette::PlaceholderText);
+    ligne->addWidget(titre, 1);
+    ligne->addWidget(nombre, 0, Qt::AlignBottom);
+    return ligne;
+}
+
+}
+
+VoletListes::VoletListes(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(Theme::Moyen, Theme::Petit, 0, Theme::Petit);
+    colonne->setSpacing(Theme::Petit);
+    colonne->addWidget(construireTris());
+    colonne->addWidget(construireTitre());
+
+    m_liste = new VueListe(QStringLiteral("Liste"), this);
+    m_vide = new QLabel(m_liste);
+    m_vide->setWordWrap(true);
+    m_vide->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_vide->setForegroundRole(QPalette::PlaceholderText);
+    m_vide->setContentsMargins(Theme::Moyen, Theme::Grand, Theme::Moyen, 0);
+    auto *surListe = new QVBoxLayout(m_liste);
+    surListe->addWidget(m_vide);
+    surListe->addStretch(1);
+
+    m_partage = new QSplitter(Qt::Vertical, this);
+    m_partage->addWidget(m_liste);
+    m_partage->addWidget(construireLies());
+    m_partage->setStretchFactor(0, 3);
+    m_partage->setStretchFactor(1, 2);
+    m_partage->setChildrenCollapsible(false);
+    colonne->addWidget(m_partage, 1);
+    brancher();
+    appliquerApparence();
+    Traduire();
+}
+
+QWidget *VoletListes::construireTris()
+{
+    auto *zone = new QWidget(this);
+    auto *ligne = new QHBoxLayout(zone);
+    ligne->setContentsMargins(0, 0, 0, 0);
+    ligne->setSpacing(2);
+    auto *groupe = new QButtonGroup(this);
+    for (int i = 0; i < NombreDeTris; ++i) {
+        auto *bouton = nommer(new QToolButton(zone), QStringLiteral("Tris"), i);
+        bouton->setIcon(Icones::Charger(QString::fromLatin1(GenreDe(TriDe(i)).icone)));
+        bouton->setIconSize({20, 20});
+        bouton->setFixedSize(CoteTri, CoteTri);
+        bouton->setCheckable(true);
+        bouton->setAutoRaise(true);
+        groupe->addButton(bouton, i);
+        ligne->addWidget(bouton, 1);
+        m_tris[static_cast<std::size_t>(i)] = bouton;
+    }
+    connect(groupe, &QButtonGroup::idClicked, this, [this](int i) { Q_EMIT triDemande(TriDe(i)); });
+    return zone;
+}
+
+QWidget *VoletListes::construireTitre()
+{
+    auto *zone = new QWidget(this);
+    auto *colonne = new QVBoxLayout(zone);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(Theme::Fin);
+    m_titre = nommer(new QLabel(zone), QStringLiteral("TitreListe"));
+    m_titre->setFont(Theme::Taille(font(), 1.15, QFont::Bold));
+    m_nombre = nommer(new QLabel(zone), QStringLiteral("Nombre"));
+    colonne->addLayout(ligneDeTitre(m_titre, m_nombre));
+
+    m_progression = nommer(new QProgressBar(zone), QStringLiteral("Progression"));
+    m_progression->setTextVisible(false);
+    m_progression->setFixedHeight(HauteurFilet);
+    QPalette rouge;
+    rouge.setColor(QPalette::Highlight, Theme::Rouge(palette()));
+    m_progression->setPalette(rouge);
+    colonne->addWidget(m_progression);
+    return zone;
+}
+
+QWidget *VoletListes::construireLies()
+{
+    m_voletLies = new QWidget(this);
+    auto *colonne = new QVBoxLayout(m_voletLies);
+    colonne->setContentsMargins(0, Theme::Fin, 0, 0);
+    colonne->setSpacing(Theme::Fin);
+    m_titreLies = nommer(new QLabel(m_voletLies), QStringLiteral("TitreLies"));
+    m_titreLies->setFont(Theme::Taille(font(), 1, QFont::Bold));
+    m_nombreLies = nommer(new QLabel(m_voletLies), QStringLiteral("NombreLies"));
+    colonne->addLayout(ligneDeTitre(m_titreLies, m_nombreLies));
+    m_onglets = new QTabWidget(m_voletLies);
+    m_onglets->setDocumentMode(true);
+    m_onglets->tabBar()->setDrawBase(false);
+    m_albums = new VueListe(QStringLiteral("LFilms"), m_onglets);
+    m_presse = new VueListe(QStringLiteral("ListeExL"), m_onglets);
+    m_onglets->addTab(m_albums, {});
+    m_onglets->addTab(m_presse, {});
+    colonne->addWidget(m_onglets);
+    m_voletLies->hide();
+    return m_voletLies;
+}
+
+void VoletListes::brancher()
+{
+    for (VueListe *liste : {m_liste, m_albums, m_presse}) {
+        connect(liste, &VueListe::entreeChoisie, this, &VoletListes::entreeChoisie);
+        connect(&liste->modele(), &ListeEntrees::renommageDemande, this, &VoletListes::renommageDemande,
+            Qt::QueuedConnection);
+    }
+}
+
+void VoletListes::montrer(Tri tri)
+{
+    m_tri = tri;
+    m_tris[static_cast<std::size_t>(tri)]->setChecked(true);
+    viderLies();
+    remplir();
+}
+
+void VoletListes::remplir()
+{
+    m_liste->remplir(m_tri, LireListe(m_tri, [this](qint64 faites, qint64 total) {
+        m_progression->setValue(static_cast<int>(100 * faites / total));
+        if (m_progression->isVisible())
+            m_progression->repaint();
+    }));
+    if (m_tri == Tri::Albums)
+        m_liste->modele().poserPretes(LirePretes());
+    poserNombre();
+}
+
+void VoletListes::poserNombre()
+{
+    const Genre &genre = GenreDe(m_tri);
+    const int nombre = m_liste->modele().rowCount();
+    m_titre->setText(texte(genre.titre));
+    m_nombre->setText(texte(genre.prefixe) + u' ' + QString::number(nombre));
+    m_liste->setAccessibleName(texte(genre.titre));
+    m_vide->setVisible(nombre == 0);
+    m_vide->setText(m_tri == Tri::Albums
+            ? tr("Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.")
+            : tr("Rien ici pour l'instant. Cette liste se remplit avec les albums que vous créez."));
+}
+
+void VoletListes::viderLies()
+{
+    m_lies = {};
+    m_albums->modele().vider();
+    m_presse->modele().vider();
+    replier();
+}
+
+void VoletListes::montrerLies(Entree entree)
+{
+    m_lies = entree;
+    m_albums->remplir(Tri::Albums, LireAlbums(entree.tri, entree.id));
+    m_presse->remplir(Tri::Presse, entree.tri == Tri::Editeurs ? LirePresse(entree.id) : Entrees());
+    m_titreLies->setText(LireTexte(entree.tri, entree.id));
+    replier();
+}
+
+/// Shows the pane only when one of its lists holds something, and tabs only when both do.
+void VoletListes::replier()
+{
+    const int albums = m_albums->modele().rowCount();
+    const int presse = m_presse->modele().rowCount();
+    m_voletLies->setVisible(albums + presse > 0);
+    m_onglets->setTabVisible(0, albums > 0);
+    m_onglets->setTabVisible(1, presse > 0);
+    m_onglets->tabBar()->setVisible(albums > 0 && presse > 0);
+    m_nombreLies->setText(albums > 0 ? QStringLiteral("%1 %2").arg(albums).arg(texte(Txt::AlbumsUnite))
+                                     : QString::number(presse));
+}
+
+void VoletListes::actualiser(const Changements &changements)
+{
+    if (Concerne(changements, m_tri) || (m_tri == Tri::Albums && Concerne(changements, Tri::Albums)))
+        remplir();
+    if (m_lies.id > 0)
+        montrerLies(m_lies);
+}
+
+void VoletListes::Traduire()
+{
+    for (int i = 0; i < NombreDeTris; ++i)
+        expliquer(m_tris[static_cast<std::size_t>(i)], texte(GenreDe(TriDe(i)).bouton));
+    m_onglets->setTabText(0, texte(Txt::AlbumsDeBD));
+    m_onglets->setTabText(1, texte(Txt::PressesBD));
+    m_albums->setAccessibleName(texte(Txt::ListeDesAlbums));
+    m_presse->setAccessibleName(texte(Txt::ListeDesPressesBD));
+    m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
+    poserNombre();
+    replier();
+}
+
+void VoletListes::appliquerApparence()
+{
+    QPalette palette;
+    if (Theme::CouleurChoisie().isValid())
+        palette.setColor(QPalette::Text, Theme::CouleurChoisie());
+    for (VueListe *liste : {m_liste, m_albums, m_presse}) {
+        liste->setFont(Theme::PoliceChoisie());
+        liste->setPalette(palette);
+    }
+}
+
+QByteArray VoletListes::etat() const
+{
+    return m_partage->saveState();
+}
+
+void VoletListes::poserEtat(const QByteArray &etat)
+{
+    m_partage->restoreState(etat);
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "browse/General.h"
+
+#include <QWidget>
+#include <array>
+
+class QLabel;
+class QProgressBar;
+class QSplitter;
+class QTabWidget;
+class QToolButton;
+class VueListe;
+
+/// The left side of the main window: the nine kinds, the main list with its title and count, and below it the
+/// albums and press items of the chosen entry, folded away when there are none.
+class VoletListes : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VoletListes(QWidget *parent = nullptr);
+
+    /// Fills the main list with a kind. Throws Error.
+    void montrer(General::Tri tri);
+    /// Fills the lower lists with what is linked to an entry of the main list. Throws Error.
+    void montrerLies(General::Entree entree);
+    void viderLies();
+    /// Reads the lists again after changes. Throws Error.
+    void actualiser(const Changements &changements);
+
+    General::Tri tri() const { return m_tri; }
+    VueListe *liste() const { return m_liste; }
+    VueListe *albums() const { return m_albums; }
+    VueListe *presse() const { return m_presse; }
+
+    void Traduire();
+    void appliquerApparence();
+    QByteArray etat() const;
+    void poserEtat(const QByteArray &etat);
+
+Q_SIGNALS:
+    void triDemande(General::Tri tri);
+    void entreeChoisie(General::Entree entree);
+    void renommageDemande(General::Tri tri, int id, const QString &libelle);
+
+private:
+    QWidget *construireTris();
+    QWidget *construireTitre();
+    QWidget *construireLies();
+    void brancher();
+    void remplir();
+    void poserNombre();
+    void replier();
+
+    General::Tri m_tri = General::Tri::Albums;
+    General::Entree m_lies;
+    std::array<QToolButton *, General::NombreDeTris> m_tris{};
+    QLabel *m_titre = nullptr;
+    QLabel *m_nombre = nullptr;
+    QProgressBar *m_progression = nullptr;
+    QSplitter *m_partage = nullptr;
+    VueListe *m_liste = nullptr;
+    VueListe *m_albums = nullptr;
+    VueListe *m_presse = nullptr;
+    QWidget *m_voletLies = nullptr;
+    QLabel *m_titreLies = nullptr;
+    QLabel *m_nombreLies = nullptr;
+    QTabWidget *m_onglets = nullptr;
+    QLabel *m_vide = nullptr;
+};

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "core/ui/Forme.h"
+
+#include <QAbstractButton>
+#include <functional>
+#include <optional>
+#include <vector>
+
+class QButtonGroup;
+class QCheckBox;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+class QToolButton;
+
+/// The launcher: large buttons to every function of the program, in five groups, and a line that says what
+/// the button under the mouse does.
+class Splash : public Forme
+{
+    Q_OBJECT
+
+public:
+    Splash();
+
+    /// Which forms there are; the buttons of the others are disabled and say so.
+    void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
+    /// Marks the kind of list that the main window shows.
+    void poserTri(int tri);
+
+Q_SIGNALS:
+    void formeDemandee(Forme::Nom forme);
+    void triDemande(int tri);
+    void copieDemandee();
+    /// The user goes on to the main window.
+    void retourDemande();
+
+protected:
+    void Traduire() override;
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+
+private:
+    struct Bouton
+    {
+        QToolButton *controle = nullptr;
+        std::function<QString()> legende;
+        std::function<QString()> commentaire;
+        std::optional<Nom> forme;
+    };
+
+    QWidget *construireMenu();
+    QWidget *construirePages();
+    void construireCreation(QGridLayout *page);
+    void construireTris(QGridLayout *page);
+    void construireInterface(QGridLayout *page);
+    void construireOutils(QGridLayout *page);
+    void construireLiens(QGridLayout *page);
+    QToolButton *ajouter(
+        QGridLayout *page, const QString &nom, int rang, const QString &icone, const Bouton &bouton);
+    void ouvrirGroupe(int groupe);
+
+    QStackedWidget *m_pages = nullptr;
+    QLabel *m_titreGroupe = nullptr;
+    QLabel *m_commentaire = nullptr;
+    QLabel *m_sousTitre = nullptr;
+    QButtonGroup *m_tris = nullptr;
+    QButtonGroup *m_menu = nullptr;
+    QPushButton *m_mini = nullptr;
+    QPushButton *m_quit = nullptr;
+    QCheckBox *m_auto = nullptr;
+    std::vector<Bouton> m_boutons;
+    std::function<bool(Nom)> m_disponible;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+/// A frame that shows the picture of a file, fitted into it. Decoding happens beside the window's work; until
+/// the picture is there the one before stays, so that walking a list does not flicker.
+class CadreImage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CadreImage(QWidget *parent = nullptr);
+
+    /// Shows the file of a stored picture name; a blank name or a missing file leaves the frame empty.
+    void montrer(const QString &nom);
+    /// What an empty frame says.
+    void poserLegende(const QString &legende);
+    /// True while a picture of a file is shown or under way.
+    bool aUneImage() const { return !m_chemin.isEmpty(); }
+
+    QSize sizeHint() const override { return {216, 288}; }
+
+Q_SIGNALS:
+    void actionnee();
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+    void resizeEvent(QResizeEvent *evenement) override;
+    void mouseReleaseEvent(QMouseEvent *evenement) override;
+
+private:
+    void demander();
+    void recevoir(int generation, const QImage &image);
+
+    QString m_chemin;
+    QString m_legende;
+    QImage m_image;
+    int m_generation = 0;
+};

@@ -1,0 +1,111 @@
+#include "core/ui/Legende.h"
+
+#include "core/Texte.h"
+#include "core/ui/Theme.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int MargeLaterale = 4;
+constexpr int MargeVerticale = 2;
+
+}
+
+Legende::Legende(QWidget *parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    montrer({});
+}
+
+void Legende::montrer(const QString &valeur)
+{
+    const QString montree = Texte::EstVide(valeur) ? Texte::Pointilles() : valeur;
+    setToolTip({});
+    if (montree == text())
+        return;
+    setText(montree);
+    updateGeometry();
+}
+
+void Legende::poserLien(bool lien)
+{
+    m_lien = lien;
+    setCursor(lien ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+bool Legende::estVide() const
+{
+    return text() == Texte::Pointilles();
+}
+
+QSize Legende::sizeHint() const
+{
+    const int hauteur = fontMetrics().height() + 2 * MargeVerticale;
+    const int largeur
+        = estVide() ? 6 * fontMetrics().averageCharWidth() : fontMetrics().horizontalAdvance(text());
+    return {largeur + 2 * MargeLaterale, hauteur};
+}
+
+QSize Legende::minimumSizeHint() const
+{
+    return {6 * fontMetrics().averageCharWidth(), sizeHint().height()};
+}
+
+void Legende::paintEvent(QPaintEvent *)
+{
+    QPainter p(this);
+    if (underMouse() && focusPolicy() != Qt::NoFocus)
+        p.fillRect(rect(), Theme::Survol(palette()));
+    const QRect r = rect().adjusted(MargeLaterale, 0, -MargeLaterale, 0);
+    if (estVide()) {
+        p.setPen(Theme::Trait(palette()));
+        p.drawText(r, int(Qt::AlignVCenter) | Qt::TextSingleLine, text().left(r.width()));
+    } else {
+        // Only here is the width known that decides whether the tool tip must help.
+        const QString montre = fontMetrics().elidedText(text().simplified(), Qt::ElideRight, r.width());
+        p.setPen(m_lien ? Theme::Bleu(palette()) : palette().color(foregroundRole()));
+        p.drawText(
+            r, int(alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextSingleLine, montre);
+    }
+    if (hasFocus()) {
+        p.setPen(QPen(Theme::Bleu(palette()), 1.5));
+        p.setRenderHint(QPainter::Antialiasing);
+        p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
+    }
+}
+
+void Legende::mouseReleaseEvent(QMouseEvent *evenement)
+{
+    if (evenement->button() == Qt::LeftButton && rect().contains(evenement->position().toPoint()))
+        Q_EMIT actionnee();
+}
+
+void Legende::keyPressEvent(QKeyEvent *evenement)
+{
+    const int touche = evenement->key();
+    if (touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space)
+        Q_EMIT actionnee();
+    else
+        QLabel::keyPressEvent(evenement);
+}
+
+void Legende::enterEvent(QEnterEvent *evenement)
+{
+    const bool coupe = !estVide() && fontMetrics().horizontalAdvance(text()) > width() - 2 * MargeLaterale;
+    if (toolTip().isEmpty() && coupe)
+        setToolTip(text().toHtmlEscaped());
+    update();
+    QLabel::enterEvent(evenement);
+}
+
+void Legende::leaveEvent(QEvent *evenement)
+{
+    update();
+    QLabel::leaveEvent(evenement);
+}

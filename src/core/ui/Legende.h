@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLabel>
+
+/// A value on a sheet: its text, or the dots as a leader where there is none. It never asks for more room than
+/// it gets; a longer text ends in an ellipsis and stands whole in the tool tip.
+class Legende : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit Legende(QWidget *parent = nullptr);
+
+    /// Shows a value, or the dots for a blank one. The text of the label is what is shown.
+    void montrer(const QString &valeur);
+    /// Draws the value as something that leads elsewhere.
+    void poserLien(bool lien);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// Clicked, or Enter or Space was pressed on it.
+    void actionnee();
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+    void mouseReleaseEvent(QMouseEvent *evenement) override;
+    void keyPressEvent(QKeyEvent *evenement) override;
+    void enterEvent(QEnterEvent *evenement) override;
+    void leaveEvent(QEvent *evenement) override;
+
+private:
+    bool estVide() const;
+
+    bool m_lien = false;
+};

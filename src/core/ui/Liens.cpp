@@ -1,0 +1,24 @@
+#include "core/ui/Liens.h"
+
+#include "core/Error.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QRegularExpression>
+#include <QUrl>
+
+void Liens::Ouvrir(const QString &adresse)
+{
+    static const QRegularExpression schema(
+        QStringLiteral("^[a-z][a-z0-9+.-]*:"), QRegularExpression::CaseInsensitiveOption);
+    QString entiere = adresse.trimmed();
+    if (!entiere.contains(schema))
+        entiere.prepend(QStringLiteral("http://"));
+    const QUrl url(entiere, QUrl::TolerantMode);
+    static const QStringList permis{
+        QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("mailto")};
+    if (!url.isValid() || !permis.contains(url.scheme()))
+        throw Error(QCoreApplication::translate("Liens", "Cette adresse ne peut pas être ouverte."), adresse);
+    if (!QDesktopServices::openUrl(url))
+        throw Error(QCoreApplication::translate("Liens", "Aucun programme n'ouvre cette adresse."), adresse);
+}

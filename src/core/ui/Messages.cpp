@@ -1,0 +1,110 @@
+#include "core/ui/Messages.h"
+
+#include "core/Traduction.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+
+Messages::Doublure *&doublure()
+{
+    static Messages::Doublure *courante = nullptr;
+    return courante;
+}
+
+int montrer(
+    QWidget *parent, QMessageBox::Icon icone, const QString &texte, QMessageBox::StandardButtons boutons)
+{
+    QMessageBox boite(icone, titre(), texte, boutons, parent);
+    boite.setTextFormat(Qt::PlainText);
+    return boite.exec();
+}
+
+void dire(QWidget *parent, QMessageBox::Icon icone, const QString &texte)
+{
+    if (doublure())
+        doublure()->textes << texte;
+    else
+        montrer(parent, icone, texte, QMessageBox::Ok);
+}
+
+bool choisir(QWidget *parent, QMessageBox::Icon icone, const QString &texte, QMessageBox::StandardButton oui,
+    QMessageBox::StandardButton non)
+{
+    if (doublure()) {
+        doublure()->textes << texte;
+        return !doublure()->reponses.isEmpty() && doublure()->reponses.dequeue();
+    }
+    return montrer(parent, icone, texte, oui | non) == oui;
+}
+
+QString prochainFichier()
+{
+    return doublure()->fichiers.isEmpty() ? QString() : doublure()->fichiers.dequeue();
+}
+
+}
+
+Messages::Doublure::Doublure()
+{
+    doublure() = this;
+}
+
+Messages::Doublure::~Doublure()
+{
+    doublure() = nullptr;
+}
+
+void Messages::Informer(QWidget *parent, const QString &texte)
+{
+    dire(parent, QMessageBox::Information, texte);
+}
+
+void Messages::Avertir(QWidget *parent, const QString &texte)
+{
+    dire(parent, QMessageBox::Warning, texte);
+}
+
+void Messages::Arreter(QWidget *parent, const QString &texte)
+{
+    dire(parent, QMessageBox::Critical, texte);
+}
+
+bool Messages::Demander(QWidget *parent, const QString &question)
+{
+    return choisir(parent, QMessageBox::Question, question, QMessageBox::Yes, QMessageBox::No);
+}
+
+bool Messages::Reessayer(QWidget *parent, const QString &texte)
+{
+    return choisir(parent, QMessageBox::Warning, texte, QMessageBox::Retry, QMessageBox::Cancel);
+}
+
+QString Messages::OuvrirFichier(
+    QWidget *parent, const QString &titre, const QString &dossier, const QString &filtres)
+{
+    if (doublure())
+        return prochainFichier();
+    return QFileDialog::getOpenFileName(parent, titre, dossier, Filtres(filtres));
+}
+
+QString Messages::EnregistrerFichier(
+    QWidget *parent, const QString &titre, const QString &dossier, const QString &filtres)
+{
+    if (doublure())
+        return prochainFichier();
+    return QFileDialog::getSaveFileName(parent, titre, dossier, Filtres(filtres));
+}
+
+QString Messages::Filtres(const QString &paires)
+{
+    const QStringList parties = paires.split(u'|');
+    QStringList filtres;
+    for (qsizetype i = 0; i + 1 < parties.size(); i += 2) {
+        const QString description = parties[i].section(u'(', 0, 0).trimmed();
+        const QString motifs = QString(parties[i + 1]).replace(u';', u' ');
+        filtres << QStringLiteral("%1 (%2)").arg(description, motifs);
+    }
+    return filtres.join(QStringLiteral(";;"));
+}

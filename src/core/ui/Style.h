@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// How controls are drawn: flat, with thin lines and a clear focus frame, in the palette's colours.
+class Style : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    Style();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+        const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+        const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+        const QWidget *widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+        QStyleHintReturn *retour) const override;
+};
