@@ -11,6 +11,7 @@ namespace {
 
 constexpr int MargeLaterale = 4;
 constexpr int MargeVerticale = 2;
+constexpr int MinimumDeLettres = 6;
 
 }
 
@@ -47,14 +48,15 @@ bool Legende::estVide() const
 QSize Legende::sizeHint() const
 {
     const int hauteur = fontMetrics().height() + 2 * MargeVerticale;
-    const int largeur
-        = estVide() ? 6 * fontMetrics().averageCharWidth() : fontMetrics().horizontalAdvance(text());
+    const int largeur = estVide() ? MinimumDeLettres * fontMetrics().averageCharWidth()
+                                  : fontMetrics().horizontalAdvance(text());
     return {largeur + 2 * MargeLaterale, hauteur};
 }
 
 QSize Legende::minimumSizeHint() const
 {
-    return {6 * fontMetrics().averageCharWidth(), sizeHint().height()};
+    return {std::min(MinimumDeLettres * fontMetrics().averageCharWidth(), sizeHint().width()),
+        sizeHint().height()};
 }
 
 void Legende::paintEvent(QPaintEvent *)
@@ -67,8 +69,9 @@ void Legende::paintEvent(QPaintEvent *)
         p.setPen(Theme::Trait(palette()));
         p.drawText(r, int(Qt::AlignVCenter) | Qt::TextSingleLine, text().left(r.width()));
     } else {
-        // Only here is the width known that decides whether the tool tip must help.
-        const QString montre = fontMetrics().elidedText(text().simplified(), Qt::ElideRight, r.width());
+        const QString ligne = text().simplified();
+        const bool tient = fontMetrics().horizontalAdvance(ligne) <= r.width();
+        const QString montre = tient ? ligne : fontMetrics().elidedText(ligne, Qt::ElideRight, r.width());
         p.setPen(m_lien ? Theme::Bleu(palette()) : palette().color(foregroundRole()));
         p.drawText(
             r, int(alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextSingleLine, montre);
