@@ -38,6 +38,10 @@ QToolButton *lienVoisin(QWidget *parent, const QString &nom, Qt::ToolButtonStyle
     b->setAutoRaise(true);
     b->setToolButtonStyle(style);
     b->setCursor(Qt::PointingHandCursor);
+    // The head keeps its height from album to album.
+    QSizePolicy place = b->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    b->setSizePolicy(place);
     return b;
 }
 
@@ -136,7 +140,12 @@ QWidget *FicheAlbum::construireCouverture()
     connect(m_agrandir, &QToolButton::clicked, this, [this] { agrandir(1); });
     connect(m_retrecir, &QToolButton::clicked, this, [this] { agrandir(-1); });
 
-    colonne->addWidget(titreDe(Txt::Serie));
+    QGridLayout *notes = ouvrirGroupe(colonne, Txt::Appreciations);
+    ajouterLigne(notes, "EtatBD");
+    ajouterLigne(notes, "Qualite");
+
+    m_titreSerie = titreDe(Txt::Serie);
+    colonne->addWidget(m_titreSerie);
     colonne->addSpacing(Theme::Fin);
     m_bande = nommer(new BandeSerie(zone), QStringLiteral("Bande"));
     colonne->addWidget(m_bande);
@@ -147,10 +156,6 @@ QWidget *FicheAlbum::construireCouverture()
     connect(m_bande, &BandeSerie::albumDemande, this, [this](int num) {
         Q_EMIT entreeDemandee({General::Tri::Albums, num});
     });
-
-    QGridLayout *notes = ouvrirGroupe(colonne, Txt::Appreciations);
-    ajouterLigne(notes, "EtatBD");
-    ajouterLigne(notes, "Qualite");
     return zone;
 }
 
@@ -339,6 +344,8 @@ void FicheAlbum::montrerInfos(const InfosAlbum &infos)
         manquants.isEmpty() ? QString() : tr("Manquants : %1").arg(manquants.join(QStringLiteral(", "))));
     m_manquants->setVisible(!manquants.isEmpty());
     m_bande->montrer(infos.bande, m_fiche.num);
+    for (QWidget *partie : {static_cast<QWidget *>(m_titreSerie), static_cast<QWidget *>(m_bande)})
+        partie->setVisible(serie);
     for (const auto &[lien, voisin] :
         {std::pair(m_precedent, infos.precedent), std::pair(m_suivant, infos.suivant)}) {
         lien->setVisible(voisin.has_value());

@@ -61,6 +61,7 @@ private:
     QToolButton *m_rectoVerso = nullptr;
     QToolButton *m_agrandir = nullptr;
     QToolButton *m_retrecir = nullptr;
+    TitreGroupe *m_titreSerie = nullptr;
     BandeSerie *m_bande = nullptr;
     QLabel *m_tomeSur = nullptr;
     QLabel *m_manquants = nullptr;

@@ -27,6 +27,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QScrollArea>
@@ -42,6 +43,9 @@ namespace {
 constexpr QSize TailleDessinee(1280, 800);
 constexpr QSize TailleMinimale(860, 560);
 constexpr int LargeurVolet = 318;
+
+/// For measuring the start: QT_LOGGING_RULES="bulleo.demarrage=true" tells when the list is on screen.
+Q_LOGGING_CATEGORY(demarrage, "bulleo.demarrage", QtInfoMsg)
 
 }
 
@@ -212,6 +216,7 @@ void Frmmain::montrerTri(Tri tri)
 
 void Frmmain::montrerPremiere()
 {
+    qCDebug(demarrage) << "peinte";
     poserTotaux();
     VueListe *liste = m_volet->liste();
     if (m_courante.id > 0)

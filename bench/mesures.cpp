@@ -1,0 +1,147 @@
+// The program's routines over generated collections, beside the bare walk: bulleo-mesures [benchmark options].
+// The collections are made on first use, in $BULLEO_BENCH, else in "bulleo-bench" of the temporary folder.
+
+#include "Generateur.h"
+#include "browse/ChargerAlbums.h"
+#include "browse/General.h"
+#include "core/Collection.h"
+#include "core/Dossier.h"
+#include "core/Reglages.h"
+#include "core/Traduction.h"
+#include "db/Base.h"
+#include "db/Comparaison.h"
+#include "db/Schema.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <benchmark/benchmark.h>
+#include <memory>
+#include <sqlite3.h>
+
+namespace {
+
+/// The application folder of a generated collection, as the current one.
+struct Terrain
+{
+    explicit Terrain(int albums)
+        : chemin(qEnvironmentVariable("BULLEO_BENCH", QDir::tempPath() + QStringLiteral("/bulleo-bench"))
+            + QStringLiteral("/%1").arg(albums))
+        , dossier(chemin, Dossier::Livre())
+        , reglages(chemin + QStringLiteral("/reglages"))
+    {
+        generer(chemin, albums);
+    }
+    QString chemin;
+    Dossier dossier;
+    Reglages reglages;
+    Traduction traduction;
+    Collection collection;
+};
+
+/// The floor of every list: the same file, the same two columns by the covering index, nothing kept.
+void parcoursNu(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const QByteArray fichier = terrain.dossier.chemin(QStringLiteral("bd.mdb")).toUtf8();
+    for (auto _ : etat) {
+        sqlite3 *db = nullptr;
+        sqlite3_open_v2(fichier.constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
+        void *collateur = Comparaison::creer();
+        sqlite3_create_collation_v2(
+            db, "FRANCAIS", SQLITE_UTF8, collateur, Comparaison::comparer, Comparaison::detruire);
+        sqlite3_stmt *instruction = nullptr;
+        sqlite3_prepare_v2(
+            db, "SELECT NAlbum, TAlbum FROM LAlbums ORDER BY TAlbum", -1, &instruction, nullptr);
+        qint64 somme = 0;
+        while (sqlite3_step(instruction) == SQLITE_ROW)
+            somme += sqlite3_column_int(instruction, 0) + sqlite3_column_text(instruction, 1)[0];
+        benchmark::DoNotOptimize(somme);
+        sqlite3_finalize(instruction);
+        sqlite3_close(db);
+    }
+}
+
+void ouvrir(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    for (auto _ : etat)
+        const Base base;
+}
+
+void remplirListe(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const auto tri = General::TriDe(static_cast<int>(etat.range(1)));
+    int lignes = 0;
+    for (auto _ : etat)
+        lignes = General::LireListe(tri).size();
+    etat.counters["lignes"] = lignes;
+}
+
+void albumsDUnEditeur(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    int lignes = 0;
+    for (auto _ : etat)
+        lignes = General::LireAlbums(General::Tri::Editeurs, 1).size();
+    etat.counters["lignes"] = lignes;
+}
+
+void chargerFiche(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const auto albums = static_cast<int>(etat.range(0));
+    int num = 0;
+    for (auto _ : etat) {
+        num = (num + 7919) % albums / 10 * 10 + 10; // one with quotes and contributors, far from the last
+        benchmark::DoNotOptimize(ChargerAlbums::AfficherAlbum(std::min(num, albums)));
+    }
+}
+
+void mettreANiveau(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    for (auto _ : etat)
+        Schema::MettreANiveau();
+}
+
+void totaux(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    for (auto _ : etat)
+        benchmark::DoNotOptimize(General::LireTotaux());
+}
+
+void tailles(benchmark::internal::Benchmark *mesure)
+{
+    for (const int albums : {10'000, 100'000, 1'000'000})
+        mesure->Arg(albums);
+    mesure->Unit(benchmark::kMillisecond)->UseRealTime();
+}
+
+void taillesEtTris(benchmark::internal::Benchmark *mesure)
+{
+    for (const int albums : {10'000, 100'000, 1'000'000}) {
+        for (int tri = 0; tri < General::NombreDeTris; ++tri)
+            mesure->Args({albums, tri});
+    }
+    mesure->Unit(benchmark::kMillisecond)->UseRealTime();
+}
+
+}
+
+BENCHMARK(parcoursNu)->Apply(tailles);
+BENCHMARK(ouvrir)->Apply(tailles);
+BENCHMARK(remplirListe)->Apply(taillesEtTris);
+BENCHMARK(albumsDUnEditeur)->Apply(tailles);
+BENCHMARK(chargerFiche)->Apply(tailles);
+BENCHMARK(mettreANiveau)->Apply(tailles);
+BENCHMARK(totaux)->Apply(tailles);
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
