@@ -210,9 +210,10 @@ QWidget *FicheAlbum::construireColonneDroite()
     for (const char *champ : {"ISBN", "ISSN", "DepotLegale", "NbPage", "Format", "Couleur"})
         ajouterLigne(traits, champ);
     construireCases(colonne);
-    m_intervenants
-        = construireGrille(colonne, Txt::Intervenants, QStringLiteral("NomI"), QStringLiteral("ActI"));
-    m_cotes = construireGrille(colonne, Txt::Cotes, QStringLiteral("Mois"), QStringLiteral("Cotes"));
+    m_intervenants = {{QStringLiteral("NomI"), QStringLiteral("ActI")}, {Txt::Intervenants, Txt::Activite}};
+    construireGrille(m_intervenants, colonne, Txt::Intervenants);
+    m_cotes = {{QStringLiteral("Mois"), QStringLiteral("Cotes")}, {Txt::Mois, Txt::Cote}};
+    construireGrille(m_cotes, colonne, Txt::Cotes);
     colonne->addStretch(1);
     return zone;
 }
@@ -247,13 +248,11 @@ void FicheAlbum::construireDedicaces(QBoxLayout *colonne)
     colonne->addLayout(images);
 }
 
-FicheAlbum::Grille FicheAlbum::construireGrille(
-    QBoxLayout *colonne, Txt titre, const QString &gauche, const QString &droite)
+void FicheAlbum::construireGrille(Grille &grille, QBoxLayout *colonne, Txt titre)
 {
-    Grille grille{{gauche, droite}, ouvrirGroupe(colonne, titre), {}};
+    grille.place = ouvrirGroupe(colonne, titre);
     grille.place->setColumnStretch(0, 1);
     grille.place->setColumnStretch(1, 1);
-    return grille;
 }
 
 QWidget *FicheAlbum::construireMemos()
@@ -324,6 +323,8 @@ void FicheAlbum::remplirGrille(Grille &grille, const std::vector<std::pair<QStri
         }
     }
     for (std::size_t i = 0; i < grille.cellules[0].size(); ++i) {
+        for (int colonne = 0; colonne < 2; ++colonne)
+            grille.cellules[colonne][i]->setAccessibleName(texte(grille.libelles[colonne]));
         grille.cellules[0][i]->montrer(i < lignes.size() ? lignes[i].first : QString());
         grille.cellules[1][i]->montrer(i < lignes.size() ? lignes[i].second : QString());
         grille.cellules[0][i]->setVisible(i < voulues);

@@ -33,8 +33,9 @@ private:
     struct Grille
     {
         QString noms[2];
+        Txt libelles[2] = {};
         QGridLayout *place = nullptr;
-        std::vector<Legende *> cellules[2];
+        std::vector<Legende *> cellules[2] = {};
     };
 
     QWidget *construireEnTete();
@@ -46,7 +47,7 @@ private:
     QGridLayout *ouvrirGroupe(QBoxLayout *colonne, Txt titre);
     void construireCases(QBoxLayout *colonne);
     void construireDedicaces(QBoxLayout *colonne);
-    Grille construireGrille(QBoxLayout *colonne, Txt titre, const QString &gauche, const QString &droite);
+    void construireGrille(Grille &grille, QBoxLayout *colonne, Txt titre);
     void remplirGrille(Grille &grille, const std::vector<std::pair<QString, QString>> &lignes);
 
     void montrerInfos(const InfosAlbum &infos);

@@ -170,7 +170,10 @@ void Frmmain::charger()
     m_bandeau->poserLoop(Reglages::courant().booleen(Cle::Loop));
     // From the event loop, so that a collection that cannot be opened is told of like any other error, and
     // still before the window is first painted.
-    QTimer::singleShot(0, this, [this] { m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris))); });
+    QTimer::singleShot(0, this, [this] {
+        m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris)));
+        m_ouverte = true;
+    });
 }
 
 void Frmmain::importerIni()
@@ -209,6 +212,7 @@ void Frmmain::memoriserTaille()
 void Frmmain::montrerTri(Tri tri)
 {
     m_volet->montrer(tri);
+    m_ouverte = true;
     Reglages::courant().ecrire(Cle::Tris, static_cast<int>(tri));
     m_courante = {};
     montrerPremiere();
@@ -217,9 +221,11 @@ void Frmmain::montrerTri(Tri tri)
 void Frmmain::montrerPremiere()
 {
     qCDebug(demarrage) << "peinte";
-    poserTotaux();
     VueListe *liste = m_volet->liste();
-    if (m_courante.id > 0)
+    if (!m_ouverte)
+        return;
+    poserTotaux();
+    if (liste->currentIndex().isValid())
         return;
     if (liste->modele().rowCount() == 0) {
         m_fiches->setCurrentIndex(0);

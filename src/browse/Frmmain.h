@@ -85,4 +85,5 @@ private:
     General::Entree m_courante;
     bool m_question = true;
     bool m_peinte = false;
+    bool m_ouverte = false; ///< the collection could be read
 };

@@ -2,12 +2,33 @@
 
 #include "db/Base.h"
 
+#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 
-Bac::Bac()
+namespace {
+
+void copierDossier(const QString &source, const QString &cible)
+{
+    QDir().mkpath(cible);
+    for (QDirIterator i(source, QDir::AllEntries | QDir::NoDotAndDotDot); i.hasNext();) {
+        const QFileInfo entree(i.next());
+        const QString copie = cible + u'/' + entree.fileName();
+        if (entree.isDir())
+            copierDossier(entree.filePath(), copie);
+        else if (!QFile::copy(entree.filePath(), copie))
+            qFatal("%s", qPrintable(copie));
+    }
+}
+
+}
+
+Bac::Bac(const QString &modele)
     : dossier(m_dossier.path() + QStringLiteral("/bulleo"), livre())
     , reglages(m_dossier.path() + QStringLiteral("/reglages.ini"))
 {
+    if (!modele.isEmpty())
+        copierDossier(modele, dossier.racine());
     dossier.preparer();
 }
 

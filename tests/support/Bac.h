@@ -12,7 +12,8 @@
 class Bac
 {
 public:
-    Bac();
+    /// `modele` is a complete application folder to copy instead of preparing an empty one.
+    explicit Bac(const QString &modele = {});
 
     QString chemin(const QString &nom = {}) const;
     /// Full path of the collection.

@@ -1,0 +1,289 @@
+#include "Application.h"
+#include "Bureau.h"
+#include "browse/General.h"
+#include "core/ui/Messages.h"
+#include "support/Bac.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScreen>
+#include <QTest>
+#include <QTextEdit>
+
+using namespace General;
+
+/// The real program on a copy of the sample collection, worked by object names.
+struct Seance
+{
+    explicit Seance(bool dejaVu = true)
+        : bac(QStringLiteral(EXEMPLE))
+    {
+        if (dejaVu)
+            bac.reglages.ecrire(Cle::FirstTime, 1);
+    }
+    void demarrer()
+    {
+        bureau = std::make_unique<Bureau>(Options());
+        bureau->demarrer();
+        QVERIFY(QTest::qWaitForWindowExposed(fenetre("Frmmain")));
+        QTRY_VERIFY(!texteDe("TAlbum").isEmpty() || !boites.textes.isEmpty());
+    }
+
+    static QWidget *fenetre(const char *nom)
+    {
+        for (QWidget *candidate : QApplication::topLevelWidgets()) {
+            if (candidate->objectName() == QLatin1String(nom))
+                return candidate;
+        }
+        return nullptr;
+    }
+    template <class T>
+    static T *trouver(const char *nom, const char *forme = "Frmmain")
+    {
+        return fenetre(forme)->findChild<T *>(QLatin1String(nom));
+    }
+    static void cliquer(const char *nom, const char *forme = "Frmmain")
+    {
+        QTest::mouseClick(trouver<QAbstractButton>(nom, forme), Qt::LeftButton);
+    }
+    /// Caption of a label; empty until there is one.
+    static QString texteDe(const char *nom)
+    {
+        const auto *label = trouver<QLabel>(nom);
+        return label ? label->text() : QString();
+    }
+    /// Clicks the line of the main list that has this text.
+    static void choisir(const QString &texte)
+    {
+        auto *liste = trouver<QAbstractItemView>("Liste");
+        const auto trouves
+            = liste->model()->match(liste->model()->index(0, 0), Qt::DisplayRole, texte, 1, Qt::MatchExactly);
+        QVERIFY2(!trouves.isEmpty(), qPrintable(texte));
+        liste->scrollTo(trouves.first());
+        QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualRect(trouves.first()).center());
+    }
+
+    Bac bac;
+    Messages::Doublure boites;
+    std::unique_ptr<Bureau> bureau;
+};
+
+class tst_parcours : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lePremierDemarrageMontreLeLanceur();
+    void chaqueTriALaListeQuIlAnnonce();
+    void unClicMontreLaFiche();
+    void renommerGardeLaSelection();
+    void laLangueChangePartout();
+    void quitterDemandeEtRange();
+    void uneBaseEtrangereEstDite();
+    void laCopieSeFaitDuLanceur();
+    void chaqueControleAUnNom();
+};
+
+void tst_parcours::lePremierDemarrageMontreLeLanceur()
+{
+    {
+        Seance s(false);
+        s.demarrer();
+        QTRY_VERIFY(Seance::fenetre("Splash") && Seance::fenetre("Splash")->isVisible());
+        QVERIFY(Seance::trouver<QWidget>("Frames(0)", "Splash")->isVisible());
+        auto *boite = Seance::trouver<QCheckBox>("SphashAuto", "Splash");
+        QVERIFY(!boite->isChecked());
+        QVERIFY(!Seance::trouver<QAbstractButton>("Outils(0)", "Splash")->isEnabled());
+        QCOMPARE(s.bac.reglages.nombre(Cle::FirstTime), 1.0);
+        boite->click();
+        QVERIFY(s.bac.reglages.booleen(Cle::SplashAuto));
+
+        Seance::cliquer("Menu(1)", "Splash");
+        Seance::cliquer("Tris(3)", "Splash");
+        QCOMPARE(s.bac.reglages.entier(Cle::Tris), 3);
+        QCOMPARE(Seance::texteDe("TitreListe"), texte(Txt::ListeDesScenaristes));
+        Seance::cliquer("Quit", "Splash");
+        QVERIFY(!Seance::fenetre("Splash")->isVisible());
+    }
+    Seance plusTard;
+    plusTard.demarrer();
+    QTest::qWait(0);
+    QVERIFY(!Seance::fenetre("Splash"));
+}
+
+void tst_parcours::chaqueTriALaListeQuIlAnnonce()
+{
+    Seance s;
+    s.demarrer();
+    for (int i = 0; i < NombreDeTris; ++i) {
+        Seance::cliquer(qPrintable(QStringLiteral("Tris(%1)").arg(i)));
+        auto *liste = Seance::trouver<QAbstractItemView>("Liste");
+        const Genre &genre = GenreDe(TriDe(i));
+        QVERIFY(liste->model()->rowCount() > 0);
+        QCOMPARE(Seance::texteDe("TitreListe"), texte(genre.titre));
+        QCOMPARE(Seance::texteDe("Nombre"),
+            texte(genre.prefixe) + u' ' + QString::number(liste->model()->rowCount()));
+        QCOMPARE(s.bac.reglages.entier(Cle::Tris), i);
+        QVERIFY(liste->currentIndex().data(Qt::UserRole).toString().startsWith(QLatin1String("N ")));
+        // Entries that have albums show them below; the others fold the pane away.
+        const bool avecAlbums = i != 0 && i != 5 && i != 6;
+        QCOMPARE(Seance::trouver<QAbstractItemView>("LFilms")->isVisible(), avecAlbums);
+    }
+}
+
+void tst_parcours::unClicMontreLaFiche()
+{
+    Seance s;
+    s.demarrer();
+    Seance::choisir(QStringLiteral("Bécassine en apprentissage"));
+    QTRY_COMPARE(Seance::texteDe("TAlbum"), QStringLiteral("Bécassine en apprentissage"));
+    QCOMPARE(Seance::texteDe("Scena"), QStringLiteral("Caumery"));
+    QCOMPARE(Seance::texteDe("ISBN").size(), 855);
+    // The neighbour in the series is one click away, and the list follows.
+    const QString suivant = Seance::trouver<QAbstractButton>("AlbumSuivant")->text();
+    Seance::cliquer("AlbumSuivant");
+    QTRY_VERIFY(Seance::texteDe("TAlbum") != QStringLiteral("Bécassine en apprentissage"));
+    QVERIFY(Seance::texteDe("TAlbum").startsWith(suivant.left(10)));
+    QCOMPARE(Seance::trouver<QAbstractItemView>("Liste")->currentIndex().data().toString(),
+        Seance::texteDe("TAlbum"));
+
+    // Arrow keys walk the list and the sheet follows.
+    auto *liste = Seance::trouver<QAbstractItemView>("Liste");
+    QTest::keyClick(liste, Qt::Key_Down);
+    QTRY_COMPARE(Seance::texteDe("TAlbum"), liste->currentIndex().data().toString());
+
+    // An album of a series, from the lower list, leaves the main list as it is.
+    Seance::cliquer("Tris(1)");
+    auto *albums = Seance::trouver<QAbstractItemView>("LFilms");
+    QTest::mouseClick(
+        albums->viewport(), Qt::LeftButton, {}, albums->visualRect(albums->model()->index(1, 0)).center());
+    QTRY_COMPARE(Seance::texteDe("TAlbum"), albums->model()->index(1, 0).data().toString());
+    QCOMPARE(Seance::texteDe("TitreListe"), texte(Txt::ListeDesSeries));
+}
+
+void tst_parcours::renommerGardeLaSelection()
+{
+    Seance s;
+    s.demarrer();
+    Seance::choisir(QStringLiteral("Bonaparte"));
+    auto *liste = Seance::trouver<QAbstractItemView>("Liste");
+    const QString cle = liste->currentIndex().data(Qt::UserRole).toString();
+    QTest::keyClick(liste, Qt::Key_F2);
+    auto *saisie = liste->findChild<QLineEdit *>();
+    QVERIFY(saisie);
+    saisie->setText(QStringLiteral("  Écume d'été "));
+    QTest::keyClick(saisie, Qt::Key_Return);
+    QTRY_COMPARE(liste->currentIndex().data().toString(), QStringLiteral("Écume d'été"));
+    QCOMPARE(liste->currentIndex().data(Qt::UserRole).toString(), cle);
+    QTRY_COMPARE(Seance::texteDe("TAlbum"), QStringLiteral("Écume d'été"));
+    QCOMPARE(Bac::valeur(QStringLiteral("SELECT TAlbum FROM LAlbums WHERE NAlbum = ?"), {cle.mid(1).toInt()})
+                 .toString(),
+        QStringLiteral("Écume d'été"));
+    QVERIFY(s.boites.textes.isEmpty());
+}
+
+void tst_parcours::laLangueChangePartout()
+{
+    Seance s;
+    s.demarrer();
+    auto *menu = Seance::trouver<QMenu>("", "Frmmain");
+    QVERIFY(menu);
+    Q_EMIT menu->aboutToShow();
+    auto *anglais = menu->findChild<QAction *>(QStringLiteral("English.lng"));
+    QVERIFY(anglais);
+    anglais->trigger();
+    QCOMPARE(Bac::lire(s.bac.chemin(QStringLiteral("defaut.lng"))),
+        Bac::lire(s.bac.chemin(QStringLiteral("langues/English.lng"))));
+    QTRY_VERIFY(Seance::texteDe("TitreListe") != QStringLiteral("Liste des Albums"));
+    QCOMPARE(Seance::texteDe("TitreListe"), texte(Txt::ListeDesAlbums));
+    QCOMPARE(Seance::trouver<QAbstractButton>("Langues")->text(), QStringLiteral("English"));
+}
+
+void tst_parcours::quitterDemandeEtRange()
+{
+    Seance s;
+    s.demarrer();
+    const QString brouillon = s.bac.chemin(QStringLiteral("temp.bmp"));
+    Bac::ecrire(brouillon, "x");
+    QWidget *fenetre = Seance::fenetre("Frmmain");
+    fenetre->resize(1000, 640);
+    Seance::cliquer("Menu(7)");
+    QCOMPARE(s.boites.textes, QStringList{QStringLiteral("Voulez vous quitter Bulleo V1.2 ?")});
+    QVERIFY(fenetre->isVisible() && QFileInfo::exists(brouillon));
+    s.boites.reponses << true;
+    fenetre->close();
+    QVERIFY(!fenetre->isVisible() && !QFileInfo::exists(brouillon));
+    QCOMPARE(s.bac.reglages.nombre(Cle::Width), 1000.0);
+
+    // The next start has that size, within the screen.
+    s.bureau = std::make_unique<Bureau>(Options());
+    s.bureau->demarrer();
+    QTRY_COMPARE(Seance::fenetre("Frmmain")->height(),
+        std::min(640, QGuiApplication::primaryScreen()->availableSize().height()));
+}
+
+void tst_parcours::uneBaseEtrangereEstDite()
+{
+    Seance s;
+    Bac::ecrire(s.bac.collection(), "ceci n'est pas une base");
+    s.demarrer();
+    QTRY_COMPARE(s.boites.textes.size(), 1);
+    QVERIFY(s.boites.textes[0].startsWith(texte(Txt::UneErreurEstSurvenue)));
+    QVERIFY(s.boites.textes[0].contains(s.bac.collection()));
+    QVERIFY(Seance::fenetre("Frmmain")->isVisible());
+    QCOMPARE(Bac::lire(s.bac.collection()), QByteArray("ceci n'est pas une base"));
+}
+
+void tst_parcours::laCopieSeFaitDuLanceur()
+{
+    Seance s;
+    s.demarrer();
+    Seance::cliquer("Menu(0)");
+    Seance::cliquer("Menu(3)", "Splash");
+    const QString copie = s.bac.chemin(QStringLiteral("copie.mdb"));
+    s.boites.fichiers << QString() << s.bac.collection() << copie;
+    Seance::cliquer("Outils(4)", "Splash");
+    QVERIFY(s.boites.textes.isEmpty());
+    Seance::cliquer("Outils(4)", "Splash");
+    QCOMPARE(s.boites.textes.takeFirst(),
+        QStringLiteral("Vous ne devriez pas sauvegarder avec ce nom (bd.mdb) !!!"));
+    Seance::cliquer("Outils(4)", "Splash");
+    QCOMPARE(s.boites.textes.takeFirst(), texte(Txt::SauvegardeEffectuee));
+    QCOMPARE(Bac::lire(copie), Bac::lire(s.bac.collection()));
+}
+
+void tst_parcours::chaqueControleAUnNom()
+{
+    Seance s;
+    s.demarrer();
+    Seance::cliquer("Menu(0)");
+    QTRY_VERIFY(Seance::trouver<QWidget>("FicheAlbum"));
+    for (const char *forme : {"Frmmain", "Splash"}) {
+        const auto controles = Seance::fenetre(forme)->findChildren<QWidget *>();
+        for (const QWidget *controle : controles) {
+            const bool deLaForme = !QByteArray(controle->metaObject()->className()).startsWith("QTab")
+                && !controle->objectName().startsWith(QLatin1String("qt_"));
+            const bool actif = controle->focusPolicy() != Qt::NoFocus && !controle->inherits("QScrollBar");
+            if (!deLaForme || !actif)
+                continue;
+            QVERIFY2(!controle->objectName().isEmpty(), controle->metaObject()->className());
+            QVERIFY2(!controle->accessibleName().isEmpty() || !controle->isVisible(),
+                qPrintable(controle->objectName()));
+        }
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    Application application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    tst_parcours parcours;
+    return QTest::qExec(&parcours, argc, argv);
+}
+
+#include "tst_parcours.moc"
