@@ -13,7 +13,6 @@ private Q_SLOTS:
     void unBooleenSeLitEnPlusieursMots();
     void uneValeurIllisibleDonneLeDefautEtUnAvis_data();
     void uneValeurIllisibleDonneLeDefautEtUnAvis();
-    void unNombreSeLitAvecPointOuVirgule();
     void cequiEstEcritSeRelitDansUnAutreMagasin();
     void unIniNApporteQueLesClesConnues();
     void unIniNEstLuQuUneFoisParContenu();
@@ -80,9 +79,7 @@ void tst_reglages::uneValeurIllisibleDonneLeDefautEtUnAvis_data()
     QTest::addColumn<Cle>("cle");
     QTest::addColumn<QString>("valeur");
     QTest::newRow("Settings/Tris") << Cle::Tris << "beaucoup";
-    QTest::newRow("Settings/Apercu") << Cle::Apercu << "";
     QTest::newRow("Settings/Loop") << Cle::Loop << "peut-être";
-    QTest::newRow("Settings/FirstTime") << Cle::FirstTime << "un";
     QTest::newRow("Color/Forecolor") << Cle::Forecolor << "99999999999";
     QTest::newRow("Color/FontSize") << Cle::FontSize << "10 points";
     QTest::newRow("Redimension/Width") << Cle::Width << "nan";
@@ -112,17 +109,6 @@ void tst_reglages::uneValeurIllisibleDonneLeDefautEtUnAvis()
         QCOMPARE(lire(r), lire(defauts));
     QCOMPARE(avis.size(), 1);
     QVERIFY2(avis[0].contains(nom) && avis[0].contains(valeur), qPrintable(avis[0]));
-}
-
-void tst_reglages::unNombreSeLitAvecPointOuVirgule()
-{
-    for (const QString ecrit : {"1", "1.0", " 1,0 "}) {
-        const Magasin magasin("Settings/FirstTime", ecrit);
-        QCOMPARE(Reglages(magasin.fichier).nombre(Cle::FirstTime), 1.0);
-    }
-    // Written by hand without quotes, a comma makes a list of it.
-    const Magasin magasin("Color/FontName", QStringList{"Arial", "Noir"});
-    QCOMPARE(Reglages(magasin.fichier).texte(Cle::FontName), "Arial, Noir");
 }
 
 void tst_reglages::cequiEstEcritSeRelitDansUnAutreMagasin()

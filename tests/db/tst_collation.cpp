@@ -11,7 +11,6 @@ private Q_SLOTS:
     void lesNomsSeSuiventCommeDansUnDictionnaire();
     void lEgaliteIgnoreLaCasseMaisPasLesAccents_data();
     void lEgaliteIgnoreLaCasseMaisPasLesAccents();
-    void laCleDuTomeSeCompareParCode();
 };
 
 /// Each group sorts as one: accents and case decide only between otherwise equal texts.
@@ -40,21 +39,13 @@ void tst_collation::lEgaliteIgnoreLaCasseMaisPasLesAccents_data()
                            << "Astérix" << true;
     QTest::newRow("accent") << "cote"
                             << "coté" << false;
-    QTest::newRow("accent ailleurs") << "côte"
-                                     << "coté" << false;
-    QTest::newRow("cedille") << "garcon"
-                             << "garçon" << false;
     QTest::newRow("ligature") << "oeuvre"
                               << "œuvre" << false;
-    QTest::newRow("ligature, casse") << "ŒUVRE"
-                                     << "œuvre" << true;
     QTest::newRow("accent compose") << QStringLiteral("cote\u0301") << "coté" << true;
     QTest::newRow("blanc au bout") << "Lou "
                                    << "Lou" << false;
     QTest::newRow("apostrophe") << "LAmi"
                                 << "L'ami" << false;
-    QTest::newRow("trait d'union") << "Spirou"
-                                   << "Spi-rou" << false;
     QTest::newRow("vide et blanc") << ""
                                    << " " << false;
 }
@@ -68,20 +59,6 @@ void tst_collation::lEgaliteIgnoreLaCasseMaisPasLesAccents()
     Bac::executer("INSERT INTO Auteurs (NAuteur, Nom) VALUES (1, ?)", {garde});
     QCOMPARE(Bac::valeur("SELECT count(*) FROM Auteurs WHERE Nom = ?", {cherche}), int(egal));
     QCOMPARE(Bac::valeur("SELECT count(*) FROM Auteurs WHERE +Nom = ?", {cherche}), int(egal));
-}
-
-void tst_collation::laCleDuTomeSeCompareParCode()
-{
-    const Bac bac;
-    const Base base;
-    const QStringList ordre{"A", "Z", "[", "a", "{", "\u00BF", "É", "ÿ"};
-    for (qsizetype i = ordre.size(); i-- > 0;)
-        base.Execute("INSERT INTO SerieAlbums VALUES (1, ?, ?)", {i, ordre[i]});
-    QStringList cles;
-    for (auto rs = base.OpenRecordset("SELECT * From SerieAlbums where NSerie = 1 order by NumeroAlbum2 asc");
-         !rs.AtEnd(); rs.MoveNext())
-        cles << rs.Fields("NumeroAlbum2").toString();
-    QCOMPARE(cles, ordre);
 }
 
 QTEST_GUILESS_MAIN(tst_collation)
