@@ -1,0 +1,227 @@
+#include "core/Images.h"
+#include "support/Bac.h"
+#include "support/Refus.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QTest>
+#include <QtEndian>
+
+class tst_images : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void uneImageEstTrouvee_data();
+    void uneImageEstTrouvee();
+    void uneCopiePrendUnNomLibre_data();
+    void uneCopiePrendUnNomLibre();
+    void leMemeContenuNEstPasRecopie();
+    void leDossierDesImagesEstFaitAuBesoin();
+    void uneImageAbimeeEstNulle_data();
+    void uneImageAbimeeEstNulle();
+    void uneImageEstReduiteAuCadre_data();
+    void uneImageEstReduiteAuCadre();
+    void unePageNumeriseeEnFinSeDecode();
+};
+
+namespace {
+
+QByteArray image(const QSize &taille, const char *format)
+{
+    QImage dessin(taille, QImage::Format_RGB32);
+    for (int y = 0; y < taille.height(); ++y)
+        for (int x = 0; x < taille.width(); ++x)
+            dessin.setPixel(x, y, qRgb(x * 7 % 256, y * 5 % 256, (x * y) % 256));
+    QByteArray octets;
+    QBuffer tampon(&octets);
+    tampon.open(QIODevice::WriteOnly);
+    dessin.save(&tampon, format);
+    return octets;
+}
+
+/// The same picture with a header that claims another size.
+QByteArray pretendre(QByteArray octets, qint32 cote)
+{
+    if (octets.startsWith("BM")) {
+        qToLittleEndian(cote, octets.data() + 18);
+        qToLittleEndian(cote, octets.data() + 22);
+    } else {
+        qToBigEndian(cote, octets.data() + 16);
+        qToBigEndian(cote, octets.data() + 20);
+        // The header's checksum, so that the size is believed.
+        quint32 crc = 0xFFFFFFFF;
+        for (int i = 12; i < 29; ++i) {
+            crc ^= quint8(octets[i]);
+            for (int bit = 0; bit < 8; ++bit)
+                crc = crc >> 1 ^ (crc & 1 ? 0xEDB88320 : 0);
+        }
+        qToBigEndian(~crc, octets.data() + 29);
+    }
+    return octets;
+}
+
+}
+
+void tst_images::uneImageEstTrouvee_data()
+{
+    QTest::addColumn<QString>("nom");
+    QTest::addColumn<QString>("trouve");
+    QTest::newRow("nom simple") << "a.jpg"
+                                << "images/a.jpg";
+    QTest::newRow("images avant image") << "deux.jpg"
+                                        << "images/deux.jpg";
+    QTest::newRow("puis image") << "b.jpg"
+                                << "image/b.jpg";
+    QTest::newRow("casse et blancs") << " A.JPG "
+                                     << "images/a.jpg";
+    QTest::newRow("chemin du dossier") << "image\\deux.jpg"
+                                       << "image/deux.jpg";
+    QTest::newRow("relatif ailleurs") << "scans\\c.jpg"
+                                      << "Scans/c.jpg";
+    QTest::newRow("complet") << "/Scans/c.jpg"
+                             << "Scans/c.jpg";
+    QTest::newRow("complet perdu") << "/nulle/part/a.jpg"
+                                   << "images/a.jpg";
+    QTest::newRow("autre machine") << "C:\\BD\\images\\b.jpg"
+                                   << "image/b.jpg";
+    QTest::newRow("autre serveur") << "\\\\serveur\\BD\\b.jpg"
+                                   << "image/b.jpg";
+    QTest::newRow("absent") << "z.jpg"
+                            << "";
+    QTest::newRow("blanc") << " "
+                           << "";
+    QTest::newRow("points") << QString(855, u'.') << "";
+}
+
+void tst_images::uneImageEstTrouvee()
+{
+    QFETCH(QString, nom);
+    QFETCH(QString, trouve);
+    const Bac bac;
+    QDir(bac.chemin()).mkdir("Scans");
+    for (const char *fichier :
+        {"images/a.jpg", "images/deux.jpg", "image/deux.jpg", "image/b.jpg", "Scans/c.jpg"})
+        Bac::ecrire(bac.chemin(fichier), "x");
+    if (nom.startsWith("/Scans"))
+        nom.prepend(bac.chemin());
+    QCOMPARE(Images::Trouver(nom), trouve.isEmpty() ? QString() : bac.chemin(trouve));
+}
+
+void tst_images::uneCopiePrendUnNomLibre_data()
+{
+    QTest::addColumn<QString>("nom");
+    QTest::addColumn<QStringList>("attendus");
+    QTest::newRow("ordinaire") << "été.jpg" << QStringList{"été.jpg", "été (2).jpg", "été (3).jpg"};
+    QTest::newRow("deux points") << "a.b.png" << QStringList{"a.b.png", "a.b (2).png", "a.b (3).png"};
+    QTest::newRow("sans point") << "scan" << QStringList{"scan", "scan (2)", "scan (3)"};
+    QTest::newRow("pour cent") << "100%1.jpg" << QStringList{"100%1.jpg", "100%1 (2).jpg", "100%1 (3).jpg"};
+}
+
+void tst_images::uneCopiePrendUnNomLibre()
+{
+    QFETCH(QString, nom);
+    QFETCH(QStringList, attendus);
+    const Bac bac;
+    const QTemporaryDir source;
+    for (int i = 0; i < 3; ++i) {
+        Bac::ecrire(source.filePath(nom), QByteArray::number(i));
+        const QString prise = Images::Copier(source.filePath(nom));
+        if (i == 1) {
+            QEXPECT_FAIL("sans point", "a name without a suffix gets a point at its end", Abort);
+            QEXPECT_FAIL("pour cent", "a per cent sign in a name is taken for a place-holder", Abort);
+        }
+        QCOMPARE(prise, attendus[i]);
+    }
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(Bac::lire(bac.chemin("images/" + attendus[i])), QByteArray::number(i));
+}
+
+void tst_images::leMemeContenuNEstPasRecopie()
+{
+    const Bac bac;
+    const QTemporaryDir source;
+    const QString nouvelle = source.filePath("A.jpg");
+    Bac::ecrire(bac.chemin("images/a.jpg"), "un");
+    Bac::ecrire(bac.chemin("images/A (2).jpg"), "deux");
+    Bac::ecrire(nouvelle, "deux");
+    QCOMPARE(Images::Copier(nouvelle), "A (2).jpg");
+    Bac::ecrire(nouvelle, "un");
+    QCOMPARE(Images::Copier(nouvelle), "a.jpg");
+    QCOMPARE(Images::Copier(bac.chemin("images/a.jpg")), "a.jpg");
+    QVERIFY(refus([&] { Images::Copier(bac.chemin("absente.jpg")); }).has_value());
+    QCOMPARE(QDir(bac.chemin("images")).entryList(QDir::Files).size(), 2);
+}
+
+/// A folder that was brought along may hold nothing but the collection.
+void tst_images::leDossierDesImagesEstFaitAuBesoin()
+{
+    const Bac bac;
+    QVERIFY(QDir(bac.chemin()).rmdir("images"));
+    bac.dossier.preparer();
+    Bac::ecrire(bac.chemin("a.jpg"), "un");
+    const bool refusee = refus([&] { Images::Copier(bac.chemin("a.jpg")); }).has_value();
+    QEXPECT_FAIL("", "nobody makes the folder of the pictures in an existing application folder", Abort);
+    QVERIFY(!refusee);
+    QCOMPARE(Bac::lire(bac.chemin("images/a.jpg")), "un");
+}
+
+void tst_images::uneImageAbimeeEstNulle_data()
+{
+    QTest::addColumn<QByteArray>("octets");
+    const QByteArray bmp = image({60, 60}, "BMP");
+    const QByteArray png = image({60, 60}, "PNG");
+    QTest::newRow("vide") << QByteArray();
+    QTest::newRow("texte") << QByteArray("Ceci n'est pas une image.").repeated(99);
+    QTest::newRow("BMP, en-tete seul") << bmp.left(54);
+    QTest::newRow("PNG coupee") << png.left(png.size() / 2);
+    QTest::newRow("JPG, en-tete seul") << image({60, 60}, "JPG").left(200);
+    QTest::newRow("BMP qui se dit immense") << pretendre(bmp, 30'000);
+    QTest::newRow("PNG qui se dit immense") << pretendre(png, 30'000);
+    QTest::newRow("BMP qui se dit sans fin") << pretendre(bmp, 0x7FFFFFFF);
+    QTest::newRow("PNG qui se dit grande") << pretendre(png, 10'000);
+}
+
+void tst_images::uneImageAbimeeEstNulle()
+{
+    QFETCH(QByteArray, octets);
+    const Bac bac;
+    Bac::ecrire(bac.chemin("images/a.jpg"), octets);
+    QVERIFY(Images::Decoder(bac.chemin("images/a.jpg"), {100, 100}).isNull());
+    QVERIFY(Images::Decoder(bac.chemin("images/absente.jpg"), {100, 100}).isNull());
+}
+
+void tst_images::uneImageEstReduiteAuCadre_data()
+{
+    QTest::addColumn<QSize>("entiere");
+    QTest::addColumn<QSize>("attendue");
+    QTest::newRow("large") << QSize(400, 200) << QSize(100, 50);
+    QTest::newRow("un trait") << QSize(3000, 1) << QSize(100, 1);
+}
+
+/// The content decides, whatever the name says.
+void tst_images::uneImageEstReduiteAuCadre()
+{
+    QFETCH(QSize, entiere);
+    QFETCH(QSize, attendue);
+    const Bac bac;
+    for (const char *format : {"PNG", "BMP", "JPG"}) {
+        Bac::ecrire(bac.chemin("images/a.bmp"), image(entiere, format));
+        QCOMPARE(Images::Decoder(bac.chemin("images/a.bmp"), {100, 100}).size(), attendue);
+    }
+}
+
+/// A page of 21 by 29.7 cm at 600 points an inch is far below the limit of pixels.
+void tst_images::unePageNumeriseeEnFinSeDecode()
+{
+    const Bac bac;
+    QImage page(4960, 7016, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QVERIFY(qint64(page.width()) * page.height() < Images::PixelsMax);
+    QVERIFY(page.save(bac.chemin("images/page.bmp")));
+    QEXPECT_FAIL("", "the decoder's own limit of memory is lower than that of pixels", Continue);
+    QCOMPARE(Images::Decoder(bac.chemin("images/page.bmp"), {496, 702}).size(), QSize(496, 702));
+}
+
+QTEST_GUILESS_MAIN(tst_images)
+#include "tst_images.moc"

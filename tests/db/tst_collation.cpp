@@ -1,0 +1,65 @@
+#include "db/Base.h"
+#include "support/Bac.h"
+
+#include <QTest>
+
+class tst_collation : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lesNomsSeSuiventCommeDansUnDictionnaire();
+    void lEgaliteIgnoreLaCasseMaisPasLesAccents_data();
+    void lEgaliteIgnoreLaCasseMaisPasLesAccents();
+};
+
+/// Each group sorts as one: accents and case decide only between otherwise equal texts.
+void tst_collation::lesNomsSeSuiventCommeDansUnDictionnaire()
+{
+    const Bac bac;
+    const QStringList ordre{"", " ", "1984", "Cote", "Coté", "Côte", "Côté", "Cotes", "echo", "Écume",
+        "Edgar", "oeuf", "œuf", "oeufs", "Zèbre", "zebres"};
+    const Base base;
+    for (int i = 0; i < ordre.size(); ++i)
+        base.Execute("INSERT INTO Serie (NSerie, Nom) VALUES (?, ?)", {100 - i, ordre[i]});
+    for (const QString sql : {"SELECT * From Serie order by Nom asc", "SELECT Nom FROM Serie ORDER BY Nom"}) {
+        QStringList noms;
+        for (auto rs = base.OpenRecordset(sql); !rs.AtEnd(); rs.MoveNext())
+            noms << rs.Fields("Nom").toString();
+        QCOMPARE(noms, ordre);
+    }
+}
+
+void tst_collation::lEgaliteIgnoreLaCasseMaisPasLesAccents_data()
+{
+    QTest::addColumn<QString>("cherche");
+    QTest::addColumn<QString>("garde");
+    QTest::addColumn<bool>("egal");
+    QTest::newRow("casse") << "ASTÉRIX"
+                           << "Astérix" << true;
+    QTest::newRow("accent") << "cote"
+                            << "coté" << false;
+    QTest::newRow("ligature") << "oeuvre"
+                              << "œuvre" << false;
+    QTest::newRow("accent compose") << QStringLiteral("cote\u0301") << "coté" << true;
+    QTest::newRow("blanc au bout") << "Lou "
+                                   << "Lou" << false;
+    QTest::newRow("apostrophe") << "LAmi"
+                                << "L'ami" << false;
+    QTest::newRow("vide et blanc") << ""
+                                   << " " << false;
+}
+
+void tst_collation::lEgaliteIgnoreLaCasseMaisPasLesAccents()
+{
+    QFETCH(QString, cherche);
+    QFETCH(QString, garde);
+    QFETCH(bool, egal);
+    const Bac bac;
+    Bac::executer("INSERT INTO Auteurs (NAuteur, Nom) VALUES (1, ?)", {garde});
+    QCOMPARE(Bac::valeur("SELECT count(*) FROM Auteurs WHERE Nom = ?", {cherche}), int(egal));
+    QCOMPARE(Bac::valeur("SELECT count(*) FROM Auteurs WHERE +Nom = ?", {cherche}), int(egal));
+}
+
+QTEST_GUILESS_MAIN(tst_collation)
+#include "tst_collation.moc"
