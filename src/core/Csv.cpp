@@ -28,22 +28,26 @@ void finDeCellule(void *octets, size_t taille, void *donnees)
     lecture.ligne += static_cast<int>(cellule.count(u'\n'));
 }
 
-void finDeLigne(int, void *donnees)
+/// Called at every character that may end a line, so that blank lines are counted, too.
+void finDeLigne(int caractere, void *donnees)
 {
     auto &lecture = *static_cast<Lecture *>(donnees);
-    if (std::exchange(lecture.enTete, false))
-        lecture.entete = lecture.cellules;
-    else
-        (*lecture.pour)({lecture.ligne, lecture.cellules, &lecture.entete});
+    if (!lecture.cellules.isEmpty()) {
+        if (std::exchange(lecture.enTete, false))
+            lecture.entete = lecture.cellules;
+        else
+            (*lecture.pour)({lecture.ligne, lecture.cellules, &lecture.entete});
+    }
     lecture.cellules.clear();
-    ++lecture.ligne;
+    if (caractere == '\n')
+        ++lecture.ligne;
 }
 
 /// Owns the C parser.
 struct Analyseur
 {
     csv_parser parser;
-    Analyseur() { csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_EMPTY_IS_NULL); }
+    Analyseur() { csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_EMPTY_IS_NULL | CSV_REPALL_NL); }
     ~Analyseur() { csv_free(&parser); }
     Analyseur(const Analyseur &) = delete;
     Analyseur &operator=(const Analyseur &) = delete;

@@ -5,6 +5,7 @@
 #include "core/Texte.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -72,11 +73,14 @@ QString Images::Copier(const QString &chemin)
 {
     const QFileInfo source(chemin);
     const auto cible = [](const QString &nom) { return Dossier::courant().chemin(Rangement + u'/' + nom); };
+    if (!QDir().mkpath(cible({})))
+        throw Error(QCoreApplication::translate("Images", "Le dossier des images ne peut pas être créé."), cible({}));
+    const QString suffixe = source.suffix().isEmpty() ? QString() : u'.' + source.suffix();
     QString nom = source.fileName();
     for (int rang = 2; QFileInfo::exists(cible(nom)); ++rang) {
         if (memeContenu(chemin, cible(nom)))
             return QFileInfo(cible(nom)).fileName();
-        nom = QStringLiteral("%1 (%2).%3").arg(source.completeBaseName()).arg(rang).arg(source.suffix());
+        nom = source.completeBaseName() + QStringLiteral(" (%1)").arg(rang) + suffixe;
     }
     QFile fichier(chemin);
     if (!fichier.copy(cible(nom)))
@@ -87,6 +91,9 @@ QString Images::Copier(const QString &chemin)
 
 QImage Images::Decoder(const QString &chemin, const QSize &taille)
 {
+    // The platform's own limit is lower than ours.
+    constexpr int LimiteMio = static_cast<int>(PixelsMax * 4 >> 20) + 1;
+    QImageReader::setAllocationLimit(LimiteMio);
     QImageReader lecteur(chemin);
     lecteur.setAutoTransform(true);
     lecteur.setDecideFormatFromContent(true);

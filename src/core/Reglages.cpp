@@ -7,6 +7,7 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -149,7 +150,7 @@ double Reglages::nombre(Cle cle) const
     Q_ASSERT(reglage(cle).type == Type::Nombre);
     bool sur = false;
     const double valeur = brut(cle).trimmed().replace(u',', u'.').toDouble(&sur);
-    if (sur)
+    if (sur && std::isfinite(valeur))
         return valeur;
     signaler(cle);
     return QString::fromLatin1(reglage(cle).defaut).toDouble();

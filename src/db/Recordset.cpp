@@ -119,7 +119,7 @@ void Recordset::MoveNext()
 SQLite::Statement &Recordset::ligne() const
 {
     SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : *m_ligne;
-    if (!instruction.hasRow())
+    if (m_fin || !instruction.hasRow())
         throw Error(QCoreApplication::translate("Base", "Il n'y a plus d'enregistrement ici."), m_sql);
     return instruction;
 }
