@@ -1,5 +1,6 @@
 #include "browse/FicheEntree.h"
 
+#include "browse/Etagere.h"
 #include "core/Traduction.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
@@ -23,13 +24,21 @@ FicheEntree::FicheEntree(QWidget *parent)
     m_albums->setForegroundRole(QPalette::PlaceholderText);
     for (QLabel *label : {m_genre, m_nom, m_albums})
         colonne->addWidget(label);
-    colonne->addStretch(1);
+    colonne->addSpacing(Theme::Petit);
+    m_etagere = new Etagere(this);
+    colonne->addWidget(m_etagere, 1);
+    connect(m_etagere, &Etagere::albumDemande, this, [this](int num) {
+        Q_EMIT entreeDemandee({General::Tri::Albums, num});
+    });
 }
 
-void FicheEntree::montrer(General::Entree entree, const QString &nom, int albums)
+void FicheEntree::montrer(General::Entree entree, const QString &nom, const Entrees &albums)
 {
     m_genre->setText(texte(General::GenreDe(entree.tri).bouton));
     m_nom->setText(nom);
     m_albums->setText(
-        albums > 0 ? QStringLiteral("%1 %2").arg(albums).arg(texte(Txt::AlbumsUnite)) : QString());
+        albums.empty() ? QString() : QStringLiteral("%1 %2").arg(albums.size()).arg(texte(Txt::AlbumsUnite)));
+    m_etagere->setAccessibleName(texte(Txt::ListeDesAlbums));
+    m_etagere->montrer(albums);
+    m_etagere->setVisible(!albums.empty());
 }

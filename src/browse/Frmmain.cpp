@@ -84,7 +84,11 @@ void Frmmain::construireCorps(QBoxLayout *page)
     m_defilement->viewport()->setAutoFillBackground(false);
     m_fiches = new QStackedWidget(m_defilement);
     m_fiches->setAutoFillBackground(false);
-    m_fiches->addWidget(new QWidget(m_fiches));
+    m_accueil = nommer(new QLabel(m_fiches), QStringLiteral("Accueil"));
+    m_accueil->setAlignment(Qt::AlignCenter);
+    m_accueil->setForegroundRole(QPalette::PlaceholderText);
+    m_accueil->setFont(Theme::Taille(font(), 1.3));
+    m_fiches->addWidget(m_accueil);
     m_defilement->setWidget(m_fiches);
     m_fiches->setAutoFillBackground(false);
     surFond->addWidget(m_defilement);
@@ -282,8 +286,10 @@ void Frmmain::montrerFiche(Entree entree)
     if (!m_ficheEntree) {
         m_ficheEntree = new FicheEntree(m_fiches);
         m_fiches->addWidget(m_ficheEntree);
+        connect(
+            m_ficheEntree, &FicheEntree::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
     }
-    m_ficheEntree->montrer(entree, LireTexte(entree.tri, entree.id), m_volet->albums()->modele().rowCount());
+    m_ficheEntree->montrer(entree, LireTexte(entree.tri, entree.id), m_volet->albums()->modele().entrees());
     m_fiches->setCurrentWidget(m_ficheEntree);
 }
 
@@ -335,6 +341,7 @@ void Frmmain::Traduire()
     setWindowTitle(titre());
     m_bandeau->Traduire();
     m_volet->Traduire();
+    m_accueil->setText(tr("Aucune fiche à montrer pour l'instant"));
     m_anim->setText(texte(Txt::CliquezPourMenuContextuel));
     if (m_courante.id > 0)
         QTimer::singleShot(0, this, [this] { actualiser({}); });

@@ -78,6 +78,7 @@ private:
     QStackedWidget *m_fiches = nullptr;
     FicheAlbum *m_ficheAlbum = nullptr;
     FicheEntree *m_ficheEntree = nullptr;
+    QLabel *m_accueil = nullptr;
     QLabel *m_message = nullptr;
     QLabel *m_anim = nullptr;
     QLabel *m_totaux = nullptr;

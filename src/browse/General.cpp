@@ -209,6 +209,15 @@ Entrees General::LireAlbums(Tri tri, int id)
     return remplir(base.OpenRecordset(QLatin1String(sql), {id}), Forme::Nom, {});
 }
 
+Volume General::LireVolume(int num)
+{
+    const Base base;
+    const auto rs = base.OpenRecordset(QStringLiteral("SELECT l.Photo1, a.NAlbum From LAlbums l left join "
+                                                      "Album a on a.Num = l.NAlbum where l.NAlbum = ?"),
+        {num});
+    return rs.AtEnd() ? Volume() : Volume{rs.Fields(0).toString(), rs.Fields(1).toInt()};
+}
+
 Entrees General::LirePresse(int editeur)
 {
     const Base base;

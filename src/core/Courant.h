@@ -16,17 +16,17 @@ public:
     static T &courant()
     {
         Q_ASSERT(s_courant);
-        return *s_courant;
+        return static_cast<T &>(*s_courant);
     }
 
 protected:
     Courant()
-        : m_precedent(std::exchange(s_courant, static_cast<T *>(this)))
+        : m_precedent(std::exchange(s_courant, this))
     {
     }
     ~Courant() { s_courant = m_precedent; }
 
 private:
-    inline static T *s_courant = nullptr;
-    T *m_precedent;
+    inline static Courant *s_courant = nullptr;
+    Courant *m_precedent;
 };

@@ -74,7 +74,8 @@ QString Images::Copier(const QString &chemin)
     const QFileInfo source(chemin);
     const auto cible = [](const QString &nom) { return Dossier::courant().chemin(Rangement + u'/' + nom); };
     if (!QDir().mkpath(cible({})))
-        throw Error(QCoreApplication::translate("Images", "Le dossier des images ne peut pas être créé."), cible({}));
+        throw Error(
+            QCoreApplication::translate("Images", "Le dossier des images ne peut pas être créé."), cible({}));
     const QString suffixe = source.suffix().isEmpty() ? QString() : u'.' + source.suffix();
     QString nom = source.fileName();
     for (int rang = 2; QFileInfo::exists(cible(nom)); ++rang) {

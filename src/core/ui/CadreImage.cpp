@@ -2,39 +2,11 @@
 
 #include "core/Images.h"
 #include "core/ui/Theme.h"
+#include "core/ui/Vignettes.h"
 
-#include <QCache>
-#include <QCoreApplication>
-#include <QDateTime>
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
-#include <QThreadPool>
-
-namespace {
-
-constexpr int CacheKio = 48 * 1024;
-
-/// Decoded pictures, by file, date, size asked for.
-QCache<QString, QImage> &cache()
-{
-    static QCache<QString, QImage> images(CacheKio);
-    return images;
-}
-
-QString cleDe(const QString &chemin, const QSize &taille)
-{
-    const QFileInfo fichier(chemin);
-    return QStringLiteral("%1|%2|%3|%4x%5")
-        .arg(chemin)
-        .arg(fichier.lastModified().toMSecsSinceEpoch())
-        .arg(fichier.size())
-        .arg(taille.width())
-        .arg(taille.height());
-}
-
-}
 
 CadreImage::CadreImage(QWidget *parent)
     : QWidget(parent)
@@ -59,21 +31,8 @@ void CadreImage::demander()
     const int generation = ++m_generation;
     if (m_chemin.isEmpty() || size().isEmpty())
         return recevoir(generation, {});
-    const QSize taille = size() * devicePixelRatioF();
-    const QString cle = cleDe(m_chemin, taille);
-    if (const QImage *connue = cache().object(cle))
-        return recevoir(generation, *connue);
-    const QPointer<CadreImage> soi(this);
-    QThreadPool::globalInstance()->start([soi, generation, cle, chemin = m_chemin, taille] {
-        const QImage image = Images::Decoder(chemin, taille);
-        // Delivered through the application: the frame may be gone by then.
-        QMetaObject::invokeMethod(qApp, [soi, generation, cle, image] {
-            if (!image.isNull())
-                cache().insert(cle, new QImage(image), static_cast<int>(image.sizeInBytes() / 1024));
-            if (soi)
-                soi->recevoir(generation, image);
-        });
-    });
+    Vignettes::Demander(this, m_chemin, size() * devicePixelRatioF(),
+        [this, generation](const QImage &image) { recevoir(generation, image); });
 }
 
 void CadreImage::recevoir(int generation, const QImage &image)

@@ -1,5 +1,6 @@
 #include "core/ui/Style.h"
 
+#include "core/ui/Icones.h"
 #include "core/ui/Theme.h"
 
 #include <QPainter>
@@ -175,10 +176,27 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     }
 }
 
+QIcon Style::standardIcon(StandardPixmap sorte, const QStyleOption *option, const QWidget *widget) const
+{
+    switch (sorte) {
+    case SP_MessageBoxQuestion:
+        return Icones::Charger(QStringLiteral("aide"));
+    case SP_MessageBoxInformation:
+        return Icones::Charger(QStringLiteral("apropos"));
+    case SP_MessageBoxWarning:
+        return Icones::Charger(QStringLiteral("avertissement"));
+    case SP_MessageBoxCritical:
+        return Icones::Charger(QStringLiteral("avertissement"), QPalette::BrightText);
+    default:
+        return QProxyStyle::standardIcon(sorte, option, widget);
+    }
+}
+
 int Style::styleHint(
     StyleHint hint, const QStyleOption *option, const QWidget *widget, QStyleHintReturn *retour) const
 {
-    if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText)
+    if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText
+        || hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, retour);
 }
