@@ -78,7 +78,7 @@ QString Dossier::Choisir(const QString &demande)
 {
     if (!demande.isEmpty())
         return demande;
-    const QString executable = QCoreApplication::applicationDirPath();
+    QString executable = QCoreApplication::applicationDirPath();
     if (QFileInfo::exists(executable + u'/' + nomExistant(executable, Collection)))
         return executable;
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Bulleo");

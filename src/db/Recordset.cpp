@@ -58,11 +58,18 @@ qint64 Recordset::RecordCount()
 /// One step of the walk: the next row itself, or the next row number into the list.
 void Recordset::avancer()
 {
-    m_connexion->executer([&] {
-        m_epuisee = m_epuisee || !m_marche->executeStep();
-        if (!m_epuisee && !m_table.isEmpty())
-            m_cles.push_back(m_marche->getColumn(0).getInt64());
-    });
+    m_connexion->executer([&] { m_epuisee = m_epuisee || !m_marche->executeStep(); });
+    if (m_table.isEmpty())
+        return;
+    if (m_epuisee) {
+        m_cles.insert(m_cles.end(), m_ajoutees.begin(), m_ajoutees.end());
+        m_ajoutees.clear();
+        return;
+    }
+    const qint64 cle = m_marche->getColumn(0).getInt64();
+    // The walk may or may not meet a row that was added behind it.
+    if (std::find(m_ajoutees.begin(), m_ajoutees.end(), cle) == m_ajoutees.end())
+        m_cles.push_back(cle);
 }
 
 void Recordset::completer()
@@ -92,7 +99,7 @@ void Recordset::MoveFirst()
         return;
     }
     m_position = 0;
-    if (m_cles.empty() && !m_epuisee)
+    while (m_cles.empty() && !m_epuisee)
         avancer();
     m_fin = m_cles.empty();
     if (!m_fin && !charger(m_cles[0]))
@@ -110,7 +117,7 @@ void Recordset::MoveNext()
     // A row that was deleted since the list was made is passed over.
     do {
         ++m_position;
-        if (m_position >= m_cles.size())
+        while (m_position >= m_cles.size() && !m_epuisee)
             avancer();
         m_fin = m_position >= m_cles.size();
     } while (!m_fin && !charger(m_cles[m_position]));
@@ -192,7 +199,6 @@ void Recordset::SetField(int indice, const QVariant &valeur)
 void Recordset::Update()
 {
     Q_ASSERT(m_mode != Mode::Lecture);
-    completer();
     if (m_mode == Mode::Ajout)
         inserer();
     else
@@ -217,7 +223,8 @@ void Recordset::inserer()
         preparer(sql, valeurs)->exec();
         m_derniere = m_connexion->db().getLastInsertRowid();
     });
-    m_cles.push_back(m_derniere);
+    // Adding a row must not cost a walk of all others.
+    (m_epuisee ? m_cles : m_ajoutees).push_back(m_derniere);
 }
 
 void Recordset::modifier()

@@ -72,6 +72,7 @@ private:
     mutable Instruction m_ligne; ///< one row by its number
     mutable QHash<QString, int> m_colonnes;
     std::vector<qint64> m_cles;
+    std::vector<qint64> m_ajoutees; ///< rows added here while the list was not complete; they come last
     std::size_t m_position = 0;
     bool m_fin = false;
     bool m_epuisee = false;
