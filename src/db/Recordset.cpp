@@ -9,6 +9,18 @@
 #include <QStringList>
 #include <SQLiteCpp/Statement.h>
 
+namespace {
+
+/// The row numbers of a query; in the order of their making when the query asks for none.
+QString numerosDe(const Sql::UneTable &requete)
+{
+    const bool ordonnee = requete.suite.contains(QLatin1String("order by"), Qt::CaseInsensitive);
+    return QStringLiteral("SELECT rowid FROM %1%2%3")
+        .arg(requete.table, requete.suite, ordonnee ? QString() : QStringLiteral(" ORDER BY rowid"));
+}
+
+}
+
 Recordset::Recordset(std::shared_ptr<Connexion> connexion, const QString &sql, const QVariantList &valeurs)
     : m_connexion(std::move(connexion))
     , m_sql(Sql::Normaliser(sql))
@@ -17,8 +29,7 @@ Recordset::Recordset(std::shared_ptr<Connexion> connexion, const QString &sql, c
     const auto uneTable = Sql::Decomposer(m_sql);
     if (uneTable)
         m_table = uneTable->table;
-    const QString marche
-        = uneTable ? QStringLiteral("SELECT rowid FROM %1%2").arg(m_table, uneTable->suite) : m_sql;
+    const QString marche = uneTable ? numerosDe(*uneTable) : m_sql;
     m_connexion->executer([&] {
         m_marche = preparer(marche, m_valeurs);
         if (uneTable)
