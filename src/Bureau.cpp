@@ -7,6 +7,8 @@
 #include "core/Splash.h"
 #include "core/Traduction.h"
 #include "core/ui/Messages.h"
+#include "entry/Facile.h"
+#include "entry/Manuelle.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -27,6 +29,8 @@ Bureau::Bureau(const Options &options)
 {
     declarer<Frmmain>(Nom::Frmmain);
     declarer<Splash>(Nom::Splash);
+    declarer<Manuelle>(Nom::Manuelle);
+    declarer<Facile>(Nom::Facile);
 }
 
 Bureau::~Bureau() = default;
@@ -34,9 +38,11 @@ Bureau::~Bureau() = default;
 template <class F>
 void Bureau::declarer(Nom nom)
 {
-    m_fabriques[nom] = [this] {
+    m_fabriques[nom] = [this, nom] {
         auto *forme = new F;
         brancher(forme);
+        if constexpr (std::is_base_of_v<FormeCreation, F>)
+            m_chargements[nom] = [forme] { forme->charger(); };
         return forme;
     };
 }
@@ -52,6 +58,12 @@ void Bureau::brancher(F *forme)
     if constexpr (requires { &F::triDemande; })
         connect(forme, &F::triDemande, this, [this](auto tri) {
             this->forme<Frmmain>(Nom::Frmmain)->montrerTri(General::TriDe(static_cast<int>(tri)));
+        });
+    if constexpr (requires { &F::albumCree; })
+        connect(forme, &F::albumCree, this, [this](int num) {
+            auto *fenetre = this->forme<Frmmain>(Nom::Frmmain);
+            fenetre->montrerTri(General::Tri::Albums);
+            fenetre->montrerEntree({General::Tri::Albums, num});
         });
     if constexpr (requires { &F::langueDemandee; })
         connect(forme, &F::langueDemandee, this, &Bureau::choisirLangue);
@@ -82,8 +94,12 @@ void Bureau::montrer(Nom nom)
     if (!existe(nom))
         return;
     Forme *voulue = ouvrir(nom);
+    // Shown anew, a form starts afresh; brought back from the task bar, it goes on where it was.
+    if (!voulue->isVisible() && m_chargements.contains(nom))
+        QTimer::singleShot(0, voulue, m_chargements[nom]);
     if (nom == Nom::Splash)
         forme<Splash>(nom)->poserTri(Reglages::courant().entier(Cle::Tris));
+    voulue->setWindowState(voulue->windowState() & ~Qt::WindowMinimized);
     voulue->show();
     voulue->raise();
     voulue->activateWindow();

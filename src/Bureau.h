@@ -54,4 +54,5 @@ private:
     Catalogues m_catalogues;
     std::map<Forme::Nom, std::function<Forme *()>> m_fabriques;
     std::map<Forme::Nom, std::unique_ptr<Forme>> m_formes;
+    std::map<Forme::Nom, std::function<void()>> m_chargements; ///< what is to be read when a form is shown
 };

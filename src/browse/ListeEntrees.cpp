@@ -1,11 +1,49 @@
 #include "browse/ListeEntrees.h"
 
+#include "core/Texte.h"
+
 void ListeEntrees::remplir(General::Tri tri, Entrees entrees)
 {
     beginResetModel();
     m_tri = tri;
     m_entrees = std::move(entrees);
+    m_plies = {};
+    chercher();
     endResetModel();
+}
+
+void ListeEntrees::filtrer(const QString &texte)
+{
+    const QString plie = Texte::Plier(texte.trimmed());
+    if (plie == m_filtre)
+        return;
+    beginResetModel();
+    m_filtre = plie;
+    chercher();
+    endResetModel();
+}
+
+void ListeEntrees::plier()
+{
+    if (m_plies.size() == m_entrees.size())
+        return;
+    m_plies = {};
+    for (int i = 0; i < m_entrees.size(); ++i)
+        m_plies.ajouter(m_entrees.id(i), Texte::Plier(m_entrees.texte(i)).toStdString());
+}
+
+void ListeEntrees::chercher()
+{
+    m_filtree = !m_filtre.isEmpty();
+    m_visibles.clear();
+    if (!m_filtree)
+        return;
+    plier();
+    const std::string voulu = m_filtre.toStdString();
+    for (int i = 0; i < m_plies.size(); ++i) {
+        if (m_plies.utf8(i).find(voulu) != std::string_view::npos)
+            m_visibles.push_back(i);
+    }
 }
 
 void ListeEntrees::poserIcones(const QIcon &icone, const QIcon &pretee)
@@ -27,8 +65,12 @@ void ListeEntrees::poserPretes(std::vector<int> numeros)
 
 QModelIndex ListeEntrees::indexDe(int id) const
 {
-    const int rang = m_entrees.rang(id);
-    return rang < 0 ? QModelIndex() : index(rang);
+    const int ligne = m_entrees.rang(id);
+    if (ligne < 0 || !m_filtree)
+        return ligne < 0 ? QModelIndex() : index(ligne);
+    const auto visible = std::lower_bound(m_visibles.begin(), m_visibles.end(), ligne);
+    const bool la = visible != m_visibles.end() && *visible == ligne;
+    return la ? index(static_cast<int>(visible - m_visibles.begin())) : QModelIndex();
 }
 
 bool ListeEntrees::estPretee(int id) const
@@ -38,21 +80,24 @@ bool ListeEntrees::estPretee(int id) const
 
 int ListeEntrees::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_entrees.size();
+    if (parent.isValid())
+        return 0;
+    return m_filtree ? static_cast<int>(m_visibles.size()) : m_entrees.size();
 }
 
 QVariant ListeEntrees::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
+    const int ligne = ligneDe(index.row());
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return m_entrees.texte(index.row());
+        return m_entrees.texte(ligne);
     case Qt::UserRole:
-        return QStringLiteral("N %1").arg(m_entrees.id(index.row()));
+        return m_prefixe + QString::number(m_entrees.id(ligne));
     case Qt::DecorationRole:
-        return estPretee(m_entrees.id(index.row())) ? m_iconePretee : m_icone;
+        return estPretee(m_entrees.id(ligne)) ? m_iconePretee : m_icone;
     default:
         return {};
     }
@@ -72,8 +117,8 @@ Qt::ItemFlags ListeEntrees::flags(const QModelIndex &index) const
 
 bool ListeEntrees::setData(const QModelIndex &index, const QVariant &valeur, int role)
 {
-    if (role != Qt::EditRole || !index.isValid() || valeur.toString() == m_entrees.texte(index.row()))
+    if (role != Qt::EditRole || !index.isValid() || valeur.toString() == index.data().toString())
         return false;
-    Q_EMIT renommageDemande(m_tri, m_entrees.id(index.row()), valeur.toString());
+    Q_EMIT renommageDemande(m_tri, id(index), valeur.toString());
     return true;
 }

@@ -17,13 +17,17 @@ public:
     /// Replaces all lines. `tri` is the kind of the entries.
     void remplir(General::Tri tri, Entrees entrees);
     void vider() { remplir(m_tri, {}); }
+    /// Shows only the lines that hold this text, whatever case and accents; all of them for a blank one.
+    void filtrer(const QString &texte);
+    /// What stands before the number in a key: "N " unless told otherwise.
+    void poserPrefixe(const QString &prefixe) { m_prefixe = prefixe; }
     /// The icon of every line, and the one of albums that are lent.
     void poserIcones(const QIcon &icone, const QIcon &pretee);
     /// Numbers of the lent albums, in rising order.
     void poserPretes(std::vector<int> numeros);
 
     General::Tri tri() const { return m_tri; }
-    int id(const QModelIndex &index) const { return index.isValid() ? m_entrees.id(index.row()) : 0; }
+    int id(const QModelIndex &index) const { return index.isValid() ? m_entrees.id(ligneDe(index.row())) : 0; }
     QModelIndex indexDe(int id) const;
     const Entrees &entrees() const { return m_entrees; }
 
@@ -39,9 +43,17 @@ Q_SIGNALS:
 
 private:
     bool estPretee(int id) const;
+    int ligneDe(int rang) const { return m_filtree ? m_visibles[static_cast<std::size_t>(rang)] : rang; }
+    void plier();
+    void chercher();
 
     General::Tri m_tri = General::Tri::Albums;
     Entrees m_entrees;
+    Entrees m_plies; ///< the texts as a search compares them; made by the first search
+    QString m_filtre;
+    bool m_filtree = false;
+    std::vector<int> m_visibles; ///< lines shown while filtered
+    QString m_prefixe = QStringLiteral("N ");
     std::vector<int> m_pretes;
     QIcon m_icone;
     QIcon m_iconePretee;

@@ -282,10 +282,7 @@ QWidget *Splash::construirePages()
     m_mini = nommer(new QPushButton(zone), QStringLiteral("Mini"));
     m_quit = nommer(new QPushButton(zone), QStringLiteral("Quit"));
     m_quit->setIcon(Icones::Charger(QStringLiteral("fleche"), QPalette::HighlightedText));
-    QPalette rouge;
-    rouge.setColor(QPalette::Button, Theme::Rouge(palette()));
-    rouge.setColor(QPalette::Midlight, Theme::Rouge(palette()).lighter(115));
-    m_quit->setPalette(rouge);
+    Theme::Accentuer(m_quit);
     auto *boutons = new QHBoxLayout;
     boutons->addStretch(1);
     for (QPushButton *bouton : {m_mini, m_quit}) {

@@ -41,6 +41,41 @@ QString Texte::Decoder(const QByteArray &octets)
     return utf8.hasError() ? decoder1252(octets) : texte;
 }
 
+QString Texte::Plier(const QString &texte)
+{
+    QString plie;
+    plie.reserve(texte.size() + 2);
+    const auto ajouter = [&plie](QChar c) {
+        switch (c.unicode()) {
+        case 0x153:
+            plie += QLatin1String("oe");
+            break;
+        case 0xE6:
+            plie += QLatin1String("ae");
+            break;
+        case 0xDF:
+            plie += QLatin1String("ss");
+            break;
+        default:
+            if (c.category() != QChar::Mark_NonSpacing)
+                plie += c;
+        }
+    };
+    for (const QChar c : texte) {
+        if (c.unicode() < 0x80) {
+            plie += c.toLower();
+            continue;
+        }
+        const QString decompose = c.decomposition();
+        // A letter and its accent; what decomposes otherwise (a fraction, a ligature of presentation) stays.
+        if (decompose.isEmpty() || c.decompositionTag() != QChar::Canonical)
+            ajouter(c.toLower());
+        else
+            ajouter(decompose[0].toLower());
+    }
+    return plie;
+}
+
 QString Texte::NomPrenom(const QString &nom, const QString &prenom)
 {
     const QString net = prenom.trimmed();

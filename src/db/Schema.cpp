@@ -199,6 +199,39 @@ QStringList complements()
     return instructions;
 }
 
+/// The reference catalogue has one table. Its texts are coded, so none of them is a name to the collation.
+const Table &tableDuCatalogue()
+{
+    using enum Type;
+    static const Table bd{"BD",
+        {{"Numero", Cle}, {"Titre", Texte}, {"Tome", Entier}, {"Serie", Texte}, {"Dateparu", Texte},
+            {"Genre", Texte}, {"Dessin", Texte}, {"Scena", Texte}, {"Editeur", Texte}, {"Couleur", Booleen},
+            {"Integrale", Booleen}, {"Carton", Texte}}};
+    return bd;
+}
+
+/// Makes a database file of a kind by the statements given, whole or not at all.
+void creerFichier(const QString &chemin, Entete::Nature nature, const QStringList &instructions)
+{
+    const auto echec = [&](const QString &details) {
+        throw Error(QCoreApplication::translate("Base", "La base ne peut pas être créée."), chemin, details);
+    };
+    if (QFileInfo::exists(chemin))
+        echec(QCoreApplication::translate("Base", "Ce fichier existe déjà."));
+    try {
+        SQLite::Database db(chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        Collation::Enregistrer(db.getHandle());
+        db.exec("BEGIN");
+        db.exec("PRAGMA application_id=" + std::to_string(static_cast<unsigned>(nature)));
+        db.exec("PRAGMA user_version=" + std::to_string(Schema::Version()));
+        for (const QString &instruction : instructions)
+            db.exec(instruction.toStdString());
+        db.exec("COMMIT");
+    } catch (const SQLite::Exception &e) {
+        echec(QString::fromUtf8(e.what()));
+    }
+}
+
 const Table *chercher(const QString &nom)
 {
     for (const Table &table : tables()) {
@@ -279,25 +312,17 @@ QStringList Schema::Champs(const QString &table)
 
 void Schema::CreerVierge(const QString &chemin)
 {
-    const auto echec = [&](const QString &details) {
-        throw Error(QCoreApplication::translate("Base", "La base ne peut pas être créée."), chemin, details);
-    };
-    if (QFileInfo::exists(chemin))
-        echec(QCoreApplication::translate("Base", "Ce fichier existe déjà."));
-    try {
-        SQLite::Database db(chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-        Collation::Enregistrer(db.getHandle());
-        QStringList instructions{QStringLiteral("BEGIN"),
-            QStringLiteral("PRAGMA application_id=%1").arg(static_cast<unsigned>(Entete::Nature::Collection)),
-            QStringLiteral("PRAGMA user_version=%1").arg(Version())};
-        for (const Table &table : tables())
-            instructions << creation(table);
-        instructions << complements() << QStringLiteral("COMMIT");
-        for (const QString &instruction : std::as_const(instructions))
-            db.exec(instruction.toStdString());
-    } catch (const SQLite::Exception &e) {
-        echec(QString::fromUtf8(e.what()));
-    }
+    QStringList instructions;
+    for (const Table &table : tables())
+        instructions << creation(table);
+    creerFichier(chemin, Entete::Nature::Collection, instructions + complements());
+}
+
+void Schema::CreerCatalogue(const QString &chemin)
+{
+    creerFichier(chemin, Entete::Nature::Catalogue,
+        {creation(tableDuCatalogue()),
+            QStringLiteral("CREATE INDEX IndexBDSerie ON BD(Serie DESC, Tome, Titre)")});
 }
 
 void Schema::MettreANiveau()

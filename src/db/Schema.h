@@ -17,6 +17,9 @@ QStringList Champs(const QString &table);
 /// Makes a new, empty collection file. Throws Error when the file exists or cannot be made.
 void CreerVierge(const QString &chemin);
 
+/// Makes a new, empty reference catalogue, likewise.
+void CreerCatalogue(const QString &chemin);
+
 /// Brings the collection of the application folder up to date: adds the two fields that old files lack, and
 /// the sort key of each album in its series. All errors are ignored; a file that is up to date is not written.
 void MettreANiveau();

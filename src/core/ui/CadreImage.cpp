@@ -4,9 +4,12 @@
 #include "core/ui/Theme.h"
 #include "core/ui/Vignettes.h"
 
+#include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QUrl>
 
 CadreImage::CadreImage(QWidget *parent)
     : QWidget(parent)
@@ -76,4 +79,17 @@ void CadreImage::mouseReleaseEvent(QMouseEvent *evenement)
 {
     if (evenement->button() == Qt::LeftButton && rect().contains(evenement->position().toPoint()))
         Q_EMIT actionnee();
+}
+
+void CadreImage::dragEnterEvent(QDragEnterEvent *evenement)
+{
+    const QList<QUrl> urls = evenement->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().isLocalFile())
+        evenement->acceptProposedAction();
+}
+
+void CadreImage::dropEvent(QDropEvent *evenement)
+{
+    evenement->acceptProposedAction();
+    Q_EMIT fichierDepose(evenement->mimeData()->urls().first().toLocalFile());
 }

@@ -23,10 +23,14 @@ public:
 
 Q_SIGNALS:
     void actionnee();
+    /// A file was dropped on the frame, when it accepts drops.
+    void fichierDepose(const QString &chemin);
 
 protected:
     void paintEvent(QPaintEvent *) override;
     void resizeEvent(QResizeEvent *evenement) override;
+    void dragEnterEvent(QDragEnterEvent *evenement) override;
+    void dropEvent(QDropEvent *evenement) override;
     void mouseReleaseEvent(QMouseEvent *evenement) override;
 
 private:

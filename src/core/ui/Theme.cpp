@@ -4,6 +4,7 @@
 #include "core/ui/Style.h"
 
 #include <QApplication>
+#include <QPushButton>
 
 namespace {
 
@@ -64,6 +65,15 @@ QColor Theme::CouleurChoisie()
     // Red stands in the lowest byte.
     const auto valeur = static_cast<unsigned>(Reglages::courant().entier(Cle::Forecolor));
     return valeur == 0 ? QColor() : QColor(valeur & 0xFF, valeur >> 8 & 0xFF, valeur >> 16 & 0xFF);
+}
+
+void Theme::Accentuer(QPushButton *bouton)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Button, Rouge(bouton->palette()));
+    palette.setColor(QPalette::Midlight, Rouge(bouton->palette()).lighter(115));
+    palette.setColor(QPalette::ButtonText, bouton->palette().color(QPalette::HighlightedText));
+    bouton->setPalette(palette);
 }
 
 QFont Theme::Taille(const QFont &base, qreal facteur, QFont::Weight graisse)

@@ -5,6 +5,7 @@
 #include <QPalette>
 
 class QApplication;
+class QPushButton;
 
 /// Paper and ink: the colours, sizes and fonts that make all windows look like one program. Colours travel
 /// through the palette; the roles that Qt has no name for stand here.
@@ -61,6 +62,9 @@ QColor Or();
 /// The font and the text colour that the user chose for lists and sheets. An invalid colour is the theme's.
 QFont PoliceChoisie();
 QColor CouleurChoisie();
+
+/// Makes a button the one that a form is about.
+void Accentuer(QPushButton *bouton);
 
 /// The font of `base` at a multiple of its size.
 QFont Taille(const QFont &base, qreal facteur, QFont::Weight graisse = QFont::Normal);

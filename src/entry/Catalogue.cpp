@@ -1,0 +1,85 @@
+#include "entry/Catalogue.h"
+
+#include "core/Dossier.h"
+#include "core/Error.h"
+#include "db/Base.h"
+#include "db/Module2.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+Base ouvrir(const QString &chemin)
+{
+    return Base(chemin, Entete::Nature::Catalogue);
+}
+
+QString chemin()
+{
+    return Dossier::courant().chemin(QStringLiteral("BDbase.bd"));
+}
+
+/// Decodes the text fields of one row, and remembers when one of them could not be.
+struct Lecture
+{
+    const Recordset &rs;
+    bool lisible = true;
+
+    QString operator()(const char *champ)
+    {
+        const auto texte = Module2::Decoder(rs.Fields(QLatin1String(champ)).toString());
+        lisible = lisible && texte.has_value();
+        return texte.value_or(QString()).trimmed();
+    }
+};
+
+}
+
+Catalogue::Liste Catalogue::LireAlbums()
+{
+    const Base base = ouvrir(chemin());
+    Liste liste;
+    // Named columns, so that the walk stays on the index.
+    for (auto rs = base.OpenRecordset(
+             QStringLiteral("SELECT Numero, Titre, Tome From BD order by Serie desc, Tome asc"));
+         !rs.AtEnd(); rs.MoveNext()) {
+        const auto titre = Module2::Decoder(rs.Fields(1).toString());
+        if (!titre) {
+            ++liste.illisibles;
+            continue;
+        }
+        liste.albums.ajouter(static_cast<int>(rs.Int64(0)), titre->trimmed().toStdString());
+        liste.albums.prolonger("  (N° ");
+        liste.albums.prolonger(rs.Utf8(2));
+        liste.albums.prolonger(")");
+    }
+    if (liste.albums.empty() && liste.illisibles > 0)
+        throw Error(Error::Sorte::Abimee,
+            QCoreApplication::translate(
+                "Catalogue", "Les textes du catalogue de référence ne peuvent pas être décodés."),
+            chemin());
+    return liste;
+}
+
+std::optional<Catalogue::Reference> Catalogue::LireReference(int numero)
+{
+    const Base base = ouvrir(chemin());
+    const auto rs = base.OpenRecordset(
+        QStringLiteral("SELECT * From BD  where Numero = ? order by Serie desc"), {numero});
+    if (rs.AtEnd())
+        return std::nullopt;
+    Lecture lire{rs};
+    Reference r;
+    r.titre = lire("Titre");
+    r.tome = rs.Fields(QStringLiteral("Tome")).toInt();
+    r.serie = lire("Serie");
+    r.dateparu = lire("Dateparu");
+    r.genre = lire("Genre");
+    r.dessin = lire("Dessin");
+    r.scena = lire("Scena");
+    r.editeur = lire("Editeur");
+    r.couleur = rs.Fields(QStringLiteral("Couleur")).toBool();
+    r.integrale = rs.Fields(QStringLiteral("Integrale")).toBool();
+    r.carton = lire("Carton");
+    return lire.lisible ? std::optional(r) : std::nullopt;
+}

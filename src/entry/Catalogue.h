@@ -1,0 +1,39 @@
+#pragma once
+
+#include "browse/Entrees.h"
+
+#include <QString>
+#include <optional>
+
+/// The reference catalogue, "BDbase.bd", of known albums.
+namespace Catalogue {
+
+/// The albums by series, last series first: "title  (N° tome)". Rows whose texts cannot be decoded are left
+/// out and counted.
+struct Liste
+{
+    Entrees albums;
+    int illisibles = 0;
+};
+/// Throws Error when the file is missing or is no catalogue, or when none of its rows can be decoded.
+Liste LireAlbums();
+
+/// What the catalogue knows of an album.
+struct Reference
+{
+    QString titre;
+    int tome = 0;
+    QString serie;
+    QString dateparu;
+    QString genre;
+    QString dessin;
+    QString scena;
+    QString editeur;
+    bool couleur = false;
+    bool integrale = false;
+    QString carton; ///< binding, in words
+};
+/// Nothing when there is no such row, or when it cannot be decoded. Throws Error.
+std::optional<Reference> LireReference(int numero);
+
+}

@@ -1,0 +1,109 @@
+#include "entry/Facile.h"
+
+#include "core/Traduction.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+#include "entry/Catalogue.h"
+#include "entry/FormulaireAlbum.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int LargeurCatalogue = 300;
+
+}
+
+Facile::Facile()
+    : FormeCreation(QStringLiteral("Facile"), Txt::CreationFacileDUnAlbum, false)
+{
+    resize(1100, 660);
+    m_modele.poserPrefixe(QStringLiteral("A"));
+    corps()->insertWidget(0, construireCatalogue());
+    m_carton = nommer(new QCheckBox(this), QStringLiteral("Carton"));
+    QHBoxLayout *cases = formulaire()->ligneDesCases();
+    cases->insertWidget(cases->count() - 1, m_carton);
+    Facile::Traduire();
+}
+
+QWidget *Facile::construireCatalogue()
+{
+    auto *zone = new QWidget(this);
+    zone->setFixedWidth(LargeurCatalogue);
+    auto *colonne = new QVBoxLayout(zone);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    m_filtre = nommer(new QLineEdit(zone), QStringLiteral("Filtre"));
+    m_filtre->setClearButtonEnabled(true);
+    m_liste = nommer(new QListView(zone), QStringLiteral("LAlbum"));
+    m_liste->setModel(&m_modele);
+    m_liste->setUniformItemSizes(true);
+    m_liste->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_nombre = nommer(new QLabel(zone), QStringLiteral("Nombre"));
+    m_nombre->setForegroundRole(QPalette::PlaceholderText);
+    m_sel = nommer(new QPushButton(zone), QStringLiteral("Sel"));
+    auto *pied = new QHBoxLayout;
+    pied->addWidget(m_nombre, 1);
+    pied->addWidget(m_sel);
+    colonne->addWidget(m_filtre);
+    colonne->addWidget(m_liste, 1);
+    colonne->addLayout(pied);
+    connect(m_filtre, &QLineEdit::textChanged, this, [this](const QString &texteDuFiltre) {
+        m_modele.filtrer(texteDuFiltre);
+        m_nombre->setText(texte(Txt::AlbumsNombre) + u' ' + QString::number(m_modele.rowCount()));
+    });
+    connect(m_filtre, &QLineEdit::returnPressed, this, [this] { m_liste->setFocus(); });
+    connect(m_liste, &QListView::clicked, this, &Facile::choisir);
+    connect(m_liste, &QListView::activated, this, &Facile::choisir);
+    connect(m_sel, &QPushButton::clicked, this, [this] { choisir(m_liste->currentIndex()); });
+    return zone;
+}
+
+void Facile::charger()
+{
+    FormeCreation::charger();
+    if (m_modele.rowCount() > 0)
+        return;
+    Catalogue::Liste liste = Catalogue::LireAlbums();
+    if (liste.illisibles > 0)
+        dire(tr("%n album(s) du catalogue ne peuvent pas être décodés.", nullptr, liste.illisibles));
+    m_modele.remplir(General::Tri::Albums, std::move(liste.albums));
+    m_nombre->setText(texte(Txt::AlbumsNombre) + u' ' + QString::number(m_modele.rowCount()));
+    m_filtre->setFocus();
+}
+
+void Facile::Traduire()
+{
+    FormeCreation::Traduire();
+    m_filtre->setPlaceholderText(tr("Filtrer le catalogue"));
+    m_filtre->setAccessibleName(tr("Filtrer le catalogue"));
+    m_liste->setAccessibleName(texte(Txt::ListeDesAlbums));
+    libeller(m_sel, tr("Choisir"));
+    libeller(m_carton, texte(Txt::Cartonnee));
+}
+
+void Facile::choisir(const QModelIndex &index)
+{
+    if (!index.isValid())
+        return;
+    const auto reference = Catalogue::LireReference(m_modele.id(index));
+    if (!reference)
+        return;
+    Creation::Album album;
+    album.titre = reference->titre;
+    album.serie = reference->serie;
+    album.dateparu = reference->dateparu;
+    album.genre = reference->genre;
+    album.dessin = reference->dessin;
+    album.scena = reference->scena;
+    album.editeur = reference->editeur;
+    album.couleur = reference->couleur;
+    album.integrale = reference->integrale;
+    album.broche = reference->carton == QStringLiteral("broché");
+    formulaire()->poser(album, QStringLiteral("%1").arg(reference->tome, 3, 10, QLatin1Char('0')));
+    m_carton->setChecked(reference->carton == QStringLiteral("cartonné"));
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "entry/FormeCreation.h"
+
+/// Creation by hand: empty fields, with the names of the collection to choose from.
+class Manuelle : public FormeCreation
+{
+    Q_OBJECT
+
+public:
+    Manuelle();
+};

@@ -1,0 +1,159 @@
+// Makes a reference catalogue from a CSV file: bulleo-catalogue [--strict] SOURCE.csv BDbase.bd. An existing file is
+// replaced once the new one is whole. A bad row is reported with its line and left out; with --strict it stops all.
+
+#include "core/Collection.h"
+#include "core/Csv.h"
+#include "core/Error.h"
+#include "db/Base.h"
+#include "db/Module2.h"
+#include "db/Schema.h"
+#include "db/Transaction.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFile>
+#include <QSet>
+#include <QTextStream>
+
+namespace {
+
+constexpr int TomeMax = 999;
+constexpr const char *Colonnes[] = {"Numero", "Titre", "Tome", "Serie", "Dateparu", "Genre", "Dessin",
+    "Scena", "Editeur", "Couleur", "Integrale", "Carton"};
+
+/// Adds the rows of the source to an open catalogue, and counts.
+class Import
+{
+public:
+    Import(const Base &base, bool strict)
+        : m_rs(base.OpenRecordset(QStringLiteral("SELECT * From BD")))
+        , m_strict(strict)
+    {
+    }
+
+    void prendre(const Csv::Rangee &r)
+    {
+        const QString faute = chercherFaute(r);
+        if (!faute.isEmpty()) {
+            ++m_refusees;
+            QTextStream(stderr) << QStringLiteral("ligne %1 : %2\n").arg(r.ligne).arg(faute);
+            if (m_strict)
+                throw Error(QStringLiteral("Rien n'a été écrit."), {});
+            return;
+        }
+        m_numeros.insert(r[QStringLiteral("Numero")].toInt());
+        ajouter(r);
+    }
+
+    qsizetype prises() const { return m_numeros.size(); }
+    int refusees() const { return m_refusees; }
+
+private:
+    /// An album of its own has no tome, or tome 0.
+    static int tomeDe(const Csv::Rangee &r, bool &nombre)
+    {
+        const QString tome = r[QStringLiteral("Tome")].trimmed();
+        nombre = tome.isEmpty();
+        return nombre ? 0 : tome.toInt(&nombre);
+    }
+
+    QString chercherFaute(const Csv::Rangee &r) const
+    {
+        for (const char *colonne : Colonnes) {
+            if (!r.entete->contains(QLatin1String(colonne)))
+                throw Error(QStringLiteral("Il manque la colonne %1.").arg(QLatin1String(colonne)), {});
+        }
+        if (r.cellules.size() != r.entete->size())
+            return QStringLiteral("%1 cellules au lieu de %2").arg(r.cellules.size()).arg(r.entete->size());
+        bool nombre = false;
+        const int numero = r[QStringLiteral("Numero")].toInt(&nombre);
+        if (!nombre || numero <= 0)
+            return QStringLiteral("numéro « %1 »").arg(r[QStringLiteral("Numero")]);
+        if (m_numeros.contains(numero))
+            return QStringLiteral("le numéro %1 est déjà pris").arg(numero);
+        const int tome = tomeDe(r, nombre);
+        if (!nombre || tome < 0 || tome > TomeMax)
+            return QStringLiteral("tome « %1 »").arg(r[QStringLiteral("Tome")]);
+        if (r[QStringLiteral("Titre")].trimmed().isEmpty())
+            return QStringLiteral("sans titre");
+        for (const char *drapeau : {"Couleur", "Integrale"}) {
+            const QString valeur = r[QLatin1String(drapeau)];
+            if (valeur != QLatin1String("0") && valeur != QLatin1String("1"))
+                return QStringLiteral("%1 « %2 »").arg(QLatin1String(drapeau), valeur);
+        }
+        for (const QString &cellule : r.cellules) {
+            if (!Module2::Coder(cellule))
+                return QStringLiteral("un caractère ne peut pas être codé dans « %1 »")
+                    .arg(cellule.simplified());
+        }
+        return {};
+    }
+
+    void ajouter(const Csv::Rangee &r)
+    {
+        m_rs.AddNew();
+        m_rs.SetField(QStringLiteral("Numero"), r[QStringLiteral("Numero")].toInt());
+        bool nombre = false;
+        m_rs.SetField(QStringLiteral("Tome"), tomeDe(r, nombre));
+        for (const char *drapeau : {"Couleur", "Integrale"})
+            m_rs.SetField(QLatin1String(drapeau), r[QLatin1String(drapeau)] == QLatin1String("1"));
+        for (const char *texte :
+            {"Titre", "Serie", "Dateparu", "Genre", "Dessin", "Scena", "Editeur", "Carton"})
+            m_rs.SetField(QLatin1String(texte), *Module2::Coder(r[QLatin1String(texte)].trimmed()));
+        m_rs.Update();
+    }
+
+    Recordset m_rs;
+    bool m_strict;
+    QSet<int> m_numeros;
+    int m_refusees = 0;
+};
+
+void convertir(const QString &source, const QString &cible, bool strict)
+{
+    const QString brouillon = cible + QStringLiteral(".neuf");
+    QFile::remove(brouillon);
+    Schema::CreerCatalogue(brouillon);
+    try {
+        const Base base(brouillon, Entete::Nature::Catalogue);
+        Transaction transaction(base);
+        Import import(base, strict);
+        Csv::Lire(source, [&](const Csv::Rangee &r) { import.prendre(r); });
+        transaction.Commit();
+        QTextStream(stdout)
+            << QStringLiteral("%1 albums, %2 lignes refusées\n").arg(import.prises()).arg(import.refusees());
+    } catch (const Error &) {
+        QFile::remove(brouillon);
+        throw;
+    }
+    QFile::remove(cible);
+    if (!QFile::rename(brouillon, cible))
+        throw Error(QStringLiteral("Le catalogue ne peut pas être écrit."), cible);
+}
+
+}
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const Collection collection;
+    QCommandLineParser lecteur;
+    const QCommandLineOption strict(
+        QStringLiteral("strict"), QStringLiteral("S'arrête à la première ligne fautive."));
+    lecteur.setApplicationDescription(QStringLiteral("Fait un catalogue de référence d'un fichier CSV."));
+    lecteur.addOption(strict);
+    lecteur.addHelpOption();
+    lecteur.addPositionalArgument(QStringLiteral("source"), QStringLiteral("Fichier CSV (UTF-8)."));
+    lecteur.addPositionalArgument(QStringLiteral("cible"), QStringLiteral("Catalogue à écrire, BDbase.bd."));
+    lecteur.process(application);
+    const QStringList fichiers = lecteur.positionalArguments();
+    if (fichiers.size() != 2)
+        lecteur.showHelp(2);
+    try {
+        convertir(fichiers[0], fichiers[1], lecteur.isSet(strict));
+    } catch (const Error &e) {
+        QTextStream(stderr) << e.message() << '\n';
+        return 1;
+    }
+    return 0;
+}
