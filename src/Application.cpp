@@ -19,6 +19,10 @@ bool Application::notify(QObject *objet, QEvent *evenement)
         // Told from the event loop, not from inside the handler that failed.
         QTimer::singleShot(0, this, [this, erreur] { dire(erreur); });
         return true;
+    } catch (const std::exception &e) {
+        const Error erreur(tr("Une erreur imprévue s'est produite."), {}, QString::fromUtf8(e.what()));
+        QTimer::singleShot(0, this, [this, erreur] { dire(erreur); });
+        return true;
     }
 }
 

@@ -67,6 +67,12 @@ void Bureau::brancher(F *forme)
         });
     if constexpr (requires { &F::langueDemandee; })
         connect(forme, &F::langueDemandee, this, &Bureau::choisirLangue);
+    if constexpr (requires { &F::retourDemande; })
+        connect(forme, &F::retourDemande, this, [this] {
+            montrer(Nom::Frmmain);
+            this->forme<Frmmain>(Nom::Frmmain)
+                ->montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris)));
+        });
     if constexpr (requires { &F::copieDemandee; })
         connect(forme, &F::copieDemandee, this, &Bureau::sauvegarderCopie);
     if constexpr (requires { &F::actualiser; })
@@ -78,6 +84,10 @@ void Bureau::brancher(F *forme)
 void Bureau::brancherParticuliers()
 {
     auto *fenetre = forme<Frmmain>(Nom::Frmmain);
+    connect(fenetre, &Frmmain::triChange, this, [this](int tri) {
+        if (m_formes.contains(Nom::Splash))
+            forme<Splash>(Nom::Splash)->poserTri(tri);
+    });
     connect(fenetre, &Frmmain::sortie, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
@@ -200,12 +210,20 @@ void Bureau::capturer()
         QTextStream(stderr) << m_options.forme << QStringLiteral(" ?\n");
         return QCoreApplication::exit(2);
     }
-    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
-    if (m_options.entree)
-        fenetre->montrerEntree({General::TriDe(Reglages::courant().entier(Cle::Tris)), *m_options.entree});
     if (nom != Nom::Frmmain)
         montrer(nom);
+    // Whatever happens to the entry, the picture ends the program.
     QTimer::singleShot(AttenteCaptureMs, this, [this, nom] { enregistrerCapture(ouvrir(nom)); });
+    if (m_options.entree)
+        capturerEntree(*forme<Frmmain>(Nom::Frmmain), *m_options.entree);
+}
+
+void Bureau::capturerEntree(Frmmain &fenetre, int id)
+{
+    const General::Entree entree{General::TriDe(Reglages::courant().entier(Cle::Tris)), id};
+    fenetre.montrerEntree(entree);
+    if (fenetre.courante() != entree)
+        throw Error(tr("Cette fiche n'existe pas."), QStringLiteral("N %1").arg(id));
 }
 
 void Bureau::enregistrerCapture(QWidget *fenetre)

@@ -48,6 +48,7 @@ private:
     void premierDemarrage();
     void sauvegarderCopie();
     void capturer();
+    void capturerEntree(Frmmain &fenetre, int id);
     void enregistrerCapture(QWidget *fenetre);
 
     Options m_options;

@@ -45,7 +45,14 @@ std::optional<Options> Options::Lire(int argc, char **argv, int &code)
     options.dossier = lecteur.value(dossier);
     options.capture = lecteur.value(capture);
     options.forme = lecteur.value(forme);
-    if (lecteur.isSet(entree))
-        options.entree = lecteur.value(entree).remove(QStringLiteral("N ")).trimmed().toInt();
+    if (lecteur.isSet(entree)) {
+        bool sur = false;
+        options.entree = lecteur.value(entree).remove(QStringLiteral("N ")).trimmed().toInt(&sur);
+        if (!sur) {
+            QTextStream(stderr) << QStringLiteral("--entree %1 ?\n").arg(lecteur.value(entree));
+            code = 2;
+            return std::nullopt;
+        }
+    }
     return options;
 }

@@ -9,21 +9,46 @@
 #include "core/ui/Messages.h"
 #include "core/ui/Theme.h"
 
+#include <QTextStream>
+
 namespace {
 
-/// Prepares the application folder and takes hold of it; false when another copy of the program has it.
+/// Takes hold of the application folder and prepares it; false when another copy of the program has it.
 bool prendreLeDossier(Dossier &dossier)
 {
+    try {
+        Traduction::courant().chargerCourante();
+    } catch (const Error &) {
+        // Told of once the window is there.
+    }
+    if (!dossier.verrouiller()) {
+        Messages::Arreter(nullptr,
+            titre() + u' ' + texte(Txt::EstEnCoursDUtilisation) + u'\n'
+                + texte(Txt::VeuillezFermerLaVersion));
+        return false;
+    }
     try {
         dossier.preparer();
     } catch (const Error &e) {
         Messages::Arreter(nullptr, texte(Txt::UneErreurEstSurvenue) + u'\n' + e.message());
     }
-    if (dossier.verrouiller())
-        return true;
-    Messages::Arreter(nullptr,
-        titre() + u' ' + texte(Txt::EstEnCoursDUtilisation) + u'\n' + texte(Txt::VeuillezFermerLaVersion));
-    return false;
+    return true;
+}
+
+/// Runs the program for a picture: nobody is there to answer, so what boxes say goes to the error output and
+/// makes the picture worthless.
+int capturer(const Options &options, Dossier &dossier)
+{
+    const Messages::Doublure personne;
+    int code = 1;
+    if (prendreLeDossier(dossier)) {
+        Bureau bureau(options);
+        bureau.demarrer();
+        code = QApplication::exec();
+    }
+    for (const QString &dit : personne.textes)
+        QTextStream(stderr) << dit << '\n';
+    return personne.textes.isEmpty() ? code : 1;
 }
 
 }
@@ -42,9 +67,11 @@ int main(int argc, char *argv[])
     Traduction traduction;
     Collection collection;
     Theme::Appliquer(application);
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (!options->capture.isEmpty())
+        return capturer(*options, dossier);
     if (!prendreLeDossier(dossier))
         return 1;
-    QApplication::setQuitOnLastWindowClosed(false);
     Bureau bureau(*options);
     bureau.demarrer();
     return QApplication::exec();

@@ -93,7 +93,7 @@ void BandeSerie::resizeEvent(QResizeEvent *evenement)
 void BandeSerie::mouseReleaseEvent(QMouseEvent *evenement)
 {
     const int rang = rangSous(evenement->position().toPoint());
-    if (rang >= 0 && m_bande[static_cast<std::size_t>(rang)].num > 0)
+    if (evenement->button() == Qt::LeftButton && rang >= 0 && m_bande[static_cast<std::size_t>(rang)].num > 0)
         Q_EMIT albumDemande(m_bande[static_cast<std::size_t>(rang)].num);
 }
 

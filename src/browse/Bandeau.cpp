@@ -24,17 +24,19 @@ struct Commande
     std::optional<Forme::Nom> forme;
     bool titre; ///< the caption is followed by the program's title
     Txt libelle;
+    Txt mot; ///< under the icon, where the table of texts has a short word
 };
 
 constexpr std::array<Commande, 7> Commandes{
-    Commande{"lanceur", Forme::Nom::Splash, true, Txt::AccederAuMenuPrincipal},
-    Commande{"creation", Forme::Nom::Manuelle, false, Txt::Creation},
-    Commande{"recherche", Forme::Nom::Recherche, false, Txt::AccederAuPanneauDeRecherche},
-    Commande{"impression", Forme::Nom::Impression, false, Txt::AccederAuMenuDImpression},
-    Commande{"aide", std::nullopt, true, Txt::AccederALAide},
-    Commande{"web", std::nullopt, false, Txt::SiteWeb},
-    Commande{"apropos", std::nullopt, true, Txt::AProposDe},
+    Commande{"lanceur", Forme::Nom::Splash, true, Txt::AccederAuMenuPrincipal, Txt::Tris},
+    Commande{"creation", Forme::Nom::Manuelle, false, Txt::Creation, Txt::Creation},
+    Commande{"recherche", Forme::Nom::Recherche, false, Txt::AccederAuPanneauDeRecherche, Txt::Recherche},
+    Commande{"impression", Forme::Nom::Impression, false, Txt::AccederAuMenuDImpression, Txt::Impression},
+    Commande{"aide", std::nullopt, true, Txt::AccederALAide, Txt::AccederALAide},
+    Commande{"web", std::nullopt, false, Txt::SiteWeb, Txt::SiteWeb},
+    Commande{"apropos", std::nullopt, true, Txt::AProposDe, Txt::APropos},
 };
+constexpr int Lanceur = 0;
 constexpr int Aide = 4;
 constexpr int Web = 5;
 constexpr int APropos = 6;
@@ -50,24 +52,13 @@ QString libelleDe(int rang)
 
 QString motDe(int rang)
 {
-    switch (rang) {
-    case 0:
+    if (rang == Lanceur)
         return Bandeau::tr("Menu");
-    case 1:
-        return texte(Txt::Creation);
-    case 2:
-        return texte(Txt::Recherche);
-    case 3:
-        return texte(Txt::Impression);
-    case Aide:
+    if (rang == Aide)
         return Bandeau::tr("Aide");
-    case Web:
-        return texte(Txt::SiteWeb);
-    case APropos:
-        return texte(Txt::APropos);
-    default:
+    if (rang == Quitter)
         return Bandeau::tr("Quitter");
-    }
+    return texte(Commandes[static_cast<std::size_t>(rang)].mot);
 }
 
 }

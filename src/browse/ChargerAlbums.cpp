@@ -23,6 +23,17 @@ QString lireMetier(const Base &base, int numero)
     return rs.AtEnd() ? QString() : rs.Fields(1).toString().trimmed();
 }
 
+/// An album without a summary of its own shows the copy that its list row keeps.
+void completerResume(const Base &base, int num, ValeurDeChamp &resume)
+{
+    if (!Texte::EstVide(resume.stockee.toString()))
+        return;
+    const auto rs
+        = base.OpenRecordset(QStringLiteral("SELECT Histoire From LAlbums where NAlbum = ?"), {num});
+    if (!rs.AtEnd() && !Texte::EstVide(rs.Fields(0).toString()))
+        resume.affichee = rs.Fields(0).toString();
+}
+
 }
 
 std::optional<ChargerAlbums::FicheAlbum> ChargerAlbums::AfficherAlbum(int num)
@@ -34,6 +45,7 @@ std::optional<ChargerAlbums::FicheAlbum> ChargerAlbums::AfficherAlbum(int num)
     FicheAlbum fiche;
     fiche.num = num;
     fiche.valeurs = std::move(*valeurs);
+    completerResume(base, num, fiche.valeurs[QStringLiteral("Hist")]);
     fiche.cotes = AfficherCotes(num);
     fiche.intervenants = AfficherIntervenants(num);
     fiche.infos = PreparerInfosAlbum::Preparer(num, fiche.valeurs[QStringLiteral("Serie")].stockee.toInt());

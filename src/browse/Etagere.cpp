@@ -1,6 +1,5 @@
 #include "browse/Etagere.h"
 
-#include "core/Images.h"
 #include "core/ui/Theme.h"
 #include "core/ui/Vignettes.h"
 
@@ -36,6 +35,10 @@ public:
         const bool choisi = option.state.testFlag(QStyle::State_Selected);
         if (choisi || option.state.testFlag(QStyle::State_MouseOver))
             p->fillRect(option.rect, Theme::Survol(option.palette));
+        if (option.state.testFlag(QStyle::State_HasFocus)) {
+            p->setPen(Theme::Bleu(option.palette));
+            p->drawRect(option.rect.adjusted(0, 0, -1, -1));
+        }
         const QRect cadre(option.rect.topLeft() + QPoint(Marge, Marge), TailleImage);
         const int num = m_etagere.m_modele.id(index);
         const auto volume = m_etagere.m_volumes.find(num);
@@ -57,7 +60,7 @@ private:
     void peindreImage(
         QPainter *p, const QRect &cadre, const QPalette &palette, const General::Volume &volume) const
     {
-        const QString chemin = Images::Trouver(volume.photo);
+        const QString &chemin = volume.image;
         const QSize taille = TailleImage * m_etagere.devicePixelRatioF();
         const QImage *image = chemin.isEmpty() ? nullptr : Vignettes::Connue(chemin, taille);
         if (!chemin.isEmpty() && !image)
@@ -138,7 +141,12 @@ void Etagere::montrer(const Entrees &albums)
 
 void Etagere::lireManquants()
 {
-    for (const int num : std::exchange(m_manquants, {}))
-        m_volumes.emplace(num, General::LireVolume(num));
+    const std::vector<int> manquants = std::exchange(m_manquants, {});
+    // Known as empty before the reading, so that a failing one is not asked for at every paint.
+    for (const int num : manquants)
+        m_volumes.emplace(num, General::Volume());
+    const std::vector<General::Volume> volumes = General::LireVolumes(manquants);
+    for (std::size_t i = 0; i < manquants.size(); ++i)
+        m_volumes[manquants[i]] = volumes[i];
     viewport()->update();
 }

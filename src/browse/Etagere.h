@@ -3,8 +3,8 @@
 #include "browse/ListeEntrees.h"
 
 #include <QListView>
-#include <deque>
 #include <unordered_map>
+#include <vector>
 
 /// Albums as a shelf: their covers in order, with tome and title. What a cover needs is read when it comes
 /// into view, so that a publisher's twenty thousand albums cost no more than those on screen.
@@ -28,5 +28,5 @@ private:
 
     ListeEntrees m_modele;
     std::unordered_map<int, General::Volume> m_volumes;
-    std::deque<int> m_manquants;
+    std::vector<int> m_manquants;
 };

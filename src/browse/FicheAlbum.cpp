@@ -23,6 +23,8 @@ constexpr qreal ProportionImage = 4.0 / 3.0;
 constexpr int HauteurMemo = 84;
 constexpr int HauteurDedicace = 110;
 constexpr int DefilementMs = 3000;
+constexpr int LargeurVoisin = 220;
+constexpr qreal TailleDuTitre = 1.55;
 
 QToolButton *bouton(QWidget *parent, const QString &nom, const QString &icone)
 {
@@ -30,6 +32,13 @@ QToolButton *bouton(QWidget *parent, const QString &nom, const QString &icone)
     b->setIcon(Icones::Charger(icone));
     b->setAutoRaise(true);
     return b;
+}
+
+void montrerVoisin(QToolButton &lien, const QString &titre)
+{
+    const QString coupe = lien.fontMetrics().elidedText(titre, Qt::ElideRight, LargeurVoisin);
+    lien.setText(QString(coupe).replace(u'&', QStringLiteral("&&")));
+    expliquer(&lien, titre.toHtmlEscaped());
 }
 
 QToolButton *lienVoisin(QWidget *parent, const QString &nom, Qt::ToolButtonStyle style)
@@ -77,6 +86,7 @@ QWidget *FicheAlbum::construireEnTete()
     lignes->setContentsMargins(0, 0, 0, 0);
     lignes->setSpacing(2);
     lignes->addWidget(creer("TAlbum"));
+    agrandirPolice("TAlbum", TailleDuTitre);
 
     m_precedent = lienVoisin(zone, QStringLiteral("AlbumPrecedent"), Qt::ToolButtonTextBesideIcon);
     m_precedent->setIcon(Icones::Charger(QStringLiteral("precedent")));
@@ -296,7 +306,6 @@ void FicheAlbum::montrer(const ChargerAlbums::FicheAlbum &fiche)
 {
     m_fiche = fiche;
     montrerValeurs(fiche.valeurs);
-    controle<Legende>("TAlbum")->setFont(Theme::Taille(Theme::PoliceChoisie(), 1.55, QFont::Bold));
     std::vector<std::pair<QString, QString>> lignes;
     for (const auto &i : fiche.intervenants)
         lignes.emplace_back(i.nom, i.activite);
@@ -317,7 +326,7 @@ void FicheAlbum::remplirGrille(Grille &grille, const std::vector<std::pair<QStri
         const int rang = static_cast<int>(grille.cellules[0].size());
         for (int colonne = 0; colonne < 2; ++colonne) {
             auto *cellule = nommer(new Legende(this), grille.noms[colonne], rang);
-            cellule->setFont(Theme::PoliceChoisie());
+            inscrire(cellule);
             grille.place->addWidget(cellule, rang, colonne);
             grille.cellules[colonne].push_back(cellule);
         }
@@ -351,7 +360,7 @@ void FicheAlbum::montrerInfos(const InfosAlbum &infos)
         {std::pair(m_precedent, infos.precedent), std::pair(m_suivant, infos.suivant)}) {
         lien->setVisible(voisin.has_value());
         if (voisin)
-            libeller(lien, lien->fontMetrics().elidedText(voisin->titre, Qt::ElideRight, 220));
+            montrerVoisin(*lien, voisin->titre);
     }
 }
 
@@ -389,7 +398,11 @@ void FicheAlbum::agrandir(int pas)
     const int derniere = static_cast<int>(std::size(LargeursImage)) - 1;
     m_taille = std::clamp(m_taille + pas, 0, derniere);
     const int largeur = LargeursImage[m_taille];
-    m_zoneImage->setFixedSize(largeur, static_cast<int>(largeur * ProportionImage));
+    const QSize taille(largeur, static_cast<int>(largeur * ProportionImage));
+    m_zoneImage->setFixedSize(taille);
+    // The hidden face gets its size, too: its picture is decoded for it.
+    for (const char *face : {"Photo1", "Photo2"})
+        controle<CadreImage>(face)->resize(taille);
     m_agrandir->setEnabled(m_taille < derniere);
     m_retrecir->setEnabled(m_taille > 0);
 }

@@ -55,6 +55,17 @@ void montrerNote(const Champ &champ, Etoiles &etoiles, const QString &affichee)
     etoiles.setToolTip(etoiles.valeur() > 0 ? mot : QString());
 }
 
+void habiller(QWidget *valeur, const QFont &police)
+{
+    QPalette palette;
+    if (Theme::CouleurChoisie().isValid()) {
+        for (const auto role : {QPalette::Text, QPalette::WindowText})
+            palette.setColor(role, Theme::CouleurChoisie());
+    }
+    valeur->setFont(police);
+    valeur->setPalette(palette);
+}
+
 }
 
 FicheForme::FicheForme(Feuille feuille, const QString &nom, QWidget *parent)
@@ -120,19 +131,22 @@ void FicheForme::changeEvent(QEvent *evenement)
 
 void FicheForme::AppliquerPolicesFiche()
 {
-    const QFont police = Theme::PoliceChoisie();
-    const QColor couleur = Theme::CouleurChoisie();
     for (const auto &[nom, controle] : m_controles) {
         if (qobject_cast<CadreImage *>(controle))
             continue;
-        controle->setFont(police);
-        QPalette palette;
-        if (couleur.isValid()) {
-            for (const auto role : {QPalette::Text, QPalette::WindowText})
-                palette.setColor(role, couleur);
-        }
-        controle->setPalette(palette);
+        const auto facteur = m_facteurs.find(nom);
+        const QFont police = Theme::PoliceChoisie();
+        habiller(controle,
+            facteur == m_facteurs.end() ? police : Theme::Taille(police, facteur->second, QFont::Bold));
     }
+    for (QWidget *valeur : m_inscrites)
+        habiller(valeur, Theme::PoliceChoisie());
+}
+
+void FicheForme::inscrire(QWidget *valeur)
+{
+    m_inscrites.push_back(valeur);
+    habiller(valeur, Theme::PoliceChoisie());
 }
 
 void FicheForme::montrerValeurs(const Valeurs &valeurs)
@@ -163,4 +177,6 @@ void FicheForme::montrer(const Champ &champ, QWidget *controle, const ValeurDeCh
         qobject_cast<Legende *>(controle)->montrer(valeur.affichee);
         break;
     }
+    // The name of a control says what it is; only the description can say what it holds.
+    controle->setAccessibleDescription(valeur.affichee);
 }

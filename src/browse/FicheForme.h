@@ -31,6 +31,10 @@ protected:
 
     /// Makes the control of a field. Its caption, if it has one, is made by `ajouterLigne`.
     QWidget *creer(const char *champ);
+    /// The font of a field's value is that many times the user's, and bold.
+    void agrandirPolice(const char *champ, qreal facteur) { m_facteurs[champ] = facteur; }
+    /// A value that is no field of the table takes part in the user's font and colour.
+    void inscrire(QWidget *valeur);
     /// Caption and control of a field as the next row of a grid of two columns.
     void ajouterLigne(QGridLayout *grille, const char *champ);
     /// Gives the captions of several grids one width, so that their values stand in one line.
@@ -49,4 +53,6 @@ private:
     Champs::Feuille m_feuille;
     std::map<std::string, QWidget *> m_controles;
     std::map<std::string, QLabel *> m_libelles;
+    std::map<std::string, qreal> m_facteurs;
+    std::vector<QWidget *> m_inscrites;
 };

@@ -4,13 +4,13 @@
 #include "browse/ChargerAlbums.h"
 #include "browse/FicheAlbum.h"
 #include "browse/FicheEntree.h"
-#include "browse/Fond.h"
 #include "browse/VoletListes.h"
 #include "browse/VueListe.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Liens.h"
 #include "core/ui/Messages.h"
@@ -54,7 +54,7 @@ Frmmain::Frmmain()
 {
     setWindowIcon(Icones::Programme());
     resize(TailleDessinee);
-    setMinimumSize(TailleMinimale);
+    setMinimumSize(TailleMinimale.boundedTo(screen()->availableSize()));
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->setSpacing(0);
@@ -73,7 +73,7 @@ void Frmmain::construireCorps(QBoxLayout *page)
     m_partage->setChildrenCollapsible(false);
     m_volet = new VoletListes(m_partage);
     m_volet->setMinimumWidth(LargeurVolet - 18);
-    m_fond = new Fond(m_partage);
+    m_fond = nommer(new Fond(m_partage), QStringLiteral("Fond"));
     auto *surFond = new QVBoxLayout(m_fond);
     surFond->setContentsMargins(Theme::Petit, Theme::Moyen, Theme::Moyen, Theme::Moyen);
 
@@ -120,6 +120,7 @@ void Frmmain::construirePied(QBoxLayout *page)
     ligne->addWidget(m_anim);
     ligne->addWidget(m_totaux);
     page->addWidget(pied);
+    m_timer.setParent(this);
     m_timer.setObjectName(QStringLiteral("Timer1"));
     m_timer.setInterval(1000);
 }
@@ -177,6 +178,8 @@ void Frmmain::charger()
     QTimer::singleShot(0, this, [this] {
         m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris)));
         m_ouverte = true;
+        if (m_peinte)
+            montrerPremiere();
     });
 }
 
@@ -194,7 +197,7 @@ void Frmmain::restaurerTaille()
     const int hauteur = static_cast<int>(reglages.nombre(Cle::Height));
     const int largeur = static_cast<int>(reglages.nombre(Cle::Width));
     QSize taille(largeur > 0 ? largeur : width(), hauteur > 0 ? hauteur : height());
-    taille = taille.expandedTo(TailleMinimale).boundedTo(screen()->availableSize());
+    taille = taille.expandedTo(minimumSize()).boundedTo(screen()->availableSize());
     resize(taille);
     const QStringList volets = reglages.texte(Cle::Volets).split(u'|');
     if (volets.size() == 2) {
@@ -218,8 +221,13 @@ void Frmmain::montrerTri(Tri tri)
     m_volet->montrer(tri);
     m_ouverte = true;
     Reglages::courant().ecrire(Cle::Tris, static_cast<int>(tri));
+    Q_EMIT triChange(static_cast<int>(tri));
     m_courante = {};
-    montrerPremiere();
+    // The list that was there already keeps its entry.
+    if (const int courante = m_volet->liste()->choisie())
+        choisir({tri, courante});
+    else
+        montrerPremiere();
 }
 
 void Frmmain::montrerPremiere()
@@ -271,7 +279,7 @@ void Frmmain::montrerFiche(Entree entree)
     if (entree.tri == Tri::Albums) {
         const auto fiche = ChargerAlbums::AfficherAlbum(entree.id);
         if (!fiche)
-            return;
+            return oublier();
         if (!m_ficheAlbum) {
             m_ficheAlbum = new FicheAlbum(m_fiches);
             m_fiches->addWidget(m_ficheAlbum);
@@ -289,8 +297,18 @@ void Frmmain::montrerFiche(Entree entree)
         connect(
             m_ficheEntree, &FicheEntree::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
     }
-    m_ficheEntree->montrer(entree, LireTexte(entree.tri, entree.id), m_volet->albums()->modele().entrees());
+    const QString nom = LireTexte(entree.tri, entree.id);
+    if (nom.isEmpty())
+        return oublier();
+    m_ficheEntree->montrer(entree, nom, LireAlbums(entree.tri, entree.id));
     m_fiches->setCurrentWidget(m_ficheEntree);
+}
+
+/// The entry shown is gone.
+void Frmmain::oublier()
+{
+    m_courante = {};
+    m_fiches->setCurrentIndex(0);
 }
 
 void Frmmain::renommer(Tri tri, int id, const QString &libelle)
@@ -383,7 +401,7 @@ void Frmmain::keyPressEvent(QKeyEvent *evenement)
 void Frmmain::closeEvent(QCloseEvent *evenement)
 {
     const QString question = texte(Txt::VoulezVousQuitter) + u' ' + titre() + QStringLiteral(" ?");
-    if (m_question && !Messages::Demander(this, question)) {
+    if (!Messages::Demander(this, question)) {
         evenement->ignore();
         return;
     }

@@ -31,6 +31,8 @@ public:
     void montrerTri(General::Tri tri);
     /// Shows an entry's sheet, with its list when it is another one. Throws Error.
     void montrerEntree(General::Entree entree);
+    /// The entry whose sheet is shown; its identifier is 0 when there is none.
+    General::Entree courante() const { return m_courante; }
     /// Shows the list's first entry, when nothing is shown yet. Throws Error.
     void montrerPremiere();
 
@@ -38,12 +40,12 @@ public:
     void appliquerApparence();
     void dire(const QString &message);
     void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
-    /// Lets the window close without the question.
-    void sortirSansQuestion() { m_question = false; }
 
 Q_SIGNALS:
     void formeDemandee(Forme::Nom forme);
     void langueDemandee(const QString &fichier);
+    /// Another kind of list is shown.
+    void triChange(int tri);
     /// The user has left the program.
     void sortie();
 
@@ -64,6 +66,7 @@ private:
 
     void choisir(General::Entree entree);
     void montrerFiche(General::Entree entree);
+    void oublier();
     void renommer(General::Tri tri, int id, const QString &libelle);
     void poserTotaux();
     void animer();
@@ -84,7 +87,6 @@ private:
     QLabel *m_totaux = nullptr;
     QTimer m_timer;
     General::Entree m_courante;
-    bool m_question = true;
     bool m_peinte = false;
     bool m_ouverte = false; ///< the collection could be read
 };

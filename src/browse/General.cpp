@@ -3,6 +3,7 @@
 #include "browse/Fiche.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
+#include "core/Images.h"
 #include "core/Texte.h"
 #include "db/Base.h"
 #include "db/Transaction.h"
@@ -209,13 +210,19 @@ Entrees General::LireAlbums(Tri tri, int id)
     return remplir(base.OpenRecordset(QLatin1String(sql), {id}), Forme::Nom, {});
 }
 
-Volume General::LireVolume(int num)
+std::vector<Volume> General::LireVolumes(const std::vector<int> &albums)
 {
     const Base base;
-    const auto rs = base.OpenRecordset(QStringLiteral("SELECT l.Photo1, a.NAlbum From LAlbums l left join "
-                                                      "Album a on a.Num = l.NAlbum where l.NAlbum = ?"),
-        {num});
-    return rs.AtEnd() ? Volume() : Volume{rs.Fields(0).toString(), rs.Fields(1).toInt()};
+    std::vector<Volume> volumes;
+    for (const int num : albums) {
+        const auto rs
+            = base.OpenRecordset(QStringLiteral("SELECT l.Photo1, a.NAlbum From LAlbums l"
+                                                " left join Album a on a.Num = l.NAlbum where l.NAlbum = ?"),
+                {num});
+        volumes.push_back(
+            rs.AtEnd() ? Volume() : Volume{Images::Trouver(rs.Fields(0).toString()), rs.Fields(1).toInt()});
+    }
+    return volumes;
 }
 
 Entrees General::LirePresse(int editeur)

@@ -54,14 +54,14 @@ using Avance = std::function<void(qint64 faites, qint64 total)>;
 Entrees LireListe(Tri tri, const Avance &avance = {});
 /// The albums linked to an entry; none for the kinds that have no albums. Throws Error.
 Entrees LireAlbums(Tri tri, int id);
-/// Front cover and tome of an album, as a shelf shows it.
+/// Front cover (path of its file, empty without one) and tome of an album, as a shelf shows it.
 struct Volume
 {
-    QString photo;
+    QString image;
     int tome = 0;
 };
-/// The volume of an album; empty when the album is gone. Throws Error.
-Volume LireVolume(int num);
+/// The volumes of these albums, in their order; empty ones for albums that are gone. Throws Error.
+std::vector<Volume> LireVolumes(const std::vector<int> &albums);
 /// The press items of a publisher. Throws Error.
 Entrees LirePresse(int editeur);
 /// Numbers of the albums that are lent, in rising order. Throws Error.

@@ -27,7 +27,10 @@ public:
     void poserPretes(std::vector<int> numeros);
 
     General::Tri tri() const { return m_tri; }
-    int id(const QModelIndex &index) const { return index.isValid() ? m_entrees.id(ligneDe(index.row())) : 0; }
+    int id(const QModelIndex &index) const
+    {
+        return index.isValid() ? m_entrees.id(ligneDe(index.row())) : 0;
+    }
     QModelIndex indexDe(int id) const;
     const Entrees &entrees() const { return m_entrees; }
 

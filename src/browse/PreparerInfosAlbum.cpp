@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr int TomeMax = 999;
+
 struct Possede
 {
     int num;
@@ -26,12 +28,14 @@ void poserPlaces(InfosAlbum &infos, const std::vector<Possede> &albums)
 {
     int attendu = 1;
     for (const Possede &album : albums) {
-        for (; attendu < album.tome; ++attendu) {
+        // A number beyond what a tome can be is a year or a slip: it makes no holes.
+        const int jusque = album.tome <= TomeMax ? album.tome : attendu;
+        for (; attendu < jusque; ++attendu) {
             infos.manquants.push_back(attendu);
             infos.bande.push_back({attendu, 0});
         }
         infos.bande.push_back({album.tome, album.num});
-        attendu = std::max(attendu, album.tome + 1);
+        attendu = std::max(attendu, jusque + 1);
     }
 }
 

@@ -116,6 +116,7 @@ QWidget *VoletListes::construireLies()
     colonne->setSpacing(Theme::Fin);
     m_titreLies = nommer(new QLabel(m_voletLies), QStringLiteral("TitreLies"));
     m_titreLies->setFont(Theme::Taille(font(), 1, QFont::Bold));
+    m_titreLies->setTextFormat(Qt::PlainText);
     m_nombreLies = nommer(new QLabel(m_voletLies), QStringLiteral("NombreLies"));
     colonne->addLayout(ligneDeTitre(m_titreLies, m_nombreLies));
     m_onglets = new QTabWidget(m_voletLies);
@@ -141,22 +142,36 @@ void VoletListes::brancher()
 
 void VoletListes::montrer(Tri tri)
 {
-    m_tri = tri;
+    // The button pressed and the list shown never disagree, even when the reading fails.
+    try {
+        remplir(tri);
+    } catch (...) {
+        m_tris[static_cast<std::size_t>(m_tri)]->setChecked(true);
+        throw;
+    }
     m_tris[static_cast<std::size_t>(tri)]->setChecked(true);
     viderLies();
-    remplir();
 }
 
-void VoletListes::remplir()
+void VoletListes::remplir(Tri tri)
 {
-    m_liste->remplir(m_tri, LireListe(m_tri, [this](qint64 faites, qint64 total) {
+    m_liste->remplir(tri, LireListe(tri, [this](qint64 faites, qint64 total) {
         m_progression->setValue(static_cast<int>(100 * faites / total));
         if (m_progression->isVisible())
             m_progression->repaint();
     }));
-    if (m_tri == Tri::Albums)
-        m_liste->modele().poserPretes(LirePretes());
+    m_tri = tri;
+    m_remplie = true;
+    poserPretes();
     poserNombre();
+}
+
+/// The marks of lent albums come from another table than the titles, by one query of their own.
+void VoletListes::poserPretes()
+{
+    const std::vector<int> pretes = LirePretes();
+    m_liste->modele().poserPretes(pretes);
+    m_albums->modele().poserPretes(pretes);
 }
 
 void VoletListes::poserNombre()
@@ -166,7 +181,8 @@ void VoletListes::poserNombre()
     m_titre->setText(texte(genre.titre));
     m_nombre->setText(texte(genre.prefixe) + u' ' + QString::number(nombre));
     m_liste->setAccessibleName(texte(genre.titre));
-    m_vide->setVisible(nombre == 0);
+    // A collection that could not be read must not look like an empty one.
+    m_vide->setVisible(m_remplie && nombre == 0);
     m_vide->setText(m_tri == Tri::Albums
             ? tr("Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.")
             : tr("Rien ici pour l'instant. Cette liste se remplit avec les albums que vous créez."));
@@ -204,8 +220,10 @@ void VoletListes::replier()
 
 void VoletListes::actualiser(const Changements &changements)
 {
-    if (Concerne(changements, m_tri) || (m_tri == Tri::Albums && Concerne(changements, Tri::Albums)))
-        remplir();
+    if (Concerne(changements, m_tri))
+        remplir(m_tri);
+    else
+        poserPretes();
     if (m_lies.id > 0)
         montrerLies(m_lies);
 }

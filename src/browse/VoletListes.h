@@ -49,11 +49,13 @@ private:
     QWidget *construireTitre();
     QWidget *construireLies();
     void brancher();
-    void remplir();
+    void remplir(General::Tri tri);
+    void poserPretes();
     void poserNombre();
     void replier();
 
     General::Tri m_tri = General::Tri::Albums;
+    bool m_remplie = false;
     General::Entree m_lies;
     std::array<QToolButton *, General::NombreDeTris> m_tris{};
     QLabel *m_titre = nullptr;

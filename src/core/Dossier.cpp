@@ -38,7 +38,8 @@ QString nomExistant(const QString &dossier, const QString &nom)
 
 bool estVide(const QString &dossier)
 {
-    QStringList entrees = QDir(dossier).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    QStringList entrees
+        = QDir(dossier).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     entrees.removeAll(Verrou);
     return entrees.isEmpty();
 }
@@ -112,8 +113,8 @@ void Dossier::preparer() const
 {
     if (estVide(m_racine)) {
         creerDossier(m_racine);
-        copierLivre(CollectionVierge, CollectionVierge);
         copierLivre(CollectionVierge, Collection);
+        copierLivre(CollectionVierge, CollectionVierge);
         for (const QString &nom : DossiersVides)
             creerDossier(chemin(nom));
     }
@@ -125,6 +126,7 @@ void Dossier::preparer() const
 
 bool Dossier::verrouiller()
 {
+    QDir().mkpath(m_racine);
     m_verrou = std::make_unique<QLockFile>(m_racine + u'/' + Verrou);
     m_verrou->setStaleLockTime(0);
     return m_verrou->tryLock(0) || m_verrou->error() != QLockFile::LockFailedError;

@@ -94,7 +94,8 @@ QImage Images::Decoder(const QString &chemin, const QSize &taille)
 {
     // The platform's own limit is lower than ours.
     constexpr int LimiteMio = static_cast<int>(PixelsMax * 4 >> 20) + 1;
-    QImageReader::setAllocationLimit(LimiteMio);
+    static const bool fixee = (QImageReader::setAllocationLimit(LimiteMio), true);
+    Q_UNUSED(fixee)
     QImageReader lecteur(chemin);
     lecteur.setAutoTransform(true);
     lecteur.setDecideFormatFromContent(true);

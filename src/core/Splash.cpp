@@ -2,6 +2,7 @@
 
 #include "core/Reglages.h"
 #include "core/Traduction.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Liens.h"
 #include "core/ui/Nommer.h"
@@ -15,6 +16,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QToolButton>
@@ -22,6 +24,7 @@
 namespace {
 
 constexpr QSize TailleDessinee(900, 600);
+constexpr QSize TailleMinimale(780, 520);
 constexpr int LargeurMenu = 220;
 constexpr int Colonnes = 3;
 constexpr int PremierGroupe = 0;
@@ -62,14 +65,7 @@ constexpr std::array Listes{
     Liste{Txt::PressesBD, "liste-presse"},
 };
 
-/// A button that opens a form: its caption, and what the line below says of it.
-struct Outil
-{
-    Txt legende;
-    Txt commentaire;
-    const char *icone;
-    std::optional<Forme::Nom> forme;
-};
+using Outil = Splash::Outil;
 constexpr std::array Creations{
     Outil{Txt::CreationManuelle, Txt::SaisirUneFicheManuellement, "creation-manuelle", Forme::Nom::Manuelle},
     Outil{Txt::CreationFacile, Txt::SelectionnerFichePresaisie, "creation-facile", Forme::Nom::Facile},
@@ -191,9 +187,11 @@ Splash::Splash()
     : Forme(QStringLiteral("Splash"))
 {
     setWindowIcon(Icones::Programme());
-    resize(TailleDessinee);
-    setMinimumSize(780, 520);
-    auto *panneau = nommer(new QWidget(this), QStringLiteral("SSSplash1"));
+    const QSize ecran = screen()->availableSize();
+    setMinimumSize(TailleMinimale.boundedTo(ecran));
+    resize(TailleDessinee.boundedTo(ecran));
+    auto *panneau = nommer(new Fond(this), QStringLiteral("SSSplash1"));
+    panneau->poser(Fond::Texture(Reglages::courant().entier(Cle::Splash)), true);
     auto *page = new QHBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->addWidget(panneau);
@@ -256,20 +254,11 @@ QWidget *Splash::construirePages()
     colonne->addWidget(m_titreGroupe);
 
     m_pages = new QStackedWidget(zone);
-    using Construire = void (Splash::*)(QGridLayout *);
-    int rang = 0;
-    for (const Construire construire : {&Splash::construireCreation, &Splash::construireTris,
-             &Splash::construireInterface, &Splash::construireOutils, &Splash::construireLiens}) {
-        auto *cadre = nommer(new QWidget(m_pages), QStringLiteral("Frames"), rang++);
-        auto *grille = new QGridLayout(cadre);
-        grille->setContentsMargins(0, 0, 0, 0);
-        grille->setSpacing(16);
-        (this->*construire)(grille);
-        for (int c = 0; c < Colonnes; ++c)
-            grille->setColumnStretch(c, 1);
-        grille->setRowStretch(grille->rowCount(), 1);
-        m_pages->addWidget(cadre);
-    }
+    construireOutils(ouvrirPage(), QStringLiteral("Creation"), Creations);
+    construireTris(ouvrirPage());
+    construireOutils(ouvrirPage(), QStringLiteral("Interf"), Interfaces);
+    construireOutils(ouvrirPage(), QStringLiteral("Outils"), Outils);
+    construireLiens(ouvrirPage());
     colonne->addWidget(m_pages, 1);
 
     m_commentaire = nommer(new QLabel(zone), QStringLiteral("Commentaire"));
@@ -279,23 +268,44 @@ QWidget *Splash::construirePages()
     m_commentaire->setMargin(Theme::Petit);
     colonne->addWidget(m_commentaire);
 
-    m_mini = nommer(new QPushButton(zone), QStringLiteral("Mini"));
-    m_quit = nommer(new QPushButton(zone), QStringLiteral("Quit"));
+    colonne->addLayout(construireBoutons());
+    return zone;
+}
+
+QLayout *Splash::construireBoutons()
+{
+    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
+    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
     m_quit->setIcon(Icones::Charger(QStringLiteral("fleche"), QPalette::HighlightedText));
     Theme::Accentuer(m_quit);
     auto *boutons = new QHBoxLayout;
     boutons->addStretch(1);
     for (QPushButton *bouton : {m_mini, m_quit}) {
         bouton->setMinimumSize(84, 34);
+        bouton->installEventFilter(this);
         boutons->addWidget(bouton);
     }
-    colonne->addLayout(boutons);
     connect(m_mini, &QPushButton::clicked, this, &QWidget::hide);
     connect(m_quit, &QPushButton::clicked, this, [this] {
         Q_EMIT retourDemande();
         hide();
     });
-    return zone;
+    return boutons;
+}
+
+/// The next group's page, a grid of large buttons.
+QGridLayout *Splash::ouvrirPage()
+{
+    auto *cadre = nommer(new QWidget(m_pages), QStringLiteral("Frames"), m_pages->count());
+    auto *grille = new QGridLayout(cadre);
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setSpacing(16);
+    for (int c = 0; c < Colonnes; ++c)
+        grille->setColumnStretch(c, 1);
+    constexpr int DerniereLigne = 9;
+    grille->setRowStretch(DerniereLigne, 1);
+    m_pages->addWidget(cadre);
+    return grille;
 }
 
 QToolButton *Splash::ajouter(
@@ -310,15 +320,18 @@ QToolButton *Splash::ajouter(
     return controle;
 }
 
-void Splash::construireCreation(QGridLayout *page)
+/// One button for each tool: it opens its form, or asks for a copy of the collection.
+void Splash::construireOutils(QGridLayout *page, const QString &nom, std::span<const Outil> outils)
 {
     int rang = 0;
-    for (const Outil &outil : Creations) {
-        const Nom forme = *outil.forme;
-        auto *bouton = ajouter(page, QStringLiteral("Creation"), rang++, QString::fromLatin1(outil.icone),
+    for (const Outil &outil : outils) {
+        auto *bouton = ajouter(page, nom, rang++, QString::fromLatin1(outil.icone),
             {nullptr, [&outil] { return texte(outil.legende); },
-                [&outil] { return texte(outil.commentaire); }, forme});
-        connect(bouton, &QToolButton::clicked, this, [this, forme] { Q_EMIT formeDemandee(forme); });
+                [&outil] { return texte(outil.commentaire); }, outil.forme});
+        if (const auto forme = outil.forme)
+            connect(bouton, &QToolButton::clicked, this, [this, forme] { Q_EMIT formeDemandee(*forme); });
+        else
+            connect(bouton, &QToolButton::clicked, this, &Splash::copieDemandee);
     }
 }
 
@@ -334,32 +347,6 @@ void Splash::construireTris(QGridLayout *page)
         m_tris->addButton(bouton, rang++);
     }
     connect(m_tris, &QButtonGroup::idClicked, this, &Splash::triDemande);
-}
-
-void Splash::construireInterface(QGridLayout *page)
-{
-    int rang = 0;
-    for (const Outil &outil : Interfaces) {
-        const Nom forme = *outil.forme;
-        auto *bouton = ajouter(page, QStringLiteral("Interf"), rang++, QString::fromLatin1(outil.icone),
-            {nullptr, [&outil] { return texte(outil.legende); },
-                [&outil] { return texte(outil.commentaire); }, forme});
-        connect(bouton, &QToolButton::clicked, this, [this, forme] { Q_EMIT formeDemandee(forme); });
-    }
-}
-
-void Splash::construireOutils(QGridLayout *page)
-{
-    int rang = 0;
-    for (const Outil &outil : Outils) {
-        auto *bouton = ajouter(page, QStringLiteral("Outils"), rang++, QString::fromLatin1(outil.icone),
-            {nullptr, [&outil] { return texte(outil.legende); },
-                [&outil] { return texte(outil.commentaire); }, outil.forme});
-        if (const auto forme = outil.forme)
-            connect(bouton, &QToolButton::clicked, this, [this, forme] { Q_EMIT formeDemandee(*forme); });
-        else
-            connect(bouton, &QToolButton::clicked, this, &Splash::copieDemandee);
-    }
 }
 
 void Splash::construireLiens(QGridLayout *page)
@@ -410,6 +397,8 @@ void Splash::Traduire()
     m_auto->setText(enDeuxLignes(texte(Txt::AfficherCetEcranAuDemarrage), m_auto->fontMetrics(), place));
     m_auto->setAccessibleName(texte(Txt::AfficherCetEcranAuDemarrage));
     m_commentaire->clear();
+    if (m_disponible)
+        poserDisponibles(m_disponible);
     const bool site = !Reglages::courant().texte(Cle::Site).isEmpty();
     m_menu->button(static_cast<int>(Groupes.size()) - 1)->setVisible(site);
     m_boutons.back().controle->setVisible(site);
@@ -418,21 +407,32 @@ void Splash::Traduire()
 
 bool Splash::eventFilter(QObject *objet, QEvent *evenement)
 {
-    const bool entre = evenement->type() == QEvent::Enter;
-    auto *bouton = qobject_cast<QToolButton *>(objet);
-    if (!bouton || (!entre && evenement->type() != QEvent::Leave))
-        return Forme::eventFilter(objet, evenement);
-    const auto trouve = std::find_if(
-        m_boutons.begin(), m_boutons.end(), [&](const Bouton &b) { return b.controle == bouton; });
-    if (trouve != m_boutons.end()) {
-        QPalette palette;
-        if (entre)
-            palette.setColor(QPalette::ButtonText, BleuDuSurvol);
-        bouton->setPalette(palette);
-        m_commentaire->setText(entre ? trouve->commentaire() : QString());
-    } else {
-        const int groupe = m_menu->id(bouton);
-        m_commentaire->setText(entre ? commentaireDe(Groupes[static_cast<std::size_t>(groupe)]) : QString());
-    }
+    // Whoever comes by keyboard reads the same as whoever comes by mouse.
+    const bool entre = evenement->type() == QEvent::Enter || evenement->type() == QEvent::FocusIn;
+    const bool sort = evenement->type() == QEvent::Leave || evenement->type() == QEvent::FocusOut;
+    auto *bouton = qobject_cast<QAbstractButton *>(objet);
+    if (bouton && (entre || sort))
+        survoler(*bouton, entre);
     return Forme::eventFilter(objet, evenement);
+}
+
+void Splash::survoler(QAbstractButton &bouton, bool entre)
+{
+    m_commentaire->setText(entre ? commentaireDuBouton(bouton) : QString());
+    if (bouton.objectName().startsWith(QLatin1String("Menu")) || &bouton == m_quit)
+        return; // they stand on colours of their own
+    QPalette palette;
+    if (entre && bouton.isEnabled())
+        palette.setColor(QPalette::ButtonText, BleuDuSurvol);
+    bouton.setPalette(palette);
+}
+
+QString Splash::commentaireDuBouton(QAbstractButton &bouton) const
+{
+    for (const Bouton &connu : m_boutons) {
+        if (connu.controle == &bouton)
+            return connu.commentaire();
+    }
+    const int groupe = m_menu->id(&bouton);
+    return groupe >= 0 ? commentaireDe(Groupes[static_cast<std::size_t>(groupe)]) : bouton.accessibleName();
 }

@@ -1,16 +1,19 @@
 #pragma once
 
+#include "core/Txt.h"
 #include "core/ui/Forme.h"
 
 #include <QAbstractButton>
 #include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
 class QButtonGroup;
 class QCheckBox;
 class QGridLayout;
 class QLabel;
+class QLayout;
 class QPushButton;
 class QStackedWidget;
 class QToolButton;
@@ -22,6 +25,15 @@ class Splash : public Forme
     Q_OBJECT
 
 public:
+    /// A button that opens a form, or without one asks for a copy: its caption, and what the line below says.
+    struct Outil
+    {
+        Txt legende;
+        Txt commentaire;
+        const char *icone;
+        std::optional<Nom> forme;
+    };
+
     Splash();
 
     /// Which forms there are; the buttons of the others are disabled and say so.
@@ -51,14 +63,16 @@ private:
 
     QWidget *construireMenu();
     QWidget *construirePages();
-    void construireCreation(QGridLayout *page);
+    QLayout *construireBoutons();
+    QGridLayout *ouvrirPage();
+    void construireOutils(QGridLayout *page, const QString &nom, std::span<const Outil> outils);
     void construireTris(QGridLayout *page);
-    void construireInterface(QGridLayout *page);
-    void construireOutils(QGridLayout *page);
     void construireLiens(QGridLayout *page);
     QToolButton *ajouter(
         QGridLayout *page, const QString &nom, int rang, const QString &icone, const Bouton &bouton);
     void ouvrirGroupe(int groupe);
+    void survoler(QAbstractButton &bouton, bool entre);
+    QString commentaireDuBouton(QAbstractButton &bouton) const;
 
     QStackedWidget *m_pages = nullptr;
     QLabel *m_titreGroupe = nullptr;

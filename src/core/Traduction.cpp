@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace {
 
@@ -153,11 +154,10 @@ void Traduction::choisir(const QString &fichier)
     const QString source = Dossier::courant().chemin(DossierLangues + u'/' + fichier);
     const QString cible = Dossier::courant().chemin(FichierCourant);
     const QByteArray octets = lireFichier(source);
-    QFile copie(cible);
-    if (!copie.open(QIODevice::WriteOnly | QIODevice::Truncate) || copie.write(octets) != octets.size())
+    QSaveFile copie(cible);
+    if (!copie.open(QIODevice::WriteOnly) || copie.write(octets) != octets.size() || !copie.commit())
         throw Error(QCoreApplication::translate("Traduction", "Le fichier de langue ne peut pas être écrit."),
             cible, copie.errorString());
-    copie.close();
     Reglages::courant().ecrire(Cle::Langue, fichier);
     chargerFichier(cible);
 }

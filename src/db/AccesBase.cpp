@@ -95,8 +95,9 @@ int AccesBase::EnregistrerOuSupprimer(const QString &table, const QString &champ
     const Base base;
     auto rs = ouvrirLigne(base, table, champCle, entree.identifiant);
     const bool existe = rs.RecordCount() > 0;
-    if (existe && entree.valeur.isEmpty()) {
-        rs.Delete();
+    if (entree.valeur.isEmpty()) {
+        if (existe)
+            rs.Delete();
         return entree.identifiant;
     }
     int identifiant = entree.identifiant;

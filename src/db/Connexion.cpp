@@ -84,7 +84,7 @@ void Connexion::preparer(Entete::Nature nature)
         throw Error(Error::Sorte::LectureSeule, dire("La base est en lecture seule."), m_chemin);
     Collation::Enregistrer(m_db->getHandle());
     // A first read alone would not hold the file against others: the empty exclusive transaction does.
-    m_db->exec("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT");
+    m_db->exec("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT; PRAGMA journal_mode=DELETE");
     if (nature == Entete::Nature::Collection)
         verifierIndex();
     m_journal.suivre(m_db->getHandle());
@@ -93,10 +93,11 @@ void Connexion::preparer(Entete::Nature nature)
 void Connexion::verifierIndex()
 {
     const int inscrite = m_db->execAndGet("PRAGMA user_version").getInt();
-    if (inscrite == Schema::Version())
+    constexpr int BitsDuSchema = 0xFF;
+    if ((inscrite & ~BitsDuSchema) == (Schema::Version() & ~BitsDuSchema))
         return;
-    m_db->exec(
-        "BEGIN; REINDEX FRANCAIS; PRAGMA user_version=" + std::to_string(Schema::Version()) + "; COMMIT");
+    const int nouvelle = (Schema::Version() & ~BitsDuSchema) | (inscrite & BitsDuSchema);
+    m_db->exec("BEGIN; REINDEX FRANCAIS; PRAGMA user_version=" + std::to_string(nouvelle) + "; COMMIT");
 }
 
 Connexion::~Connexion()
@@ -110,6 +111,9 @@ Connexion::~Connexion()
 void Connexion::executer(const std::function<void()> &acte)
 {
     const std::size_t marque = m_journal.taille();
+    // When the engine gave a transaction up by itself, what was meant to be one must not go on piece by piece.
+    if (profondeur > 0 && sqlite3_get_autocommit(m_db->getHandle()))
+        throw Error(dire("L'opération a été interrompue."), m_chemin);
     try {
         acte();
     } catch (const SQLite::Exception &e) {

@@ -7,8 +7,8 @@
 #include <functional>
 #include <memory>
 
-/// One open database file. Base, Recordset and Transaction share it; the last one out closes it, which
-/// announces what was changed.
+/// One open database file. Base and Recordset share it; the last one out closes it, which announces what
+/// was changed.
 class Connexion
 {
 public:

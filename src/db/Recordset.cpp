@@ -150,7 +150,8 @@ int Recordset::indiceDe(const QString &nom) const
             m_colonnes.insert(QString::fromUtf8(instruction.getColumnName(i)).toLower(), i);
     }
     const int indice = m_colonnes.value(nom.toLower(), -1);
-    Q_ASSERT_X(indice >= 0, "Recordset", qPrintable(nom));
+    if (indice < 0)
+        throw Error(QCoreApplication::translate("Base", "Un champ manque dans la base."), nom, m_sql);
     return indice;
 }
 

@@ -13,6 +13,7 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <array>
+#include <functional>
 #include <vector>
 
 namespace {
@@ -264,6 +265,18 @@ void ajouterChamp(const Base &base, const QString &table, const QString &nom)
     }
 }
 
+/// One step of the upgrade: when it fails it is undone, and the next one runs.
+void essayer(const Base &base, const std::function<void()> &etape)
+{
+    try {
+        Transaction transaction(base);
+        etape();
+        transaction.Commit();
+    } catch (const Error &) {
+        // A file that lacks more than the two fields is told of by the operation that misses it.
+    }
+}
+
 void mettreANiveau()
 {
     const Base base;
@@ -271,17 +284,20 @@ void mettreANiveau()
         return;
     const Journal::Pause pause(base);
     Transaction transaction(base);
-    ajouterChamp(base, QStringLiteral("Album"), QStringLiteral("Coffret"));
-    ajouterChamp(base, QStringLiteral("SerieAlbums"), QStringLiteral("NumeroAlbum2"));
-    // Rows older than the field must hold it, or the journal would see Null where the default stands.
-    base.Execute(QStringLiteral("UPDATE Album SET Coffret = Coffret"));
+    essayer(base, [&] {
+        ajouterChamp(base, QStringLiteral("Album"), QStringLiteral("Coffret"));
+        // Rows older than the field must hold it, or the journal would see Null where the default stands.
+        base.Execute(QStringLiteral("UPDATE Album SET Coffret = Coffret"));
+    });
+    essayer(base, [&] { ajouterChamp(base, QStringLiteral("SerieAlbums"), QStringLiteral("NumeroAlbum2")); });
     const QStringList instructions = complements();
     for (const QString &instruction : instructions)
-        base.Execute(instruction);
-    base.Execute(QStringLiteral(
-        "UPDATE SerieAlbums SET NumeroAlbum2 = char(65 + Album.NAlbum) FROM Album WHERE Album.Num = "
-        "SerieAlbums.NAlbum"
-        " AND Album.NAlbum BETWEEN 0 AND 190 AND NumeroAlbum2 IS NOT char(65 + Album.NAlbum)"));
+        essayer(base, [&] { base.Execute(instruction); });
+    essayer(base, [&] {
+        base.Execute(QStringLiteral("UPDATE SerieAlbums SET NumeroAlbum2 = char(65 + Album.NAlbum) FROM Album"
+                                    " WHERE Album.Num = SerieAlbums.NAlbum AND Album.NAlbum BETWEEN 0 AND 190"
+                                    " AND NumeroAlbum2 IS NOT char(65 + Album.NAlbum)"));
+    });
     transaction.Commit();
 }
 
@@ -327,9 +343,13 @@ void Schema::CreerCatalogue(const QString &chemin)
 
 void Schema::MettreANiveau()
 {
+    // The first operation that follows asks the user about a file in use; once is enough.
+    auto &reessayer = Collection::courant().reessayer;
+    const auto demande = std::exchange(reessayer, nullptr);
     try {
         mettreANiveau();
     } catch (const Error &) {
         // A file that cannot be upgraded is told of by the first operation on it.
     }
+    reessayer = demande;
 }

@@ -28,9 +28,9 @@ Transaction::~Transaction()
         return;
     --m_connexion.profondeur;
     const std::string nom = point(m_connexion.profondeur);
-    // Whatever the engine has already rolled back by itself needs no second time.
-    m_connexion.db().tryExec("ROLLBACK TO " + nom);
-    m_connexion.db().tryExec("RELEASE " + nom);
+    // A point that the engine has already rolled back by itself is gone; a release alone would commit.
+    if (m_connexion.db().tryExec("ROLLBACK TO " + nom) == 0)
+        m_connexion.db().tryExec("RELEASE " + nom);
     m_connexion.journal().couper(m_marque);
 }
 

@@ -7,7 +7,9 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -52,6 +54,17 @@ struct Seance
         QTest::mouseClick(trouver<QAbstractButton>(nom, forme), Qt::LeftButton);
     }
     /// Caption of a label; empty until there is one.
+    /// Types a text, character by character, into a field or an editable list.
+    static void ecrire(const char *nom, const QString &texte, const char *forme)
+    {
+        auto *champ = trouver<QWidget>(nom, forme);
+        champ->setFocus();
+        auto *cible = champ->focusProxy() ? champ->focusProxy() : champ;
+        for (const QChar c : texte) {
+            QKeyEvent touche(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+            QApplication::sendEvent(cible, &touche);
+        }
+    }
     static QString texteDe(const char *nom)
     {
         const auto *label = trouver<QLabel>(nom);
@@ -86,6 +99,7 @@ private Q_SLOTS:
     void quitterDemandeEtRange();
     void uneBaseEtrangereEstDite();
     void laCopieSeFaitDuLanceur();
+    void creerALaMainPuisDuCatalogue();
     void chaqueControleAUnNom();
 };
 
@@ -257,17 +271,64 @@ void tst_parcours::laCopieSeFaitDuLanceur()
     QCOMPARE(Bac::lire(copie), Bac::lire(s.bac.collection()));
 }
 
+void tst_parcours::creerALaMainPuisDuCatalogue()
+{
+    Seance s;
+    s.demarrer();
+    auto *liste = Seance::trouver<QAbstractItemView>("Liste");
+    const int avant = liste->model()->rowCount();
+    Seance::cliquer("Menu(1)");
+    QTRY_VERIFY(Seance::trouver<QComboBox>("Serie", "Manuelle")->count() > 10);
+    Seance::cliquer("BtnCreer", "Manuelle");
+    QVERIFY(!Seance::trouver<QLabel>("Refus", "Manuelle")->text().isEmpty());
+
+    // By keyboard alone: what is typed stays, a known series proposes its next tome.
+    Seance::ecrire("Titre", QStringLiteral("L'Œuvre d'été"), "Manuelle");
+    QVERIFY(Seance::trouver<QLabel>("Refus", "Manuelle")->text().isEmpty());
+    Seance::ecrire("Serie", QStringLiteral("bécassine"), "Manuelle");
+    QCOMPARE(Seance::trouver<QLineEdit>("Tome", "Manuelle")->text(), QStringLiteral("26"));
+    Seance::ecrire("PrixA", QStringLiteral("12,50"), "Manuelle");
+    QTest::keyClick(Seance::trouver<QLineEdit>("PrixA", "Manuelle"), Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(s.boites.textes, QStringList{texte(Txt::CreationEffectuee)});
+    QTRY_COMPARE(Seance::texteDe("TAlbum"), QStringLiteral("L'Œuvre d'été"));
+    QCOMPARE(Seance::texteDe("Serie"), QStringLiteral("Bécassine"));
+    QCOMPARE(Seance::texteDe("PrixA"), QStringLiteral("12,50 €"));
+    QCOMPARE(liste->model()->rowCount(), avant + 1);
+    QCOMPARE(liste->currentIndex().data().toString(), QStringLiteral("L'Œuvre d'été"));
+    QVERIFY(Seance::trouver<QLineEdit>("Titre", "Manuelle")->text().isEmpty());
+
+    Seance::cliquer("Menu(0)");
+    Seance::cliquer("Creation(1)", "Splash");
+    auto *catalogue = Seance::trouver<QAbstractItemView>("LAlbum", "Facile");
+    QTRY_VERIFY(catalogue->model()->rowCount() > 300);
+    Seance::ecrire("Filtre", QStringLiteral("ETOILE MYSTERIEUSE"), "Facile");
+    QCOMPARE(catalogue->model()->rowCount(), 1);
+    QVERIFY(catalogue->model()->index(0, 0).data(Qt::UserRole).toString().startsWith(u'A'));
+    catalogue->setCurrentIndex(catalogue->model()->index(0, 0));
+    Seance::cliquer("Sel", "Facile");
+    QCOMPARE(Seance::trouver<QLineEdit>("Tome", "Facile")->text(), QStringLiteral("010"));
+    QVERIFY(Seance::trouver<QCheckBox>("Carton", "Facile")->isChecked());
+    Seance::cliquer("BtnCreer", "Facile");
+    QTRY_COMPARE(Seance::texteDe("Serie"), QStringLiteral("Tintin"));
+    QCOMPARE(Seance::texteDe("NumBD"), QStringLiteral("10"));
+}
+
 void tst_parcours::chaqueControleAUnNom()
 {
     Seance s;
     s.demarrer();
     Seance::cliquer("Menu(0)");
+    Seance::cliquer("Creation(0)", "Splash");
+    Seance::cliquer("Creation(1)", "Splash");
     QTRY_VERIFY(Seance::trouver<QWidget>("FicheAlbum"));
-    for (const char *forme : {"Frmmain", "Splash"}) {
+    for (const char *forme : {"Frmmain", "Splash", "Manuelle", "Facile"}) {
         const auto controles = Seance::fenetre(forme)->findChildren<QWidget *>();
         for (const QWidget *controle : controles) {
-            const bool deLaForme = !QByteArray(controle->metaObject()->className()).startsWith("QTab")
+            // What a list box or a tab bar is made of is Qt's own.
+            bool deLaForme = !QByteArray(controle->metaObject()->className()).startsWith("QTab")
                 && !controle->objectName().startsWith(QLatin1String("qt_"));
+            for (const QObject *parent = controle->parent(); parent; parent = parent->parent())
+                deLaForme = deLaForme && !parent->inherits("QComboBox");
             const bool actif = controle->focusPolicy() != Qt::NoFocus && !controle->inherits("QScrollBar");
             if (!deLaForme || !actif)
                 continue;

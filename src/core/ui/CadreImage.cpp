@@ -11,9 +11,17 @@
 #include <QPainter>
 #include <QUrl>
 
+namespace {
+
+constexpr int AttenteMs = 120;
+
+}
+
 CadreImage::CadreImage(QWidget *parent)
     : QWidget(parent)
 {
+    m_attente.setSingleShot(true);
+    connect(&m_attente, &QTimer::timeout, this, &CadreImage::demander);
 }
 
 void CadreImage::montrer(const QString &nom)
@@ -72,7 +80,8 @@ void CadreImage::paintEvent(QPaintEvent *)
 void CadreImage::resizeEvent(QResizeEvent *evenement)
 {
     QWidget::resizeEvent(evenement);
-    demander();
+    // While a splitter is dragged the picture is only stretched.
+    m_attente.start(m_image.isNull() ? 0 : AttenteMs);
 }
 
 void CadreImage::mouseReleaseEvent(QMouseEvent *evenement)

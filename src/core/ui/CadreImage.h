@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QTimer>
 #include <QWidget>
 
 /// A frame that shows the picture of a file, fitted into it. Decoding happens beside the window's work; until
@@ -40,5 +41,6 @@ private:
     QString m_chemin;
     QString m_legende;
     QImage m_image;
+    QTimer m_attente;
     int m_generation = 0;
 };

@@ -10,7 +10,8 @@
 void Liens::Ouvrir(const QString &adresse)
 {
     static const QRegularExpression schema(
-        QStringLiteral("^[a-z][a-z0-9+.-]*:"), QRegularExpression::CaseInsensitiveOption);
+        QStringLiteral("^([a-z][a-z0-9+.-]*://|(mailto|javascript|data|file):)"),
+        QRegularExpression::CaseInsensitiveOption);
     QString entiere = adresse.trimmed();
     if (!entiere.contains(schema))
         entiere.prepend(QStringLiteral("http://"));

@@ -26,7 +26,7 @@ QString EnregistrerFichier(
 /// "description|pattern;pattern|..." as the file dialog takes it.
 QString Filtres(const QString &paires);
 
-/// Stands in for the user as long as it lives: answers in turn, and what was shown.
+/// Stands in for the user as long as it lives: answers in turn, and keeps what was shown.
 struct Doublure
 {
     Doublure();

@@ -6,8 +6,10 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
+#include <QHash>
 #include <QPointer>
 #include <QThreadPool>
+#include <vector>
 
 namespace {
 
@@ -18,6 +20,18 @@ QCache<QString, QImage> &cache()
 {
     static QCache<QString, QImage> images(CacheKio);
     return images;
+}
+
+/// Who waits for a picture that is being decoded.
+struct Demande
+{
+    QPointer<QObject> receveur;
+    std::function<void(const QImage &)> recevoir;
+};
+QHash<QString, std::vector<Demande>> &enAttente()
+{
+    static QHash<QString, std::vector<Demande>> demandes;
+    return demandes;
 }
 
 QString cleDe(const QString &chemin, const QSize &taille)
@@ -44,14 +58,18 @@ void Vignettes::Demander(QObject *receveur, const QString &chemin, const QSize &
     const QString cle = cleDe(chemin, taille);
     if (const QImage *connue = cache().object(cle))
         return recevoir(*connue);
-    QThreadPool::globalInstance()->start(
-        [receveur = QPointer<QObject>(receveur), cle, chemin, taille, recevoir] {
-            const QImage image = Images::Decoder(chemin, taille);
-            // Delivered through the application: the receiver may be gone by then.
-            QMetaObject::invokeMethod(qApp, [receveur, cle, image, recevoir] {
-                cache().insert(cle, new QImage(image), static_cast<int>(image.sizeInBytes() / 1024) + 1);
-                if (receveur)
-                    recevoir(image);
-            });
+    enAttente()[cle].push_back({QPointer<QObject>(receveur), recevoir});
+    if (enAttente()[cle].size() > 1)
+        return; // already on its way, for another receiver
+    QThreadPool::globalInstance()->start([cle, chemin, taille] {
+        const QImage image = Images::Decoder(chemin, taille);
+        // Delivered through the application: the receiver may be gone by then.
+        QMetaObject::invokeMethod(qApp, [cle, image] {
+            cache().insert(cle, new QImage(image), static_cast<int>(image.sizeInBytes() / 1024) + 1);
+            for (const Demande &demande : enAttente().take(cle)) {
+                if (demande.receveur)
+                    demande.recevoir(image);
+            }
         });
+    });
 }

@@ -1,10 +1,11 @@
-#include "browse/Fond.h"
+#include "core/ui/Fond.h"
 
 #include "core/Dossier.h"
 #include "core/Images.h"
 #include "core/Reglages.h"
 #include "core/ui/Theme.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QPainter>
 
@@ -18,7 +19,6 @@ constexpr int OpaciteDuVoile = 150;
 Fond::Fond(QWidget *parent)
     : QWidget(parent)
 {
-    setObjectName(QStringLiteral("Fond"));
 }
 
 QString Fond::CheminChoisi()
@@ -39,9 +39,21 @@ QString Fond::CheminChoisi()
 
 void Fond::charger()
 {
-    const QString chemin = CheminChoisi();
+    poser(CheminChoisi(), Reglages::courant().booleen(Cle::Defilement));
+}
+
+QString Fond::Texture(int rang)
+{
+    const QDir dossier(Dossier::courant().chemin(QStringLiteral("Fond Ecran")));
+    const QStringList noms
+        = dossier.entryList({QStringLiteral("*.jpg"), QStringLiteral("*.jpeg")}, QDir::Files, QDir::Name);
+    return rang > 0 && rang <= noms.size() ? dossier.filePath(noms[rang - 1]) : QString();
+}
+
+void Fond::poser(const QString &chemin, bool carreaux)
+{
     m_texture = chemin.isEmpty() ? QImage() : Images::Decoder(chemin, TailleMax);
-    m_carreaux = Reglages::courant().booleen(Cle::Defilement);
+    m_carreaux = carreaux;
     update();
 }
 
