@@ -10,15 +10,21 @@
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/Comparaison.h"
+#include "db/Creation.h"
 #include "db/Schema.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <memory>
 #include <sqlite3.h>
 
 namespace {
+
+/// The writes of one creation whose names are known: album, list row, three links, three credits.
+constexpr int ValidationsParCreation = 8;
 
 /// The application folder of a generated collection, as the current one.
 struct Terrain
@@ -112,6 +118,45 @@ void totaux(benchmark::State &etat)
         benchmark::DoNotOptimize(General::LireTotaux());
 }
 
+/// The floor of a creation: as many small commits as it must make, each with its fsync.
+void validationsNues(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const QByteArray fichier = (terrain.chemin + QStringLiteral("/validations")).toUtf8();
+    sqlite3 *db = nullptr;
+    sqlite3_open(fichier.constData(), &db);
+    sqlite3_exec(
+        db, "PRAGMA locking_mode=EXCLUSIVE; CREATE TABLE IF NOT EXISTS t(a, b)", nullptr, nullptr, nullptr);
+    for (auto _ : etat) {
+        for (int i = 0; i < ValidationsParCreation; ++i)
+            sqlite3_exec(db, "INSERT INTO t VALUES (1, 'deux')", nullptr, nullptr, nullptr);
+    }
+    sqlite3_close(db);
+}
+
+/// An album whose names are all known: its row, its list row, and a link row for each of genre, publisher, series
+/// and three authors. It works on a copy, which grows.
+void creer(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const QTemporaryDir copie(terrain.chemin + QStringLiteral("/copie-XXXXXX"));
+    QFile::copy(terrain.dossier.chemin(QStringLiteral("bd.mdb")), copie.filePath(QStringLiteral("bd.mdb")));
+    const Dossier dossier(copie.path(), Dossier::Livre());
+    Creation::Album album;
+    album.titre = QStringLiteral("Un album de plus");
+    album.tome = 7;
+    album.serie = General::LireTexte(General::Tri::Series, 1);
+    album.editeur = General::LireTexte(General::Tri::Editeurs, 1);
+    album.genre = AccesBase::LireNoms(QStringLiteral("Genre")).first();
+    const Entrees auteurs = General::LireListe(General::Tri::Dessinateurs);
+    album.dessin = auteurs.texte(0);
+    album.scena = auteurs.texte(1);
+    album.color = auteurs.texte(2);
+    Creation::CreerAlbum(album); // the authors now have the roles that they lacked
+    for (auto _ : etat)
+        Creation::CreerAlbum(album);
+}
+
 void tailles(benchmark::internal::Benchmark *mesure)
 {
     for (const int albums : {10'000, 100'000, 1'000'000})
@@ -137,6 +182,8 @@ BENCHMARK(albumsDUnEditeur)->Apply(tailles);
 BENCHMARK(chargerFiche)->Apply(tailles);
 BENCHMARK(mettreANiveau)->Apply(tailles);
 BENCHMARK(totaux)->Apply(tailles);
+BENCHMARK(validationsNues)->Arg(10'000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(creer)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 int main(int argc, char **argv)
 {

@@ -26,17 +26,12 @@ Recordset::Recordset(std::shared_ptr<Connexion> connexion, const QString &sql, c
     , m_sql(Sql::Normaliser(sql))
     , m_valeurs(valeurs)
 {
-    const auto uneTable = Sql::Decomposer(m_sql);
-    if (uneTable)
+    if (const auto uneTable = Sql::Decomposer(m_sql)) {
         m_table = uneTable->table;
-    const QString marche = uneTable ? numerosDe(*uneTable) : m_sql;
-    m_connexion->executer([&] {
-        m_marche = preparer(marche, m_valeurs);
-        if (uneTable)
-            m_ligne
-                = preparer(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(m_table), {QVariant(0)});
-    });
-    MoveFirst();
+        m_parcours = numerosDe(*uneTable);
+    } else {
+        m_connexion->executer([&] { m_marche = preparer(m_sql, m_valeurs); });
+    }
 }
 
 Recordset::Recordset(Recordset &&) noexcept = default;
@@ -67,9 +62,13 @@ qint64 Recordset::RecordCount()
 }
 
 /// One step of the walk: the next row itself, or the next row number into the list.
-void Recordset::avancer()
+void Recordset::avancer() const
 {
-    m_connexion->executer([&] { m_epuisee = m_epuisee || !m_marche->executeStep(); });
+    m_connexion->executer([&] {
+        if (!m_marche)
+            m_marche = preparer(m_parcours, m_valeurs);
+        m_epuisee = m_epuisee || !m_marche->executeStep();
+    });
     if (m_table.isEmpty())
         return;
     if (m_epuisee) {
@@ -93,15 +92,18 @@ bool Recordset::charger(qint64 cle) const
 {
     bool trouvee = false;
     m_connexion->executer([&] {
-        m_ligne->reset();
-        m_ligne->bind(1, static_cast<int64_t>(cle));
-        trouvee = m_ligne->executeStep();
+        SQLite::Statement &instruction = ligneParNumero();
+        instruction.reset();
+        instruction.bind(1, static_cast<int64_t>(cle));
+        trouvee = instruction.executeStep();
     });
     return trouvee;
 }
 
-void Recordset::MoveFirst()
+void Recordset::commencer() const
 {
+    if (std::exchange(m_commencee, true))
+        return;
     if (m_table.isEmpty()) {
         m_connexion->executer([&] { m_marche->reset(); });
         m_epuisee = false;
@@ -114,18 +116,12 @@ void Recordset::MoveFirst()
         avancer();
     m_fin = m_cles.empty();
     if (!m_fin && !charger(m_cles[0]))
-        MoveNext();
+        suivante();
 }
 
-void Recordset::MoveNext()
+/// To the next row of the list that is still there.
+void Recordset::suivante() const
 {
-    m_mode = Mode::Lecture;
-    if (m_table.isEmpty()) {
-        avancer();
-        m_fin = m_epuisee;
-        return;
-    }
-    // A row that was deleted since the list was made is passed over.
     do {
         ++m_position;
         while (m_position >= m_cles.size() && !m_epuisee)
@@ -134,9 +130,40 @@ void Recordset::MoveNext()
     } while (!m_fin && !charger(m_cles[m_position]));
 }
 
+bool Recordset::AtEnd() const
+{
+    commencer();
+    return m_fin;
+}
+
+void Recordset::MoveFirst()
+{
+    m_mode = Mode::Lecture;
+    m_commencee = false;
+    commencer();
+}
+
+void Recordset::MoveNext()
+{
+    m_mode = Mode::Lecture;
+    commencer();
+    if (!m_table.isEmpty())
+        return suivante();
+    avancer();
+    m_fin = m_epuisee;
+}
+
+SQLite::Statement &Recordset::ligneParNumero() const
+{
+    if (!m_ligne)
+        m_ligne = preparer(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(m_table), {QVariant(0)});
+    return *m_ligne;
+}
+
 SQLite::Statement &Recordset::ligne() const
 {
-    SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : *m_ligne;
+    commencer();
+    SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : ligneParNumero();
     if (m_fin || !instruction.hasRow())
         throw Error(QCoreApplication::translate("Base", "Il n'y a plus d'enregistrement ici."), m_sql);
     return instruction;
@@ -145,7 +172,7 @@ SQLite::Statement &Recordset::ligne() const
 int Recordset::indiceDe(const QString &nom) const
 {
     if (m_colonnes.isEmpty()) {
-        const SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : *m_ligne;
+        const SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : ligneParNumero();
         for (int i = 0; i < instruction.getColumnCount(); ++i)
             m_colonnes.insert(QString::fromUtf8(instruction.getColumnName(i)).toLower(), i);
     }
@@ -194,7 +221,6 @@ void Recordset::Edit()
 void Recordset::SetField(const QString &nom, const QVariant &valeur)
 {
     Q_ASSERT(m_mode != Mode::Lecture);
-    indiceDe(nom);
     const auto deja = std::find_if(m_saisie.begin(), m_saisie.end(),
         [&](const auto &paire) { return paire.first.compare(nom, Qt::CaseInsensitive) == 0; });
     if (deja != m_saisie.end())
@@ -205,7 +231,7 @@ void Recordset::SetField(const QString &nom, const QVariant &valeur)
 
 void Recordset::SetField(int indice, const QVariant &valeur)
 {
-    SetField(QString::fromUtf8(m_ligne->getColumnName(indice)), valeur);
+    SetField(QString::fromUtf8(ligneParNumero().getColumnName(indice)), valeur);
 }
 
 void Recordset::Update()
@@ -276,6 +302,7 @@ void Recordset::Delete()
 
 void Recordset::SetBookmark(qint64 signet)
 {
+    m_commencee = true;
     completer();
     const auto trouvee = std::find(m_cles.begin(), m_cles.end(), signet);
     Q_ASSERT(trouvee != m_cles.end());

@@ -27,7 +27,7 @@ public:
     /// Full number of rows.
     qint64 RecordCount();
     /// True when no current row is left.
-    bool AtEnd() const { return m_fin; }
+    bool AtEnd() const;
     void MoveFirst();
     void MoveNext();
 
@@ -55,9 +55,12 @@ private:
     using Instruction = std::unique_ptr<SQLite::Statement>;
 
     Instruction preparer(const QString &sql, const QVariantList &valeurs) const;
-    void avancer();
+    void commencer() const;
+    void suivante() const;
+    void avancer() const;
     void completer();
     bool charger(qint64 cle) const;
+    SQLite::Statement &ligneParNumero() const;
     SQLite::Statement &ligne() const;
     int indiceDe(const QString &nom) const;
     void inserer();
@@ -67,15 +70,19 @@ private:
     QString m_sql;
     QVariantList m_valeurs;
     QString m_table; ///< empty when the rows cannot be edited
+    QString m_parcours; ///< the query of the row numbers, when they can
 
-    Instruction m_marche; ///< the query itself, or its row numbers
+    // The walk begins when it is first looked at: a recordset that only adds a row never walks.
+    mutable Instruction m_marche; ///< the query itself, or its row numbers
     mutable Instruction m_ligne; ///< one row by its number
     mutable QHash<QString, int> m_colonnes;
-    std::vector<qint64> m_cles;
-    std::vector<qint64> m_ajoutees; ///< rows added here while the list was not complete; they come last
-    std::size_t m_position = 0;
-    bool m_fin = false;
-    bool m_epuisee = false;
+    mutable std::vector<qint64> m_cles;
+    mutable std::vector<qint64>
+        m_ajoutees; ///< rows added here while the list was not complete; they come last
+    mutable std::size_t m_position = 0;
+    mutable bool m_commencee = false;
+    mutable bool m_fin = false;
+    mutable bool m_epuisee = false;
 
     Mode m_mode = Mode::Lecture;
     std::vector<std::pair<QString, QVariant>> m_saisie;
