@@ -2,6 +2,7 @@
 
 #include "core/ui/Theme.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -18,6 +19,7 @@ BandeSerie::BandeSerie(QWidget *parent)
     : QWidget(parent)
 {
     setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFont(Theme::Taille(font(), 0.8));
 }
@@ -80,6 +82,11 @@ void BandeSerie::paintEvent(QPaintEvent *)
         p.setPen(trou ? Theme::Discret(palette()) : palette().color(QPalette::HighlightedText));
         p.drawText(r, Qt::AlignCenter, place.tome == 0 ? QStringLiteral("·") : QString::number(place.tome));
     }
+    if (hasFocus()) {
+        p.setPen(QPen(Theme::Bleu(palette()), 1.5));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    }
 }
 
 void BandeSerie::resizeEvent(QResizeEvent *evenement)
@@ -102,4 +109,21 @@ void BandeSerie::mouseMoveEvent(QMouseEvent *evenement)
     const int rang = rangSous(evenement->position().toPoint());
     const bool possede = rang >= 0 && m_bande[static_cast<std::size_t>(rang)].num > 0;
     setCursor(possede ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+/// Left and right go to the neighbours that are owned.
+void BandeSerie::keyPressEvent(QKeyEvent *evenement)
+{
+    const int pas = evenement->key() == Qt::Key_Right ? 1 : evenement->key() == Qt::Key_Left ? -1 : 0;
+    const int nombre = static_cast<int>(m_bande.size());
+    int rang = 0;
+    while (rang < nombre && m_bande[static_cast<std::size_t>(rang)].num != m_courant)
+        ++rang;
+    if (pas == 0 || rang == nombre)
+        return QWidget::keyPressEvent(evenement);
+    do {
+        rang += pas;
+    } while (rang >= 0 && rang < nombre && m_bande[static_cast<std::size_t>(rang)].num == 0);
+    if (rang >= 0 && rang < nombre)
+        Q_EMIT albumDemande(m_bande[static_cast<std::size_t>(rang)].num);
 }

@@ -26,6 +26,7 @@ protected:
     void resizeEvent(QResizeEvent *evenement) override;
     void mouseReleaseEvent(QMouseEvent *evenement) override;
     void mouseMoveEvent(QMouseEvent *evenement) override;
+    void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
     QRect caseDe(int rang) const;

@@ -234,6 +234,31 @@ Entrees General::LirePresse(int editeur)
         Forme::NomNumero, {});
 }
 
+Choix General::LireChoix(const QString &liste, const QString &table, const QString &valeur)
+{
+    static const QStringList roles{
+        QStringLiteral("Scena"), QStringLiteral("Dessin"), QStringLiteral("Color")};
+    const QString role = liste.startsWith(u'L') ? liste.mid(1) : liste;
+    const bool auteurs = table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0;
+    const bool presse = liste == QLatin1String("LPresseBD");
+    const QString sql = roles.contains(role)
+        ? QStringLiteral("SELECT * From %1 where  %2 = -1 order by Nom asc").arg(table, role)
+        : QStringLiteral("SELECT * From %1 order by Nom asc").arg(table);
+    const Base base;
+    Choix choix{remplir(base.OpenRecordset(sql),
+                    auteurs      ? Forme::NomPrenom
+                        : presse ? Forme::NomNumero
+                                 : Forme::Nom,
+                    {}),
+        -1};
+    const QString voulu = Texte::EstVide(valeur) ? QString() : valeur.trimmed().toUpper();
+    for (int i = 0; i < choix.entrees.size() && !voulu.isEmpty() && choix.choisie < 0; ++i) {
+        if (choix.entrees.texte(i).trimmed().toUpper() == voulu)
+            choix.choisie = i;
+    }
+    return choix;
+}
+
 std::vector<int> General::LirePretes()
 {
     const Base base;

@@ -64,6 +64,14 @@ struct Volume
 std::vector<Volume> LireVolumes(const std::vector<int> &albums);
 /// The press items of a publisher. Throws Error.
 Entrees LirePresse(int editeur);
+/// The entries that a choice offers, and the line of the value to preselect (-1 for none). `liste` names the
+/// pick-list ("LScena", "Dessin", "NomI", ...), `table` what it lists; a value of dots is none. Throws Error.
+struct Choix
+{
+    Entrees entrees;
+    int choisie = -1;
+};
+Choix LireChoix(const QString &liste, const QString &table, const QString &valeur);
 /// Numbers of the albums that are lent, in rising order. Throws Error.
 std::vector<int> LirePretes();
 /// One line of a list, read anew; its text is empty when the entry is gone. Throws Error.

@@ -42,6 +42,8 @@ QWidget *Facile::construireCatalogue()
     m_liste = nommer(new QListView(zone), QStringLiteral("LAlbum"));
     m_liste->setModel(&m_modele);
     m_liste->setUniformItemSizes(true);
+    m_liste->setFont(Theme::PoliceChoisie());
+    m_liste->setSpacing(1);
     m_liste->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_nombre = nommer(new QLabel(zone), QStringLiteral("Nombre"));
     m_nombre->setForegroundRole(QPalette::PlaceholderText);

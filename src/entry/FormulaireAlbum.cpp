@@ -58,7 +58,8 @@ void FormulaireAlbum::ajouter(QGridLayout *grille, Txt libelle, const QString &n
     m_libelles.emplace_back(label, libelle);
     nommer(champ, nom);
     const int rang = grille->rowCount();
-    grille->addWidget(label, rang, 0);
+    const bool haut = qobject_cast<QPlainTextEdit *>(champ);
+    grille->addWidget(label, rang, 0, haut ? Qt::AlignTop : Qt::AlignVCenter);
     grille->addWidget(champ, rang, 1);
 }
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void lesAlbumsDUneEntree();
     void renommerEcritCeQueLeLibelleDit_data();
     void renommerEcritCeQueLeLibelleDit();
+    void unChoixMontreLaValeurCourante();
     void leLibelleDePresseSeCoupe_data();
     void leLibelleDePresseSeCoupe();
     void laCopieRefuseLaBaseSousTousSesNoms();
@@ -133,6 +134,23 @@ void tst_general::renommerEcritCeQueLeLibelleDit()
     const Renommage fait = Renommer(TriDe(tri), id, libelle);
     QCOMPARE(fait == Renommage::Coupe, libelle.size() == 60);
     QCOMPARE(QStringLiteral("%1:%2").arg(id).arg(LireTexte(TriDe(tri), id)), attendu);
+}
+
+void tst_general::unChoixMontreLaValeurCourante()
+{
+    const Bac bac;
+    peupler();
+    const QString auteurs = QStringLiteral("Auteurs");
+    const Choix scenaristes
+        = LireChoix(QStringLiteral("LScena"), auteurs, QStringLiteral("töpffer, rodolphe"));
+    QCOMPARE(textes(scenaristes.entrees), QStringList({"1:Töpffer, Rodolphe"}));
+    QCOMPARE(scenaristes.choisie, 0);
+    QCOMPARE(LireChoix(QStringLiteral("Dessin"), auteurs, QString(855, u'.')).choisie, -1);
+    QCOMPARE(LireChoix(QStringLiteral("NomI"), auteurs, QString()).entrees.size(), 3);
+    QCOMPARE(textes(LireChoix(
+                 QStringLiteral("LPresseBD"), QStringLiteral("PresseBD"), QStringLiteral("Le Rire - 12"))
+                        .entrees),
+        QStringList({"2:Fillette - ", "1:Le Rire - 12"}));
 }
 
 void tst_general::leLibelleDePresseSeCoupe_data()
