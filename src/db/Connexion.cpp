@@ -32,16 +32,18 @@ Error traduire(const SQLite::Exception &e, const QString &chemin)
     switch (e.getErrorCode()) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return {Error::Sorte::EnUsage, dire("La base est utilisée par un autre programme."), chemin};
+        return {Error::Sorte::EnUsage,
+            dire(QT_TRANSLATE_NOOP("Base", "La base est utilisée par un autre programme.")), chemin};
     case SQLITE_READONLY:
-        return {Error::Sorte::LectureSeule, dire("La base est en lecture seule."), chemin};
+        return {Error::Sorte::LectureSeule, dire(QT_TRANSLATE_NOOP("Base", "La base est en lecture seule.")),
+            chemin};
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
-        return {Error::Sorte::Abimee, dire("La base est abîmée."), chemin, mots};
+        return {Error::Sorte::Abimee, dire(QT_TRANSLATE_NOOP("Base", "La base est abîmée.")), chemin, mots};
     case SQLITE_FULL:
-        return {dire("Le disque est plein."), chemin, mots};
+        return {dire(QT_TRANSLATE_NOOP("Base", "Le disque est plein.")), chemin, mots};
     default:
-        return {dire("La base a refusé l'opération."), chemin, mots};
+        return {dire(QT_TRANSLATE_NOOP("Base", "La base a refusé l'opération.")), chemin, mots};
     }
 }
 
@@ -81,7 +83,8 @@ Connexion::Connexion(const QString &chemin, Entete::Nature nature)
 void Connexion::preparer(Entete::Nature nature)
 {
     if (sqlite3_db_readonly(m_db->getHandle(), "main") == 1)
-        throw Error(Error::Sorte::LectureSeule, dire("La base est en lecture seule."), m_chemin);
+        throw Error(Error::Sorte::LectureSeule,
+            dire(QT_TRANSLATE_NOOP("Base", "La base est en lecture seule.")), m_chemin);
     Collation::Enregistrer(m_db->getHandle());
     // A first read alone would not hold the file against others: the empty exclusive transaction does.
     m_db->exec("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT; PRAGMA journal_mode=DELETE");
@@ -113,7 +116,7 @@ void Connexion::executer(const std::function<void()> &acte)
     const std::size_t marque = m_journal.taille();
     // When the engine gave a transaction up by itself, what was meant to be one must not go on piece by piece.
     if (profondeur > 0 && sqlite3_get_autocommit(m_db->getHandle()))
-        throw Error(dire("L'opération a été interrompue."), m_chemin);
+        throw Error(dire(QT_TRANSLATE_NOOP("Base", "L'opération a été interrompue.")), m_chemin);
     try {
         acte();
     } catch (const SQLite::Exception &e) {

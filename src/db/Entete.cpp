@@ -40,21 +40,27 @@ void Entete::Verifier(const QString &chemin, Nature nature)
 {
     QFile fichier(chemin);
     if (!fichier.exists())
-        throw Error(Error::Sorte::Introuvable, dire("Le fichier est introuvable."), chemin);
+        throw Error(Error::Sorte::Introuvable,
+            dire(QT_TRANSLATE_NOOP("Entete", "Le fichier est introuvable.")), chemin);
     if (!fichier.open(QIODevice::ReadOnly))
-        throw Error(dire("Le fichier ne peut pas être ouvert."), chemin, fichier.errorString());
+        throw Error(dire(QT_TRANSLATE_NOOP("Entete", "Le fichier ne peut pas être ouvert.")), chemin,
+            fichier.errorString());
     const QByteArray octets = fichier.read(Taille);
     if (octets.mid(4).startsWith("Standard Jet DB") || octets.mid(4).startsWith("Standard ACE DB"))
-        throw Error(Error::Sorte::Ancienne, dire("Ce fichier est au format d'une ancienne version."), chemin);
+        throw Error(Error::Sorte::Ancienne,
+            dire(QT_TRANSLATE_NOOP("Entete", "Ce fichier est au format d'une ancienne version.")), chemin);
     if (octets.isEmpty())
-        throw Error(Error::Sorte::Etrangere, dire("Le fichier est vide."), chemin);
+        throw Error(
+            Error::Sorte::Etrangere, dire(QT_TRANSLATE_NOOP("Entete", "Le fichier est vide.")), chemin);
     const QByteArray magie("SQLite format 3", 16);
     if (octets.size() < Taille || !octets.startsWith(magie)
         || mot(octets, PositionApplication) != static_cast<quint32>(nature))
-        throw Error(Error::Sorte::Etrangere, dire("Ce fichier n'est pas une base de Bulleo."), chemin);
+        throw Error(Error::Sorte::Etrangere,
+            dire(QT_TRANSLATE_NOOP("Entete", "Ce fichier n'est pas une base de Bulleo.")), chemin);
     // After a crash the length may be wrong until the engine has rolled the journal back.
     const bool enSuspens = QFileInfo::exists(chemin + QStringLiteral("-journal"));
     if (!enSuspens && fichier.size() < longueurPromise(octets))
-        throw Error(
-            Error::Sorte::Abimee, dire("Le fichier est abîmé : il est plus court qu'il ne devrait."), chemin);
+        throw Error(Error::Sorte::Abimee,
+            dire(QT_TRANSLATE_NOOP("Entete", "Le fichier est abîmé : il est plus court qu'il ne devrait.")),
+            chemin);
 }
