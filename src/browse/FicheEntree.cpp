@@ -26,7 +26,9 @@ FicheEntree::FicheEntree(QWidget *parent)
         colonne->addWidget(label);
     colonne->addSpacing(Theme::Petit);
     m_etagere = new Etagere(this);
-    colonne->addWidget(m_etagere, 1);
+    constexpr int ToutLeReste = 1000;
+    colonne->addWidget(m_etagere, ToutLeReste);
+    colonne->addStretch(1);
     connect(m_etagere, &Etagere::albumDemande, this, [this](int num) {
         Q_EMIT entreeDemandee({General::Tri::Albums, num});
     });
