@@ -40,7 +40,7 @@ QSize BandeSerie::sizeHint() const
     return {4 * (Largeur + Ecart), lignes * (Hauteur + Ecart)};
 }
 
-/// Chooses the part of a long series that is shown: the current tome stands in its middle.
+/// Chooses the stretch of a long series that is shown: the current tome stands in its middle.
 void BandeSerie::cadrer()
 {
     const int parLigne = std::max(1, (width() + Ecart) / (Largeur + Ecart));

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// A series as a strip of its tomes: those owned, the one shown, and the holes. A click on an owned one asks
-/// for it. A long series shows the part around the tome shown.
+/// for it. A long series shows the stretch around the tome shown.
 class BandeSerie : public QWidget
 {
     Q_OBJECT
