@@ -5,365 +5,365 @@
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
-        <translation type="unfinished"></translation>
+        <translation>An unexpected error has occurred.</translation>
     </message>
 </context>
 <context>
     <name>Bandeau</name>
     <message>
         <source>Quitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Quit</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Aide</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Diaporama</source>
-        <translation type="unfinished"></translation>
+        <translation>Slide Show</translation>
     </message>
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
-        <translation type="unfinished"></translation>
+        <translation>Show the cover and the back in turn</translation>
     </message>
     <message>
         <source>Pas encore disponible</source>
-        <translation type="unfinished"></translation>
+        <translation>Not available yet</translation>
     </message>
 </context>
 <context>
     <name>Base</name>
     <message>
         <source>L&apos;ordre alphabétique n&apos;est pas disponible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alphabetical order is not available.</translation>
     </message>
     <message>
         <source>La base est utilisée par un autre programme.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database is in use by another program.</translation>
     </message>
     <message>
         <source>La base est en lecture seule.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database is read-only.</translation>
     </message>
     <message>
         <source>La base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database is damaged.</translation>
     </message>
     <message>
         <source>Le disque est plein.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disk is full.</translation>
     </message>
     <message>
         <source>La base a refusé l&apos;opération.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database refused the operation.</translation>
     </message>
     <message>
         <source>L&apos;opération a été interrompue.</source>
-        <translation type="unfinished"></translation>
+        <translation>The operation was interrupted.</translation>
     </message>
     <message>
         <source>Il n&apos;y a plus d&apos;enregistrement ici.</source>
-        <translation type="unfinished"></translation>
+        <translation>There are no more records here.</translation>
     </message>
     <message>
         <source>Un champ manque dans la base.</source>
-        <translation type="unfinished"></translation>
+        <translation>A field is missing from the database.</translation>
     </message>
     <message>
         <source>La fiche n&apos;existe plus.</source>
-        <translation type="unfinished"></translation>
+        <translation>The record no longer exists.</translation>
     </message>
     <message>
         <source>La base ne peut pas être créée.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database cannot be created.</translation>
     </message>
     <message>
         <source>Ce fichier existe déjà.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file already exists.</translation>
     </message>
 </context>
 <context>
     <name>Bureau</name>
     <message>
         <source>Cette fiche n&apos;existe pas.</source>
-        <translation type="unfinished"></translation>
+        <translation>This record does not exist.</translation>
     </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
-        <translation type="unfinished"></translation>
+        <translation>The texts of the reference catalogue cannot be decoded.</translation>
     </message>
 </context>
 <context>
     <name>Csv</name>
     <message>
         <source>Ce fichier ne peut pas être lu.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file cannot be read.</translation>
     </message>
 </context>
 <context>
     <name>Dossier</name>
     <message>
         <source>Ce dossier ne peut pas être créé.</source>
-        <translation type="unfinished"></translation>
+        <translation>This folder cannot be created.</translation>
     </message>
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file cannot be copied.</translation>
     </message>
 </context>
 <context>
     <name>Entete</name>
     <message>
         <source>Le fichier est introuvable.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file cannot be found.</translation>
     </message>
     <message>
         <source>Le fichier ne peut pas être ouvert.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file cannot be opened.</translation>
     </message>
     <message>
         <source>Ce fichier est au format d&apos;une ancienne version.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file is in the format of an older version.</translation>
     </message>
     <message>
         <source>Le fichier est vide.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is empty.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file is not a Bulleo database.</translation>
     </message>
     <message>
         <source>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is damaged: it is shorter than it should be.</translation>
     </message>
 </context>
 <context>
     <name>Facile</name>
     <message numerus="yes">
         <source>%n album(s) du catalogue ne peuvent pas être décodés.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album of the catalogue cannot be decoded.</numerusform>
+            <numerusform>%n albums of the catalogue cannot be decoded.</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtrer le catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter the catalogue</translation>
     </message>
     <message>
         <source>Choisir</source>
-        <translation type="unfinished"></translation>
+        <translation>Select</translation>
     </message>
 </context>
 <context>
     <name>FicheAlbum</name>
     <message>
         <source>Montrer l&apos;autre face</source>
-        <translation type="unfinished"></translation>
+        <translation>Show the other side</translation>
     </message>
     <message numerus="yes">
         <source>tome %1, %n album(s) de la série</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>volume %1, %n album of the series</numerusform>
+            <numerusform>volume %1, %n albums of the series</numerusform>
         </translation>
     </message>
     <message>
         <source>Manquants : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Missing: %1</translation>
     </message>
 </context>
 <context>
     <name>FormeCreation</name>
     <message>
         <source>Ctrl+Entrée</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Enter</translation>
     </message>
 </context>
 <context>
     <name>FormulaireAlbum</name>
     <message>
         <source>Couverture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover ...</translation>
     </message>
     <message>
         <source>Dos ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Back ...</translation>
     </message>
     <message>
         <source>Déposez une image ici</source>
-        <translation type="unfinished"></translation>
+        <translation>Drop a picture here</translation>
     </message>
     <message>
         <source>Jour</source>
-        <translation type="unfinished"></translation>
+        <translation>Day</translation>
     </message>
     <message>
         <source>Année</source>
-        <translation type="unfinished"></translation>
+        <translation>Year</translation>
     </message>
 </context>
 <context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
-        <translation type="unfinished"></translation>
+        <translation>The title was cut to 50 characters.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album</numerusform>
+            <numerusform>%n albums</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n série(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n series</numerusform>
+            <numerusform>%n series</numerusform>
         </translation>
     </message>
     <message>
         <source>valeur %1</source>
-        <translation type="unfinished"></translation>
+        <translation>value %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation type="unfinished"></translation>
+        <translation>No record to show for now</translation>
     </message>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation type="unfinished"></translation>
+        <translation>The help cannot be opened.</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
-        <translation type="unfinished"></translation>
+        <translation>Free software, under the GNU GPL licence, version 3 or later</translation>
     </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
-        <translation type="unfinished"></translation>
+        <translation>The copy could not be made.</translation>
     </message>
 </context>
 <context>
     <name>Images</name>
     <message>
         <source>Le dossier des images ne peut pas être créé.</source>
-        <translation type="unfinished"></translation>
+        <translation>The pictures folder cannot be created.</translation>
     </message>
     <message>
         <source>Cette image ne peut pas être copiée.</source>
-        <translation type="unfinished"></translation>
+        <translation>This picture cannot be copied.</translation>
     </message>
 </context>
 <context>
     <name>Journal</name>
     <message>
         <source>Cette modification ne peut plus être reprise : la fiche a changé depuis.</source>
-        <translation type="unfinished"></translation>
+        <translation>This change can no longer be undone or redone: the record has changed since.</translation>
     </message>
 </context>
 <context>
     <name>Liens</name>
     <message>
         <source>Cette adresse ne peut pas être ouverte.</source>
-        <translation type="unfinished"></translation>
+        <translation>This address cannot be opened.</translation>
     </message>
     <message>
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
-        <translation type="unfinished"></translation>
+        <translation>No program opens this address.</translation>
     </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
 </context>
 <context>
     <name>Reglages</name>
     <message>
         <source>Le réglage %1 (« %2 ») n&apos;est pas valable.</source>
-        <translation type="unfinished"></translation>
+        <translation>The setting %1 (“%2”) is not valid.</translation>
     </message>
     <message>
         <source>Le fichier de réglages ne peut pas être lu.</source>
-        <translation type="unfinished"></translation>
+        <translation>The settings file cannot be read.</translation>
     </message>
 </context>
 <context>
     <name>Saisie</name>
     <message>
         <source>Donnez au moins un titre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Give at least a title.</translation>
     </message>
     <message>
         <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation type="unfinished"></translation>
+        <translation>The number is a whole number from 0 to 999.</translation>
     </message>
     <message>
         <source>Le prix est un nombre, comme 12,50.</source>
-        <translation type="unfinished"></translation>
+        <translation>The price is a number, such as 12.50.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file is not a readable picture.</translation>
     </message>
 </context>
 <context>
     <name>Splash</name>
     <message>
         <source> Sélectionner la liste des </source>
-        <translation type="unfinished"></translation>
+        <translation> Select the list of </translation>
     </message>
     <message>
         <source>Pas encore disponible</source>
-        <translation type="unfinished"></translation>
+        <translation>Not available yet</translation>
     </message>
 </context>
 <context>
     <name>Traduction</name>
     <message>
         <source>Le fichier de langue ne peut pas être lu.</source>
-        <translation type="unfinished"></translation>
+        <translation>The language file cannot be read.</translation>
     </message>
     <message>
         <source>Le fichier de langue a un indice qui n&apos;est pas valable.</source>
-        <translation type="unfinished"></translation>
+        <translation>The language file has an index that is not valid.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas un fichier de langue.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file is not a language file.</translation>
     </message>
     <message>
         <source>Le fichier de langue ne peut pas être écrit.</source>
-        <translation type="unfinished"></translation>
+        <translation>The language file cannot be written.</translation>
     </message>
 </context>
 <context>
     <name>VoletListes</name>
     <message>
         <source>Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Your collection is still empty. Create a first album, or open the main menu.</translation>
     </message>
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing here for now. This list fills up with the albums you create.</translation>
     </message>
 </context>
 </TS>

@@ -5,365 +5,365 @@
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une erreur imprévue s&apos;est produite.</translation>
     </message>
 </context>
 <context>
     <name>Bandeau</name>
     <message>
         <source>Quitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Aide</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Diaporama</source>
-        <translation type="unfinished"></translation>
+        <translation>Diaporama</translation>
     </message>
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer tour à tour la couverture et le dos</translation>
     </message>
     <message>
         <source>Pas encore disponible</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore disponible</translation>
     </message>
 </context>
 <context>
     <name>Base</name>
     <message>
         <source>L&apos;ordre alphabétique n&apos;est pas disponible.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ordre alphabétique n&apos;est pas disponible.</translation>
     </message>
     <message>
         <source>La base est utilisée par un autre programme.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base est utilisée par un autre programme.</translation>
     </message>
     <message>
         <source>La base est en lecture seule.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base est en lecture seule.</translation>
     </message>
     <message>
         <source>La base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base est abîmée.</translation>
     </message>
     <message>
         <source>Le disque est plein.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est plein.</translation>
     </message>
     <message>
         <source>La base a refusé l&apos;opération.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base a refusé l&apos;opération.</translation>
     </message>
     <message>
         <source>L&apos;opération a été interrompue.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opération a été interrompue.</translation>
     </message>
     <message>
         <source>Il n&apos;y a plus d&apos;enregistrement ici.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a plus d&apos;enregistrement ici.</translation>
     </message>
     <message>
         <source>Un champ manque dans la base.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un champ manque dans la base.</translation>
     </message>
     <message>
         <source>La fiche n&apos;existe plus.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fiche n&apos;existe plus.</translation>
     </message>
     <message>
         <source>La base ne peut pas être créée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base ne peut pas être créée.</translation>
     </message>
     <message>
         <source>Ce fichier existe déjà.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier existe déjà.</translation>
     </message>
 </context>
 <context>
     <name>Bureau</name>
     <message>
         <source>Cette fiche n&apos;existe pas.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette fiche n&apos;existe pas.</translation>
     </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les textes du catalogue de référence ne peuvent pas être décodés.</translation>
     </message>
 </context>
 <context>
     <name>Csv</name>
     <message>
         <source>Ce fichier ne peut pas être lu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne peut pas être lu.</translation>
     </message>
 </context>
 <context>
     <name>Dossier</name>
     <message>
         <source>Ce dossier ne peut pas être créé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce dossier ne peut pas être créé.</translation>
     </message>
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne peut pas être copié.</translation>
     </message>
 </context>
 <context>
     <name>Entete</name>
     <message>
         <source>Le fichier est introuvable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est introuvable.</translation>
     </message>
     <message>
         <source>Le fichier ne peut pas être ouvert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne peut pas être ouvert.</translation>
     </message>
     <message>
         <source>Ce fichier est au format d&apos;une ancienne version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier est au format d&apos;une ancienne version.</translation>
     </message>
     <message>
         <source>Le fichier est vide.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est vide.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n&apos;est pas une base de Bulleo.</translation>
     </message>
     <message>
         <source>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</translation>
     </message>
 </context>
 <context>
     <name>Facile</name>
     <message numerus="yes">
         <source>%n album(s) du catalogue ne peuvent pas être décodés.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album du catalogue ne peut pas être décodé.</numerusform>
+            <numerusform>%n albums du catalogue ne peuvent pas être décodés.</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtrer le catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer le catalogue</translation>
     </message>
     <message>
         <source>Choisir</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir</translation>
     </message>
 </context>
 <context>
     <name>FicheAlbum</name>
     <message>
         <source>Montrer l&apos;autre face</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer l&apos;autre face</translation>
     </message>
     <message numerus="yes">
         <source>tome %1, %n album(s) de la série</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>tome %1, %n album de la série</numerusform>
+            <numerusform>tome %1, %n albums de la série</numerusform>
         </translation>
     </message>
     <message>
         <source>Manquants : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquants : %1</translation>
     </message>
 </context>
 <context>
     <name>FormeCreation</name>
     <message>
         <source>Ctrl+Entrée</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Entrée</translation>
     </message>
 </context>
 <context>
     <name>FormulaireAlbum</name>
     <message>
         <source>Couverture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Couverture ...</translation>
     </message>
     <message>
         <source>Dos ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos ...</translation>
     </message>
     <message>
         <source>Déposez une image ici</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez une image ici</translation>
     </message>
     <message>
         <source>Jour</source>
-        <translation type="unfinished"></translation>
+        <translation>Jour</translation>
     </message>
     <message>
         <source>Année</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
 </context>
 <context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le titre a été coupé à 50 caractères.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album</numerusform>
+            <numerusform>%n albums</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n série(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n série</numerusform>
+            <numerusform>%n séries</numerusform>
         </translation>
     </message>
     <message>
         <source>valeur %1</source>
-        <translation type="unfinished"></translation>
+        <translation>valeur %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fiche à montrer pour l&apos;instant</translation>
     </message>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;aide ne peut pas être ouverte.</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
-        <translation type="unfinished"></translation>
+        <translation>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</translation>
     </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie n&apos;a pas pu être faite.</translation>
     </message>
 </context>
 <context>
     <name>Images</name>
     <message>
         <source>Le dossier des images ne peut pas être créé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des images ne peut pas être créé.</translation>
     </message>
     <message>
         <source>Cette image ne peut pas être copiée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette image ne peut pas être copiée.</translation>
     </message>
 </context>
 <context>
     <name>Journal</name>
     <message>
         <source>Cette modification ne peut plus être reprise : la fiche a changé depuis.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette modification ne peut plus être reprise : la fiche a changé depuis.</translation>
     </message>
 </context>
 <context>
     <name>Liens</name>
     <message>
         <source>Cette adresse ne peut pas être ouverte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette adresse ne peut pas être ouverte.</translation>
     </message>
     <message>
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun programme n&apos;ouvre cette adresse.</translation>
     </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
 </context>
 <context>
     <name>Reglages</name>
     <message>
         <source>Le réglage %1 (« %2 ») n&apos;est pas valable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réglage %1 (« %2 ») n&apos;est pas valable.</translation>
     </message>
     <message>
         <source>Le fichier de réglages ne peut pas être lu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de réglages ne peut pas être lu.</translation>
     </message>
 </context>
 <context>
     <name>Saisie</name>
     <message>
         <source>Donnez au moins un titre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donnez au moins un titre.</translation>
     </message>
     <message>
         <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le numéro est un nombre entier de 0 à 999.</translation>
     </message>
     <message>
         <source>Le prix est un nombre, comme 12,50.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prix est un nombre, comme 12,50.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n&apos;est pas une image lisible.</translation>
     </message>
 </context>
 <context>
     <name>Splash</name>
     <message>
         <source> Sélectionner la liste des </source>
-        <translation type="unfinished"></translation>
+        <translation> Sélectionner la liste des </translation>
     </message>
     <message>
         <source>Pas encore disponible</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore disponible</translation>
     </message>
 </context>
 <context>
     <name>Traduction</name>
     <message>
         <source>Le fichier de langue ne peut pas être lu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de langue ne peut pas être lu.</translation>
     </message>
     <message>
         <source>Le fichier de langue a un indice qui n&apos;est pas valable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de langue a un indice qui n&apos;est pas valable.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas un fichier de langue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n&apos;est pas un fichier de langue.</translation>
     </message>
     <message>
         <source>Le fichier de langue ne peut pas être écrit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de langue ne peut pas être écrit.</translation>
     </message>
 </context>
 <context>
     <name>VoletListes</name>
     <message>
         <source>Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.</translation>
     </message>
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</translation>
     </message>
 </context>
 </TS>

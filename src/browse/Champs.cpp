@@ -16,12 +16,20 @@ constexpr Source Collections{"Coll", "SELECT * From Coll where NColl = ? order b
 constexpr Source Editeurs{
     "Editeur", "SELECT * From Editeur where NEdit = ? and NEdit <> 0 order by NEdit asc"};
 constexpr Source Emprunteurs{"Pret", "SELECT * From Pret where NPret = ? order by NPret asc"};
-constexpr Source Dessinateurs{
-    "Auteurs", "SELECT * From Auteurs where NAuteur= ? and Dessin <> 0 order by NAuteur asc", nullptr, true};
-constexpr Source Scenaristes{
-    "Auteurs", "SELECT * From Auteurs where NAuteur= ? and Scena <> 0 order by NAuteur asc", nullptr, true};
-constexpr Source Coloristes{
-    "Auteurs", "SELECT * From Auteurs where NAuteur= ? and Color <> 0 order by NAuteur asc", nullptr, true};
+constexpr Source Dessinateurs{"Auteurs",
+    "SELECT * From Auteurs where NAuteur= ? and Dessin <> 0 order by NAuteur asc", nullptr, Prenom::Apres};
+constexpr Source Scenaristes{"Auteurs",
+    "SELECT * From Auteurs where NAuteur= ? and Scena <> 0 order by NAuteur asc", nullptr, Prenom::Apres};
+constexpr Source Coloristes{"Auteurs",
+    "SELECT * From Auteurs where NAuteur= ? and Color <> 0 order by NAuteur asc", nullptr, Prenom::Apres};
+
+constexpr Source GenreDeSerie{"Genre", "SELECT * From Genre where NGenre= ? order by NGenre asc"};
+constexpr Source EditeurDeFiche{"Editeur", "SELECT * From Editeur where NEdit = ? order by NEdit asc"};
+constexpr Source PaysDeFiche{"Pays", "SELECT * From Pays where NPays = ? order by NPays asc"};
+constexpr Source DessinateurDExLibris{"Auteurs",
+    "SELECT * From Auteurs where NAuteur = ? and Dessin <> 0 order by NAuteur  asc", nullptr, Prenom::Avant};
+constexpr Source Librairies{
+    "Librairie", "SELECT * From Librairie where NLibrairie = ? order by NLibrairie asc"};
 
 constexpr Ligne ToutesLesLignes[] = {
     {Feuille::Album, "Album", "SELECT * From Album where Num = ? order by NAlbum asc; ",
@@ -114,16 +122,113 @@ constexpr Champ TousLesChamps[] = {
     {Feuille::Album, "EtatD", "EtatD", Txt::EtatDeLaDedicace, "LAlbums", "EtatD", Directe, Regle::Texte,
         Vue::Etoiles},
 
-    {Feuille::Serie, "Nom", "Nom", Txt::Nom, "Serie", "Nom", Saisie, Regle::Texte, Vue::Texte},
+    {Feuille::Serie, "Nom", "Nom", Txt::NomDeLaSerie, "Serie", "Nom", Saisie, Regle::Texte, Vue::Texte},
+    {Feuille::Serie, "NomGenre", "NomGenre", Txt::Genre, "Serie", "NGenre", Choix, Regle::Identifiant,
+        Vue::Nom, &GenreDeSerie},
+    {Feuille::Serie, "NoteG", "NoteG", Txt::AppreciationGenerale, "Serie", "NoteG", Directe, Regle::Nombre,
+        Vue::Etoiles},
+    {Feuille::Serie, "NoteD", "NoteD", Txt::NoteDessin, "Serie", "NoteD", Directe, Regle::Nombre,
+        Vue::Etoiles},
+    {Feuille::Serie, "NoteS", "NoteS", Txt::NoteScenario, "Serie", "NoteS", Directe, Regle::Nombre,
+        Vue::Etoiles},
+    {Feuille::Serie, "SiteWeb(0)", "SiteWeb(0)", Txt::LienInternet1, "Serie", "SiteWeb1", Saisie, Regle::Http,
+        Vue::Lien},
+    {Feuille::Serie, "SiteWeb(1)", "SiteWeb(1)", Txt::LienInternet2, "Serie", "SiteWeb2", Saisie, Regle::Http,
+        Vue::Lien},
+    {Feuille::Serie, "Commentaire", "Commentaire", Txt::Commentaires, "Serie", "Commentaire", Directe,
+        Regle::Texte, Vue::Memo},
+    {Feuille::Serie, "CoteSerie", "CoteSerie", Txt::Cote, "Serie", "cote", Saisie, Regle::Nombre, Vue::Cote},
+    {Feuille::Serie, "Editeur", "Editeur", Txt::Editeur, "Serie", "NEditeur", Choix, Regle::Identifiant,
+        Vue::Nom, &EditeurDeFiche},
+    {Feuille::Serie, "Histoire", "Histoire", Txt::ResumeDeLaSerie, "Serie", "Histoire", Directe, Regle::Texte,
+        Vue::Memo},
+    {Feuille::Serie, "Photo1", "Photo1", Txt::Photos, "Serie", "Photo1", Directe, Regle::Texte, Vue::Image},
+    {Feuille::Serie, "Photo2", "Photo2", Txt::Photos, "Serie", "Photo2", Directe, Regle::Texte, Vue::Image},
+
     {Feuille::Auteur, "Nom", "Nom", Txt::Nom, "Auteurs", "Nom", Saisie, Regle::Texte, Vue::Texte},
     {Feuille::Auteur, "Prenom", "Prenom", Txt::Prenom, "Auteurs", "Prenom", Saisie, Regle::Texte, Vue::Texte},
+    {Feuille::Auteur, "Surnom", "SurNom", Txt::Surnom, "Auteurs", "SurNom", Saisie, Regle::Texte, Vue::Texte},
+    {Feuille::Auteur, "Naiss", "Naiss", Txt::DateDeNaissance, "Auteurs", "DateNaiss", Date, Regle::Texte,
+        Vue::Texte},
+    {Feuille::Auteur, "LieuN", "LieuN", Txt::LieuDeNaissance, "Auteurs", "LieuNaiss", Saisie, Regle::Texte,
+        Vue::Texte},
+    {Feuille::Auteur, "PaysN", "PaysN", Txt::Nationalite, "Auteurs", "NPays", Choix, Regle::Identifiant,
+        Vue::Nom, &PaysDeFiche},
+    {Feuille::Auteur, "Liens(0)", "Liens(0)", Txt::LienInternet1, "Auteurs", "web1", Saisie, Regle::Texte,
+        Vue::Lien},
+    {Feuille::Auteur, "Liens(1)", "Liens(1)", Txt::LienInternet2, "Auteurs", "web2", Saisie, Regle::Texte,
+        Vue::Lien},
+    {Feuille::Auteur, "CommA", "CommA", Txt::Commentaires, "Auteurs", "Commentaire", Directe, Regle::Texte,
+        Vue::Memo},
+    {Feuille::Auteur, "Photo1", "Photo1", Txt::Photos, "Auteurs", "Photo1", Directe, Regle::Texte,
+        Vue::Image},
+    {Feuille::Auteur, "Photo2", "Photo2", Txt::Photos, "Auteurs", "Photo2", Directe, Regle::Texte,
+        Vue::Image},
+
     {Feuille::Editeur, "NomE", "NomE", Txt::NomDeLEditeur, "Editeur", "Nom", Saisie, Regle::Texte,
         Vue::Texte},
+    {Feuille::Editeur, "AdressE(0)", "AdressE(0)", Txt::Adresse, "Editeur", "adresse1", Saisie, Regle::Texte,
+        Vue::Texte},
+    {Feuille::Editeur, "AdressE(1)", "AdressE(1)", Txt::Adresse, "Editeur", "adresse2", Saisie, Regle::Texte,
+        Vue::Texte},
+    {Feuille::Editeur, "CPE", "CPE", Txt::CodePostal, "Editeur", "CP", Saisie, Regle::Texte, Vue::Texte},
+    {Feuille::Editeur, "VilleE", "VilleE", Txt::Ville, "Editeur", "ville", Saisie, Regle::Texte, Vue::Texte},
+    {Feuille::Editeur, "PaysE", "PaysE", Txt::Pays, "Editeur", "NPays", Choix, Regle::Identifiant, Vue::Nom,
+        &PaysDeFiche},
+    {Feuille::Editeur, "TelE", "TelE", Txt::Telephone, "Editeur", "Tel", Saisie, Regle::Texte, Vue::Texte},
+    {Feuille::Editeur, "SiteE", "SiteE", Txt::SiteInternet, "Editeur", "Site", Saisie, Regle::Texte,
+        Vue::Lien},
+    {Feuille::Editeur, "Photo1", "Photo1", Txt::Photos, "Editeur", "Photo1", Directe, Regle::Texte,
+        Vue::Image},
+    {Feuille::Editeur, "Photo2", "Photo2", Txt::Photos, "Editeur", "Photo2", Directe, Regle::Texte,
+        Vue::Image},
+
     {Feuille::ExLibris, "DescriptionX", "DescriptionX", Txt::Nom, "ExLibris", "Nom", Saisie, Regle::Texte,
         Vue::Texte},
+    {Feuille::ExLibris, "SerieX", "SerieX", Txt::Serie, "ExLibris", "NSerie", Choix, Regle::Identifiant,
+        Vue::Nom, &Series},
+    {Feuille::ExLibris, "DessinX", "DessinX", Txt::Dessinateur, "ExLibris", "NDessin", Choix,
+        Regle::Identifiant, Vue::Nom, &DessinateurDExLibris},
+    {Feuille::ExLibris, "Librairie", "Librairie", Txt::Librairie, "ExLibris", "NLibrairie", Choix,
+        Regle::Identifiant, Vue::Nom, &Librairies},
+    {Feuille::ExLibris, "DAX", "DAX", Txt::DateDAchat, "ExLibris", "DAchat", Date, Regle::Texte, Vue::Texte},
+    {Feuille::ExLibris, "PrixAX", "PrixAX", Txt::PrixDAchat, "ExLibris", "PrixA", Saisie, Regle::Prix,
+        Vue::Prix},
+    {Feuille::ExLibris, "DedicaceX", "DedicaceX", Txt::AvecDedicace, "ExLibris", "Dedicace", Directe,
+        Regle::Drapeau, Vue::Case},
+    {Feuille::ExLibris, "SigneX", "SigneX", Txt::Signe, "ExLibris", "Signe", Directe, Regle::Drapeau,
+        Vue::Case},
+    {Feuille::ExLibris, "TypeExlibris", "TypeExlibris", Txt::ExLibris, "ExLibris", "TypeExlibris", Directe,
+        Regle::Nombre, Vue::Genre},
+    {Feuille::ExLibris, "CommX", "CommX", Txt::Commentaires, "ExLibris", "Comm", Directe, Regle::Texte,
+        Vue::Memo},
+    {Feuille::ExLibris, "Photo1", "Photo1", Txt::Photos, "ExLibris", "Photo1", Directe, Regle::Texte,
+        Vue::Image},
+    {Feuille::ExLibris, "Photo2", "Photo2", Txt::Photos, "ExLibris", "Photo2", Directe, Regle::Texte,
+        Vue::Image},
+
     {Feuille::Presse, "NomP", "NomP", Txt::Nom, "PresseBD", "Nom", Saisie, Regle::Texte, Vue::Texte},
     {Feuille::Presse, "NumP", "NumP", Txt::Numero, "PresseBD", "NPresseBD", Saisie, Regle::Nombre,
         Vue::Texte},
+    {Feuille::Presse, "EditeurP", "EditeurP", Txt::Editeur, "PresseBD", "NEdit", Choix, Regle::Identifiant,
+        Vue::Nom, &EditeurDeFiche},
+    {Feuille::Presse, "ParutionP", "ParutionP", Txt::PeriodeDeParution, "PresseBD", "Parution", Directe,
+        Regle::Nombre, Vue::Parution},
+    {Feuille::Presse, "DepotLP", "DepotLP", Txt::DepotLegal, "PresseBD", "DepotLegale", Saisie, Regle::Texte,
+        Vue::Texte},
+    {Feuille::Presse, "DAP", "DAP", Txt::DateDAchat, "PresseBD", "DAchat", Date, Regle::Texte, Vue::Texte},
+    {Feuille::Presse, "PrixAP", "PrixAP", Txt::PrixDAchat, "PresseBD", "PrixA", Saisie, Regle::Prix,
+        Vue::Prix},
+    {Feuille::Presse, "ReliureP", "ReliureP", Txt::Reliure, "PresseBD", "Reliure", Directe, Regle::Drapeau,
+        Vue::Case},
+    {Feuille::Presse, "HSP", "HSP", Txt::HorsSerie, "PresseBD", "HS", Directe, Regle::Drapeau, Vue::Case},
+    {Feuille::Presse, "CommP", "CommP", Txt::Commentaires, "PresseBD", "Comm", Directe, Regle::Texte,
+        Vue::Memo},
+    {Feuille::Presse, "Photo1", "Photo1", Txt::Photos, "PresseBD", "Photo1", Directe, Regle::Texte,
+        Vue::Image},
+    {Feuille::Presse, "Photo2", "Photo2", Txt::Photos, "PresseBD", "Photo2", Directe, Regle::Texte,
+        Vue::Image},
+
     {Feuille::Coll, "NomC", "NomC", Txt::Nom, "Coll", "Nom", Saisie, Regle::Texte, Vue::Texte},
 };
 

@@ -23,12 +23,31 @@ enum class Regle {
     Nombre, ///< whole number, or empty
     Pages, ///< text that is empty or a number
     Prix, ///< amount; empty is none
+    Http, ///< web address; "http://" is put in front when it is missing
     Drapeau, ///< yes or no
     Identifiant ///< number of an entry of another table
 };
 
 /// How a value is shown.
-enum class Vue { Texte, Memo, Tome, Prix, Etoiles, Case, Format, Couleur, Nom, Image };
+enum class Vue {
+    Texte,
+    Memo,
+    Tome,
+    Prix,
+    Cote,
+    Etoiles,
+    Case,
+    Format,
+    Couleur,
+    Parution,
+    Genre,
+    Nom,
+    Lien,
+    Image
+};
+
+/// In which order a person's two names are shown, if there are two.
+enum class Prenom { Sans, Apres, Avant };
 
 /// Where the names of a choice come from.
 struct Source
@@ -36,7 +55,7 @@ struct Source
     const char *table;
     const char *lecture; ///< the row of one entry, by its identifier
     const char *liens = nullptr; ///< link rows of an album; then every linked entry is named
-    bool prenom = false; ///< the name is followed by ", first name"
+    Prenom prenom = Prenom::Sans;
 };
 
 struct Champ

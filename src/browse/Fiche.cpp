@@ -13,6 +13,11 @@ namespace {
 
 constexpr qsizetype LongueurTitre = 50;
 constexpr qsizetype LongueurTome = 3;
+const QString Http = QStringLiteral("http://");
+
+/// The kinds of ex-libris, by number.
+constexpr std::array Types{Txt::ExLibris, Txt::PorteFolio, Txt::Serigraphie, Txt::MarquePage,
+    Txt::Litographie, Txt::Affiche, Txt::Poster, Txt::Autres};
 
 /// Text of one of several captions chosen by number; empty for a number that has none.
 template <std::size_t N>
@@ -100,6 +105,8 @@ QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
     static constexpr std::array Formats{
         Txt::FormatNormal, Txt::GrandFormat, Txt::FormatItalienne, Txt::AutreFormat};
     static constexpr std::array Couleurs{Txt::Couleur, Txt::NoirEtBlanc, Txt::Infographie};
+    static constexpr std::array Parutions{Txt::Quotidienne, Txt::Hebdomadaire, Txt::BiMensuelle,
+        Txt::Mensuelle, Txt::Bimestrielle, Txt::Trimestrielle, Txt::Semestrielle, Txt::Annuelle};
     switch (champ.vue) {
     case Vue::Tome:
         return nombreOuRien(stockee);
@@ -115,8 +122,19 @@ QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
         return parmi(Couleurs, stockee.toInt() - 1);
     case Vue::Memo:
         return Texte::EstVide(stockee.toString()) ? QString() : stockee.toString();
+    case Vue::Cote:
+        return stockee.isValid() ? QStringLiteral("%1").arg(stockee.toInt(), 2, 10, QLatin1Char('0'))
+                                 : QString();
+    case Vue::Parution: {
+        // The number stands first, its word beside it.
+        const QString mot = stockee.isValid() ? parmi(Parutions, stockee.toInt()) : QString();
+        return mot.isEmpty() ? stockee.toString() : stockee.toString() + QStringLiteral(" - ") + mot;
+    }
+    case Vue::Genre:
+        return stockee.isValid() ? parmi(Types, stockee.toInt()) : QString();
     case Vue::Texte:
     case Vue::Nom:
+    case Vue::Lien:
     case Vue::Image:
         break;
     }
@@ -144,6 +162,8 @@ std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisi
         const auto valeur = montant(net);
         return valeur ? std::optional<QVariant>(*valeur) : std::nullopt;
     }
+    case Regle::Http:
+        return net.isEmpty() || net.left(Http.size()).toLower() == Http ? net : Http + net;
     case Regle::Drapeau:
         return QVariant(net != QLatin1String("0") && !net.isEmpty());
     case Regle::Texte:
@@ -176,7 +196,11 @@ QString Fiche::LireNom(const Source &source, int id)
     if (rs.AtEnd())
         return {};
     const QString nom = rs.Fields(1).toString().trimmed();
-    return source.prenom ? Texte::NomPrenom(nom, rs.Fields(2).toString()) : nom;
+    const QString prenom = source.prenom == Prenom::Sans ? QString() : rs.Fields(2).toString().trimmed();
+    if (prenom.isEmpty())
+        return nom;
+    return source.prenom == Prenom::Apres ? Texte::NomPrenom(nom, prenom)
+                                          : prenom + QStringLiteral(", ") + nom;
 }
 
 QString Fiche::LireNomsLies(const Source &source, int album)
