@@ -189,6 +189,17 @@ void Fiche::Ecrire(Feuille feuille, int id, const char *nom, const QVariant &val
     }
 }
 
+bool Fiche::EcrireSaisie(Feuille feuille, int id, const QString &nom, const QString &saisie)
+{
+    const QByteArray cle = nom.toUtf8();
+    const Champ *champ = Chercher(feuille, cle.constData());
+    Q_ASSERT_X(champ, "Fiche", cle.constData());
+    const auto valeur = Verifier(*champ, saisie);
+    if (valeur)
+        Ecrire(feuille, id, champ->nom, *valeur);
+    return valeur.has_value();
+}
+
 QString Fiche::LireNom(const Source &source, int id)
 {
     const Base base;

@@ -32,6 +32,9 @@ std::optional<QVariant> Verifier(const Champs::Champ &champ, const QString &sais
 /// Writes one value of an entry; nothing happens when the entry is gone.
 void Ecrire(Champs::Feuille feuille, int id, const char *nom, const QVariant &valeur);
 
+/// Writes an entered text into a field when the field accepts it; false when it refuses, and nothing changes.
+bool EcrireSaisie(Champs::Feuille feuille, int id, const QString &nom, const QString &saisie);
+
 /// The name of an entry that a choice offers, or empty.
 QString LireNom(const Champs::Source &source, int id);
 /// The names of all entries that an album is linked to, joined by ", ".

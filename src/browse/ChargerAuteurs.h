@@ -1,0 +1,29 @@
+#pragma once
+
+#include "browse/Fiche.h"
+#include "browse/General.h"
+
+/// The author sheet: his trades, and the two names that one field may hold.
+namespace ChargerAuteurs {
+
+/// The trades area, as it stands for an author who was chosen from the list of one trade.
+struct Metiers
+{
+    Txt titre;
+    struct Autre
+    {
+        Txt libelle;
+        bool exerce;
+    } autres[2];
+};
+
+/// Values of the sheet, or nothing when there is no such author. Throws Error.
+std::optional<Valeurs> AfficherAuteur(int nAuteur);
+/// The trade of the list first, then the two others with their flags. Throws Error.
+Metiers LireMetiers(int nAuteur, General::Tri liste);
+
+/// Writes one field. "Nom" and "Prenom" take "first name, name"; "Métiers" takes trade names separated by "|",
+/// and clears the flag of each that is not named. Throws Error.
+void EcrireAuteur(int nAuteur, const QString &champ, const QString &valeur);
+
+}

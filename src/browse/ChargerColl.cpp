@@ -1,0 +1,13 @@
+#include "browse/ChargerColl.h"
+
+using Champs::Feuille;
+
+std::optional<Valeurs> ChargerColl::AfficherColl(int nColl)
+{
+    return Fiche::Lire(Feuille::Coll, nColl);
+}
+
+void ChargerColl::EcrireColl(int nColl, const QString &valeur)
+{
+    Fiche::EcrireSaisie(Feuille::Coll, nColl, QStringLiteral("NomC"), valeur);
+}

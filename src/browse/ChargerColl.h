@@ -1,0 +1,13 @@
+#pragma once
+
+#include "browse/Fiche.h"
+
+/// The sheet of a collection: its name.
+namespace ChargerColl {
+
+/// Values of the sheet, or nothing when there is no such collection. Throws Error.
+std::optional<Valeurs> AfficherColl(int nColl);
+/// Writes the name. Throws Error.
+void EcrireColl(int nColl, const QString &valeur);
+
+}

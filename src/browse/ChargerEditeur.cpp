@@ -1,0 +1,13 @@
+#include "browse/ChargerEditeur.h"
+
+using Champs::Feuille;
+
+std::optional<Valeurs> ChargerEditeur::AfficherEditeur(int nEdit)
+{
+    return Fiche::Lire(Feuille::Editeur, nEdit);
+}
+
+void ChargerEditeur::EcrireEditeur(int nEdit, const QString &champ, const QString &valeur)
+{
+    Fiche::EcrireSaisie(Feuille::Editeur, nEdit, champ, valeur);
+}

@@ -1,0 +1,13 @@
+#include "browse/ChargerPresse.h"
+
+using Champs::Feuille;
+
+std::optional<Valeurs> ChargerPresse::AfficherPresse(int nPressBD)
+{
+    return Fiche::Lire(Feuille::Presse, nPressBD);
+}
+
+void ChargerPresse::EcrirePresse(int nPressBD, const QString &champ, const QString &valeur)
+{
+    Fiche::EcrireSaisie(Feuille::Presse, nPressBD, champ, valeur);
+}
