@@ -35,6 +35,11 @@ QWidget *fabriquer(Vue vue, QWidget *parent)
     }
     case Vue::Image:
         return new CadreImage(parent);
+    case Vue::Lien: {
+        auto *lien = new Legende(parent);
+        lien->poserLien(true);
+        return lien;
+    }
     default:
         return new Legende(parent);
     }

@@ -3,7 +3,7 @@
 #include "browse/Bandeau.h"
 #include "browse/ChargerAlbums.h"
 #include "browse/FicheAlbum.h"
-#include "browse/FicheEntree.h"
+#include "browse/FicheEntite.h"
 #include "browse/VoletListes.h"
 #include "browse/VueListe.h"
 #include "core/Dossier.h"
@@ -276,32 +276,38 @@ void Frmmain::choisir(Entree entree)
 void Frmmain::montrerFiche(Entree entree)
 {
     m_courante = entree;
-    if (entree.tri == Tri::Albums) {
-        const auto fiche = ChargerAlbums::AfficherAlbum(entree.id);
-        if (!fiche)
-            return oublier();
-        if (!m_ficheAlbum) {
-            m_ficheAlbum = new FicheAlbum(m_fiches);
-            m_fiches->addWidget(m_ficheAlbum);
-            connect(m_ficheAlbum, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree,
-                Qt::QueuedConnection);
-            m_ficheAlbum->poserDefilement(Reglages::courant().booleen(Cle::Loop));
-        }
-        m_ficheAlbum->montrer(*fiche);
-        m_fiches->setCurrentWidget(m_ficheAlbum);
-        return;
-    }
-    if (!m_ficheEntree) {
-        m_ficheEntree = new FicheEntree(m_fiches);
-        m_fiches->addWidget(m_ficheEntree);
-        connect(
-            m_ficheEntree, &FicheEntree::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
-    }
-    const QString nom = LireTexte(entree.tri, entree.id);
-    if (nom.isEmpty())
+    if (entree.tri == Tri::Albums)
+        return montrerAlbum(entree.id);
+    const Champs::Feuille feuille = GenreDe(entree.tri).feuille;
+    const auto valeurs = Fiche::Lire(feuille, entree.id);
+    if (!valeurs)
         return oublier();
-    m_ficheEntree->montrer(entree, nom, LireAlbums(entree.tri, entree.id));
-    m_fiches->setCurrentWidget(m_ficheEntree);
+    FicheEntite *&fiche = m_fichesEntites[feuille];
+    if (!fiche) {
+        fiche = new FicheEntite(feuille, m_fiches);
+        m_fiches->addWidget(fiche);
+        connect(fiche, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
+    }
+    fiche->montrer(entree, *valeurs, LireAlbums(entree.tri, entree.id));
+    if (feuille == Champs::Feuille::Auteur)
+        fiche->montrerMetiers(ChargerAuteurs::LireMetiers(entree.id, entree.tri));
+    m_fiches->setCurrentWidget(fiche);
+}
+
+void Frmmain::montrerAlbum(int num)
+{
+    const auto fiche = ChargerAlbums::AfficherAlbum(num);
+    if (!fiche)
+        return oublier();
+    if (!m_ficheAlbum) {
+        m_ficheAlbum = new FicheAlbum(m_fiches);
+        m_fiches->addWidget(m_ficheAlbum);
+        connect(
+            m_ficheAlbum, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
+        m_ficheAlbum->poserDefilement(Reglages::courant().booleen(Cle::Loop));
+    }
+    m_ficheAlbum->montrer(*fiche);
+    m_fiches->setCurrentWidget(m_ficheAlbum);
 }
 
 /// The entry shown is gone.
@@ -341,6 +347,8 @@ void Frmmain::appliquerApparence()
     m_volet->appliquerApparence();
     if (m_ficheAlbum)
         m_ficheAlbum->AppliquerPolicesFiche();
+    for (const auto &[feuille, fiche] : m_fichesEntites)
+        fiche->AppliquerPolicesFiche();
     m_fond->charger();
 }
 

@@ -5,10 +5,11 @@
 
 #include <QTimer>
 #include <functional>
+#include <map>
 
 class Bandeau;
 class FicheAlbum;
-class FicheEntree;
+class FicheEntite;
 class Fond;
 class QBoxLayout;
 class QLabel;
@@ -66,6 +67,7 @@ private:
 
     void choisir(General::Entree entree);
     void montrerFiche(General::Entree entree);
+    void montrerAlbum(int num);
     void oublier();
     void renommer(General::Tri tri, int id, const QString &libelle);
     void poserTotaux();
@@ -80,7 +82,7 @@ private:
     QScrollArea *m_defilement = nullptr;
     QStackedWidget *m_fiches = nullptr;
     FicheAlbum *m_ficheAlbum = nullptr;
-    FicheEntree *m_ficheEntree = nullptr;
+    std::map<Champs::Feuille, FicheEntite *> m_fichesEntites;
     QLabel *m_accueil = nullptr;
     QLabel *m_message = nullptr;
     QLabel *m_anim = nullptr;

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "browse/ChargerAuteurs.h"
+#include "browse/FicheForme.h"
+
+#include <optional>
+
+class Etagere;
+class QBoxLayout;
+class QCheckBox;
+class QGridLayout;
+class QRadioButton;
+class TitreGroupe;
+
+/// The sheet of a series, author, publisher, ex-libris, press item or collection, laid out by a plan: head,
+/// pictures, groups of fields, texts, and the albums on a shelf.
+class FicheEntite : public FicheForme
+{
+    Q_OBJECT
+
+public:
+    explicit FicheEntite(Champs::Feuille feuille, QWidget *parent = nullptr);
+
+    void montrer(General::Entree entree, const Valeurs &valeurs, const Entrees &albums);
+    /// The trades area of an author.
+    void montrerMetiers(const ChargerAuteurs::Metiers &metiers);
+
+protected:
+    void Traduire() override;
+
+private:
+    struct Plan;
+    static const Plan &PlanDe(Champs::Feuille feuille);
+
+    QWidget *construireImages();
+    QWidget *construireGroupes();
+    QWidget *construireMemos();
+    void construireMetiers(QBoxLayout *colonne);
+    void construireTypes(QBoxLayout *colonne);
+    TitreGroupe *titreDe(Txt texte);
+
+    const Plan &m_plan;
+    std::vector<std::pair<TitreGroupe *, Txt>> m_titres;
+    std::vector<QGridLayout *> m_grilles;
+    QLabel *m_genre = nullptr;
+    QLabel *m_nombre = nullptr;
+    TitreGroupe *m_metier = nullptr;
+    QCheckBox *m_metiers[2] = {};
+    std::vector<QRadioButton *> m_types;
+    Etagere *m_albums = nullptr;
+    General::Tri m_tri = General::Tri::Albums;
+};
