@@ -43,4 +43,20 @@ std::vector<Cote> AfficherCotes(int num);
 /// Contributors ("first name , name") with their trades. Throws Error.
 std::vector<Intervenant> AfficherIntervenants(int num);
 
+/// Writes one field of the album. "Hist" goes into the list row's copy, too; "DateD" is the album's publication
+/// date here. False when the field refuses the text. Throws Error.
+bool EcrireAlbum(int num, const QString &champ, const QString &valeur);
+
+/// Writes one field of the album's list row: title, pictures, dedications. Throws Error.
+bool EcrireListe(int num, const QString &champ, const QString &valeur);
+
+/// Replaces a line of the grid of contributors by what its two cells now say, making the contributor ("first
+/// name , name") and the trade when there are none. A blank cell is none; without a contributor the line goes.
+/// `ancien` is the line as it was, empty for a new one. Returns the line as it is now. Throws Error.
+Intervenant EcrireIntervenant(
+    int num, const Intervenant &ancien, const QString &nom, const QString &activite);
+
+/// Replaces a line of the grid of quotes; one that is blank in both halves goes. Throws Error.
+void EcrireCote(int num, const Cote &ancienne, const Cote &nouvelle);
+
 }

@@ -92,6 +92,10 @@ QWidget *FicheForme::creer(const char *nom)
 void FicheForme::ajouterLigne(QGridLayout *grille, const char *nom)
 {
     QWidget *controle = creer(nom);
+    if (qobject_cast<QCheckBox *>(controle)) {
+        grille->addWidget(controle, grille->rowCount(), 1); // a box says itself what it is
+        return;
+    }
     auto *libelle = new QLabel(this);
     libelle->setForegroundRole(QPalette::PlaceholderText);
     libelle->setBuddy(controle);
