@@ -4,6 +4,7 @@
 #include "core/ui/CadreImage.h"
 #include "core/ui/Etoiles.h"
 #include "core/ui/Legende.h"
+#include "core/ui/Liens.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
@@ -86,6 +87,8 @@ QWidget *FicheForme::creer(const char *nom)
     Q_ASSERT(champ);
     QWidget *controle = nommer(fabriquer(champ->vue, this), QString::fromLatin1(champ->controle));
     m_controles[nom] = controle;
+    if (champ->vue == Vue::Lien)
+        connect(qobject_cast<Legende *>(controle), &Legende::ouvertureDemandee, this, &Liens::Ouvrir);
     return controle;
 }
 
@@ -113,6 +116,8 @@ void FicheForme::Traduire()
         controle->setAccessibleName(libelle);
         if (auto *boite = qobject_cast<QCheckBox *>(controle))
             boite->setText(libelle);
+        if (Chercher(m_feuille, nom.c_str())->vue == Vue::Lien)
+            controle->setToolTip(texte(Txt::CliquerPourSiteInternet));
         if (const auto trouve = m_libelles.find(nom); trouve != m_libelles.end())
             trouve->second->setText(libelle);
     }

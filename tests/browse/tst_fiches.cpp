@@ -8,6 +8,7 @@
 #include "db/Base.h"
 #include "support/Bac.h"
 
+#include <QFile>
 #include <QTest>
 
 using namespace Champs;
@@ -27,22 +28,25 @@ private Q_SLOTS:
 
 namespace {
 
-/// One entry of every kind, number 1, and what its choices offer.
+/// The sample collection, with known values in the entries number 1 and in what their choices offer.
 void peupler()
 {
+    const QString collection = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
+    QVERIFY(QFile::remove(collection) && QFile::copy(QStringLiteral(EXEMPLE "/bd.mdb"), collection));
     for (const char *sql : {
-             "INSERT INTO Album(Num, NAlbum) VALUES (1, 1)",
-             "INSERT INTO LAlbums(NAlbum, TAlbum) VALUES (1, 'a')",
-             "INSERT INTO Serie(NSerie, Nom, cote) VALUES (1, 'Zig', 5), (2, 'Zag', 6)",
-             "INSERT INTO Auteurs(NAuteur, Nom, Prenom, Dessin, Scena) VALUES (1, 'Doré', 'Gustave', -1, "
+             "INSERT OR REPLACE INTO Album(Num, NAlbum) VALUES (1, 1)",
+             "INSERT OR REPLACE INTO LAlbums(NAlbum, TAlbum) VALUES (1, 'a')",
+             "INSERT OR REPLACE INTO Serie(NSerie, Nom, cote) VALUES (1, 'Zig', 5), (2, 'Zag', 6)",
+             "INSERT OR REPLACE INTO Auteurs(NAuteur, Nom, Prenom, Dessin, Scena) VALUES (1, 'Doré', "
+             "'Gustave', -1, "
              "-1), (2, 'Cham', ' ', 0, -1)",
-             "INSERT INTO Editeur(NEdit, Nom) VALUES (1, 'Plon'), (2, 'Aubert')",
-             "INSERT INTO ExLibris(NExLibris, Nom, PrixA) VALUES (1, 'La noce', 9)",
-             "INSERT INTO PresseBD(NPressBD, Nom, NPresseBD) VALUES (1, 'Le Rire', 12)",
-             "INSERT INTO Coll(NColl, Nom) VALUES (1, 'Jabot')",
-             "INSERT INTO Genre VALUES (2, 'Humour')",
-             "INSERT INTO Pays VALUES (2, 'Suisse')",
-             "INSERT INTO Librairie VALUES (2, 'La Plume')",
+             "INSERT OR REPLACE INTO Editeur(NEdit, Nom) VALUES (1, 'Plon'), (2, 'Aubert')",
+             "INSERT OR REPLACE INTO ExLibris(NExLibris, Nom, PrixA) VALUES (1, 'La noce', 9)",
+             "INSERT OR REPLACE INTO PresseBD(NPressBD, Nom, NPresseBD) VALUES (1, 'Le Rire', 12)",
+             "INSERT OR REPLACE INTO Coll(NColl, Nom) VALUES (1, 'Jabot')",
+             "INSERT OR REPLACE INTO Genre VALUES (2, 'Humour')",
+             "INSERT OR REPLACE INTO Pays VALUES (2, 'Suisse')",
+             "INSERT OR REPLACE INTO Librairie VALUES (2, 'La Plume')",
          })
         Bac::executer(QString::fromUtf8(sql));
 }
@@ -180,8 +184,8 @@ void tst_fiches::chaqueChampSEcritEtSeRelit()
     else
         QCOMPARE(valeur.affichee, affichee);
     // An entry that is not there is neither made nor missed.
-    Fiche::Ecrire(static_cast<Feuille>(feuille), 99, ligne->nom, valeur.stockee);
-    QVERIFY(!Fiche::Lire(static_cast<Feuille>(feuille), 99));
+    Fiche::Ecrire(static_cast<Feuille>(feuille), 9999, ligne->nom, valeur.stockee);
+    QVERIFY(!Fiche::Lire(static_cast<Feuille>(feuille), 9999));
 }
 
 void tst_fiches::lesMetiersDUnAuteur()
@@ -201,7 +205,6 @@ void tst_fiches::lesMetiersDUnAuteur()
 void tst_fiches::unIntervenantRemplaceLAncien()
 {
     const Bac bac;
-    peupler();
     const QString tout = QStringLiteral("SELECT NInter || '/' || NMetier FROM InterMetier WHERE NAlbum = 1");
     auto ligne = ChargerAlbums::EcrireIntervenant(
         1, {}, QStringLiteral("Marie , D'Upré"), QStringLiteral("Lettrage"));
@@ -239,7 +242,8 @@ void tst_fiches::uneCoteRemplaceLAncienne()
 void tst_fiches::leResumeAUneCopie()
 {
     const Bac bac;
-    peupler();
+    Bac::executer(QStringLiteral("INSERT INTO Album(Num) VALUES (1)"));
+    Bac::executer(QStringLiteral("INSERT INTO LAlbums(NAlbum) VALUES (1)"));
     QVERIFY(ChargerAlbums::EcrireAlbum(1, QStringLiteral("Hist"), QStringLiteral("Récit")));
     QCOMPARE(lignes(QStringLiteral("SELECT Histoire FROM LAlbums")), QStringList(QStringLiteral("Récit")));
     Bac::executer(QStringLiteral("UPDATE Album SET Histoire = ' '"));

@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
@@ -86,6 +87,18 @@ struct Seance
     std::unique_ptr<Bureau> bureau;
 };
 
+/// Takes web addresses in the desktop's place.
+class Adresses : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void prendre(const QUrl &url) { prises << url.toString(); }
+
+public:
+    QStringList prises;
+};
+
 class tst_parcours : public QObject
 {
     Q_OBJECT
@@ -100,6 +113,7 @@ private Q_SLOTS:
     void uneBaseEtrangereEstDite();
     void laCopieSeFaitDuLanceur();
     void creerALaMainPuisDuCatalogue();
+    void chaqueGenreASaFiche();
     void chaqueControleAUnNom();
 };
 
@@ -311,6 +325,42 @@ void tst_parcours::creerALaMainPuisDuCatalogue()
     Seance::cliquer("BtnCreer", "Facile");
     QTRY_COMPARE(Seance::texteDe("Serie"), QStringLiteral("Tintin"));
     QCOMPARE(Seance::texteDe("NumBD"), QStringLiteral("10"));
+}
+
+void tst_parcours::chaqueGenreASaFiche()
+{
+    struct Fiche
+    {
+        int tri;
+        const char *nom, *titre;
+    };
+    Seance s;
+    s.demarrer();
+    for (const Fiche &fiche :
+        {Fiche{1, "FicheSerie", "Nom"}, {3, "FicheAuteur", "Nom"}, {5, "FicheExLibris", "DescriptionX"},
+            {6, "FichePresse", "NomP"}, {7, "FicheEditeur", "NomE"}, {8, "FicheColl", "NomC"}}) {
+        Seance::cliquer(qPrintable(QStringLiteral("Tris(%1)").arg(fiche.tri)));
+        auto *forme = Seance::trouver<QWidget>(fiche.nom);
+        QVERIFY2(forme && forme->isVisible(), fiche.nom);
+        const QString ligne = Seance::trouver<QAbstractItemView>("Liste")->currentIndex().data().toString();
+        QVERIFY(ligne.startsWith(forme->findChild<QLabel *>(QLatin1String(fiche.titre))->text()));
+    }
+    // The trade of the list is the title, the two others are boxes.
+    Seance::cliquer("Tris(4)");
+    QCOMPARE(Seance::texteDe("Metier"), texte(Txt::Coloriste));
+    QCOMPARE(Seance::trouver<QCheckBox>("M_tiers(0)")->text(), texte(Txt::Dessinateur));
+
+    // Only web and mail addresses open, and a refusal is told.
+    Adresses ouvertes;
+    QDesktopServices::setUrlHandler(QStringLiteral("http"), &ouvertes, "prendre");
+    auto *lien = Seance::trouver<QWidget>("FicheAuteur")->findChild<QLabel *>(QStringLiteral("Liens(0)"));
+    for (const char *adresse : {"a.fr:8080/x", "javascript:alert(1)", "file:///etc/passwd"}) {
+        lien->setText(QLatin1String(adresse));
+        QTest::keyClick(lien, Qt::Key_Return, Qt::ControlModifier);
+    }
+    QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
+    QCOMPARE(ouvertes.prises, QStringList(QStringLiteral("http://a.fr:8080/x")));
+    QTRY_COMPARE(s.boites.textes.size(), 2);
 }
 
 void tst_parcours::chaqueControleAUnNom()

@@ -10,7 +10,11 @@
 namespace {
 
 constexpr int Nombre = 5;
-constexpr int Cote = 15;
+
+/// How much of the strip of stars each grade shows, in twips (1/1440 inch; 1/96 inch is one pixel).
+constexpr int Largeurs[Nombre + 1] = {0, 250, 500, 700, 950, 1155};
+constexpr qreal TwipsParPixel = 1440.0 / 96.0;
+constexpr qreal Cote = Largeurs[Nombre] / TwipsParPixel / Nombre;
 
 /// A five-pointed star in a square of side 1 around the origin.
 QPainterPath etoile()
@@ -51,7 +55,7 @@ void Etoiles::poserTexte(const QString &texte)
 
 QSize Etoiles::sizeHint() const
 {
-    return {Nombre * Cote + 8, std::max(Cote, fontMetrics().height()) + 4};
+    return {qRound(Nombre * Cote) + 8, std::max(qRound(Cote), fontMetrics().height()) + 4};
 }
 
 void Etoiles::paintEvent(QPaintEvent *)
@@ -63,14 +67,18 @@ void Etoiles::paintEvent(QPaintEvent *)
     }
     p.setRenderHint(QPainter::Antialiasing);
     const QPainterPath forme = etoile();
+    const QRectF bande(4, 0, Largeurs[m_valeur] / TwipsParPixel, height());
     for (int i = 0; i < Nombre; ++i) {
         p.save();
-        p.translate(4 + (i + 0.5) * Cote, height() / 2.0);
-        p.scale(Cote - 2, Cote - 2);
-        const bool pleine = i < m_valeur;
-        p.setPen(QPen(pleine ? Theme::Or() : Theme::Trait(palette()), 0.08));
-        p.setBrush(pleine ? QBrush(Theme::Or()) : Qt::NoBrush);
-        p.drawPath(forme);
+        const QTransform place
+            = QTransform::fromTranslate(4 + (i + 0.5) * Cote, height() / 2.0).scale(Cote - 2, Cote - 2);
+        const QPainterPath dessin = place.map(forme);
+        p.setPen(QPen(Theme::Trait(palette()), 1));
+        p.drawPath(dessin);
+        p.setClipRect(bande);
+        p.setPen(QPen(Theme::Or(), 1));
+        p.setBrush(Theme::Or());
+        p.drawPath(dessin);
         p.restore();
     }
 }

@@ -1,6 +1,7 @@
 #include "core/ui/Legende.h"
 
 #include "core/Texte.h"
+#include "core/ui/Icones.h"
 #include "core/ui/Theme.h"
 
 #include <QKeyEvent>
@@ -12,6 +13,7 @@ namespace {
 constexpr int MargeLaterale = 4;
 constexpr int MargeVerticale = 2;
 constexpr int MinimumDeLettres = 6;
+constexpr int CoteFleche = 14;
 
 }
 
@@ -27,7 +29,8 @@ Legende::Legende(QWidget *parent)
 void Legende::montrer(const QString &valeur)
 {
     const QString montree = Texte::EstVide(valeur) ? Texte::Pointilles() : valeur;
-    setToolTip({});
+    if (!m_lien)
+        setToolTip({});
     if (montree == text())
         return;
     setText(montree);
@@ -37,7 +40,6 @@ void Legende::montrer(const QString &valeur)
 void Legende::poserLien(bool lien)
 {
     m_lien = lien;
-    setCursor(lien ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
 bool Legende::estVide() const
@@ -64,7 +66,7 @@ void Legende::paintEvent(QPaintEvent *)
     QPainter p(this);
     if (underMouse() && focusPolicy() != Qt::NoFocus)
         p.fillRect(rect(), Theme::Survol(palette()));
-    const QRect r = rect().adjusted(MargeLaterale, 0, -MargeLaterale, 0);
+    const QRect r = rect().adjusted(MargeLaterale, 0, mene() ? -fleche().width() : -MargeLaterale, 0);
     if (estVide()) {
         p.setPen(Theme::Trait(palette()));
         p.drawText(r, int(Qt::AlignVCenter) | Qt::TextSingleLine, text().left(r.width()));
@@ -76,6 +78,8 @@ void Legende::paintEvent(QPaintEvent *)
         p.drawText(
             r, int(alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextSingleLine, montre);
     }
+    if (mene())
+        Icones::Charger(QStringLiteral("lien")).paint(&p, fleche());
     if (hasFocus()) {
         p.setPen(QPen(Theme::Bleu(palette()), 1.5));
         p.setRenderHint(QPainter::Antialiasing);
@@ -83,17 +87,32 @@ void Legende::paintEvent(QPaintEvent *)
     }
 }
 
+QRect Legende::fleche() const
+{
+    const int cote = std::min(height(), CoteFleche);
+    return {width() - cote - MargeLaterale, (height() - cote) / 2, cote, cote};
+}
+
+void Legende::agir(bool ouvrir)
+{
+    if (ouvrir && mene())
+        Q_EMIT ouvertureDemandee(text());
+    else
+        Q_EMIT actionnee();
+}
+
 void Legende::mouseReleaseEvent(QMouseEvent *evenement)
 {
-    if (evenement->button() == Qt::LeftButton && rect().contains(evenement->position().toPoint()))
-        Q_EMIT actionnee();
+    const QPoint point = evenement->position().toPoint();
+    if (evenement->button() == Qt::LeftButton && rect().contains(point))
+        agir(evenement->modifiers().testFlag(Qt::ControlModifier) || (mene() && fleche().contains(point)));
 }
 
 void Legende::keyPressEvent(QKeyEvent *evenement)
 {
     const int touche = evenement->key();
     if (touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space)
-        Q_EMIT actionnee();
+        agir(evenement->modifiers().testFlag(Qt::ControlModifier));
     else
         QLabel::keyPressEvent(evenement);
 }

@@ -13,7 +13,7 @@ public:
 
     /// Shows a value, or the dots for a blank one. The text of the label is what is shown.
     void montrer(const QString &valeur);
-    /// Draws the value as something that leads elsewhere.
+    /// The value leads elsewhere: it is drawn so, and has an arrow at its end.
     void poserLien(bool lien);
 
     QSize sizeHint() const override;
@@ -22,6 +22,8 @@ public:
 Q_SIGNALS:
     /// Clicked, or Enter or Space was pressed on it.
     void actionnee();
+    /// What it leads to is to be opened: Ctrl+click, Ctrl+Enter, or a click on the arrow at its end.
+    void ouvertureDemandee(const QString &adresse);
 
 protected:
     void paintEvent(QPaintEvent *) override;
@@ -32,6 +34,9 @@ protected:
 
 private:
     bool estVide() const;
+    bool mene() const { return m_lien && !estVide(); }
+    QRect fleche() const;
+    void agir(bool ouvrir);
 
     bool m_lien = false;
 };
