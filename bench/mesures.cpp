@@ -3,6 +3,7 @@
 
 #include "Generateur.h"
 #include "browse/ChargerAlbums.h"
+#include "browse/ChargerAuteurs.h"
 #include "browse/General.h"
 #include "core/Collection.h"
 #include "core/Dossier.h"
@@ -99,6 +100,17 @@ void chargerFiche(benchmark::State &etat)
     for (auto _ : etat) {
         num = (num + 7919) % albums / 10 * 10 + 10; // one with quotes and contributors, far from the last
         benchmark::DoNotOptimize(ChargerAlbums::AfficherAlbum(std::min(num, albums)));
+    }
+}
+
+void chargerFicheDe(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const auto tri = General::TriDe(static_cast<int>(etat.range(1)));
+    for (auto _ : etat) {
+        benchmark::DoNotOptimize(Fiche::Lire(General::GenreDe(tri).feuille, 1));
+        if (tri >= General::Tri::Dessinateurs && tri <= General::Tri::Coloristes)
+            benchmark::DoNotOptimize(ChargerAuteurs::LireMetiers(1, tri).titre);
     }
 }
 
@@ -213,6 +225,10 @@ BENCHMARK(ouvrir)->Apply(tailles);
 BENCHMARK(remplirListe)->Apply(taillesEtTris);
 BENCHMARK(albumsDUnEditeur)->Apply(tailles);
 BENCHMARK(chargerFiche)->Apply(tailles);
+BENCHMARK(chargerFicheDe)
+    ->ArgsProduct({{100'000}, {1, 2, 5, 6, 7, 8}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 BENCHMARK(mettreANiveau)->Apply(tailles);
 BENCHMARK(totaux)->Apply(tailles);
 BENCHMARK(validationsNues)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();

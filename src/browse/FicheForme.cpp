@@ -187,6 +187,13 @@ void FicheForme::montrer(const Champ &champ, QWidget *controle, const ValeurDeCh
     case Vue::Image:
         qobject_cast<CadreImage *>(controle)->montrer(valeur.affichee);
         break;
+    case Vue::Parution:
+        // An unknown periodicity is blank: the dots would ask for a text.
+        if (valeur.affichee.isEmpty())
+            qobject_cast<Legende *>(controle)->effacer();
+        else
+            qobject_cast<Legende *>(controle)->montrer(valeur.affichee);
+        break;
     default:
         qobject_cast<Legende *>(controle)->montrer(valeur.affichee);
         break;

@@ -13,6 +13,8 @@ public:
 
     /// Shows a value, or the dots for a blank one. The text of the label is what is shown.
     void montrer(const QString &valeur);
+    /// Shows nothing at all, not even the dots.
+    void effacer() { setText({}); }
     /// The value leads elsewhere: it is drawn so, and has an arrow at its end.
     void poserLien(bool lien);
 
