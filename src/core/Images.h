@@ -23,8 +23,8 @@ QString Trouver(const QString &nom);
 QString Copier(const QString &chemin);
 
 /// Decoded picture of a file, reduced to fit `taille` (pixels) when it is larger; upright by its own
-/// orientation mark. Null when the file is no picture, is damaged or has more than PixelsMax pixels.
-/// Safe in any thread.
+/// orientation mark. Null when the file is no picture or has more than PixelsMax pixels; of one that is cut
+/// short, what there is of it may come. Safe in any thread.
 QImage Decoder(const QString &chemin, const QSize &taille);
 
 }

@@ -47,6 +47,9 @@ QByteArray lireFichier(const QString &chemin)
 /// "langue = de" gives "de"; any other line nothing.
 QString codeDeLangue(const QString &ligne)
 {
+    constexpr qsizetype LongueurMax = 40;
+    if (ligne.size() > LongueurMax)
+        return {};
     const QStringList parties = ligne.split(u'=');
     const bool nomme = parties.size() == 2 && parties[0].trimmed() == QLatin1String("langue");
     return nomme ? parties[1].trimmed() : QString();

@@ -52,7 +52,9 @@ Error traduire(const SQLite::Exception &e, const QString &chemin)
 std::shared_ptr<Connexion> Connexion::ouvrir(const QString &chemin, Entete::Nature nature)
 {
     Q_ASSERT(!qApp || QThread::currentThread() == qApp->thread());
-    const QString cle = QFileInfo(chemin).absoluteFilePath();
+    // One file is one connection, whatever link leads to it.
+    const QFileInfo fichier(chemin);
+    const QString cle = fichier.exists() ? fichier.canonicalFilePath() : fichier.absoluteFilePath();
     if (auto ouverte = ouvertes()[cle].lock())
         return ouverte;
     for (;;) {
