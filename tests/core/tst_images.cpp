@@ -20,8 +20,6 @@ private Q_SLOTS:
     void leDossierDesImagesEstFaitAuBesoin();
     void uneImageAbimeeEstNulle_data();
     void uneImageAbimeeEstNulle();
-    void uneImageEstReduiteAuCadre_data();
-    void uneImageEstReduiteAuCadre();
     void unePageNumeriseeEnFinSeDecode();
 };
 
@@ -184,26 +182,6 @@ void tst_images::uneImageAbimeeEstNulle()
     Bac::ecrire(bac.chemin("images/a.jpg"), octets);
     QVERIFY(Images::Decoder(bac.chemin("images/a.jpg"), {100, 100}).isNull());
     QVERIFY(Images::Decoder(bac.chemin("images/absente.jpg"), {100, 100}).isNull());
-}
-
-void tst_images::uneImageEstReduiteAuCadre_data()
-{
-    QTest::addColumn<QSize>("entiere");
-    QTest::addColumn<QSize>("attendue");
-    QTest::newRow("large") << QSize(400, 200) << QSize(100, 50);
-    QTest::newRow("un trait") << QSize(3000, 1) << QSize(100, 1);
-}
-
-/// The content decides, whatever the name says.
-void tst_images::uneImageEstReduiteAuCadre()
-{
-    QFETCH(QSize, entiere);
-    QFETCH(QSize, attendue);
-    const Bac bac;
-    for (const char *format : {"PNG", "BMP", "JPG"}) {
-        Bac::ecrire(bac.chemin("images/a.bmp"), image(entiere, format));
-        QCOMPARE(Images::Decoder(bac.chemin("images/a.bmp"), {100, 100}).size(), attendue);
-    }
 }
 
 /// A page of 21 by 29.7 cm at 600 points an inch is far below the limit of pixels.

@@ -8,12 +8,10 @@ class tst_reglages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void unMagasinVideDonneLesDefauts();
     void unBooleenSeLitEnPlusieursMots_data();
     void unBooleenSeLitEnPlusieursMots();
     void uneValeurIllisibleDonneLeDefautEtUnAvis_data();
     void uneValeurIllisibleDonneLeDefautEtUnAvis();
-    void cequiEstEcritSeRelitDansUnAutreMagasin();
     void unIniNApporteQueLesClesConnues();
     void unIniNEstLuQuUneFoisParContenu();
 };
@@ -32,21 +30,6 @@ struct Magasin
     QString fichier = dossier.filePath("reglages.ini");
 };
 
-}
-
-void tst_reglages::unMagasinVideDonneLesDefauts()
-{
-    const Bac bac;
-    const Reglages &r = bac.reglages;
-    QVERIFY(!r.booleen(Cle::SplashAuto) && !r.booleen(Cle::Loop) && !r.booleen(Cle::Defilement));
-    QVERIFY(!r.booleen(Cle::FontBold) && !r.booleen(Cle::FontItalic));
-    QCOMPARE(r.entier(Cle::Apercu), 1);
-    QCOMPARE(
-        r.entier(Cle::Tris) + r.entier(Cle::TriImp) + r.entier(Cle::Splash) + r.entier(Cle::Forecolor), 0);
-    QCOMPARE(r.nombre(Cle::FirstTime) + r.nombre(Cle::Height) + r.nombre(Cle::Width), 0.0);
-    QCOMPARE(r.texte(Cle::FontName), "Verdana");
-    QCOMPARE(r.nombre(Cle::FontSize), 10.0);
-    QCOMPARE(r.texte(Cle::FondScreen) + r.texte(Cle::RepFondScreen), "");
 }
 
 void tst_reglages::unBooleenSeLitEnPlusieursMots_data()
@@ -107,25 +90,6 @@ void tst_reglages::uneValeurIllisibleDonneLeDefautEtUnAvis()
         QCOMPARE(lire(r), lire(defauts));
     QCOMPARE(avis.size(), 1);
     QVERIFY2(avis[0].contains(nom) && avis[0].contains(valeur), qPrintable(avis[0]));
-}
-
-void tst_reglages::cequiEstEcritSeRelitDansUnAutreMagasin()
-{
-    const Magasin magasin("Autre/Cle", "");
-    const QString fond = "C:\\Fonds d'écran\\été; 1=2, \"œ\".jpg";
-    {
-        Reglages r(magasin.fichier);
-        r.ecrire(Cle::FondScreen, fond);
-        r.ecrire(Cle::FontBold, true);
-        r.ecrire(Cle::Loop, false);
-        r.ecrire(Cle::Forecolor, -3);
-    }
-    const Reglages r(magasin.fichier);
-    QCOMPARE(r.texte(Cle::FondScreen), fond);
-    QVERIFY(r.booleen(Cle::FontBold));
-    QCOMPARE(r.entier(Cle::Forecolor), -3);
-    const QSettings brut(magasin.fichier, QSettings::IniFormat);
-    QCOMPARE(brut.value("Color/FontBold").toString() + brut.value("Settings/Loop").toString(), "VraiFaux");
 }
 
 void tst_reglages::unIniNApporteQueLesClesConnues()

@@ -13,12 +13,10 @@ class tst_accesbase : public QObject
 
 private Q_SLOTS:
     void lIdentifiantNouveauSuitLePlusGrand();
-    void lesNomsVontDansLOrdreSansCasse();
     void uneImageVaDansSonChamp_data();
     void uneImageVaDansSonChamp();
     void chercherRendLeChampOuCreeLaFiche();
     void enregistrerRenommeCreeOuSupprime();
-    void compterDitZeroOuUn();
     void unRolePoseGardeLesAutres();
     void oterUnRoleGardeLesAutres_data();
     void oterUnRoleGardeLesAutres();
@@ -35,14 +33,6 @@ void tst_accesbase::lIdentifiantNouveauSuitLePlusGrand()
     QCOMPARE(NouvelIdentifiant("Metier", "NMetier"), 4);
     Bac::executer("DELETE FROM Metier WHERE NMetier > 0");
     QCOMPARE(NouvelIdentifiant("Metier", "NMetier"), 1);
-}
-
-void tst_accesbase::lesNomsVontDansLOrdreSansCasse()
-{
-    const Bac bac;
-    QCOMPARE(LireNoms("Coll"), QStringList());
-    Bac::executer("INSERT INTO Coll VALUES (1, 'edgar'), (2, 'Écume'), (3, 'Zoo'), (4, NULL), (5, 'echo')");
-    QCOMPARE(LireNoms("coll"), QStringList({"", "echo", "Écume", "edgar", "Zoo"}));
 }
 
 void tst_accesbase::uneImageVaDansSonChamp_data()
@@ -95,15 +85,6 @@ void tst_accesbase::enregistrerRenommeCreeOuSupprime()
     QCOMPARE(LireNoms("Pays"), QStringList({"Belgique", "Côte d'Ivoire"}));
     QCOMPARE(EnregistrerOuSupprimer("Pays", "NPays", 1, {1, ""}), 1);
     QCOMPARE(LireNoms("Pays"), QStringList({"Belgique"}));
-}
-
-void tst_accesbase::compterDitZeroOuUn()
-{
-    const Bac bac;
-    Bac::executer("INSERT INTO Genre VALUES (1, 'Humour'), (2, 'HUMOUR'), (3, 'L''été')");
-    QCOMPARE(CompterLignes("Genre", "Nom", "humour"), 1);
-    QCOMPARE(CompterLignes("Genre", "Nom", "L'été"), 1);
-    QCOMPARE(CompterLignes("Genre", "NGenre", 4), 0);
 }
 
 void tst_accesbase::unRolePoseGardeLesAutres()

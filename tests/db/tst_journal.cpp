@@ -18,7 +18,6 @@ private Q_SLOTS:
     void uneAnnulationNEffaceQueSaPart();
     void uneInstructionRefuseeNeLaissePasDeTrace_data();
     void uneInstructionRefuseeNeLaissePasDeTrace();
-    void laPauseNeNotePas();
     void annulerEtRefaireRendentLigneParLigne_data();
     void annulerEtRefaireRendentLigneParLigne();
     void annulerRefuseUneLigneChangeeDepuis_data();
@@ -169,22 +168,6 @@ void tst_journal::uneInstructionRefuseeNeLaissePasDeTrace()
     }
     QCOMPARE(enTexte(derniere(ecoute)), QStringList({"Genre 1 >(1,avant)", "Genre 1 (1,avant)>"}));
     QCOMPARE(toutLire(), avant);
-}
-
-void tst_journal::laPauseNeNotePas()
-{
-    Bac bac;
-    Ecoute ecoute(bac.collectionCourante);
-    {
-        const Base base;
-        {
-            const Journal::Pause pause(base);
-            base.Execute("INSERT INTO Genre VALUES (1, 'a')");
-            const Journal::Pause encore(base);
-        }
-        base.Execute("INSERT INTO Genre VALUES (2, 'b')");
-    }
-    QCOMPARE(enTexte(derniere(ecoute)), QStringList({"Genre 2 >(2,b)"}));
 }
 
 void tst_journal::annulerEtRefaireRendentLigneParLigne_data()

@@ -15,7 +15,6 @@ class tst_schema : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void lesChampsSontDansLOrdreDonne();
     void unAncienFichierEstMisANiveau_data();
     void unAncienFichierEstMisANiveau();
     void uneFicheDAvantLesChampsSupprimeeRevient();
@@ -26,31 +25,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-const char *const TousLesChamps = R"(
-Album Num NAlbum NumSerie NGenre NEdit NDessin NScen NColor QualBD EtatBD NbPage ISBN ISSN Histoire Commentaire NPays DepotL Dateparu NCouverture DPret NPret DA PrixA Broche Couleur Integrale SerieLim EDitOrig HSerie Coffret
-LAlbums NAlbum TAlbum Photo1 Photo2 Histoire dedi1 dedi2 LieuD DateD EtatD
-Serie NSerie Nom NGenre NEditeur NoteG NoteD NoteS cote SiteWeb1 SiteWeb2 Commentaire Histoire Photo1 Photo2
-Auteurs NAuteur Nom Prenom SurNom DateNaiss LieuNaiss NPays web1 web2 Photo1 Photo2 Commentaire Dessin Scena Color
-Editeur NEdit Nom adresse1 adresse2 ville CP NPays Tel Site Photo1 Photo2
-Genre NGenre Nom
-Coll NColl Nom
-Pays NPays Nom
-Pret NPret Nom Prenom Tel
-Librairie NLibrairie Nom
-ExLibris NExLibris Nom NSerie NDessin NLibrairie TypeExlibris DAchat PrixA Comm Dedicace Signe Photo1 Photo2
-PresseBD NPressBD Nom NPresseBD NEdit Parution DepotLegale Reliure HS PrixA DAchat Comm Photo1 Photo2
-Inter NInter Nom Prenom
-Metier NMetier Nom
-SerieAlbums NSerie NAlbum NumeroAlbum2
-GenreAlbums NGenre NAlbum
-EditeurAlbums NEdit NAlbum
-CollAlbums NColl NAlbum
-PaysAlbum NPays NAlbum
-AuteursAlbums NAuteur NAlbum Dessin Scena Color
-InterMetier NAlbum NInter NMetier
-CotesAlbum NAlbum Mois Cotes
-)";
 
 QStringList colonne(const QString &sql, const QVariantList &valeurs = {})
 {
@@ -96,19 +70,6 @@ QStringList reglesEtIndex()
     return colonne("SELECT sql FROM sqlite_schema WHERE type <> 'table' ORDER BY name");
 }
 
-}
-
-void tst_schema::lesChampsSontDansLOrdreDonne()
-{
-    const Bac bac;
-    const QStringList tables = QString(TousLesChamps).split(u'\n', Qt::SkipEmptyParts);
-    for (const QString &ligne : tables) {
-        const QString table = ligne.section(u' ', 0, 0);
-        QCOMPARE(
-            colonne("SELECT name FROM pragma_table_info(?)", {table}).join(u' '), ligne.section(u' ', 1));
-        QCOMPARE(Schema::Champs(table.toUpper()).join(u' '), ligne.section(u' ', 1));
-    }
-    QCOMPARE(Bac::valeur("SELECT count(*) FROM sqlite_schema WHERE type = 'table'"), tables.size());
 }
 
 void tst_schema::unAncienFichierEstMisANiveau_data()
