@@ -8,6 +8,8 @@
 #include "core/Traduction.h"
 #include "core/ui/Messages.h"
 #include "entry/Facile.h"
+#include "entry/FrmModif.h"
+#include "entry/FrmModif2.h"
 #include "entry/Manuelle.h"
 
 #include <QApplication>
@@ -26,11 +28,14 @@ constexpr int AttenteCaptureMs = 700;
 
 Bureau::Bureau(const Options &options)
     : m_options(options)
+    , m_historique(Collection::courant())
 {
     declarer<Frmmain>(Nom::Frmmain);
     declarer<Splash>(Nom::Splash);
     declarer<Manuelle>(Nom::Manuelle);
     declarer<Facile>(Nom::Facile);
+    declarer<FrmModif>(Nom::FrmModif);
+    declarer<FrmModif2>(Nom::FrmModif2);
 }
 
 Bureau::~Bureau() = default;
@@ -55,6 +60,11 @@ void Bureau::brancher(F *forme)
     if constexpr (requires { &F::entreeDemandee; })
         connect(forme, &F::entreeDemandee, this,
             [this](General::Entree entree) { this->forme<Frmmain>(Nom::Frmmain)->montrerEntree(entree); });
+    if constexpr (requires { &F::editionDemandee; })
+        connect(forme, &F::editionDemandee, this, &Bureau::editer);
+    if constexpr (requires { &F::dite; })
+        connect(forme, &F::dite, this,
+            [this](const QString &message) { this->forme<Frmmain>(Nom::Frmmain)->dire(message); });
     if constexpr (requires { &F::triDemande; })
         connect(forme, &F::triDemande, this, [this](auto tri) {
             this->forme<Frmmain>(Nom::Frmmain)->montrerTri(General::TriDe(static_cast<int>(tri)));
@@ -88,7 +98,46 @@ void Bureau::brancherParticuliers()
         if (m_formes.contains(Nom::Splash))
             forme<Splash>(Nom::Splash)->poserTri(tri);
     });
+    connect(fenetre, &Frmmain::annulationDemandee, &m_historique, &Historique::annuler);
+    connect(fenetre, &Frmmain::retablissementDemande, &m_historique, &Historique::refaire);
+    connect(&m_historique, &Historique::change, this, &Bureau::poserEtapes);
+    connect(&m_historique, &Historique::inscrite, fenetre,
+        [fenetre](const Etape &etape) { fenetre->dire(tr("%1 — Ctrl+Z pour annuler").arg(etape.titre)); });
+    // Queued, so that the lists show the rows again before one of them is looked for.
+    connect(
+        &m_historique, &Historique::annulee, this,
+        [this](const Etape &etape) { montrerEtape(etape, tr("Annulé : %1")); }, Qt::QueuedConnection);
+    connect(
+        &m_historique, &Historique::refaite, this,
+        [this](const Etape &etape) { montrerEtape(etape, tr("Rétabli : %1")); }, Qt::QueuedConnection);
     connect(fenetre, &Frmmain::sortie, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+/// The two ways to enter a value in a form of its own: chosen among entries or days, or typed in one line.
+void Bureau::editer(const Edition &edition)
+{
+    const Champs::Champ *champ = Ecriture::ChampDe(edition);
+    const bool tapee
+        = champ ? champ->voie == Champs::Voie::Saisie : Ecriture::NomDe(edition) == QLatin1String("Cotes");
+    const Nom nom = tapee ? Nom::FrmModif2 : Nom::FrmModif;
+    static_cast<FormeModification *>(ouvrir(nom))->editer(edition);
+    montrer(nom);
+}
+
+void Bureau::poserEtapes()
+{
+    forme<Frmmain>(Nom::Frmmain)->poserEtapes(m_historique.aAnnuler(), m_historique.aRefaire());
+}
+
+/// Shows where a step was taken back or made again.
+void Bureau::montrerEtape(const Etape &etape, const QString &message)
+{
+    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
+    const auto entree = etape.lieu.value<General::Entree>();
+    if (entree.id > 0 && entree != fenetre->courante()
+        && General::LireTexte(entree.tri, entree.id) != QString())
+        fenetre->montrerEntree(entree);
+    fenetre->dire(message.arg(etape.titre));
 }
 
 Forme *Bureau::ouvrir(Nom nom)

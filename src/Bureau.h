@@ -4,11 +4,13 @@
 #include "core/Catalogues.h"
 #include "core/Collection.h"
 #include "core/ui/Forme.h"
+#include "db/Historique.h"
 
 #include <QPointer>
 #include <functional>
 #include <map>
 
+struct Edition;
 class Frmmain;
 class Splash;
 
@@ -42,6 +44,11 @@ private:
     Forme *ouvrir(Forme::Nom nom);
     void montrer(Forme::Nom nom);
 
+    /// Opens the form in which a field's value is entered or chosen.
+    void editer(const Edition &edition);
+    void poserEtapes();
+    void montrerEtape(const Etape &etape, const QString &message);
+
     void chargerTextes();
     void choisirLangue(const QString &fichier);
     void annoncerLangue();
@@ -53,6 +60,7 @@ private:
 
     Options m_options;
     Catalogues m_catalogues;
+    Historique m_historique;
     std::map<Forme::Nom, std::function<Forme *()>> m_fabriques;
     std::map<Forme::Nom, std::unique_ptr<Forme>> m_formes;
     std::map<Forme::Nom, std::function<void()>> m_chargements; ///< what is to be read when a form is shown

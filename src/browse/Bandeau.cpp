@@ -101,6 +101,16 @@ void Bandeau::construireMenu()
 
 void Bandeau::construireDroite()
 {
+    m_defaire = nommer(new QToolButton(this), QStringLiteral("Defaire"));
+    m_defaire->setIcon(Icones::Charger(QStringLiteral("annuler")));
+    m_refaire = nommer(new QToolButton(this), QStringLiteral("Refaire"));
+    m_refaire->setIcon(Icones::Charger(QStringLiteral("refaire")));
+    for (QToolButton *bouton : {m_defaire, m_refaire}) {
+        bouton->setAutoRaise(true);
+        layout()->addWidget(bouton);
+    }
+    connect(m_defaire, &QToolButton::clicked, this, &Bandeau::annulationDemandee);
+    connect(m_refaire, &QToolButton::clicked, this, &Bandeau::retablissementDemande);
     m_loops = nommer(new QToolButton(this), QStringLiteral("Loops"));
     m_loops->setIcon(Icones::Charger(QStringLiteral("diaporama")));
     m_loops->setCheckable(true);
@@ -156,6 +166,7 @@ void Bandeau::Traduire()
         bouton->setText(motDe(i));
         expliquer(bouton, libelleDe(i));
     }
+    poserEtapes(m_aAnnuler, m_aRefaire);
     libeller(m_loops, tr("Diaporama"));
     m_loops->setToolTip(tr("Montrer tour à tour la couverture et le dos"));
     libeller(m_langues, QFileInfo(Traduction::LangueCourante()).completeBaseName());
@@ -181,6 +192,18 @@ void Bandeau::poserDisponibles(const std::function<bool(Forme::Nom)> &disponible
 void Bandeau::poserLoop(bool actif)
 {
     m_loops->setChecked(actif);
+}
+
+void Bandeau::poserEtapes(const QString &aAnnuler, const QString &aRefaire)
+{
+    m_aAnnuler = aAnnuler;
+    m_aRefaire = aRefaire;
+    m_defaire->setEnabled(!aAnnuler.isEmpty());
+    m_refaire->setEnabled(!aRefaire.isEmpty());
+    expliquer(
+        m_defaire, aAnnuler.isEmpty() ? tr("Annuler (Ctrl+Z)") : tr("Annuler %1 (Ctrl+Z)").arg(aAnnuler));
+    expliquer(
+        m_refaire, aRefaire.isEmpty() ? tr("Rétablir (Ctrl+Y)") : tr("Rétablir %1 (Ctrl+Y)").arg(aRefaire));
 }
 
 void Bandeau::poserLargeurTitre(int largeur)

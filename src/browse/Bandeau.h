@@ -22,6 +22,8 @@ public:
     /// Which forms there are; the buttons of the others are disabled and say so.
     void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
     void poserLoop(bool actif);
+    /// Titles of the steps that undo and redo would take; empty where there is none.
+    void poserEtapes(const QString &aAnnuler, const QString &aRefaire);
     /// Width of the title, which stands above the lists.
     void poserLargeurTitre(int largeur);
 
@@ -32,6 +34,8 @@ Q_SIGNALS:
     void aProposDemande();
     void sortieDemandee();
     void loopBascule(bool actif);
+    void annulationDemandee();
+    void retablissementDemande();
     void langueDemandee(const QString &fichier);
 
 protected:
@@ -46,6 +50,10 @@ private:
 
     QLabel *m_titre = nullptr;
     std::array<QToolButton *, 8> m_menu{};
+    QToolButton *m_defaire = nullptr;
+    QToolButton *m_refaire = nullptr;
+    QString m_aAnnuler;
+    QString m_aRefaire;
     QToolButton *m_loops = nullptr;
     QToolButton *m_langues = nullptr;
     QMenu *m_menuLangues = nullptr;

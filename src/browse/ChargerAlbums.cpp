@@ -63,7 +63,7 @@ int trouverIntervenant(const Base &base, const QString &texte)
     if (virgule < 0)
         return trouverOuFaire(base, table, cle, QStringLiteral("SELECT * From Inter where Nom = ?"), {texte});
     return trouverOuFaire(base, table, cle,
-        QStringLiteral("SELECT * From Inter where Nom = ? and Prenom = ?"),
+        QStringLiteral("SELECT * From Inter where Nom = ? and trim(Prenom) = ? collate FRANCAIS"),
         {texte.mid(virgule + 1).trimmed(), texte.left(virgule).trimmed()});
 }
 
@@ -150,23 +150,25 @@ bool ChargerAlbums::EcrireListe(int num, const QString &champ, const QString &va
 }
 
 ChargerAlbums::Intervenant ChargerAlbums::EcrireIntervenant(
-    int num, const Intervenant &ancien, const QString &nom, const QString &activite)
+    int num, const Intervenant &ancien, const Intervenant &nouveau)
 {
     const QString ligne
         = QStringLiteral("SELECT * From InterMetier where NAlbum = ? and NInter = ? and NMetier = ?");
     const Base base;
     Transaction transaction(base);
-    Intervenant neuf;
-    neuf.nom = nu(nom);
-    neuf.activite = nu(activite);
-    neuf.intervenant = trouverIntervenant(base, neuf.nom);
-    if (neuf.intervenant > 0)
+    Intervenant neuf = nouveau;
+    if (neuf.intervenant == 0)
+        neuf.intervenant = trouverIntervenant(base, nu(neuf.nom));
+    const bool perdu = ancien.intervenant > 0 && neuf.intervenant == 0;
+    if (perdu)
+        neuf.metier = 0;
+    else if (neuf.metier == 0)
         neuf.metier = trouverOuFaire(base, QStringLiteral("Metier"), QStringLiteral("NMetier"),
-            QStringLiteral("SELECT * From Metier where Nom = ?"), {neuf.activite});
+            QStringLiteral("SELECT * From Metier where Nom = ?"), {nu(neuf.activite)});
     const bool change = neuf.intervenant != ancien.intervenant || neuf.metier != ancien.metier;
-    if (change && ancien.intervenant > 0)
+    if (change)
         oterUne(base, ligne, {num, ancien.intervenant, ancien.metier});
-    if (change && neuf.intervenant > 0) {
+    if (change && (neuf.intervenant > 0 || neuf.metier > 0)) {
         auto rs = base.OpenRecordset(ligne, {num, neuf.intervenant, neuf.metier});
         if (rs.AtEnd()) {
             rs.AddNew();

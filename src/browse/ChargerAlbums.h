@@ -50,11 +50,11 @@ bool EcrireAlbum(int num, const QString &champ, const QString &valeur);
 /// Writes one field of the album's list row: title, pictures, dedications. Throws Error.
 bool EcrireListe(int num, const QString &champ, const QString &valeur);
 
-/// Replaces a line of the grid of contributors by what its two cells now say, making the contributor ("first
-/// name , name") and the trade when there are none. A blank cell is none; without a contributor the line goes.
-/// `ancien` is the line as it was, empty for a new one. Returns the line as it is now. Throws Error.
-Intervenant EcrireIntervenant(
-    int num, const Intervenant &ancien, const QString &nom, const QString &activite);
+/// Replaces a line of the grid of contributors. A cell without an identifier is looked up by its text, the
+/// contributor ("first name , name") and the trade being made when there are none. A blank cell is none; a line
+/// that loses its contributor goes. `ancien` is the line as it was, empty for a new one. Returns the line as it
+/// is now. Throws Error.
+Intervenant EcrireIntervenant(int num, const Intervenant &ancien, const Intervenant &nouveau);
 
 /// Replaces a line of the grid of quotes; one that is blank in both halves goes. Throws Error.
 void EcrireCote(int num, const Cote &ancienne, const Cote &nouvelle);

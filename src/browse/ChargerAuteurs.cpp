@@ -72,12 +72,25 @@ ChargerAuteurs::Metiers ChargerAuteurs::LireMetiers(int nAuteur, Tri liste)
     return metiers;
 }
 
-void ChargerAuteurs::EcrireAuteur(int nAuteur, const QString &champ, const QString &valeur)
+QString ChargerAuteurs::TexteDesMetiers(Tri liste, bool premier, bool second)
 {
-    if (champ == QStringLiteral("Métiers"))
-        return ecrireMetiers(nAuteur, valeur);
+    QStringList mots;
+    int rang = 0;
+    for (const Metier &metier : Tous) {
+        if (metier.liste == liste || (rang++ == 0 ? premier : second))
+            mots << QString::fromUtf8(metier.mot);
+    }
+    return mots.join(u'|');
+}
+
+bool ChargerAuteurs::EcrireAuteur(int nAuteur, const QString &champ, const QString &valeur)
+{
     const bool nom = champ == QLatin1String("Nom") || champ == QLatin1String("Prenom");
-    if (nom && valeur.contains(QLatin1String(", ")))
-        return ecrireDeuxNoms(nAuteur, valeur);
-    Fiche::EcrireSaisie(Feuille::Auteur, nAuteur, champ, valeur);
+    if (champ == QStringLiteral("Métiers"))
+        ecrireMetiers(nAuteur, valeur);
+    else if (nom && valeur.contains(QLatin1String(", ")))
+        ecrireDeuxNoms(nAuteur, valeur);
+    else
+        return Fiche::EcrireSaisie(Feuille::Auteur, nAuteur, champ, valeur);
+    return true;
 }

@@ -7,7 +7,7 @@ std::optional<Valeurs> ChargerColl::AfficherColl(int nColl)
     return Fiche::Lire(Feuille::Coll, nColl);
 }
 
-void ChargerColl::EcrireColl(int nColl, const QString &valeur)
+bool ChargerColl::EcrireColl(int nColl, const QString &valeur)
 {
-    Fiche::EcrireSaisie(Feuille::Coll, nColl, QStringLiteral("NomC"), valeur);
+    return Fiche::EcrireSaisie(Feuille::Coll, nColl, QStringLiteral("NomC"), valeur);
 }

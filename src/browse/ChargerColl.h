@@ -7,7 +7,7 @@ namespace ChargerColl {
 
 /// Values of the sheet, or nothing when there is no such collection. Throws Error.
 std::optional<Valeurs> AfficherColl(int nColl);
-/// Writes the name. Throws Error.
-void EcrireColl(int nColl, const QString &valeur);
+/// Writes the name. False when the field refuses the text. Throws Error.
+bool EcrireColl(int nColl, const QString &valeur);
 
 }

@@ -7,7 +7,7 @@ std::optional<Valeurs> ChargerEditeur::AfficherEditeur(int nEdit)
     return Fiche::Lire(Feuille::Editeur, nEdit);
 }
 
-void ChargerEditeur::EcrireEditeur(int nEdit, const QString &champ, const QString &valeur)
+bool ChargerEditeur::EcrireEditeur(int nEdit, const QString &champ, const QString &valeur)
 {
-    Fiche::EcrireSaisie(Feuille::Editeur, nEdit, champ, valeur);
+    return Fiche::EcrireSaisie(Feuille::Editeur, nEdit, champ, valeur);
 }

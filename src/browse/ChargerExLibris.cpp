@@ -7,8 +7,8 @@ std::optional<Valeurs> ChargerExLibris::AfficherExLibris(int nExLibris)
     return Fiche::Lire(Feuille::ExLibris, nExLibris);
 }
 
-void ChargerExLibris::EcrireExLibris(int nExLibris, const QString &champ, const QString &valeur)
+bool ChargerExLibris::EcrireExLibris(int nExLibris, const QString &champ, const QString &valeur)
 {
-    Fiche::EcrireSaisie(Feuille::ExLibris, nExLibris,
+    return Fiche::EcrireSaisie(Feuille::ExLibris, nExLibris,
         champ == QLatin1String("Nom") ? QStringLiteral("DescriptionX") : champ, valeur);
 }

@@ -7,7 +7,7 @@ std::optional<Valeurs> ChargerPresse::AfficherPresse(int nPressBD)
     return Fiche::Lire(Feuille::Presse, nPressBD);
 }
 
-void ChargerPresse::EcrirePresse(int nPressBD, const QString &champ, const QString &valeur)
+bool ChargerPresse::EcrirePresse(int nPressBD, const QString &champ, const QString &valeur)
 {
-    Fiche::EcrireSaisie(Feuille::Presse, nPressBD, champ, valeur);
+    return Fiche::EcrireSaisie(Feuille::Presse, nPressBD, champ, valeur);
 }

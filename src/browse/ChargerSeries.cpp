@@ -7,7 +7,7 @@ std::optional<Valeurs> ChargerSeries::AfficherSerie(int nSerie)
     return Fiche::Lire(Feuille::Serie, nSerie);
 }
 
-void ChargerSeries::EcrireSerie(int nSerie, const QString &champ, const QString &valeur)
+bool ChargerSeries::EcrireSerie(int nSerie, const QString &champ, const QString &valeur)
 {
-    Fiche::EcrireSaisie(Feuille::Serie, nSerie, champ, valeur);
+    return Fiche::EcrireSaisie(Feuille::Serie, nSerie, champ, valeur);
 }

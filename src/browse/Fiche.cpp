@@ -4,6 +4,7 @@
 #include "core/Traduction.h"
 #include "db/Base.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <array>
 
@@ -15,16 +16,48 @@ constexpr qsizetype LongueurTitre = 50;
 constexpr qsizetype LongueurTome = 3;
 const QString Http = QStringLiteral("http://");
 
+constexpr std::array Formats{Txt::FormatNormal, Txt::GrandFormat, Txt::FormatItalienne, Txt::AutreFormat};
+constexpr std::array Couleurs{Txt::Couleur, Txt::NoirEtBlanc, Txt::Infographie};
+constexpr std::array Parutions{Txt::Quotidienne, Txt::Hebdomadaire, Txt::BiMensuelle, Txt::Mensuelle,
+    Txt::Bimestrielle, Txt::Trimestrielle, Txt::Semestrielle, Txt::Annuelle};
 /// The kinds of ex-libris, by number.
 constexpr std::array Types{Txt::ExLibris, Txt::PorteFolio, Txt::Serigraphie, Txt::MarquePage,
     Txt::Litographie, Txt::Affiche, Txt::Poster, Txt::Autres};
 
-/// Text of one of several captions chosen by number; empty for a number that has none.
-template <std::size_t N>
-QString parmi(const std::array<Txt, N> &libelles, int numero)
+/// The captions of a field that takes one of a few values; the first one's number is `premier`.
+struct Mots
 {
-    return numero >= 0 && numero < static_cast<int>(N) ? texte(libelles[static_cast<std::size_t>(numero)])
-                                                       : QString();
+    std::span<const Txt> textes;
+    int premier = 0;
+};
+Mots motsDe(Vue vue)
+{
+    switch (vue) {
+    case Vue::Format:
+        return {Formats};
+    case Vue::Couleur:
+        return {Couleurs, 1};
+    case Vue::Parution:
+        return {Parutions};
+    case Vue::Genre:
+        return {Types};
+    default:
+        return {};
+    }
+}
+
+/// The word of a stored number; empty for none, and for a number that has no word.
+QString motDe(Vue vue, const QVariant &stockee)
+{
+    const Mots mots = motsDe(vue);
+    const int rang = stockee.toInt() - mots.premier;
+    const bool connu = stockee.isValid() && rang >= 0 && rang < static_cast<int>(mots.textes.size());
+    return connu ? texte(mots.textes[static_cast<std::size_t>(rang)]) : QString();
+}
+
+QString dire(const char *texte)
+{
+    return QCoreApplication::translate("Fiche", texte);
 }
 
 QString nombreOuRien(const QVariant &valeur)
@@ -102,11 +135,6 @@ std::optional<Valeurs> Fiche::Lire(Feuille feuille, int id)
 
 QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
 {
-    static constexpr std::array Formats{
-        Txt::FormatNormal, Txt::GrandFormat, Txt::FormatItalienne, Txt::AutreFormat};
-    static constexpr std::array Couleurs{Txt::Couleur, Txt::NoirEtBlanc, Txt::Infographie};
-    static constexpr std::array Parutions{Txt::Quotidienne, Txt::Hebdomadaire, Txt::BiMensuelle,
-        Txt::Mensuelle, Txt::Bimestrielle, Txt::Trimestrielle, Txt::Semestrielle, Txt::Annuelle};
     switch (champ.vue) {
     case Vue::Tome:
         return nombreOuRien(stockee);
@@ -117,9 +145,9 @@ QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
     case Vue::Case:
         return texte(stockee.toBool() ? Txt::Oui : Txt::Non);
     case Vue::Format:
-        return stockee.isValid() ? parmi(Formats, stockee.toInt()) : QString();
     case Vue::Couleur:
-        return parmi(Couleurs, stockee.toInt() - 1);
+    case Vue::Genre:
+        return motDe(champ.vue, stockee);
     case Vue::Memo:
         return Texte::EstVide(stockee.toString()) ? QString() : stockee.toString();
     case Vue::Cote:
@@ -127,11 +155,9 @@ QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
                                  : QString();
     case Vue::Parution: {
         // The number stands first, its word beside it.
-        const QString mot = stockee.isValid() ? parmi(Parutions, stockee.toInt()) : QString();
+        const QString mot = motDe(champ.vue, stockee);
         return mot.isEmpty() ? stockee.toString() : stockee.toString() + QStringLiteral(" - ") + mot;
     }
-    case Vue::Genre:
-        return stockee.isValid() ? parmi(Types, stockee.toInt()) : QString();
     case Vue::Texte:
     case Vue::Nom:
     case Vue::Lien:
@@ -139,6 +165,15 @@ QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
         break;
     }
     return stockee.toString().trimmed();
+}
+
+std::vector<Fiche::Option> Fiche::Options(const Champ &champ)
+{
+    const Mots mots = motsDe(champ.vue);
+    std::vector<Option> options;
+    for (int i = 0; i < static_cast<int>(mots.textes.size()); ++i)
+        options.push_back({mots.premier + i, Afficher(champ, mots.premier + i)});
+    return options;
 }
 
 std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisie)
@@ -170,6 +205,28 @@ std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisi
         break;
     }
     return champ.vue == Vue::Memo ? saisie : net;
+}
+
+QString Fiche::RaisonDuRefus(const Champ &champ)
+{
+    switch (champ.regle) {
+    case Regle::Tome:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Le numéro est un nombre entier de 0 à 999."));
+    case Regle::Prix:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Le prix est un nombre, comme 12,50."));
+    case Regle::Pages:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Le nombre de pages est un nombre."));
+    default:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Il faut ici un nombre entier."));
+    }
+}
+
+bool Fiche::Existe(Feuille feuille, int id)
+{
+    const Base base;
+    const auto ligne = std::find_if(
+        Lignes().begin(), Lignes().end(), [feuille](const Ligne &l) { return l.feuille == feuille; });
+    return !base.OpenRecordset(QLatin1String(ligne->ecriture), {id}).AtEnd();
 }
 
 void Fiche::Ecrire(Feuille feuille, int id, const char *nom, const QVariant &valeur)

@@ -6,6 +6,7 @@
 #include <QVariant>
 #include <map>
 #include <optional>
+#include <vector>
 
 /// What a sheet holds for one field: the value as stored and the text to show, empty where there is none.
 struct ValeurDeChamp
@@ -26,8 +27,20 @@ std::optional<Valeurs> Lire(Champs::Feuille feuille, int id);
 /// A stored value as a person reads it, in the language in force; empty for nothing.
 QString Afficher(const Champs::Champ &champ, const QVariant &stockee);
 
+/// The values of a field that takes one of a few, in order: number as stored, and word. None for other fields.
+struct Option
+{
+    int valeur;
+    QString mot;
+};
+std::vector<Option> Options(const Champs::Champ &champ);
+
 /// The value to store for an entered text, or nothing when the field refuses it.
 std::optional<QVariant> Verifier(const Champs::Champ &champ, const QString &saisie);
+/// What the field takes, in one line, for the user whose text it refused.
+QString RaisonDuRefus(const Champs::Champ &champ);
+
+bool Existe(Champs::Feuille feuille, int id);
 
 /// Writes one value of an entry; nothing happens when the entry is gone.
 void Ecrire(Champs::Feuille feuille, int id, const char *nom, const QVariant &valeur);

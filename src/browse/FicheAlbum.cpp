@@ -1,6 +1,7 @@
 #include "browse/FicheAlbum.h"
 
 #include "browse/BandeSerie.h"
+#include "browse/GrilleFiche.h"
 #include "core/Images.h"
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
@@ -12,7 +13,6 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QPlainTextEdit>
 #include <QStackedLayout>
 #include <QToolButton>
 
@@ -220,10 +220,7 @@ QWidget *FicheAlbum::construireColonneDroite()
     for (const char *champ : {"ISBN", "ISSN", "DepotLegale", "NbPage", "Format", "Couleur"})
         ajouterLigne(traits, champ);
     construireCases(colonne);
-    m_intervenants = {{QStringLiteral("NomI"), QStringLiteral("ActI")}, {Txt::Intervenants, Txt::Activite}};
-    construireGrille(m_intervenants, colonne, Txt::Intervenants);
-    m_cotes = {{QStringLiteral("Mois"), QStringLiteral("Cotes")}, {Txt::Mois, Txt::Cote}};
-    construireGrille(m_cotes, colonne, Txt::Cotes);
+    construireGrilles(colonne);
     colonne->addStretch(1);
     return zone;
 }
@@ -258,11 +255,32 @@ void FicheAlbum::construireDedicaces(QBoxLayout *colonne)
     colonne->addLayout(images);
 }
 
-void FicheAlbum::construireGrille(Grille &grille, QBoxLayout *colonne, Txt titre)
+void FicheAlbum::construireGrilles(QBoxLayout *colonne)
 {
-    grille.place = ouvrirGroupe(colonne, titre);
-    grille.place->setColumnStretch(0, 1);
-    grille.place->setColumnStretch(1, 1);
+    m_intervenants = new GrilleFiche(
+        {QStringLiteral("NomI"), Txt::Intervenants}, {QStringLiteral("ActI"), Txt::Activite}, this);
+    m_cotes
+        = new GrilleFiche({QStringLiteral("Mois"), Txt::Mois}, {QStringLiteral("Cotes"), Txt::Cote}, this);
+    for (const auto &[grille, titre] :
+        {std::pair(m_intervenants, Txt::Intervenants), std::pair(m_cotes, Txt::Cotes)}) {
+        colonne->addWidget(titreDe(titre));
+        colonne->addWidget(grille);
+        connect(grille, &GrilleFiche::celluleFaite, this, &FicheAlbum::inscrire);
+        connect(grille, &GrilleFiche::celluleActionnee, this, &FicheAlbum::demanderEdition);
+    }
+}
+
+/// A cell is changed together with its line, which is what the collection keeps.
+void FicheAlbum::demanderEdition(int rang, Legende *cellule)
+{
+    Edition edition = editionDe(cellule->objectName(), cellule);
+    edition.affichee = cellule->estVide() ? QString() : cellule->text();
+    const auto ligne = static_cast<std::size_t>(rang);
+    if (ligne < m_fiche.intervenants.size())
+        edition.intervenant = m_fiche.intervenants[ligne];
+    if (ligne < m_fiche.cotes.size())
+        edition.cote = m_fiche.cotes[ligne];
+    Q_EMIT editionDemandee(edition);
 }
 
 QWidget *FicheAlbum::construireMemos()
@@ -299,46 +317,26 @@ void FicheAlbum::Traduire()
     controle<CadreImage>("Photo2")->poserLegende(texte(Txt::Couverture));
     for (CadreImage *cadre : m_photosD)
         cadre->setAccessibleName(texte(Txt::Dedicace));
+    m_intervenants->Traduire();
+    m_cotes->Traduire();
     alignerLibelles(m_gauche);
 }
 
 void FicheAlbum::montrer(const ChargerAlbums::FicheAlbum &fiche)
 {
     m_fiche = fiche;
-    montrerValeurs(fiche.valeurs);
+    montrerValeurs({General::Tri::Albums, fiche.num}, fiche.valeurs);
     std::vector<std::pair<QString, QString>> lignes;
     for (const auto &i : fiche.intervenants)
         lignes.emplace_back(i.nom, i.activite);
-    remplirGrille(m_intervenants, lignes);
+    m_intervenants->montrer(lignes);
     lignes.clear();
     for (const auto &c : fiche.cotes)
         lignes.emplace_back(c.mois, c.cote);
-    remplirGrille(m_cotes, lignes);
+    m_cotes->montrer(lignes);
     montrerInfos(fiche.infos);
     montrerDedicaces(fiche.valeurs);
     montrerFace(false);
-}
-
-void FicheAlbum::remplirGrille(Grille &grille, const std::vector<std::pair<QString, QString>> &lignes)
-{
-    const std::size_t voulues = lignes.size() + 1;
-    while (grille.cellules[0].size() < voulues) {
-        const int rang = static_cast<int>(grille.cellules[0].size());
-        for (int colonne = 0; colonne < 2; ++colonne) {
-            auto *cellule = nommer(new Legende(this), grille.noms[colonne], rang);
-            inscrire(cellule);
-            grille.place->addWidget(cellule, rang, colonne);
-            grille.cellules[colonne].push_back(cellule);
-        }
-    }
-    for (std::size_t i = 0; i < grille.cellules[0].size(); ++i) {
-        for (int colonne = 0; colonne < 2; ++colonne)
-            grille.cellules[colonne][i]->setAccessibleName(texte(grille.libelles[colonne]));
-        grille.cellules[0][i]->montrer(i < lignes.size() ? lignes[i].first : QString());
-        grille.cellules[1][i]->montrer(i < lignes.size() ? lignes[i].second : QString());
-        grille.cellules[0][i]->setVisible(i < voulues);
-        grille.cellules[1][i]->setVisible(i < voulues);
-    }
 }
 
 void FicheAlbum::montrerInfos(const InfosAlbum &infos)

@@ -7,6 +7,7 @@
 
 class BandeSerie;
 class CadreImage;
+class GrilleFiche;
 class Legende;
 class QBoxLayout;
 class QToolButton;
@@ -29,15 +30,6 @@ protected:
     void Traduire() override;
 
 private:
-    /// A grid of two columns of values that grows with what it must show, and keeps an empty last row.
-    struct Grille
-    {
-        QString noms[2];
-        Txt libelles[2] = {};
-        QGridLayout *place = nullptr;
-        std::vector<Legende *> cellules[2] = {};
-    };
-
     QWidget *construireEnTete();
     QWidget *construireCouverture();
     QWidget *construireColonneGauche();
@@ -47,8 +39,8 @@ private:
     QGridLayout *ouvrirGroupe(QBoxLayout *colonne, Txt titre);
     void construireCases(QBoxLayout *colonne);
     void construireDedicaces(QBoxLayout *colonne);
-    void construireGrille(Grille &grille, QBoxLayout *colonne, Txt titre);
-    void remplirGrille(Grille &grille, const std::vector<std::pair<QString, QString>> &lignes);
+    void construireGrilles(QBoxLayout *colonne);
+    void demanderEdition(int rang, Legende *cellule);
 
     void montrerInfos(const InfosAlbum &infos);
     void montrerDedicaces(const Valeurs &valeurs);
@@ -69,8 +61,8 @@ private:
     QToolButton *m_precedent = nullptr;
     QToolButton *m_suivant = nullptr;
     CadreImage *m_photosD[2] = {};
-    Grille m_intervenants;
-    Grille m_cotes;
+    GrilleFiche *m_intervenants = nullptr;
+    GrilleFiche *m_cotes = nullptr;
     QTimer m_defilement;
     int m_taille = 0;
     bool m_dos = false;

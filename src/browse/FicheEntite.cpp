@@ -43,9 +43,6 @@ constexpr QSize TailleImage(150, 200);
 constexpr int HauteurMemo = 64;
 constexpr qreal TailleDuTitre = 1.55;
 
-constexpr Txt TypesDExLibris[] = {Txt::ExLibris, Txt::PorteFolio, Txt::Serigraphie, Txt::MarquePage,
-    Txt::Litographie, Txt::Affiche, Txt::Poster, Txt::Autres};
-
 }
 
 const FicheEntite::Plan &FicheEntite::PlanDe(Feuille feuille)
@@ -168,9 +165,11 @@ void FicheEntite::construireMetiers(QBoxLayout *colonne)
     colonne->addSpacing(Theme::Fin);
     for (int i = 0; i < 2; ++i) {
         m_metiers[i] = nommer(new QCheckBox(this), QStringLiteral("M_tiers"), i);
-        m_metiers[i]->setAttribute(Qt::WA_TransparentForMouseEvents);
-        m_metiers[i]->setFocusPolicy(Qt::NoFocus);
         inscrire(m_metiers[i]);
+        connect(m_metiers[i], &QCheckBox::clicked, this, [this] {
+            ecrire(QStringLiteral("Métiers"),
+                ChargerAuteurs::TexteDesMetiers(m_tri, m_metiers[0]->isChecked(), m_metiers[1]->isChecked()));
+        });
         colonne->addWidget(m_metiers[i]);
     }
 }
@@ -182,12 +181,13 @@ void FicheEntite::construireTypes(QBoxLayout *colonne)
     colonne->addWidget(titreDe(Txt::ExLibris));
     auto *grille = new QGridLayout;
     grille->setContentsMargins(0, Theme::Fin, 0, 0);
-    for (int i = 0; i < static_cast<int>(std::size(TypesDExLibris)); ++i) {
+    for (const Fiche::Option &option : Fiche::Options(*Champs::Chercher(Feuille::ExLibris, "TypeExlibris"))) {
+        const int i = option.valeur;
         auto *bouton = nommer(new QRadioButton(this), QStringLiteral("TypeExlibris"), i);
-        bouton->setAttribute(Qt::WA_TransparentForMouseEvents);
-        bouton->setFocusPolicy(Qt::NoFocus);
         inscrire(bouton);
         grille->addWidget(bouton, i / Colonnes, i % Colonnes);
+        connect(bouton, &QRadioButton::clicked, this,
+            [this, i] { ecrire(QStringLiteral("TypeExlibris"), QString::number(i)); });
         m_types.push_back(bouton);
     }
     colonne->addLayout(grille);
@@ -217,8 +217,9 @@ void FicheEntite::Traduire()
     m_genre->setText(texte(General::GenreDe(m_tri).bouton));
     for (const auto &[titre, numero] : m_titres)
         titre->setText(texte(numero));
+    const auto types = Fiche::Options(*Champs::Chercher(Feuille::ExLibris, "TypeExlibris"));
     for (std::size_t i = 0; i < m_types.size(); ++i)
-        libeller(m_types[i], texte(TypesDExLibris[i]));
+        libeller(m_types[i], types[i].mot);
     if (m_plan.images) {
         for (const char *champ : {"Photo1", "Photo2"})
             controle<CadreImage>(champ)->poserLegende(texte(Txt::Photos));
@@ -231,21 +232,39 @@ void FicheEntite::montrer(General::Entree entree, const Valeurs &valeurs, const 
 {
     m_tri = entree.tri;
     m_genre->setText(texte(General::GenreDe(m_tri).bouton));
-    montrerValeurs(valeurs);
-    const auto type = valeurs.find(QStringLiteral("TypeExlibris"));
-    for (std::size_t i = 0; i < m_types.size(); ++i) {
-        m_types[i]->setAutoExclusive(false);
-        m_types[i]->setChecked(type != valeurs.end() && type->second.stockee.isValid()
-            && type->second.stockee.toInt() == static_cast<int>(i));
-    }
+    montrerValeurs(entree, valeurs);
+    montrerType();
     m_albums->montrer(albums);
     m_albums->setVisible(!albums.empty());
     m_nombre->setText(QStringLiteral("%1 %2").arg(albums.size()).arg(texte(Txt::AlbumsUnite)));
     m_nombre->setVisible(!albums.empty());
 }
 
+void FicheEntite::montrerType()
+{
+    const auto type = valeurs().find(QStringLiteral("TypeExlibris"));
+    if (type == valeurs().end())
+        return;
+    // No button is down for a print of no known kind.
+    for (std::size_t i = 0; i < m_types.size(); ++i) {
+        m_types[i]->setAutoExclusive(false);
+        m_types[i]->setChecked(
+            type->second.stockee.isValid() && type->second.stockee.toInt() == static_cast<int>(i));
+        m_types[i]->setAutoExclusive(true);
+    }
+}
+
+void FicheEntite::remontrer()
+{
+    FicheForme::remontrer();
+    montrerType();
+    if (m_metier)
+        montrerMetiers(m_metiersLus);
+}
+
 void FicheEntite::montrerMetiers(const ChargerAuteurs::Metiers &metiers)
 {
+    m_metiersLus = metiers;
     m_metier->setText(texte(metiers.titre));
     for (int i = 0; i < 2; ++i) {
         libeller(m_metiers[i], texte(metiers.autres[i].libelle));

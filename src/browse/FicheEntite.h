@@ -27,11 +27,13 @@ public:
 
 protected:
     void Traduire() override;
+    void remontrer() override;
 
 private:
     struct Plan;
     static const Plan &PlanDe(Champs::Feuille feuille);
 
+    void montrerType();
     QWidget *construireImages();
     QWidget *construireGroupes();
     QWidget *construireMemos();
@@ -46,6 +48,7 @@ private:
     QLabel *m_nombre = nullptr;
     TitreGroupe *m_metier = nullptr;
     QCheckBox *m_metiers[2] = {};
+    ChargerAuteurs::Metiers m_metiersLus{};
     std::vector<QRadioButton *> m_types;
     Etagere *m_albums = nullptr;
     General::Tri m_tri = General::Tri::Albums;

@@ -2,16 +2,17 @@
 
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
+#include "core/ui/ChoixPlat.h"
 #include "core/ui/Etoiles.h"
 #include "core/ui/Legende.h"
 #include "core/ui/Liens.h"
+#include "core/ui/Memo.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
 #include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
-#include <QPlainTextEdit>
 
 using namespace Champs;
 
@@ -20,19 +21,20 @@ namespace {
 QWidget *fabriquer(Vue vue, QWidget *parent)
 {
     switch (vue) {
-    case Vue::Memo: {
-        auto *memo = new QPlainTextEdit(parent);
-        memo->setReadOnly(true);
-        memo->setTabChangesFocus(true);
-        return memo;
-    }
+    case Vue::Memo:
+        return new Memo(parent);
     case Vue::Etoiles:
         return new Etoiles(parent);
-    case Vue::Case: {
-        auto *boite = new QCheckBox(parent);
-        boite->setAttribute(Qt::WA_TransparentForMouseEvents);
-        boite->setFocusPolicy(Qt::NoFocus);
-        return boite;
+    case Vue::Case:
+        return new QCheckBox(parent);
+    case Vue::Format:
+    case Vue::Couleur:
+        return new ChoixPlat(parent);
+    case Vue::Parution: {
+        // An unknown periodicity is blank: the dots would ask for a text.
+        auto *choix = new ChoixPlat(parent);
+        choix->poserPointilles(false);
+        return choix;
     }
     case Vue::Image:
         return new CadreImage(parent);
@@ -61,6 +63,16 @@ void montrerNote(const Champ &champ, Etoiles &etoiles, const QString &affichee)
     etoiles.setToolTip(etoiles.valeur() > 0 ? mot : QString());
 }
 
+/// The words of a choice, with their numbers behind them; the current one stays.
+void proposer(const Champ &champ, ChoixPlat &choix)
+{
+    const QVariant courante = choix.currentData();
+    choix.clear();
+    for (const Fiche::Option &option : Fiche::Options(champ))
+        choix.addItem(option.mot, option.valeur);
+    choix.setCurrentIndex(choix.findData(courante));
+}
+
 void habiller(QWidget *valeur, const QFont &police)
 {
     QPalette palette;
@@ -87,9 +99,72 @@ QWidget *FicheForme::creer(const char *nom)
     Q_ASSERT(champ);
     QWidget *controle = nommer(fabriquer(champ->vue, this), QString::fromLatin1(champ->controle));
     m_controles[nom] = controle;
-    if (champ->vue == Vue::Lien)
-        connect(qobject_cast<Legende *>(controle), &Legende::ouvertureDemandee, this, &Liens::Ouvrir);
+    brancher(*champ, controle);
     return controle;
+}
+
+/// What the user does to a control is written at once, or asked for in a form of its own.
+void FicheForme::brancher(const Champ &champ, QWidget *controle)
+{
+    const QString nom = QString::fromLatin1(champ.nom);
+    if (auto *legende = qobject_cast<Legende *>(controle)) {
+        connect(legende, &Legende::actionnee, this,
+            [this, nom, legende] { Q_EMIT editionDemandee(editionDe(nom, legende)); });
+        connect(legende, &Legende::ouvertureDemandee, this, &Liens::Ouvrir);
+    } else if (auto *memo = qobject_cast<Memo *>(controle)) {
+        connect(memo, &Memo::modifie, this,
+            [this, nom](const QString &texte, int visite) { ecrire(nom, texte, visite); });
+    } else if (auto *etoiles = qobject_cast<Etoiles *>(controle)) {
+        connect(
+            etoiles, &Etoiles::choisie, this, [this, nom](int note) { ecrire(nom, QString::number(note)); });
+    } else if (auto *boite = qobject_cast<QCheckBox *>(controle)) {
+        connect(boite, &QCheckBox::clicked, this,
+            [this, nom](bool coche) { ecrire(nom, QString::number(coche ? 1 : 0)); });
+    } else if (auto *choix = qobject_cast<ChoixPlat *>(controle)) {
+        connect(choix, &QComboBox::activated, this,
+            [this, nom, choix] { ecrire(nom, choix->currentData().toString()); });
+    }
+}
+
+Edition FicheForme::editionDe(const QString &champ, const QWidget *controle) const
+{
+    Edition edition;
+    edition.entree = m_entree;
+    edition.champ = champ;
+    edition.place = QRect(controle->mapToGlobal(QPoint()), controle->size());
+    if (const auto valeur = m_valeurs.find(champ); valeur != m_valeurs.end()) {
+        edition.affichee = valeur->second.affichee;
+        edition.stockee = valeur->second.stockee;
+    }
+    return edition;
+}
+
+void FicheForme::ecrire(const QString &champ, const QString &saisie, int visite)
+{
+    Ecriture::Issue issue;
+    try {
+        issue = Ecriture::Ecrire(editionDe(champ, this), saisie, visite);
+    } catch (...) {
+        remontrer();
+        throw;
+    }
+    if (!issue.refus.isEmpty())
+        remontrer();
+    const QString mot = issue.refus.isEmpty() ? issue.avis : issue.refus;
+    if (!mot.isEmpty())
+        Q_EMIT dit(mot);
+}
+
+void FicheForme::ecrireMemos()
+{
+    for (Memo *memo : findChildren<Memo *>())
+        memo->annoncer();
+}
+
+bool FicheForme::memosEnAttente() const
+{
+    const QList<Memo *> memos = findChildren<Memo *>();
+    return std::any_of(memos.begin(), memos.end(), [](const Memo *memo) { return memo->enAttente(); });
 }
 
 void FicheForme::ajouterLigne(QGridLayout *grille, const char *nom)
@@ -118,6 +193,8 @@ void FicheForme::Traduire()
             boite->setText(libelle);
         if (Chercher(m_feuille, nom.c_str())->vue == Vue::Lien)
             controle->setToolTip(texte(Txt::CliquerPourSiteInternet));
+        if (auto *choix = qobject_cast<ChoixPlat *>(controle))
+            proposer(*Chercher(m_feuille, nom.c_str()), *choix);
         if (const auto trouve = m_libelles.find(nom); trouve != m_libelles.end())
             trouve->second->setText(libelle);
     }
@@ -163,8 +240,11 @@ void FicheForme::inscrire(QWidget *valeur)
     habiller(valeur, Theme::PoliceChoisie());
 }
 
-void FicheForme::montrerValeurs(const Valeurs &valeurs)
+void FicheForme::montrerValeurs(General::Entree entree, const Valeurs &valeurs)
 {
+    m_entree = entree;
+    if (&valeurs != &m_valeurs)
+        m_valeurs = valeurs;
     for (const auto &[nom, controle] : m_controles) {
         const auto valeur = valeurs.find(QString::fromStdString(nom));
         montrer(*Chercher(m_feuille, nom.c_str()), controle,
@@ -176,7 +256,7 @@ void FicheForme::montrer(const Champ &champ, QWidget *controle, const ValeurDeCh
 {
     switch (champ.vue) {
     case Vue::Memo:
-        qobject_cast<QPlainTextEdit *>(controle)->setPlainText(valeur.affichee);
+        qobject_cast<Memo *>(controle)->montrer(valeur.affichee);
         break;
     case Vue::Etoiles:
         montrerNote(champ, *qobject_cast<Etoiles *>(controle), valeur.affichee);
@@ -187,13 +267,13 @@ void FicheForme::montrer(const Champ &champ, QWidget *controle, const ValeurDeCh
     case Vue::Image:
         qobject_cast<CadreImage *>(controle)->montrer(valeur.affichee);
         break;
-    case Vue::Parution:
-        // An unknown periodicity is blank: the dots would ask for a text.
-        if (valeur.affichee.isEmpty())
-            qobject_cast<Legende *>(controle)->effacer();
-        else
-            qobject_cast<Legende *>(controle)->montrer(valeur.affichee);
+    case Vue::Format:
+    case Vue::Couleur:
+    case Vue::Parution: {
+        auto *choix = qobject_cast<ChoixPlat *>(controle);
+        choix->setCurrentIndex(valeur.stockee.isValid() ? choix->findData(valeur.stockee.toInt()) : -1);
         break;
+    }
     default:
         qobject_cast<Legende *>(controle)->montrer(valeur.affichee);
         break;

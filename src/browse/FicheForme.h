@@ -1,7 +1,6 @@
 #pragma once
 
-#include "browse/Fiche.h"
-#include "browse/General.h"
+#include "browse/Edition.h"
 #include "core/ui/Carte.h"
 
 #include <QLabel>
@@ -21,8 +20,16 @@ public:
     /// Puts the user's font and colour on every value of the sheet.
     void AppliquerPolicesFiche();
 
+    /// Writes what was typed into the texts and still waits. Throws Error; it then goes on waiting.
+    void ecrireMemos();
+    bool memosEnAttente() const;
+
 Q_SIGNALS:
     void entreeDemandee(General::Entree entree);
+    /// A value is to be entered or chosen in a form of its own.
+    void editionDemandee(const Edition &edition);
+    /// Something is to be said of what was written, or why nothing was.
+    void dit(const QString &message);
 
 protected:
     /// Takes all captions from the texts in force.
@@ -45,12 +52,23 @@ protected:
         return qobject_cast<T *>(m_controles.at(champ));
     }
 
-    void montrerValeurs(const Valeurs &valeurs);
+    void montrerValeurs(General::Entree entree, const Valeurs &valeurs);
+    /// Shows again what is stored, after a direct edit that failed.
+    virtual void remontrer() { montrerValeurs(m_entree, m_valeurs); }
+    General::Entree entree() const { return m_entree; }
+    const Valeurs &valeurs() const { return m_valeurs; }
+
+    Edition editionDe(const QString &champ, const QWidget *controle) const;
+    /// Writes a value that was entered on the sheet itself. Throws Error.
+    void ecrire(const QString &champ, const QString &saisie, int visite = 0);
 
 private:
+    void brancher(const Champs::Champ &champ, QWidget *controle);
     void montrer(const Champs::Champ &champ, QWidget *controle, const ValeurDeChamp &valeur);
 
     Champs::Feuille m_feuille;
+    General::Entree m_entree;
+    Valeurs m_valeurs;
     std::map<std::string, QWidget *> m_controles;
     std::map<std::string, QLabel *> m_libelles;
     std::map<std::string, qreal> m_facteurs;

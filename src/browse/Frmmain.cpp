@@ -4,6 +4,7 @@
 #include "browse/ChargerAlbums.h"
 #include "browse/FicheAlbum.h"
 #include "browse/FicheEntite.h"
+#include "browse/Pied.h"
 #include "browse/VoletListes.h"
 #include "browse/VueListe.h"
 #include "core/Dossier.h"
@@ -28,11 +29,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLoggingCategory>
-#include <QRandomGenerator>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -61,7 +62,8 @@ Frmmain::Frmmain()
     m_bandeau = new Bandeau(this);
     page->addWidget(m_bandeau);
     construireCorps(page);
-    construirePied(page);
+    m_pied = new Pied(this);
+    page->addWidget(m_pied);
     brancher();
     raccourcis();
     Frmmain::Traduire();
@@ -101,30 +103,6 @@ void Frmmain::construireCorps(QBoxLayout *page)
     page->addWidget(m_partage, 1);
 }
 
-void Frmmain::construirePied(QBoxLayout *page)
-{
-    auto *pied = new QWidget(this);
-    auto *ligne = new QHBoxLayout(pied);
-    ligne->setContentsMargins(Theme::Moyen, 3, Theme::Moyen, 3);
-    ligne->setSpacing(Theme::Grand);
-    m_message = nommer(new QLabel(pied), QStringLiteral("Message"));
-    m_anim = nommer(new QLabel(pied), QStringLiteral("Anim"));
-    m_totaux = nommer(new QLabel(pied), QStringLiteral("Totaux"));
-    for (QLabel *label : {m_message, m_anim, m_totaux}) {
-        label->setFont(Theme::Taille(font(), 0.85));
-        label->setTextFormat(Qt::PlainText);
-    }
-    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_totaux->setForegroundRole(QPalette::PlaceholderText);
-    ligne->addWidget(m_message, 1);
-    ligne->addWidget(m_anim);
-    ligne->addWidget(m_totaux);
-    page->addWidget(pied);
-    m_timer.setParent(this);
-    m_timer.setObjectName(QStringLiteral("Timer1"));
-    m_timer.setInterval(1000);
-}
-
 void Frmmain::brancher()
 {
     connect(m_volet, &VoletListes::triDemande, this, &Frmmain::montrerTri);
@@ -142,7 +120,8 @@ void Frmmain::brancher()
         if (m_ficheAlbum)
             m_ficheAlbum->poserDefilement(actif);
     });
-    connect(&m_timer, &QTimer::timeout, this, &Frmmain::animer);
+    connect(m_bandeau, &Bandeau::annulationDemandee, this, &Frmmain::annuler);
+    connect(m_bandeau, &Bandeau::retablissementDemande, this, &Frmmain::retablir);
 }
 
 void Frmmain::raccourcis()
@@ -156,6 +135,9 @@ void Frmmain::raccourcis()
     ajouter(QKeySequence::HelpContents, [this] { ouvrirAide(); });
     ajouter(QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
     ajouter(QKeySequence::New, [this] { Q_EMIT formeDemandee(Nom::Manuelle); });
+    ajouter(QKeySequence::Undo, [this] { annuler(); });
+    ajouter(QKeySequence::Redo, [this] { retablir(); });
+    ajouter(QKeySequence(Qt::CTRL | Qt::Key_Y), [this] { retablir(); });
     ajouter(QKeySequence::Print, [this] { Q_EMIT formeDemandee(Nom::Impression); });
     for (int i = 0; i < NombreDeTris; ++i)
         ajouter(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + i)), [this, i] { montrerTri(TriDe(i)); });
@@ -218,14 +200,15 @@ void Frmmain::memoriserTaille()
 
 void Frmmain::montrerTri(Tri tri)
 {
+    quitterFiche();
     m_volet->montrer(tri);
     m_ouverte = true;
     Reglages::courant().ecrire(Cle::Tris, static_cast<int>(tri));
     Q_EMIT triChange(static_cast<int>(tri));
     m_courante = {};
     // The list that was there already keeps its entry.
-    if (const int courante = m_volet->liste()->choisie())
-        choisir({tri, courante});
+    if (m_volet->liste()->choisie() > 0)
+        choisirCourante();
     else
         montrerPremiere();
 }
@@ -236,7 +219,7 @@ void Frmmain::montrerPremiere()
     VueListe *liste = m_volet->liste();
     if (!m_ouverte)
         return;
-    poserTotaux();
+    m_pied->poserTotaux();
     if (liste->currentIndex().isValid())
         return;
     if (liste->modele().rowCount() == 0) {
@@ -275,6 +258,8 @@ void Frmmain::choisir(Entree entree)
 
 void Frmmain::montrerFiche(Entree entree)
 {
+    if (entree != m_courante)
+        quitterFiche();
     m_courante = entree;
     if (entree.tri == Tri::Albums)
         return montrerAlbum(entree.id);
@@ -285,8 +270,7 @@ void Frmmain::montrerFiche(Entree entree)
     FicheEntite *&fiche = m_fichesEntites[feuille];
     if (!fiche) {
         fiche = new FicheEntite(feuille, m_fiches);
-        m_fiches->addWidget(fiche);
-        connect(fiche, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
+        inscrire(fiche);
     }
     fiche->montrer(entree, *valeurs, LireAlbums(entree.tri, entree.id));
     if (feuille == Champs::Feuille::Auteur)
@@ -301,13 +285,54 @@ void Frmmain::montrerAlbum(int num)
         return oublier();
     if (!m_ficheAlbum) {
         m_ficheAlbum = new FicheAlbum(m_fiches);
-        m_fiches->addWidget(m_ficheAlbum);
-        connect(
-            m_ficheAlbum, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
+        inscrire(m_ficheAlbum);
         m_ficheAlbum->poserDefilement(Reglages::courant().booleen(Cle::Loop));
     }
     m_ficheAlbum->montrer(*fiche);
     m_fiches->setCurrentWidget(m_ficheAlbum);
+}
+
+void Frmmain::inscrire(FicheForme *fiche)
+{
+    m_fiches->addWidget(fiche);
+    connect(fiche, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
+    connect(fiche, &FicheForme::editionDemandee, this, &Frmmain::editionDemandee);
+    connect(fiche, &FicheForme::dit, this, &Frmmain::dire);
+}
+
+FicheForme *Frmmain::ficheMontree() const
+{
+    return qobject_cast<FicheForme *>(m_fiches->currentWidget());
+}
+
+/// What was typed into the sheet's texts is written before another sheet stands in its place.
+void Frmmain::quitterFiche()
+{
+    FicheForme *fiche = ficheMontree();
+    if (!fiche || m_courante.id == 0)
+        return;
+    try {
+        fiche->ecrireMemos();
+    } catch (...) {
+        // The text stays, and the list stands by it.
+        if (m_courante.tri == m_volet->tri())
+            m_volet->liste()->choisir(m_courante.id);
+        throw;
+    }
+}
+
+void Frmmain::annuler()
+{
+    if (FicheForme *fiche = ficheMontree())
+        fiche->ecrireMemos();
+    Q_EMIT annulationDemandee();
+}
+
+void Frmmain::retablir()
+{
+    if (FicheForme *fiche = ficheMontree())
+        fiche->ecrireMemos();
+    Q_EMIT retablissementDemande();
 }
 
 /// The entry shown is gone.
@@ -319,6 +344,9 @@ void Frmmain::oublier()
 
 void Frmmain::renommer(Tri tri, int id, const QString &libelle)
 {
+    const Entree entree{tri, id};
+    const Edition edition{entree, QLatin1String(ChampDuLibelle(tri).nom), {}, {}, {}, {}, {}};
+    const Collection::Intitule intitule(Ecriture::TitreDe(edition, libelle), QVariant::fromValue(entree));
     if (Renommer(tri, id, libelle) == Renommage::Coupe)
         dire(tr("Le titre a été coupé à 50 caractères."));
 }
@@ -328,18 +356,16 @@ void Frmmain::actualiser(const Changements &changements)
     m_volet->actualiser(changements);
     if (m_courante.id > 0)
         montrerFiche(m_courante);
-    poserTotaux();
+    if (m_courante.id == 0)
+        choisirCourante();
+    m_pied->poserTotaux();
 }
 
-void Frmmain::poserTotaux()
+/// Shows the sheet of the entry that the main list stands on, if it stands on one.
+void Frmmain::choisirCourante()
 {
-    const Totaux totaux = LireTotaux();
-    const QLocale &locale = Traduction::courant().locale();
-    QStringList parties{tr("%n album(s)", nullptr, static_cast<int>(totaux.albums)),
-        tr("%n série(s)", nullptr, static_cast<int>(totaux.series))};
-    if (totaux.valeur > 0)
-        parties << tr("valeur %1").arg(locale.toString(totaux.valeur, 'f', 2) + u' ' + texte(Txt::Euro));
-    m_totaux->setText(parties.join(QStringLiteral(" · ")));
+    if (const int courante = m_volet->liste()->choisie())
+        choisir({m_volet->tri(), courante});
 }
 
 void Frmmain::appliquerApparence()
@@ -354,7 +380,12 @@ void Frmmain::appliquerApparence()
 
 void Frmmain::dire(const QString &message)
 {
-    m_message->setText(message);
+    m_pied->dire(message);
+}
+
+void Frmmain::poserEtapes(const QString &aAnnuler, const QString &aRefaire)
+{
+    m_bandeau->poserEtapes(aAnnuler, aRefaire);
 }
 
 void Frmmain::poserDisponibles(const std::function<bool(Forme::Nom)> &disponible)
@@ -368,29 +399,17 @@ void Frmmain::Traduire()
     m_bandeau->Traduire();
     m_volet->Traduire();
     m_accueil->setText(tr("Aucune fiche à montrer pour l'instant"));
-    m_anim->setText(texte(Txt::CliquezPourMenuContextuel));
+    m_pied->Traduire();
     if (m_courante.id > 0)
         QTimer::singleShot(0, this, [this] { actualiser({}); });
-}
-
-/// A new shade of pure red, never the one that it has.
-void Frmmain::animer()
-{
-    QPalette palette = m_anim->palette();
-    const int courante = palette.color(QPalette::WindowText).red();
-    int rouge = courante;
-    while (rouge == courante)
-        rouge = QRandomGenerator::global()->bounded(256);
-    palette.setColor(QPalette::WindowText, QColor(rouge, 0, 0));
-    m_anim->setPalette(palette);
 }
 
 bool Frmmain::event(QEvent *evenement)
 {
     if (evenement->type() == QEvent::WindowActivate)
-        m_timer.start();
+        m_pied->animer(true);
     else if (evenement->type() == QEvent::WindowDeactivate)
-        m_timer.stop();
+        m_pied->animer(false);
     else if (evenement->type() == QEvent::Paint && !std::exchange(m_peinte, true))
         // The list is on screen; only now is there time for the first sheet.
         QTimer::singleShot(0, this, &Frmmain::montrerPremiere);
@@ -399,15 +418,25 @@ bool Frmmain::event(QEvent *evenement)
 
 void Frmmain::keyPressEvent(QKeyEvent *evenement)
 {
-    // Escape closes forms, not the program: here it only clears the status line.
-    if (evenement->key() == Qt::Key_Escape)
+    // Escape closes forms, not the program: here it leaves the sheet for the list.
+    if (evenement->key() == Qt::Key_Escape) {
         dire({});
-    else
+        m_volet->liste()->setFocus();
+    } else
         Forme::keyPressEvent(evenement);
 }
 
 void Frmmain::closeEvent(QCloseEvent *evenement)
 {
+    FicheForme *fiche = ficheMontree();
+    if (fiche && fiche->memosEnAttente()) {
+        evenement->ignore();
+        QTimer::singleShot(0, this, [this, fiche] {
+            fiche->ecrireMemos();
+            close();
+        });
+        return;
+    }
     const QString question = texte(Txt::VoulezVousQuitter) + u' ' + titre() + QStringLiteral(" ?");
     if (!Messages::Demander(this, question)) {
         evenement->ignore();

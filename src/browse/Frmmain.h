@@ -1,16 +1,17 @@
 #pragma once
 
-#include "browse/General.h"
+#include "browse/Edition.h"
 #include "core/ui/Forme.h"
 
-#include <QTimer>
 #include <functional>
 #include <map>
 
 class Bandeau;
 class FicheAlbum;
 class FicheEntite;
+class FicheForme;
 class Fond;
+class Pied;
 class QBoxLayout;
 class QLabel;
 class QScrollArea;
@@ -40,11 +41,16 @@ public:
     void actualiser(const Changements &changements);
     void appliquerApparence();
     void dire(const QString &message);
+    /// Titles of the steps that undo and redo would take next; empty where there is none.
+    void poserEtapes(const QString &aAnnuler, const QString &aRefaire);
     void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
 
 Q_SIGNALS:
     void formeDemandee(Forme::Nom forme);
     void langueDemandee(const QString &fichier);
+    void editionDemandee(const Edition &edition);
+    void annulationDemandee();
+    void retablissementDemande();
     /// Another kind of list is shown.
     void triChange(int tri);
     /// The user has left the program.
@@ -58,7 +64,6 @@ protected:
 
 private:
     void construireCorps(QBoxLayout *page);
-    void construirePied(QBoxLayout *page);
     void brancher();
     void raccourcis();
     void importerIni();
@@ -70,8 +75,12 @@ private:
     void montrerAlbum(int num);
     void oublier();
     void renommer(General::Tri tri, int id, const QString &libelle);
-    void poserTotaux();
-    void animer();
+    void choisirCourante();
+    FicheForme *ficheMontree() const;
+    void inscrire(FicheForme *fiche);
+    void quitterFiche();
+    void annuler();
+    void retablir();
     void ouvrirAide();
     void apropos();
 
@@ -84,10 +93,7 @@ private:
     FicheAlbum *m_ficheAlbum = nullptr;
     std::map<Champs::Feuille, FicheEntite *> m_fichesEntites;
     QLabel *m_accueil = nullptr;
-    QLabel *m_message = nullptr;
-    QLabel *m_anim = nullptr;
-    QLabel *m_totaux = nullptr;
-    QTimer m_timer;
+    Pied *m_pied = nullptr;
     General::Entree m_courante;
     bool m_peinte = false;
     bool m_ouverte = false; ///< the collection could be read

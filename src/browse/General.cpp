@@ -40,7 +40,7 @@ constexpr std::array Genres{
 };
 
 /// How the second part of a line's text is joined to the first.
-enum class Forme { Nom, NomPrenom, NomNumero };
+enum class Forme { Nom, NomPrenom, PrenomNom, NomNumero };
 
 /// The queries of a kind. Each names the columns that the lines show, so that an index covers it.
 struct Requetes
@@ -106,10 +106,14 @@ std::string_view sansBlancs(std::string_view texte)
 
 void ajouterLigne(Entrees &entrees, const Recordset &rs, Forme forme)
 {
-    entrees.ajouter(static_cast<int>(rs.Int64(0)), rs.Utf8(1));
-    if (forme == Forme::Nom)
-        return;
-    const std::string_view second = sansBlancs(rs.Utf8(2));
+    const int id = static_cast<int>(rs.Int64(0));
+    const std::string_view second = forme == Forme::Nom ? std::string_view() : sansBlancs(rs.Utf8(2));
+    if (forme == Forme::PrenomNom && !second.empty()) {
+        entrees.ajouter(id, second);
+        entrees.prolonger(" , ");
+        return entrees.prolonger(rs.Utf8(1));
+    }
+    entrees.ajouter(id, rs.Utf8(1));
     if (forme == Forme::NomNumero || !second.empty()) {
         entrees.prolonger(forme == Forme::NomNumero ? " - " : ", ");
         entrees.prolonger(second);
@@ -241,14 +245,16 @@ Choix General::LireChoix(const QString &liste, const QString &table, const QStri
     const QString role = liste.startsWith(u'L') ? liste.mid(1) : liste;
     const bool auteurs = table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0;
     const bool presse = liste == QLatin1String("LPresseBD");
+    const bool intervenants = table.compare(QLatin1String("Inter"), Qt::CaseInsensitive) == 0;
     const QString sql = roles.contains(role)
         ? QStringLiteral("SELECT * From %1 where  %2 = -1 order by Nom asc").arg(table, role)
         : QStringLiteral("SELECT * From %1 order by Nom asc").arg(table);
     const Base base;
     Choix choix{remplir(base.OpenRecordset(sql),
-                    auteurs      ? Forme::NomPrenom
-                        : presse ? Forme::NomNumero
-                                 : Forme::Nom,
+                    auteurs            ? Forme::NomPrenom
+                        : intervenants ? Forme::PrenomNom
+                        : presse       ? Forme::NomNumero
+                                       : Forme::Nom,
                     {}),
         -1};
     const QString voulu = Texte::EstVide(valeur) ? QString() : valeur.trimmed().toUpper();
@@ -307,21 +313,34 @@ Renommage General::Renommer(Tri tri, int id, const QString &libelle)
     const QString net = libelle.trimmed();
     if (net.isEmpty())
         return Renommage::Rien;
+    const Champs::Champ &champ = ChampDuLibelle(tri);
+    if (champ.feuille == Feuille::Auteur)
+        return renommerAuteur(id, net);
+    if (champ.feuille == Feuille::Presse)
+        return renommerPresse(id, net);
+    return ecrireNom(champ.feuille, id, champ.nom, net);
+}
+
+const Champs::Champ &General::ChampDuLibelle(Tri tri)
+{
+    const auto champ = [](Feuille feuille, const char *nom) -> const Champs::Champ & {
+        return *Champs::Chercher(feuille, nom);
+    };
     switch (GenreDe(tri).feuille) {
     case Feuille::Album:
-        return ecrireNom(Feuille::Album, id, "TAlbum", net);
+        return champ(Feuille::Album, "TAlbum");
     case Feuille::Serie:
-        return ecrireNom(Feuille::Serie, id, "Nom", net);
+        return champ(Feuille::Serie, "Nom");
     case Feuille::Auteur:
-        return renommerAuteur(id, net);
+        return champ(Feuille::Auteur, "Nom");
     case Feuille::ExLibris:
-        return ecrireNom(Feuille::ExLibris, id, "DescriptionX", net);
+        return champ(Feuille::ExLibris, "DescriptionX");
     case Feuille::Presse:
-        return renommerPresse(id, net);
+        return champ(Feuille::Presse, "NomP");
     case Feuille::Editeur:
-        return ecrireNom(Feuille::Editeur, id, "NomE", net);
+        return champ(Feuille::Editeur, "NomE");
     case Feuille::Coll:
-        return ecrireNom(Feuille::Coll, id, "NomC", net);
+        return champ(Feuille::Coll, "NomC");
     }
     Q_UNREACHABLE();
 }

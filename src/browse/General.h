@@ -91,6 +91,9 @@ Totaux LireTotaux();
 enum class Renommage { Rien, Fait, Coupe };
 Renommage Renommer(Tri tri, int id, const QString &libelle);
 
+/// The field of the sheet that a label of this kind of list stands for.
+const Champs::Champ &ChampDuLibelle(Tri tri);
+
 /// Name and number of a press item as its label shows them; no number when the label has none.
 struct LibelleDePresse
 {

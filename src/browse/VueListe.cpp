@@ -31,13 +31,18 @@ void VueListe::remplir(General::Tri tri, Entrees entrees)
 {
     const bool memeListe = tri == m_modele.tri();
     const int courante = memeListe ? choisie() : 0;
+    const int rang = memeListe ? currentIndex().row() : -1;
     const int hauteur = memeListe ? verticalScrollBar()->value() : 0;
     m_muette = true;
     const QString icone = QString::fromLatin1(General::GenreDe(tri).icone);
     m_modele.poserIcones(Icones::Charger(icone), Icones::AvecMarque(icone, QStringLiteral("pret")));
     m_modele.remplir(tri, std::move(entrees));
-    if (courante > 0)
-        setCurrentIndex(m_modele.indexDe(courante));
+    if (courante > 0) {
+        // Where the entry was, its successor stands now.
+        const QModelIndex sienne = m_modele.indexDe(courante);
+        const int dernier = m_modele.rowCount() - 1;
+        setCurrentIndex(sienne.isValid() ? sienne : m_modele.index(std::min(rang, dernier)));
+    }
     if (memeListe)
         verticalScrollBar()->setValue(hauteur);
     m_muette = false;

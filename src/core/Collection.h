@@ -25,6 +25,15 @@ struct Changement
 /// What one user action changed, in the order in which it happened.
 using Changements = std::vector<Changement>;
 
+/// One action of the user, as undo names it and finds its place again.
+struct Etape
+{
+    QString titre; ///< "Scénariste: Caumery"
+    Changements changements;
+    QVariant lieu; ///< where it was done; the forms know what this is
+    int visite = 0; ///< steps of one visit to one place under one title are one step; 0 is none
+};
+
 /// The collection as the forms know it: it tells them when something in it has changed.
 class Collection : public QObject, public Courant<Collection>
 {
@@ -34,9 +43,27 @@ public:
     /// Asked when the file is in use by another program; true tries again. Without it the opening fails.
     std::function<bool(const Error &)> reessayer;
 
-    /// Announces changes from the event loop, once the action that made them is over.
+    /// Names what is changed while it lives; the outermost one counts.
+    class Intitule
+    {
+    public:
+        explicit Intitule(const QString &titre, const QVariant &lieu = {}, int visite = 0);
+        ~Intitule();
+        Intitule(const Intitule &) = delete;
+        Intitule &operator=(const Intitule &) = delete;
+
+    private:
+        bool m_premier;
+    };
+
+    /// Hands the step over at once, and announces its changes from the event loop, once the action that made
+    /// them is over.
     void annoncer(const Changements &changements);
 
 Q_SIGNALS:
+    void faite(const Etape &etape);
     void changee(const Changements &changements);
+
+private:
+    std::optional<Etape> m_intitule;
 };

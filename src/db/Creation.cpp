@@ -1,6 +1,7 @@
 #include "db/Creation.h"
 
 #include "db/Base.h"
+#include "db/Schema.h"
 
 #include <array>
 #include <initializer_list>
@@ -150,36 +151,6 @@ int chercherAuteur(const Base &base, const QString &nom)
     return coupe.AtEnd() ? 0 : coupe.Fields(0).toInt();
 }
 
-int creerAuteur(const Base &base, const QString &nom, const QString &role)
-{
-    const int numero = AccesBase::NouvelIdentifiant(QStringLiteral("Auteurs"), QStringLiteral("NAuteur"));
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From Auteurs"));
-    rs.AddNew();
-    poser(rs, {{"NAuteur", numero}, {"Nom", nom}, {"Dessin", false}, {"Scena", false}, {"Color", false}});
-    rs.SetField(role, true);
-    poserVides(rs,
-        {"Prenom", "SurNom", "DateNaiss", "LieuNaiss", "web1", "web2", "Photo1", "Photo2", "Commentaire"});
-    poser(rs, {{"NPays", 0}});
-    rs.Update();
-    return numero;
-}
-
-void lierAuteur(const Base &base, int auteur, int album, const QString &role)
-{
-    auto rs = base.OpenRecordset(
-        QStringLiteral("SELECT * From AuteursAlbums where NAuteur = ? and NAlbum = ? order by NAuteur asc "),
-        {auteur, album});
-    if (rs.AtEnd()) {
-        rs.AddNew();
-        poser(rs,
-            {{"NAuteur", auteur}, {"NAlbum", album}, {"Dessin", false}, {"Scena", false}, {"Color", false}});
-    } else {
-        rs.Edit();
-    }
-    rs.SetField(role, true);
-    rs.Update();
-}
-
 }
 
 int Creation::CreerAlbum(const Album &album)
@@ -205,12 +176,57 @@ int Creation::AjouterAuteur(const QString &nom, Role role, int album)
     if (nom.trimmed().isEmpty())
         return 0;
     const Base base;
-    const QString champ = AccesBase::NomDuRole(role);
     int auteur = chercherAuteur(base, nom);
     if (auteur == 0)
-        auteur = creerAuteur(base, nom, champ);
+        auteur = CreerAuteur(nom, QStringLiteral(" "), role);
     else
         AccesBase::PoserRole(auteur, role);
-    lierAuteur(base, auteur, album, champ);
+    LierAuteur(auteur, role, album);
     return auteur;
+}
+
+int Creation::CreerEntree(const QString &table, const QString &nom)
+{
+    const Base base;
+    const QVariantList blanc = Schema::Blanc(table);
+    const int numero = AccesBase::NouvelIdentifiant(table, Schema::Champs(table).first());
+    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From ") + table);
+    rs.AddNew();
+    for (int i = 0; i < blanc.size(); ++i)
+        rs.SetField(i, blanc.at(i));
+    rs.SetField(0, numero);
+    rs.SetField(1, nom);
+    if (table.compare(QLatin1String("Serie"), Qt::CaseInsensitive) == 0)
+        poser(rs, {{"NoteG", NoteNeuve}, {"NoteD", NoteNeuve}, {"NoteS", NoteNeuve}, {"cote", NoteNeuve}});
+    rs.Update();
+    return numero;
+}
+
+int Creation::CreerAuteur(const QString &nom, const QString &prenom, Role role)
+{
+    const Base base;
+    const int numero = CreerEntree(QStringLiteral("Auteurs"), nom);
+    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From Auteurs where NAuteur = ?"), {numero});
+    rs.Edit();
+    poser(rs, {{"Prenom", texteOuVide(prenom)}});
+    rs.SetField(AccesBase::NomDuRole(role), true);
+    rs.Update();
+    return numero;
+}
+
+void Creation::LierAuteur(int auteur, Role role, int album)
+{
+    const Base base;
+    auto rs = base.OpenRecordset(
+        QStringLiteral("SELECT * From AuteursAlbums where NAuteur = ? and NAlbum = ? order by NAuteur asc "),
+        {auteur, album});
+    if (rs.AtEnd()) {
+        rs.AddNew();
+        poser(rs,
+            {{"NAuteur", auteur}, {"NAlbum", album}, {"Dessin", false}, {"Scena", false}, {"Color", false}});
+    } else {
+        rs.Edit();
+    }
+    rs.SetField(AccesBase::NomDuRole(role), true);
+    rs.Update();
 }

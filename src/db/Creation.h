@@ -36,4 +36,14 @@ int CreerAlbum(const Album &album);
 /// has. Returns his number, 0 for a blank name. Throws Error.
 int AjouterAuteur(const QString &nom, AccesBase::Role role, int album);
 
+/// A new entry of a table of named entries, with the defaults of a creation: blank texts, 0, marks of 5.
+/// Returns its number. Throws Error.
+int CreerEntree(const QString &table, const QString &nom);
+
+/// A new author with one trade; returns his number. Throws Error.
+int CreerAuteur(const QString &nom, const QString &prenom, AccesBase::Role role);
+
+/// Gives an author a role of an album, beside those he has there. Throws Error.
+void LierAuteur(int auteur, AccesBase::Role role, int album);
+
 }

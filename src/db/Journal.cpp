@@ -86,8 +86,9 @@ void remplacer(Connexion &connexion, const Changement &c, const std::optional<Li
     const std::optional<Ligne> &voulue)
 {
     if (ligneActuelle(connexion, c.table, c.cle) != attendue)
-        throw Error(QCoreApplication::translate("Journal",
-                        "Cette modification ne peut plus être reprise : la fiche a changé depuis."),
+        throw Error(Error::Sorte::Perimee,
+            QCoreApplication::translate(
+                "Journal", "Cette modification ne peut plus être reprise : la fiche a changé depuis."),
             {});
     if (attendue)
         supprimer(connexion, c.table, c.cle);

@@ -326,6 +326,20 @@ QStringList Schema::Champs(const QString &table)
     return noms;
 }
 
+QVariantList Schema::Blanc(const QString &table)
+{
+    QVariantList valeurs;
+    if (const Table *trouvee = chercher(table)) {
+        for (const Champ &champ : trouvee->champs) {
+            const bool texte = champ.type == Type::Texte || champ.type == Type::Nom;
+            valeurs << (texte                     ? QVariant(QStringLiteral(" "))
+                    : champ.type == Type::Booleen ? QVariant(false)
+                                                  : QVariant(0));
+        }
+    }
+    return valeurs;
+}
+
 void Schema::CreerVierge(const QString &chemin)
 {
     QStringList instructions;

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
 
 /// The tables of the collection: one place says which there are and what their fields hold. The program reads
 /// and upgrades a collection; only the build makes an empty one.
@@ -13,6 +14,8 @@ int Version();
 QStringList Tables();
 /// Fields of a table in their order; empty when there is no such table. Names are matched without case.
 QStringList Champs(const QString &table);
+/// What a new row holds in each of its fields until more is known: a blank, 0, no flag.
+QVariantList Blanc(const QString &table);
 
 /// Makes a new, empty collection file. Throws Error when the file exists or cannot be made.
 void CreerVierge(const QString &chemin);

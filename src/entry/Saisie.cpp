@@ -86,11 +86,9 @@ std::optional<Saisie::Refus> Saisie::Verifier(const Textes &textes)
     if (estVide(textes))
         return Refus{QStringLiteral("Titre"), dire(QT_TRANSLATE_NOOP("Saisie", "Donnez au moins un titre."))};
     if (textes.tome.trimmed().size() > LongueurTome || !Fiche::Verifier(champ("NumBD"), textes.tome))
-        return Refus{QStringLiteral("Tome"),
-            dire(QT_TRANSLATE_NOOP("Saisie", "Le numéro est un nombre entier de 0 à 999."))};
+        return Refus{QStringLiteral("Tome"), Fiche::RaisonDuRefus(champ("NumBD"))};
     if (!Fiche::Verifier(champ("PrixA"), textes.prix))
-        return Refus{QStringLiteral("PrixA"),
-            dire(QT_TRANSLATE_NOOP("Saisie", "Le prix est un nombre, comme 12,50."))};
+        return Refus{QStringLiteral("PrixA"), Fiche::RaisonDuRefus(champ("PrixA"))};
     if (!estUneImage(textes.photo1))
         return Refus{QStringLiteral("ImageRecto"),
             dire(QT_TRANSLATE_NOOP("Saisie", "Ce fichier n'est pas une image lisible."))};

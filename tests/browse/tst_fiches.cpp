@@ -208,18 +208,20 @@ void tst_fiches::unIntervenantRemplaceLAncien()
     const Bac bac;
     const QString tout = QStringLiteral("SELECT NInter || '/' || NMetier FROM InterMetier WHERE NAlbum = 1");
     auto ligne = ChargerAlbums::EcrireIntervenant(
-        1, {}, QStringLiteral("Marie , D'Upré"), QStringLiteral("Lettrage"));
+        1, {}, {0, 0, QStringLiteral("Marie , D'Upré"), QStringLiteral("Lettrage")});
     QCOMPARE(lignes(tout), QStringList("1/1"));
     QCOMPARE(Bac::valeur(QStringLiteral("SELECT Nom || '|' || Prenom FROM Inter")).toString(),
         QStringLiteral("D'Upré|Marie"));
     // The same names again write nothing; another first name is another person.
-    ChargerAlbums::EcrireIntervenant(1, ligne, QStringLiteral("marie,d'upré"), QStringLiteral("lettrage"));
+    ChargerAlbums::EcrireIntervenant(
+        1, ligne, {0, 0, QStringLiteral("marie,d'upré"), QStringLiteral("lettrage")});
     QCOMPARE(lignes(tout), QStringList("1/1"));
-    ligne = ChargerAlbums::EcrireIntervenant(1, ligne, QStringLiteral("Jean , D'Upré"), QString());
+    ligne = ChargerAlbums::EcrireIntervenant(1, ligne, {0, 0, QStringLiteral("Jean , D'Upré"), QString()});
     QCOMPARE(lignes(tout), QStringList("2/0"));
-    ligne = ChargerAlbums::EcrireIntervenant(1, ligne, QStringLiteral("D'Upré"), QStringLiteral("Gravure"));
+    ligne = ChargerAlbums::EcrireIntervenant(
+        1, ligne, {0, 0, QStringLiteral("D'Upré"), QStringLiteral("Gravure")});
     QCOMPARE(lignes(tout), QStringList("1/2"));
-    ChargerAlbums::EcrireIntervenant(1, ligne, QString(855, u'.'), QStringLiteral("Gravure"));
+    ChargerAlbums::EcrireIntervenant(1, ligne, {0, 0, QString(855, u'.'), QStringLiteral("Gravure")});
     QVERIFY(lignes(tout).isEmpty());
     QCOMPARE(lignes(QStringLiteral("SELECT Nom FROM Inter")).size(), 2);
 }

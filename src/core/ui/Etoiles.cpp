@@ -1,7 +1,10 @@
 #include "core/ui/Etoiles.h"
 
+#include "core/ui/Legende.h"
 #include "core/ui/Theme.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
@@ -36,6 +39,7 @@ Etoiles::Etoiles(QWidget *parent)
     : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
 }
 
 void Etoiles::poserValeur(int valeur)
@@ -61,7 +65,10 @@ QSize Etoiles::sizeHint() const
 void Etoiles::paintEvent(QPaintEvent *)
 {
     QPainter p(this);
+    if (hasFocus())
+        Legende::DessinerFocus(p, *this);
     if (!m_texte.isEmpty()) {
+        p.setPen(palette().color(foregroundRole()));
         p.drawText(rect().adjusted(4, 0, 0, 0), Qt::AlignVCenter, m_texte);
         return;
     }
@@ -81,4 +88,21 @@ void Etoiles::paintEvent(QPaintEvent *)
         p.drawPath(dessin);
         p.restore();
     }
+}
+
+void Etoiles::mouseReleaseEvent(QMouseEvent *evenement)
+{
+    const int rang = static_cast<int>(std::floor((evenement->position().x() - 4) / Cote)) + 1;
+    if (evenement->button() == Qt::LeftButton && rect().contains(evenement->position().toPoint()) && rang >= 1
+        && rang <= Nombre)
+        Q_EMIT choisie(rang);
+}
+
+void Etoiles::keyPressEvent(QKeyEvent *evenement)
+{
+    const int chiffre = evenement->key() - Qt::Key_0;
+    if (chiffre >= 1 && chiffre <= Nombre)
+        Q_EMIT choisie(chiffre);
+    else
+        QWidget::keyPressEvent(evenement);
 }

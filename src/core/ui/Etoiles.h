@@ -21,9 +21,13 @@ public:
 
 Q_SIGNALS:
     void valeurChangee(int valeur);
+    /// The user gave a grade, by a click on a star or a digit.
+    void choisie(int valeur);
 
 protected:
     void paintEvent(QPaintEvent *) override;
+    void mouseReleaseEvent(QMouseEvent *evenement) override;
+    void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
     int m_valeur = 0;

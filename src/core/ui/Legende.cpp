@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int MargeLaterale = 4;
-constexpr int MargeVerticale = 2;
 constexpr int MinimumDeLettres = 6;
 constexpr int CoteFleche = 14;
 
@@ -80,11 +78,16 @@ void Legende::paintEvent(QPaintEvent *)
     }
     if (mene())
         Icones::Charger(QStringLiteral("lien")).paint(&p, fleche());
-    if (hasFocus()) {
-        p.setPen(QPen(Theme::Bleu(palette()), 1.5));
-        p.setRenderHint(QPainter::Antialiasing);
-        p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
-    }
+    if (hasFocus())
+        DessinerFocus(p, *this);
+}
+
+void Legende::DessinerFocus(QPainter &p, const QWidget &valeur)
+{
+    p.setPen(QPen(Theme::Bleu(valeur.palette()), 1.5));
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.drawRoundedRect(QRectF(valeur.rect()).adjusted(1, 1, -1, -1), 3, 3);
 }
 
 QRect Legende::fleche() const

@@ -9,14 +9,20 @@ class Legende : public QLabel
     Q_OBJECT
 
 public:
+    /// Room around a value, in device-independent pixels.
+    static constexpr int MargeLaterale = 4;
+    static constexpr int MargeVerticale = 2;
+    /// The ring that shows where the keyboard is, the same on all that stands on a sheet.
+    static void DessinerFocus(QPainter &p, const QWidget &valeur);
+
     explicit Legende(QWidget *parent = nullptr);
 
     /// Shows a value, or the dots for a blank one. The text of the label is what is shown.
     void montrer(const QString &valeur);
-    /// Shows nothing at all, not even the dots.
-    void effacer() { setText({}); }
     /// The value leads elsewhere: it is drawn so, and has an arrow at its end.
     void poserLien(bool lien);
+    /// True while the dots are shown.
+    bool estVide() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -35,7 +41,6 @@ protected:
     void leaveEvent(QEvent *evenement) override;
 
 private:
-    bool estVide() const;
     bool mene() const { return m_lien && !estVide(); }
     QRect fleche() const;
     void agir(bool ouvrir);

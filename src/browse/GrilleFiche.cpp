@@ -1,0 +1,55 @@
+#include "browse/GrilleFiche.h"
+
+#include "core/Traduction.h"
+#include "core/ui/Legende.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+
+#include <QGridLayout>
+
+GrilleFiche::GrilleFiche(const Colonne &gauche, const Colonne &droite, QWidget *parent)
+    : QWidget(parent)
+    , m_colonnes{gauche, droite}
+    , m_place(new QGridLayout(this))
+{
+    m_place->setContentsMargins(0, Theme::Fin, 0, 0);
+    m_place->setHorizontalSpacing(Theme::Petit);
+    m_place->setVerticalSpacing(1);
+    m_place->setColumnStretch(0, 1);
+    m_place->setColumnStretch(1, 1);
+}
+
+void GrilleFiche::ajouterLigne()
+{
+    const int rang = static_cast<int>(m_cellules[0].size());
+    for (int i = 0; i < 2; ++i) {
+        auto *cellule = nommer(new Legende(this), m_colonnes[i].nom, rang);
+        cellule->setAccessibleName(texte(m_colonnes[i].libelle));
+        m_place->addWidget(cellule, rang, i);
+        m_cellules[i].push_back(cellule);
+        connect(cellule, &Legende::actionnee, this,
+            [this, rang, cellule] { Q_EMIT celluleActionnee(rang, cellule); });
+        Q_EMIT celluleFaite(cellule);
+    }
+}
+
+void GrilleFiche::montrer(const std::vector<std::pair<QString, QString>> &lignes)
+{
+    const std::size_t voulues = lignes.size() + 1;
+    while (m_cellules[0].size() < voulues)
+        ajouterLigne();
+    for (std::size_t i = 0; i < m_cellules[0].size(); ++i) {
+        m_cellules[0][i]->montrer(i < lignes.size() ? lignes[i].first : QString());
+        m_cellules[1][i]->montrer(i < lignes.size() ? lignes[i].second : QString());
+        m_cellules[0][i]->setVisible(i < voulues);
+        m_cellules[1][i]->setVisible(i < voulues);
+    }
+}
+
+void GrilleFiche::Traduire()
+{
+    for (int i = 0; i < 2; ++i) {
+        for (Legende *cellule : m_cellules[i])
+            cellule->setAccessibleName(texte(m_colonnes[i].libelle));
+    }
+}

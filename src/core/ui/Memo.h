@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <QTimer>
+
+/// A text of several lines that is written as one types: a short pause after the last key announces it, and
+/// so does leaving. What was announced in vain stays waiting.
+class Memo : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit Memo(QWidget *parent = nullptr);
+
+    /// Shows a text, unless what was typed here still waits.
+    void montrer(const QString &texte);
+    bool enAttente() const { return m_enAttente; }
+    /// Announces what waits. A receiver that throws leaves it waiting.
+    void annoncer();
+
+Q_SIGNALS:
+    /// `visite` is the same from entering the field to leaving it.
+    void modifie(const QString &texte, int visite);
+
+protected:
+    bool event(QEvent *evenement) override;
+    void focusInEvent(QFocusEvent *evenement) override;
+    void focusOutEvent(QFocusEvent *evenement) override;
+
+private:
+    QTimer m_pause;
+    int m_visite = 1;
+    bool m_enAttente = false;
+    bool m_montre = false; ///< the change of text comes from here
+};

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "browse/Edition.h"
+#include "core/ui/Forme.h"
+
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+/// What the two editing forms share: which field is edited, the line that says what is refused, and the
+/// buttons. Modal; it opens beside the field. Enter validates, Escape leaves.
+class FormeModification : public Forme
+{
+    Q_OBJECT
+
+public:
+    /// Prepares the form for a field. Throws Error.
+    void editer(const Edition &edition);
+
+Q_SIGNALS:
+    /// Something is to be said of what was written.
+    void dite(const QString &message);
+
+protected:
+    explicit FormeModification(const QString &nom);
+
+    /// Shows what the field holds and what may be entered.
+    virtual void charger() = 0;
+    /// Stores what was entered, and closes the form when it was taken.
+    virtual void valider() = 0;
+
+    void Traduire() override;
+    void keyPressEvent(QKeyEvent *evenement) override;
+
+    const Edition &edition() const { return m_edition; }
+    QVBoxLayout *corps() const { return m_corps; }
+    /// Says in one line why nothing was written; the form stays.
+    void refuser(const QString &raison);
+    /// Says in the same line what validating will do.
+    void prevenir(const QString &avis);
+
+private:
+    void placer();
+
+    Edition m_edition;
+    QLabel *m_champ = nullptr;
+    QVBoxLayout *m_corps = nullptr;
+    QLabel *m_refus = nullptr;
+    QPushButton *m_valider = nullptr;
+    QPushButton *m_quit = nullptr;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "browse/ListeEntrees.h"
+#include "entry/FormeModification.h"
+#include "entry/Modification.h"
+
+class QCalendarWidget;
+class QLineEdit;
+class QListView;
+class QToolButton;
+
+/// The choice of an entry of another table, or of a date. What was done last counts: a pick or a typed text.
+class FrmModif : public FormeModification
+{
+    Q_OBJECT
+
+public:
+    FrmModif();
+
+protected:
+    void Traduire() override;
+    void charger() override;
+    void valider() override;
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+
+private:
+    void construireListe();
+    void construireCalendrier();
+    void RendreDateVisible(bool visible);
+    void remplir();
+    void taper(const QString &texte);
+    void prendre(const QModelIndex &index);
+    void prendreJour();
+    bool VerifierExist(const QString &nom) const;
+    bool estOffert(const QString &nom) const;
+    void ajouter();
+
+    ListeEntrees m_modele;
+    QLineEdit *m_saisie = nullptr;
+    QToolButton *m_menu = nullptr;
+    QListView *m_liste = nullptr;
+    QCalendarWidget *m_date = nullptr;
+    Modification::Choisie m_choisie;
+    QString m_depart; ///< what the form began with
+    bool m_montre = false; ///< the current entry or day is set by the form, not by the user
+};

@@ -1,0 +1,54 @@
+#include "entry/FrmModif2.h"
+
+#include "core/ui/Nommer.h"
+
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int LargeurSaisie = 360;
+
+}
+
+FrmModif2::FrmModif2()
+    : FormeModification(QStringLiteral("FrmModif2"))
+{
+    m_saisie = nommer(new QLineEdit(this), QStringLiteral("TSaisie"));
+    m_saisie->setMinimumWidth(LargeurSaisie);
+    corps()->addWidget(m_saisie);
+    connect(m_saisie, &QLineEdit::textEdited, this, [this] { refuser({}); });
+    FrmModif2::Traduire();
+}
+
+void FrmModif2::Traduire()
+{
+    FormeModification::Traduire();
+    m_saisie->setAccessibleName(Ecriture::LibelleDe(edition()));
+}
+
+void FrmModif2::charger()
+{
+    m_saisie->setText(edition().affichee);
+    m_depart = m_saisie->text();
+    m_saisie->selectAll();
+    m_saisie->setFocus();
+}
+
+void FrmModif2::valider()
+{
+    // The caption may say less than what is stored: left as it is, it is not written.
+    if (m_saisie->text() == m_depart) {
+        close();
+        return;
+    }
+    const Ecriture::Issue issue = Ecriture::Ecrire(edition(), m_saisie->text());
+    if (!issue.refus.isEmpty()) {
+        refuser(issue.refus);
+        m_saisie->setFocus();
+        return;
+    }
+    close();
+    if (!issue.avis.isEmpty())
+        Q_EMIT dite(issue.avis);
+}
