@@ -11,6 +11,9 @@
 #include "entry/FrmModif.h"
 #include "entry/FrmModif2.h"
 #include "entry/Manuelle.h"
+#include "entry/Pop.h"
+#include "loans/Pret.h"
+#include "reports/Recherche.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -34,6 +37,8 @@ Bureau::Bureau(const Options &options)
     declarer<Splash>(Nom::Splash);
     declarer<Manuelle>(Nom::Manuelle);
     declarer<Facile>(Nom::Facile);
+    declarer<Pret>(Nom::Pret);
+    declarer<Recherche>(Nom::Recherche);
     declarer<FrmModif>(Nom::FrmModif);
     declarer<FrmModif2>(Nom::FrmModif2);
 }
@@ -46,7 +51,7 @@ void Bureau::declarer(Nom nom)
     m_fabriques[nom] = [this, nom] {
         auto *forme = new F;
         brancher(forme);
-        if constexpr (std::is_base_of_v<FormeCreation, F>)
+        if constexpr (requires { forme->charger(); } && !std::is_same_v<F, Frmmain>)
             m_chargements[nom] = [forme] { forme->charger(); };
         return forme;
     };
@@ -65,6 +70,17 @@ void Bureau::brancher(F *forme)
     if constexpr (requires { &F::dite; })
         connect(forme, &F::dite, this,
             [this](const QString &message) { this->forme<Frmmain>(Nom::Frmmain)->dire(message); });
+    if constexpr (requires { &F::menuDemande; })
+        connect(forme, &F::menuDemande, this,
+            [this](const Edition &edition, const QPoint &point) { pop().ouvrir(edition, point); });
+    if constexpr (requires { &F::suppressionDemandee; })
+        connect(forme, &F::suppressionDemandee, this,
+            [this](General::Entree entree) { pop().supprimer(entree); });
+    if constexpr (requires { &F::poserCourante; }) {
+        auto *fenetre = this->forme<Frmmain>(Nom::Frmmain);
+        connect(fenetre, &Frmmain::entreeMontree, forme, &F::poserCourante);
+        forme->poserCourante(fenetre->courante());
+    }
     if constexpr (requires { &F::triDemande; })
         connect(forme, &F::triDemande, this, [this](auto tri) {
             this->forme<Frmmain>(Nom::Frmmain)->montrerTri(General::TriDe(static_cast<int>(tri)));
@@ -122,6 +138,19 @@ void Bureau::editer(const Edition &edition)
     const Nom nom = tapee ? Nom::FrmModif2 : Nom::FrmModif;
     static_cast<FormeModification *>(ouvrir(nom))->editer(edition);
     montrer(nom);
+}
+
+Pop &Bureau::pop()
+{
+    if (!m_pop) {
+        m_pop = std::make_unique<Pop>();
+        brancher(m_pop.get());
+        auto *fenetre = forme<Frmmain>(Nom::Frmmain);
+        connect(m_pop.get(), &Pop::renommageDemande, fenetre, &Frmmain::renommerEntree);
+        connect(m_pop.get(), &Pop::ajoutDemande, fenetre, &Frmmain::ajouterEntree);
+        connect(m_pop.get(), &Pop::sortieDemandee, fenetre, &QWidget::close);
+    }
+    return *m_pop;
 }
 
 void Bureau::poserEtapes()

@@ -12,6 +12,7 @@
 
 struct Edition;
 class Frmmain;
+class Pop;
 class Splash;
 
 /// The one place that knows all forms: it makes each on first use and connects what they wish to what there is.
@@ -46,6 +47,8 @@ private:
 
     /// Opens the form in which a field's value is entered or chosen.
     void editer(const Edition &edition);
+    /// The context menu, made when it is first asked for.
+    Pop &pop();
     void poserEtapes();
     void montrerEtape(const Etape &etape, const QString &message);
 
@@ -63,5 +66,6 @@ private:
     Historique m_historique;
     std::map<Forme::Nom, std::function<Forme *()>> m_fabriques;
     std::map<Forme::Nom, std::unique_ptr<Forme>> m_formes;
+    std::unique_ptr<Pop> m_pop;
     std::map<Forme::Nom, std::function<void()>> m_chargements; ///< what is to be read when a form is shown
 };

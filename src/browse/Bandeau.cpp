@@ -3,6 +3,7 @@
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
+#include "core/ui/Langues.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
@@ -125,21 +126,9 @@ void Bandeau::construireDroite()
         layout()->addWidget(bouton);
     }
     connect(m_loops, &QToolButton::toggled, this, &Bandeau::loopBascule);
-    connect(m_menuLangues, &QMenu::aboutToShow, this, &Bandeau::remplirLangues);
-}
-
-void Bandeau::remplirLangues()
-{
-    m_menuLangues->clear();
-    const QString courante = Traduction::LangueCourante();
-    const QStringList langues = Traduction::Langues();
-    for (const QString &fichier : langues) {
-        QAction *action = m_menuLangues->addAction(QFileInfo(fichier).completeBaseName());
-        action->setObjectName(fichier);
-        action->setCheckable(true);
-        action->setChecked(fichier == courante);
-        connect(action, &QAction::triggered, this, [this, fichier] { Q_EMIT langueDemandee(fichier); });
-    }
+    connect(m_menuLangues, &QMenu::aboutToShow, this, [this] {
+        RemplirLangues(*m_menuLangues, [this](const QString &fichier) { Q_EMIT langueDemandee(fichier); });
+    });
 }
 
 void Bandeau::agir(int rang)

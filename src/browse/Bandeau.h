@@ -45,7 +45,6 @@ protected:
 private:
     void construireMenu();
     void construireDroite();
-    void remplirLangues();
     void agir(int rang);
 
     QLabel *m_titre = nullptr;

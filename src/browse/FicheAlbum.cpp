@@ -266,12 +266,14 @@ void FicheAlbum::construireGrilles(QBoxLayout *colonne)
         colonne->addWidget(titreDe(titre));
         colonne->addWidget(grille);
         connect(grille, &GrilleFiche::celluleFaite, this, &FicheAlbum::inscrire);
-        connect(grille, &GrilleFiche::celluleActionnee, this, &FicheAlbum::demanderEdition);
+        connect(grille, &GrilleFiche::celluleActionnee, this, [this](int rang, const Legende *cellule) {
+            Q_EMIT editionDemandee(editionDeCellule(rang, cellule));
+        });
     }
 }
 
 /// A cell is changed together with its line, which is what the collection keeps.
-void FicheAlbum::demanderEdition(int rang, Legende *cellule)
+Edition FicheAlbum::editionDeCellule(int rang, const Legende *cellule) const
 {
     Edition edition = editionDe(cellule->objectName(), cellule);
     edition.affichee = cellule->estVide() ? QString() : cellule->text();
@@ -280,7 +282,22 @@ void FicheAlbum::demanderEdition(int rang, Legende *cellule)
         edition.intervenant = m_fiche.intervenants[ligne];
     if (ligne < m_fiche.cotes.size())
         edition.cote = m_fiche.cotes[ligne];
-    Q_EMIT editionDemandee(edition);
+    return edition;
+}
+
+Edition FicheAlbum::editionSous(const QWidget *controle) const
+{
+    for (const GrilleFiche *grille : {m_intervenants, m_cotes}) {
+        if (grille->isAncestorOf(controle)) {
+            if (const auto *cellule = qobject_cast<const Legende *>(controle))
+                return editionDeCellule(grille->rangDe(cellule), cellule);
+        }
+    }
+    for (int i = 0; i < 2; ++i) {
+        if (controle == m_photosD[i])
+            return editionDe(QStringLiteral("Dedi(%1)").arg(i), controle);
+    }
+    return FicheForme::editionSous(controle);
 }
 
 QWidget *FicheAlbum::construireMemos()

@@ -28,6 +28,7 @@ public:
 
 protected:
     void Traduire() override;
+    Edition editionSous(const QWidget *controle) const override;
 
 private:
     QWidget *construireEnTete();
@@ -40,7 +41,7 @@ private:
     void construireCases(QBoxLayout *colonne);
     void construireDedicaces(QBoxLayout *colonne);
     void construireGrilles(QBoxLayout *colonne);
-    void demanderEdition(int rang, Legende *cellule);
+    Edition editionDeCellule(int rang, const Legende *cellule) const;
 
     void montrerInfos(const InfosAlbum &infos);
     void montrerDedicaces(const Valeurs &valeurs);

@@ -10,7 +10,9 @@
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QEvent>
 #include <QGridLayout>
 
@@ -137,6 +139,26 @@ Edition FicheForme::editionDe(const QString &champ, const QWidget *controle) con
         edition.stockee = valeur->second.stockee;
     }
     return edition;
+}
+
+Edition FicheForme::editionSous(const QWidget *controle) const
+{
+    for (const auto &[nom, valeur] : m_controles) {
+        if (valeur == controle || valeur->isAncestorOf(controle))
+            return editionDe(QString::fromStdString(nom), valeur);
+    }
+    return editionDe({}, this);
+}
+
+void FicheForme::contextMenuEvent(QContextMenuEvent *evenement)
+{
+    const bool souris = evenement->reason() == QContextMenuEvent::Mouse;
+    const QWidget *sous = souris ? childAt(evenement->pos()) : QApplication::focusWidget();
+    if (!sous)
+        sous = this;
+    const QPoint point = souris ? evenement->globalPos() : sous->mapToGlobal(sous->rect().bottomLeft());
+    if (m_entree.id > 0)
+        Q_EMIT menuDemande(editionSous(sous), point);
 }
 
 void FicheForme::ecrire(const QString &champ, const QString &saisie, int visite)

@@ -28,6 +28,8 @@ Q_SIGNALS:
     void entreeDemandee(General::Entree entree);
     /// A value is to be entered or chosen in a form of its own.
     void editionDemandee(const Edition &edition);
+    /// The context menu is asked for on a value, or beside the values when the edition names no field.
+    void menuDemande(const Edition &edition, const QPoint &point);
     /// Something is to be said of what was written, or why nothing was.
     void dit(const QString &message);
 
@@ -35,6 +37,9 @@ protected:
     /// Takes all captions from the texts in force.
     virtual void Traduire();
     void changeEvent(QEvent *evenement) override;
+    void contextMenuEvent(QContextMenuEvent *evenement) override;
+    /// The edition of the value that this control shows; without a field when it shows none.
+    virtual Edition editionSous(const QWidget *controle) const;
 
     /// Makes the control of a field. Its caption, if it has one, is made by `ajouterLigne`.
     QWidget *creer(const char *champ);

@@ -4,6 +4,7 @@
 #include "browse/ChargerAlbums.h"
 #include "browse/FicheAlbum.h"
 #include "browse/FicheEntite.h"
+#include "browse/Libelles.h"
 #include "browse/Pied.h"
 #include "browse/VoletListes.h"
 #include "browse/VueListe.h"
@@ -108,6 +109,12 @@ void Frmmain::brancher()
     connect(m_volet, &VoletListes::triDemande, this, &Frmmain::montrerTri);
     connect(m_volet, &VoletListes::entreeChoisie, this, &Frmmain::choisir);
     connect(m_volet, &VoletListes::renommageDemande, this, &Frmmain::renommer);
+    connect(m_volet, &VoletListes::suppressionDemandee, this, &Frmmain::suppressionDemandee);
+    connect(m_volet, &VoletListes::menuDemande, this, [this](Entree entree, const QPoint &point) {
+        Edition edition;
+        edition.entree = entree;
+        Q_EMIT menuDemande(edition, point);
+    });
     connect(m_bandeau, &Bandeau::formeDemandee, this, &Frmmain::formeDemandee);
     connect(m_bandeau, &Bandeau::langueDemandee, this, &Frmmain::langueDemandee);
     connect(m_bandeau, &Bandeau::aideDemandee, this, &Frmmain::ouvrirAide);
@@ -135,6 +142,7 @@ void Frmmain::raccourcis()
     ajouter(QKeySequence::HelpContents, [this] { ouvrirAide(); });
     ajouter(QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
     ajouter(QKeySequence::New, [this] { Q_EMIT formeDemandee(Nom::Manuelle); });
+    ajouter(QKeySequence::Find, [this] { m_volet->filtrer(); });
     ajouter(QKeySequence::Undo, [this] { annuler(); });
     ajouter(QKeySequence::Redo, [this] { retablir(); });
     ajouter(QKeySequence(Qt::CTRL | Qt::Key_Y), [this] { retablir(); });
@@ -261,6 +269,7 @@ void Frmmain::montrerFiche(Entree entree)
     if (entree != m_courante)
         quitterFiche();
     m_courante = entree;
+    Q_EMIT entreeMontree(entree);
     if (entree.tri == Tri::Albums)
         return montrerAlbum(entree.id);
     const Champs::Feuille feuille = GenreDe(entree.tri).feuille;
@@ -297,6 +306,7 @@ void Frmmain::inscrire(FicheForme *fiche)
     m_fiches->addWidget(fiche);
     connect(fiche, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
     connect(fiche, &FicheForme::editionDemandee, this, &Frmmain::editionDemandee);
+    connect(fiche, &FicheForme::menuDemande, this, &Frmmain::menuDemande);
     connect(fiche, &FicheForme::dit, this, &Frmmain::dire);
 }
 
@@ -342,23 +352,64 @@ void Frmmain::oublier()
     m_fiches->setCurrentIndex(0);
 }
 
+void Frmmain::renommerEntree(Entree entree)
+{
+    m_volet->renommer(entree);
+}
+
+void Frmmain::ajouterEntree(Tri tri)
+{
+    if (tri != m_volet->tri())
+        montrerTri(tri);
+    m_volet->ajouter();
+}
+
+void Frmmain::ajouter(Tri tri, const QString &libelle)
+{
+    Libelles::Ajout ajout;
+    {
+        const Collection::Intitule intitule(
+            texte(Txt::Ajouter) + QStringLiteral(": ") + libelle.simplified());
+        ajout = Libelles::Ajouter(tri, libelle);
+    }
+    if (ajout.id == 0)
+        return;
+    if (!ajout.nouveau)
+        Messages::Avertir(this, tr("La donnée existe déjà !"));
+    // Once the lists know of it.
+    QTimer::singleShot(0, this, [this, tri, id = ajout.id] { montrerEntree({tri, id}); });
+}
+
 void Frmmain::renommer(Tri tri, int id, const QString &libelle)
 {
+    if (id == 0)
+        return ajouter(tri, libelle);
     const Entree entree{tri, id};
-    const Edition edition{entree, QLatin1String(ChampDuLibelle(tri).nom), {}, {}, {}, {}, {}};
+    const Edition edition{entree, QLatin1String(Libelles::ChampDe(tri).nom), {}, {}, {}, {}, {}};
     const Collection::Intitule intitule(Ecriture::TitreDe(edition, libelle), QVariant::fromValue(entree));
-    if (Renommer(tri, id, libelle) == Renommage::Coupe)
+    if (Libelles::Renommer(tri, id, libelle) == Libelles::Renommage::Coupe)
         dire(tr("Le titre a été coupé à 50 caractères."));
 }
 
 void Frmmain::actualiser(const Changements &changements)
 {
     m_volet->actualiser(changements);
+    const Entree avant = m_courante;
     if (m_courante.id > 0)
         montrerFiche(m_courante);
+    if (m_courante.id == 0 && avant.id > 0 && avant.tri != m_volet->tri())
+        montrerVoisin(avant.tri);
     if (m_courante.id == 0)
         choisirCourante();
     m_pied->poserTotaux();
+}
+
+/// An entry of the lower lists is gone: the one that stands in its place is shown.
+void Frmmain::montrerVoisin(Tri tri)
+{
+    VueListe *liste = tri == Tri::Albums ? m_volet->albums() : m_volet->presse();
+    if (const int voisin = liste->choisie())
+        montrerFiche({tri, voisin});
 }
 
 /// Shows the sheet of the entry that the main list stands on, if it stands on one.

@@ -35,6 +35,9 @@ public:
     void montrerEntree(General::Entree entree);
     /// The entry whose sheet is shown; its identifier is 0 when there is none.
     General::Entree courante() const { return m_courante; }
+    /// Edits an entry's label in its list, or opens an empty line there for a new entry. Both throw Error.
+    void renommerEntree(General::Entree entree);
+    void ajouterEntree(General::Tri tri);
     /// Shows the list's first entry, when nothing is shown yet. Throws Error.
     void montrerPremiere();
 
@@ -49,6 +52,10 @@ Q_SIGNALS:
     void formeDemandee(Forme::Nom forme);
     void langueDemandee(const QString &fichier);
     void editionDemandee(const Edition &edition);
+    void menuDemande(const Edition &edition, const QPoint &point);
+    void suppressionDemandee(General::Entree entree);
+    /// Another sheet is shown.
+    void entreeMontree(General::Entree entree);
     void annulationDemandee();
     void retablissementDemande();
     /// Another kind of list is shown.
@@ -75,7 +82,9 @@ private:
     void montrerAlbum(int num);
     void oublier();
     void renommer(General::Tri tri, int id, const QString &libelle);
+    void ajouter(General::Tri tri, const QString &libelle);
     void choisirCourante();
+    void montrerVoisin(General::Tri tri);
     FicheForme *ficheMontree() const;
     void inscrire(FicheForme *fiche);
     void quitterFiche();

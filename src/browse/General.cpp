@@ -1,12 +1,11 @@
 #include "browse/General.h"
 
-#include "browse/Fiche.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
 #include "core/Images.h"
 #include "core/Texte.h"
+#include "db/AccesBase.h"
 #include "db/Base.h"
-#include "db/Transaction.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -135,47 +134,6 @@ Entrees remplir(Recordset rs, Forme forme, const Avance &avance)
     return entrees;
 }
 
-std::optional<int> nombre(const QString &texte)
-{
-    bool sur = false;
-    const int valeur = texte.trimmed().toInt(&sur);
-    return sur ? std::optional(valeur) : std::nullopt;
-}
-
-Renommage ecrireNom(Feuille feuille, int id, const char *champ, const QString &libelle)
-{
-    const auto valeur = Fiche::Verifier(*Champs::Chercher(feuille, champ), libelle);
-    Fiche::Ecrire(feuille, id, champ, *valeur);
-    return valeur->toString() == libelle ? Renommage::Fait : Renommage::Coupe;
-}
-
-Renommage renommerAuteur(int id, const QString &libelle)
-{
-    const Base base;
-    Transaction transaction(base);
-    const qsizetype virgule = libelle.indexOf(u',');
-    const QString nom = virgule < 0 ? libelle : libelle.left(virgule).trimmed();
-    if (!nom.isEmpty())
-        Fiche::Ecrire(Feuille::Auteur, id, "Nom", nom);
-    Fiche::Ecrire(
-        Feuille::Auteur, id, "Prenom", virgule < 0 ? QString() : libelle.mid(virgule + 1).trimmed());
-    transaction.Commit();
-    return Renommage::Fait;
-}
-
-Renommage renommerPresse(int id, const QString &libelle)
-{
-    const Base base;
-    Transaction transaction(base);
-    const LibelleDePresse lu = LireLibelleDePresse(libelle);
-    if (!lu.nom.isEmpty())
-        Fiche::Ecrire(Feuille::Presse, id, "NomP", lu.nom);
-    if (lu.numero)
-        Fiche::Ecrire(Feuille::Presse, id, "NumP", *lu.numero);
-    transaction.Commit();
-    return Renommage::Fait;
-}
-
 bool touche(const Changements &changements, std::initializer_list<const char *> tables)
 {
     for (const Changement &changement : changements) {
@@ -192,6 +150,19 @@ bool touche(const Changements &changements, std::initializer_list<const char *> 
 const Genre &General::GenreDe(Tri tri)
 {
     return Genres[static_cast<std::size_t>(tri)];
+}
+
+QString General::TableDe(Tri tri)
+{
+    return QLatin1String(requetes(tri).table);
+}
+
+QString General::DrapeauDe(Tri tri)
+{
+    if (GenreDe(tri).feuille != Feuille::Auteur)
+        return {};
+    const int rang = static_cast<int>(tri) - static_cast<int>(Tri::Dessinateurs);
+    return AccesBase::NomDuRole(static_cast<AccesBase::Role>(rang));
 }
 
 Tri General::TriDe(int numero)
@@ -291,58 +262,6 @@ Totaux General::LireTotaux()
         QStringLiteral("SELECT count(*), coalesce(sum(PrixA), 0.0) From Album where +Num > 0"));
     const auto series = base.OpenRecordset(QStringLiteral("SELECT count(*) From Serie where NSerie > 0"));
     return {albums.Int64(0), series.Int64(0), albums.Fields(1).toDouble()};
-}
-
-LibelleDePresse General::LireLibelleDePresse(const QString &libelle)
-{
-    const qsizetype dernier = libelle.lastIndexOf(u'-');
-    if (dernier < 0)
-        return {libelle.trimmed(), {}};
-    const QString fin = libelle.mid(dernier + 1).trimmed();
-    const auto numero = nombre(fin);
-    if (numero || fin.isEmpty())
-        return {libelle.left(dernier).trimmed(), numero};
-    const qsizetype premier = libelle.indexOf(u'-');
-    if (const auto debut = nombre(libelle.left(premier)))
-        return {libelle.mid(premier + 1).trimmed(), debut};
-    return {libelle.trimmed(), {}};
-}
-
-Renommage General::Renommer(Tri tri, int id, const QString &libelle)
-{
-    const QString net = libelle.trimmed();
-    if (net.isEmpty())
-        return Renommage::Rien;
-    const Champs::Champ &champ = ChampDuLibelle(tri);
-    if (champ.feuille == Feuille::Auteur)
-        return renommerAuteur(id, net);
-    if (champ.feuille == Feuille::Presse)
-        return renommerPresse(id, net);
-    return ecrireNom(champ.feuille, id, champ.nom, net);
-}
-
-const Champs::Champ &General::ChampDuLibelle(Tri tri)
-{
-    const auto champ = [](Feuille feuille, const char *nom) -> const Champs::Champ & {
-        return *Champs::Chercher(feuille, nom);
-    };
-    switch (GenreDe(tri).feuille) {
-    case Feuille::Album:
-        return champ(Feuille::Album, "TAlbum");
-    case Feuille::Serie:
-        return champ(Feuille::Serie, "Nom");
-    case Feuille::Auteur:
-        return champ(Feuille::Auteur, "Nom");
-    case Feuille::ExLibris:
-        return champ(Feuille::ExLibris, "DescriptionX");
-    case Feuille::Presse:
-        return champ(Feuille::Presse, "NomP");
-    case Feuille::Editeur:
-        return champ(Feuille::Editeur, "NomE");
-    case Feuille::Coll:
-        return champ(Feuille::Coll, "NomC");
-    }
-    Q_UNREACHABLE();
 }
 
 bool General::Concerne(const Changements &changements, Tri tri)

@@ -44,6 +44,10 @@ struct Genre
     const char *icone;
 };
 const Genre &GenreDe(Tri tri);
+/// The table in which the entries of a kind stand.
+QString TableDe(Tri tri);
+/// The flag that the authors of a kind have; empty for the other kinds.
+QString DrapeauDe(Tri tri);
 /// The kind of a stored number; albums when there is no such kind.
 Tri TriDe(int numero);
 
@@ -85,22 +89,6 @@ struct Totaux
     double valeur = 0;
 };
 Totaux LireTotaux();
-
-/// Writes the text of a list's label back into the entry: a title is cut at 50 characters, an author's text
-/// at its first comma, a press item's apart into name and number. A blank text changes nothing. Throws Error.
-enum class Renommage { Rien, Fait, Coupe };
-Renommage Renommer(Tri tri, int id, const QString &libelle);
-
-/// The field of the sheet that a label of this kind of list stands for.
-const Champs::Champ &ChampDuLibelle(Tri tri);
-
-/// Name and number of a press item as its label shows them; no number when the label has none.
-struct LibelleDePresse
-{
-    QString nom;
-    std::optional<int> numero;
-};
-LibelleDePresse LireLibelleDePresse(const QString &libelle);
 
 /// True when changes may show in this list.
 bool Concerne(const Changements &changements, Tri tri);

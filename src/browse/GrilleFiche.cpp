@@ -53,3 +53,13 @@ void GrilleFiche::Traduire()
             cellule->setAccessibleName(texte(m_colonnes[i].libelle));
     }
 }
+
+int GrilleFiche::rangDe(const Legende *cellule) const
+{
+    for (const auto &colonne : m_cellules) {
+        const auto trouvee = std::find(colonne.begin(), colonne.end(), cellule);
+        if (trouvee != colonne.end())
+            return static_cast<int>(trouvee - colonne.begin());
+    }
+    return -1;
+}

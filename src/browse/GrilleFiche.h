@@ -23,6 +23,8 @@ public:
 
     void montrer(const std::vector<std::pair<QString, QString>> &lignes);
     void Traduire();
+    /// The line of a cell.
+    int rangDe(const Legende *cellule) const;
 
 Q_SIGNALS:
     void celluleFaite(Legende *cellule);

@@ -8,6 +8,7 @@ void ListeEntrees::remplir(General::Tri tri, Entrees entrees)
     m_tri = tri;
     m_entrees = std::move(entrees);
     m_plies = {};
+    m_neuve = false;
     chercher();
     endResetModel();
 }
@@ -78,17 +79,41 @@ bool ListeEntrees::estPretee(int id) const
     return m_tri == General::Tri::Albums && std::binary_search(m_pretes.begin(), m_pretes.end(), id);
 }
 
+int ListeEntrees::lignesLues() const
+{
+    return m_filtree ? static_cast<int>(m_visibles.size()) : m_entrees.size();
+}
+
 int ListeEntrees::rowCount(const QModelIndex &parent) const
 {
-    if (parent.isValid())
-        return 0;
-    return m_filtree ? static_cast<int>(m_visibles.size()) : m_entrees.size();
+    return parent.isValid() ? 0 : lignesLues() + (m_neuve ? 1 : 0);
+}
+
+QModelIndex ListeEntrees::ouvrirNeuve()
+{
+    if (!m_neuve) {
+        beginInsertRows({}, lignesLues(), lignesLues());
+        m_neuve = true;
+        endInsertRows();
+    }
+    return index(lignesLues());
+}
+
+void ListeEntrees::fermerNeuve()
+{
+    if (!m_neuve)
+        return;
+    beginRemoveRows({}, lignesLues(), lignesLues());
+    m_neuve = false;
+    endRemoveRows();
 }
 
 QVariant ListeEntrees::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
+    if (estNeuve(index))
+        return role == Qt::DecorationRole ? QVariant(m_icone) : QVariant();
     const int ligne = ligneDe(index.row());
     switch (role) {
     case Qt::DisplayRole:

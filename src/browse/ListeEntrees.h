@@ -21,6 +21,10 @@ public:
     void filtrer(const QString &texte);
     /// What stands before the number in a key: "N " unless told otherwise.
     void poserPrefixe(const QString &prefixe) { m_prefixe = prefixe; }
+    /// Opens an empty line at the end, number 0, for a new entry to be named in; closing it takes it away.
+    QModelIndex ouvrirNeuve();
+    void fermerNeuve();
+    bool aUneNeuve() const { return m_neuve; }
     /// The icon of every line, and the one of albums that are lent.
     void poserIcones(const QIcon &icone, const QIcon &pretee);
     /// Numbers of the lent albums, in rising order.
@@ -29,7 +33,7 @@ public:
     General::Tri tri() const { return m_tri; }
     int id(const QModelIndex &index) const
     {
-        return index.isValid() ? m_entrees.id(ligneDe(index.row())) : 0;
+        return index.isValid() && !estNeuve(index) ? m_entrees.id(ligneDe(index.row())) : 0;
     }
     QModelIndex indexDe(int id) const;
     const Entrees &entrees() const { return m_entrees; }
@@ -41,11 +45,14 @@ public:
     bool setData(const QModelIndex &index, const QVariant &valeur, int role) override;
 
 Q_SIGNALS:
-    /// A label was edited. The line keeps its text until the collection says that it has changed.
+    /// A label was edited; of the new line, with number 0. The line keeps its text until the collection says
+    /// that it has changed.
     void renommageDemande(General::Tri tri, int id, const QString &libelle);
 
 private:
     bool estPretee(int id) const;
+    int lignesLues() const;
+    bool estNeuve(const QModelIndex &index) const { return m_neuve && index.row() == lignesLues(); }
     int ligneDe(int rang) const { return m_filtree ? m_visibles[static_cast<std::size_t>(rang)] : rang; }
     void plier();
     void chercher();
@@ -55,6 +62,7 @@ private:
     Entrees m_plies; ///< the texts as a search compares them; made by the first search
     QString m_filtre;
     bool m_filtree = false;
+    bool m_neuve = false;
     std::vector<int> m_visibles; ///< lines shown while filtered
     QString m_prefixe = QStringLiteral("N ");
     std::vector<int> m_pretes;

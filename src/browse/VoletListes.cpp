@@ -7,7 +7,9 @@
 #include "core/ui/Theme.h"
 
 #include <QButtonGroup>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QSplitter>
 #include <QTabBar>
@@ -105,6 +107,13 @@ QWidget *VoletListes::construireTitre()
     rouge.setColor(QPalette::Highlight, Theme::Rouge(palette()));
     m_progression->setPalette(rouge);
     colonne->addWidget(m_progression);
+    m_filtre = nommer(new QLineEdit(zone), QStringLiteral("Filtre"));
+    m_filtre->setClearButtonEnabled(true);
+    m_filtre->addAction(
+        Icones::Charger(QStringLiteral("recherche"), QPalette::PlaceholderText), QLineEdit::LeadingPosition);
+    m_filtre->installEventFilter(this);
+    colonne->addSpacing(Theme::Fin);
+    colonne->addWidget(m_filtre);
     return zone;
 }
 
@@ -135,13 +144,63 @@ void VoletListes::brancher()
 {
     for (VueListe *liste : {m_liste, m_albums, m_presse}) {
         connect(liste, &VueListe::entreeChoisie, this, &VoletListes::entreeChoisie);
+        connect(liste, &VueListe::menuDemande, this, &VoletListes::menuDemande);
+        connect(liste, &VueListe::suppressionDemandee, this, &VoletListes::suppressionDemandee);
         connect(&liste->modele(), &ListeEntrees::renommageDemande, this, &VoletListes::renommageDemande,
             Qt::QueuedConnection);
     }
+    connect(m_filtre, &QLineEdit::textChanged, this, [this](const QString &texte) {
+        m_liste->filtrer(texte);
+        poserNombre();
+    });
+    connect(&m_liste->modele(), &ListeEntrees::rowsRemoved, this, &VoletListes::poserNombre);
+}
+
+void VoletListes::filtrer()
+{
+    m_filtre->setFocus();
+    m_filtre->selectAll();
+}
+
+void VoletListes::ajouter()
+{
+    m_filtre->clear();
+    m_vide->hide();
+    m_liste->ajouter();
+}
+
+void VoletListes::renommer(Entree entree)
+{
+    if (entree.tri == m_tri && m_liste->renommer(entree.id))
+        return;
+    for (VueListe *liste : {m_albums, m_presse}) {
+        if (liste->modele().tri() == entree.tri && liste->renommer(entree.id))
+            return;
+    }
+}
+
+/// From the line one goes on into the list: down, or Enter for its first entry; Escape shows all again.
+bool VoletListes::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (objet != m_filtre || evenement->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(objet, evenement);
+    const int touche = static_cast<QKeyEvent *>(evenement)->key();
+    if (touche == Qt::Key_Escape) {
+        m_filtre->clear();
+    } else if (touche == Qt::Key_Down || touche == Qt::Key_Return || touche == Qt::Key_Enter) {
+        if (m_liste->choisie() == 0)
+            m_liste->setCurrentIndex(m_liste->modele().index(0));
+    } else {
+        return false;
+    }
+    m_liste->setFocus();
+    return true;
 }
 
 void VoletListes::montrer(Tri tri)
 {
+    if (tri != m_tri)
+        m_filtre->clear();
     // The button pressed and the list shown never disagree, even when the reading fails.
     try {
         remplir(tri);
@@ -178,12 +237,16 @@ void VoletListes::poserNombre()
 {
     const Genre &genre = GenreDe(m_tri);
     const int nombre = m_liste->modele().rowCount();
+    const int entier = m_liste->modele().entrees().size();
     m_titre->setText(texte(genre.titre));
-    m_nombre->setText(texte(genre.prefixe) + u' ' + QString::number(nombre));
+    const QString compte = QString::number(nombre);
+    m_nombre->setText(texte(genre.prefixe) + u' '
+        + (nombre == entier ? compte : compte + QStringLiteral(" / ") + QString::number(entier)));
     m_liste->setAccessibleName(texte(genre.titre));
     // A collection that could not be read must not look like an empty one.
     m_vide->setVisible(m_remplie && nombre == 0);
-    m_vide->setText(m_tri == Tri::Albums
+    m_vide->setText(entier > 0 ? tr("Rien ne correspond à « %1 ».").arg(m_filtre->text())
+            : m_tri == Tri::Albums
             ? tr("Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.")
             : tr("Rien ici pour l'instant. Cette liste se remplit avec les albums que vous créez."));
 }
@@ -236,6 +299,8 @@ void VoletListes::Traduire()
     m_onglets->setTabText(1, texte(Txt::PressesBD));
     m_albums->setAccessibleName(texte(Txt::ListeDesAlbums));
     m_presse->setAccessibleName(texte(Txt::ListeDesPressesBD));
+    m_filtre->setPlaceholderText(tr("Filtrer la liste (Ctrl+F)"));
+    m_filtre->setAccessibleName(tr("Filtrer la liste (Ctrl+F)"));
     m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
     poserNombre();
     replier();

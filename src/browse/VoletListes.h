@@ -6,6 +6,7 @@
 #include <array>
 
 class QLabel;
+class QLineEdit;
 class QProgressBar;
 class QSplitter;
 class QTabWidget;
@@ -30,6 +31,13 @@ public:
     void actualiser(const Changements &changements);
 
     General::Tri tri() const { return m_tri; }
+    /// Puts the cursor into the line that narrows the main list.
+    void filtrer();
+    /// Opens an empty line in the main list, for the name of a new entry.
+    void ajouter();
+    /// Edits an entry's label in the list that shows it.
+    void renommer(General::Entree entree);
+
     VueListe *liste() const { return m_liste; }
     VueListe *albums() const { return m_albums; }
     VueListe *presse() const { return m_presse; }
@@ -43,6 +51,11 @@ Q_SIGNALS:
     void triDemande(General::Tri tri);
     void entreeChoisie(General::Entree entree);
     void renommageDemande(General::Tri tri, int id, const QString &libelle);
+    void menuDemande(General::Entree entree, const QPoint &point);
+    void suppressionDemandee(General::Entree entree);
+
+protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
     QWidget *construireTris();
@@ -61,6 +74,7 @@ private:
     QLabel *m_titre = nullptr;
     QLabel *m_nombre = nullptr;
     QProgressBar *m_progression = nullptr;
+    QLineEdit *m_filtre = nullptr;
     QSplitter *m_partage = nullptr;
     VueListe *m_liste = nullptr;
     VueListe *m_albums = nullptr;

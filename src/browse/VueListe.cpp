@@ -2,6 +2,8 @@
 
 #include "core/ui/Icones.h"
 
+#include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QScrollBar>
 
 VueListe::VueListe(const QString &nom, QWidget *parent)
@@ -42,6 +44,7 @@ void VueListe::remplir(General::Tri tri, Entrees entrees)
         const QModelIndex sienne = m_modele.indexDe(courante);
         const int dernier = m_modele.rowCount() - 1;
         setCurrentIndex(sienne.isValid() ? sienne : m_modele.index(std::min(rang, dernier)));
+        m_retenue = choisie();
     }
     if (memeListe)
         verticalScrollBar()->setValue(hauteur);
@@ -51,6 +54,7 @@ void VueListe::remplir(General::Tri tri, Entrees entrees)
 void VueListe::choisir(int id)
 {
     const QModelIndex index = m_modele.indexDe(id);
+    m_retenue = id;
     m_muette = true;
     setCurrentIndex(index);
     if (index.isValid())
@@ -61,6 +65,72 @@ void VueListe::choisir(int id)
 void VueListe::currentChanged(const QModelIndex &courant, const QModelIndex &precedent)
 {
     QListView::currentChanged(courant, precedent);
-    if (!m_muette && courant.isValid())
-        m_annonce.start(0);
+    if (m_muette || !courant.isValid())
+        return;
+    m_retenue = m_modele.id(courant);
+    m_annonce.start(0);
+}
+
+void VueListe::filtrer(const QString &texte)
+{
+    m_muette = true;
+    m_modele.filtrer(texte);
+    const QModelIndex retenue = m_modele.indexDe(m_retenue);
+    setCurrentIndex(retenue);
+    if (retenue.isValid())
+        scrollTo(retenue, PositionAtCenter);
+    m_muette = false;
+}
+
+bool VueListe::renommer(int id)
+{
+    const QModelIndex index = m_modele.indexDe(id);
+    if (!index.isValid())
+        return false;
+    scrollTo(index);
+    setCurrentIndex(index);
+    edit(index);
+    return true;
+}
+
+void VueListe::ajouter()
+{
+    m_muette = true;
+    const QModelIndex neuve = m_modele.ouvrirNeuve();
+    setCurrentIndex(neuve);
+    scrollTo(neuve);
+    setFocus();
+    edit(neuve);
+    m_muette = false;
+}
+
+void VueListe::closeEditor(QWidget *editeur, QAbstractItemDelegate::EndEditHint suite)
+{
+    QListView::closeEditor(editeur, suite);
+    if (!m_modele.aUneNeuve())
+        return;
+    // The line goes once the view is done with its editor.
+    QTimer::singleShot(0, this, [this] {
+        m_muette = true;
+        m_modele.fermerNeuve();
+        setCurrentIndex(m_modele.indexDe(m_retenue));
+        m_muette = false;
+    });
+}
+
+void VueListe::contextMenuEvent(QContextMenuEvent *evenement)
+{
+    const bool souris = evenement->reason() == QContextMenuEvent::Mouse;
+    const QModelIndex index = souris ? indexAt(evenement->pos()) : currentIndex();
+    const QPoint point
+        = souris ? evenement->globalPos() : viewport()->mapToGlobal(visualRect(index).bottomLeft());
+    Q_EMIT menuDemande({m_modele.tri(), m_modele.id(index)}, point);
+}
+
+void VueListe::keyPressEvent(QKeyEvent *evenement)
+{
+    if (evenement->key() == Qt::Key_Delete && choisie() > 0)
+        Q_EMIT suppressionDemandee({m_modele.tri(), choisie()});
+    else
+        QListView::keyPressEvent(evenement);
 }

@@ -20,15 +20,28 @@ public:
     /// Makes an entry the current one and shows it, without announcing it.
     void choisir(int id);
     int choisie() const { return m_modele.id(currentIndex()); }
+    /// Shows only the lines that hold this text; the current entry comes back when its line does.
+    void filtrer(const QString &texte);
+    /// Edits the label of an entry in place; false when it is not in this list.
+    bool renommer(int id);
+    /// Opens an empty line for the name of a new entry.
+    void ajouter();
 
 Q_SIGNALS:
     void entreeChoisie(General::Entree entree);
+    /// The context menu is asked for, at this place on the screen; the number is 0 beside the lines.
+    void menuDemande(General::Entree entree, const QPoint &point);
+    void suppressionDemandee(General::Entree entree);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent *evenement) override;
+    void keyPressEvent(QKeyEvent *evenement) override;
     void currentChanged(const QModelIndex &courant, const QModelIndex &precedent) override;
+    void closeEditor(QWidget *editeur, QAbstractItemDelegate::EndEditHint suite) override;
 
 private:
     ListeEntrees m_modele;
     QTimer m_annonce;
     bool m_muette = false;
+    int m_retenue = 0; ///< the entry that was current last, shown or not
 };

@@ -43,7 +43,8 @@ public:
     /// Asked when the file is in use by another program; true tries again. Without it the opening fails.
     std::function<bool(const Error &)> reessayer;
 
-    /// Names what is changed while it lives; the outermost one counts.
+    /// Names what is changed while it lives; the outermost one counts. It must outlive the Base that is written
+    /// through, since a step is complete when that is closed: it is declared before it.
     class Intitule
     {
     public:

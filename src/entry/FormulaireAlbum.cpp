@@ -1,16 +1,14 @@
 #include "entry/FormulaireAlbum.h"
 
-#include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
+#include "core/ui/ChoisirImage.h"
 #include "core/ui/ListeChoix.h"
-#include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
 #include <QCheckBox>
 #include <QDate>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,11 +21,6 @@ namespace {
 constexpr int PremiereAnnee = 1827;
 constexpr QSize TailleCadre(150, 200);
 constexpr std::array Cases{Txt::Broche, Txt::Couleur, Txt::Integrale};
-
-QString filtreImages()
-{
-    return QString(texte(Txt::FiltreImages)).replace(QLatin1String("*.bmp"), QLatin1String("*.bmp;*.png"));
-}
 
 }
 
@@ -197,13 +190,9 @@ void FormulaireAlbum::composerDate()
 
 void FormulaireAlbum::choisirImage(int rang)
 {
-    Reglages &reglages = Reglages::courant();
-    const QString chemin = Messages::OuvrirFichier(
-        this, texte(Txt::OuvrirUnFichierImage), reglages.texte(Cle::DossierImages), filtreImages());
-    if (chemin.isEmpty())
-        return;
-    reglages.ecrire(Cle::DossierImages, QFileInfo(chemin).absolutePath());
-    poserImage(rang, chemin);
+    const QString chemin = ChoisirImage(this);
+    if (!chemin.isEmpty())
+        poserImage(rang, chemin);
 }
 
 void FormulaireAlbum::poserImage(int rang, const QString &chemin)

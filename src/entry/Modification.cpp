@@ -1,5 +1,6 @@
 #include "entry/Modification.h"
 
+#include "browse/Libelles.h"
 #include "core/Dates.h"
 #include "core/Texte.h"
 #include "db/AccesBase.h"
@@ -264,4 +265,20 @@ QString Modification::Valider(const Edition &edition, const Choisie &choisie)
         ecrireIntervenant(edition, choisie);
     transaction.Commit();
     return {};
+}
+
+bool Modification::PeutVider(const Edition &edition)
+{
+    const Champ *champ = Ecriture::ChampDe(edition);
+    const bool legende = !champ || champ->voie != Champs::Voie::Directe;
+    const bool nom = champ && champ == &Libelles::ChampDe(edition.entree.tri);
+    return legende && !nom && !edition.champ.isEmpty() && !Texte::EstVide(edition.affichee);
+}
+
+void Modification::Vider(const Edition &edition)
+{
+    if (offreDe(edition))
+        Valider(edition, {});
+    else
+        Ecriture::Ecrire(edition, {});
 }

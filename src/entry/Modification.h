@@ -26,6 +26,11 @@ int Chercher(const Edition &edition, const QString &texte);
 /// Adds an entry to the field's table; an author gets the trade of the field. Returns its identifier.
 int Ajouter(const Edition &edition, const QString &texte);
 
+/// True when the field holds something and may be emptied; names and titles may not.
+bool PeutVider(const Edition &edition);
+/// Stores nothing in the field, as one step.
+void Vider(const Edition &edition);
+
 /// Stores a choice as one step: finds or makes the entry, replaces the album's links of that table, writes the
 /// field. Says why not, in one line, when the entry edited or the one chosen is gone; nothing is written then.
 QString Valider(const Edition &edition, const Choisie &choisie);

@@ -1,4 +1,5 @@
 #include "browse/General.h"
+#include "browse/Libelles.h"
 #include "browse/ListeEntrees.h"
 #include "core/Error.h"
 #include "db/Base.h"
@@ -131,8 +132,8 @@ void tst_general::renommerEcritCeQueLeLibelleDit()
     const Bac bac;
     peupler();
     const int id = attendu.section(u':', 0, 0).toInt();
-    const Renommage fait = Renommer(TriDe(tri), id, libelle);
-    QCOMPARE(fait == Renommage::Coupe, libelle.size() == 60);
+    const Libelles::Renommage fait = Libelles::Renommer(TriDe(tri), id, libelle);
+    QCOMPARE(fait == Libelles::Renommage::Coupe, libelle.size() == 60);
     QCOMPARE(QStringLiteral("%1:%2").arg(id).arg(LireTexte(TriDe(tri), id)), attendu);
 }
 
@@ -175,7 +176,7 @@ void tst_general::leLibelleDePresseSeCoupe_data()
 void tst_general::leLibelleDePresseSeCoupe()
 {
     QFETCH(QString, libelle);
-    const LibelleDePresse lu = LireLibelleDePresse(libelle);
+    const Libelles::DePresse lu = Libelles::LireDePresse(libelle);
     QTEST(lu.nom, "nom");
     QTEST(lu.numero.value_or(-1), "numero");
 }

@@ -1,6 +1,7 @@
 #include "core/ui/Liens.h"
 
 #include "core/Error.h"
+#include "core/Images.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -22,4 +23,13 @@ void Liens::Ouvrir(const QString &adresse)
         throw Error(QCoreApplication::translate("Liens", "Cette adresse ne peut pas être ouverte."), adresse);
     if (!QDesktopServices::openUrl(url))
         throw Error(QCoreApplication::translate("Liens", "Aucun programme n'ouvre cette adresse."), adresse);
+}
+
+void Liens::OuvrirImage(const QString &nom)
+{
+    const QString chemin = Images::Trouver(nom);
+    if (chemin.isEmpty())
+        throw Error(QCoreApplication::translate("Liens", "Cette image n'existe plus."), nom);
+    if (!Images::EstUneImage(chemin) || !QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)))
+        throw Error(QCoreApplication::translate("Liens", "Aucun programme n'ouvre cette image."), chemin);
 }

@@ -9,4 +9,7 @@ namespace Liens {
 /// other scheme is refused. Throws Error.
 void Ouvrir(const QString &adresse);
 
+/// Opens a picture of the collection, by its stored name, likewise. Throws Error.
+void OuvrirImage(const QString &nom);
+
 }

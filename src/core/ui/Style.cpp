@@ -176,6 +176,16 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     }
 }
 
+QSize Style::sizeFromContents(
+    ContentsType type, const QStyleOption *option, const QSize &contenu, const QWidget *widget) const
+{
+    QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
+    // A caption never touches the edge of its button.
+    if (type == CT_PushButton)
+        taille.rwidth() += 2 * Theme::Petit;
+    return taille;
+}
+
 QIcon Style::standardIcon(StandardPixmap sorte, const QStyleOption *option, const QWidget *widget) const
 {
     switch (sorte) {

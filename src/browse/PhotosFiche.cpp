@@ -1,0 +1,42 @@
+#include "browse/PhotosFiche.h"
+
+#include "core/Error.h"
+#include "core/Images.h"
+#include "db/AccesBase.h"
+#include "db/Schema.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+constexpr QSize TailleDEssai(64, 64);
+
+void ecrire(const Edition &edition, const QString &valeur, const QString &titre)
+{
+    const Champs::Champ *champ = Ecriture::ChampDe(edition);
+    const QString table = QLatin1String(champ->table);
+    const bool dedicace = champ->vue != Champs::Vue::Image;
+    const bool seconde = QString::fromLatin1(champ->colonne).endsWith(u'2');
+    const Collection::Intitule intitule(
+        Ecriture::TitreDe(edition, titre), QVariant::fromValue(edition.entree));
+    AccesBase::EcrireImage(table, seconde ? AccesBase::Rang::Seconde : AccesBase::Rang::Premiere,
+        Schema::Champs(table).first(), edition.entree.id, valeur,
+        dedicace ? AccesBase::Sorte::Dedicace : AccesBase::Sorte::Image);
+}
+
+}
+
+void PhotosFiche::Poser(const Edition &edition, const QString &chemin)
+{
+    if (!QFileInfo(chemin).isFile() || Images::Decoder(chemin, TailleDEssai).isNull())
+        throw Error(
+            QCoreApplication::translate("PhotosFiche", "Ce fichier n'est pas une image lisible."), chemin);
+    const QString nom = Images::Copier(chemin);
+    ecrire(edition, nom, nom);
+}
+
+void PhotosFiche::Oter(const Edition &edition)
+{
+    ecrire(edition, QStringLiteral(" "), {});
+}

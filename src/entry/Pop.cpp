@@ -1,0 +1,177 @@
+#include "entry/Pop.h"
+
+#include "browse/PhotosFiche.h"
+#include "core/Images.h"
+#include "core/Texte.h"
+#include "core/Traduction.h"
+#include "core/ui/ChoisirImage.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Langues.h"
+#include "core/ui/Liens.h"
+#include "core/ui/Messages.h"
+#include "entry/Modification.h"
+#include "entry/Suppression.h"
+
+#include <QApplication>
+
+using Champs::Champ;
+using Champs::Vue;
+using General::Tri;
+
+namespace {
+
+constexpr qsizetype LongueurDuNom = 48;
+
+QString icone(const QString &commande)
+{
+    static const QHash<QString, QString> icones{
+        {QStringLiteral("ajouter"), QStringLiteral("ajouter")},
+        {QStringLiteral("crea"), QStringLiteral("creation")},
+        {QStringLiteral("modifie"), QStringLiteral("modifier")},
+        {QStringLiteral("modifier"), QStringLiteral("modifier")},
+        {QStringLiteral("supprime"), QStringLiteral("supprimer")},
+        {QStringLiteral("supprimer"), QStringLiteral("supprimer")},
+        {QStringLiteral("Visu"), QStringLiteral("lien")},
+        {QStringLiteral("visu2"), QStringLiteral("image")},
+        {QStringLiteral("modifphoto"), QStringLiteral("image-ajouter")},
+        {QStringLiteral("modifimageDedi"), QStringLiteral("image-ajouter")},
+        {QStringLiteral("Supphoto"), QStringLiteral("image-supprimer")},
+        {QStringLiteral("suppimagededi"), QStringLiteral("image-supprimer")},
+        {QStringLiteral("quitter"), QStringLiteral("quitter")},
+    };
+    return icones.value(commande);
+}
+
+QString pourMenu(const QString &texte)
+{
+    const bool long_ = texte.size() > LongueurDuNom;
+    return QString(long_ ? texte.left(LongueurDuNom) + QChar(0x2026) : texte)
+        .replace(u'&', QStringLiteral("&&"));
+}
+
+bool estDedicace(const Edition &edition)
+{
+    return Ecriture::NomDe(edition) == QLatin1String("Dedi");
+}
+
+}
+
+Pop::Pop()
+{
+    setObjectName(QStringLiteral("Pop"));
+}
+
+template <class Acte>
+QAction *Pop::commande(const char *nom, const QString &libelle, Acte acte)
+{
+    QAction *action = addAction(libelle);
+    action->setObjectName(QLatin1String(nom));
+    if (const QString dessin = icone(action->objectName()); !dessin.isEmpty())
+        action->setIcon(Icones::Charger(dessin));
+    connect(action, &QAction::triggered, this, acte);
+    return action;
+}
+
+void Pop::ouvrir(const Edition &edition, const QPoint &point)
+{
+    m_edition = edition;
+    clear();
+    remplir();
+    popup(point);
+}
+
+void Pop::remplir()
+{
+    const General::Entree entree = m_edition.entree;
+    if (entree.id > 0) {
+        const QString nom = General::LireTexte(entree.tri, entree.id);
+        QAction *premiere = commande("LL", pourMenu(nom), [this, entree] { Q_EMIT entreeDemandee(entree); });
+        QFont gras = font();
+        gras.setBold(true);
+        premiere->setFont(gras);
+        addSeparator();
+    }
+    if (!m_edition.champ.isEmpty())
+        remplirValeur();
+    else if (entree.id > 0)
+        remplirEntree();
+    addSeparator();
+    if (entree.tri != Tri::Albums) {
+        const QString liste = texte(General::GenreDe(entree.tri).bouton);
+        commande("ajouter", texte(Txt::Ajouter) + QStringLiteral(": ") + liste,
+            [this, entree] { Q_EMIT ajoutDemande(entree.tri); });
+    } else {
+        commande("ajouter", texte(Txt::Ajouter), [this] { Q_EMIT formeDemandee(Forme::Nom::Manuelle); });
+    }
+    commande("crea", texte(Txt::CreationManuelleDUnAlbum) + QStringLiteral("\tCtrl+N"),
+        [this] { Q_EMIT formeDemandee(Forme::Nom::Manuelle); });
+    addSeparator();
+    m_langues = addMenu(Icones::Charger(QStringLiteral("langue")), texte(Txt::SelectionnerLaLangue));
+    m_langues->menuAction()->setObjectName(QStringLiteral("Payss"));
+    RemplirLangues(*m_langues, [this](const QString &fichier) { Q_EMIT langueDemandee(fichier); });
+    commande("quitter", tr("Quitter") + QStringLiteral("\tCtrl+Q"), [this] { Q_EMIT sortieDemandee(); });
+}
+
+void Pop::remplirEntree()
+{
+    const General::Entree entree = m_edition.entree;
+    commande("modifie", texte(Txt::Modifier) + QStringLiteral("\tF2"),
+        [this, entree] { Q_EMIT renommageDemande(entree); });
+    commande("supprime", texte(Txt::Supprimer) + QLatin1Char('\t') + tr("Suppr"),
+        [this, entree] { supprimer(entree); });
+}
+
+void Pop::remplirValeur()
+{
+    const Champ *champ = Ecriture::ChampDe(m_edition);
+    const bool image = champ && champ->vue == Vue::Image;
+    const bool dediImage = estDedicace(m_edition) && Images::EstUneImage(m_edition.affichee);
+    const QString libelle = QStringLiteral(": ") + Ecriture::LibelleDe(m_edition);
+    if (champ && champ->vue == Vue::Lien && !Texte::EstVide(m_edition.affichee))
+        commande("Visu", texte(Txt::VisiterLeSite), [this] { Liens::Ouvrir(m_edition.affichee); });
+    if ((image || dediImage) && !Images::Trouver(m_edition.affichee).isEmpty())
+        commande("visu2", texte(Txt::VisualiserLImage), [this] { Liens::OuvrirImage(m_edition.affichee); });
+    if (image || estDedicace(m_edition))
+        remplirImage();
+    const bool legende = !champ || champ->voie != Champs::Voie::Directe;
+    if (legende && !dediImage)
+        commande("modifier", texte(Txt::Modifier) + libelle, [this] { Q_EMIT editionDemandee(m_edition); });
+    if (Modification::PeutVider(m_edition) && !dediImage)
+        commande("supprimer", texte(Txt::Supprimer) + libelle, [this] { Modification::Vider(m_edition); });
+}
+
+void Pop::remplirImage()
+{
+    const bool dedicace = estDedicace(m_edition);
+    commande(
+        dedicace ? "modifimageDedi" : "modifphoto", texte(Txt::ModifierLImage), [this] { choisirImage(); });
+    const bool pleine
+        = dedicace ? Images::EstUneImage(m_edition.affichee) : !Texte::EstVide(m_edition.affichee);
+    if (pleine)
+        commande(dedicace ? "suppimagededi" : "Supphoto", texte(Txt::SupprimerLImage),
+            [this] { PhotosFiche::Oter(m_edition); });
+}
+
+void Pop::choisirImage()
+{
+    const bool note = estDedicace(m_edition) && !Texte::EstVide(m_edition.affichee)
+        && !Images::EstUneImage(m_edition.affichee);
+    QWidget *devant = QApplication::activeWindow();
+    if (note
+        && !Messages::Demander(devant,
+            tr("Cette dédicace est une note : « %1 ». L'image la remplacera. Continuer ?")
+                .arg(pourMenu(m_edition.affichee))))
+        return;
+    const QString chemin = ChoisirImage(devant);
+    if (!chemin.isEmpty())
+        PhotosFiche::Poser(m_edition, chemin);
+}
+
+void Pop::supprimer(General::Entree entree)
+{
+    const QString nom = General::LireTexte(entree.tri, entree.id);
+    const QString question
+        = texte(Txt::VoulezVousSupprimer) + QStringLiteral(" '") + nom + QStringLiteral("' ?");
+    if (Messages::Demander(QApplication::activeWindow(), question))
+        Suppression::Supprimer(entree);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "browse/Edition.h"
+#include "core/ui/Forme.h"
+
+#include <QMenu>
+
+/// The context menu of lists and sheets: the commands that can act where it was asked for.
+class Pop : public QMenu
+{
+    Q_OBJECT
+
+public:
+    Pop();
+
+    /// Opens on a value of a sheet, or on an entry when the edition names no field.
+    void ouvrir(const Edition &edition, const QPoint &point);
+    /// Deletes an entry, once the user has agreed. Throws Error.
+    void supprimer(General::Entree entree);
+
+Q_SIGNALS:
+    void formeDemandee(Forme::Nom forme);
+    void entreeDemandee(General::Entree entree);
+    void editionDemandee(const Edition &edition);
+    void langueDemandee(const QString &fichier);
+    /// The label of an entry is to be edited in its list.
+    void renommageDemande(General::Entree entree);
+    /// A new entry is to be named in the list of its kind.
+    void ajoutDemande(General::Tri tri);
+    void sortieDemandee();
+
+private:
+    /// Adds a command under the name that it bears.
+    template <class Acte>
+    QAction *commande(const char *nom, const QString &libelle, Acte acte);
+    void remplir();
+    void remplirEntree();
+    void remplirValeur();
+    void remplirImage();
+
+    void choisirImage();
+
+    Edition m_edition;
+    QMenu *m_langues = nullptr;
+};

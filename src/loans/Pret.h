@@ -1,0 +1,60 @@
+#pragma once
+
+#include "browse/Edition.h"
+#include "core/ui/Forme.h"
+#include "loans/Prets.h"
+
+#include <QStandardItemModel>
+
+class QLabel;
+class QPushButton;
+class QTreeView;
+
+/// Who has which albums: the borrowers, what the chosen one has (or all that is lent), how to end and begin a
+/// loan.
+class Pret : public Forme
+{
+    Q_OBJECT
+
+public:
+    Pret();
+
+    void charger();
+    void actualiser(const Changements &changements);
+    /// The entry that the main window shows: an album can be lent from here.
+    void poserCourante(General::Entree entree);
+
+Q_SIGNALS:
+    void entreeDemandee(General::Entree entree);
+    void editionDemandee(const Edition &edition);
+
+protected:
+    void Traduire() override;
+    void keyPressEvent(QKeyEvent *evenement) override;
+
+private:
+    QTreeView *construireListe(const QString &nom, QStandardItemModel &modele);
+    void remplirPersonnes();
+    void remplirPrets();
+    void choisirPersonne();
+    void choisirPret();
+    void poserCible(const QString &cible);
+    void supprimer();
+    void preter();
+    int personne() const;
+    int pret() const;
+
+    QStandardItemModel m_personnes;
+    QStandardItemModel m_prets;
+    QLabel *m_titre = nullptr;
+    QLabel *m_titres[2] = {};
+    QLabel *m_nombre = nullptr;
+    QTreeView *m_lPers = nullptr;
+    QTreeView *m_lPret = nullptr;
+    QPushButton *m_tous = nullptr;
+    QPushButton *m_preter = nullptr;
+    QPushButton *m_del = nullptr;
+    QPushButton *m_mini = nullptr;
+    QPushButton *m_quit = nullptr;
+    General::Entree m_courante;
+};

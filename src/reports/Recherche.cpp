@@ -1,0 +1,192 @@
+#include "reports/Recherche.h"
+
+#include "core/Reglages.h"
+#include "core/Traduction.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+#include "reports/Rechercher.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+using namespace General;
+
+namespace {
+
+constexpr QSize TailleDessinee(560, 620);
+
+}
+
+Recherche::Recherche()
+    : Forme(QStringLiteral("Recherche"))
+{
+    setWindowIcon(Icones::Programme());
+    resize(TailleDessinee);
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
+    page->setSpacing(Theme::Moyen);
+    m_titre = new QLabel(this);
+    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
+    m_titre->setForegroundRole(QPalette::Link);
+    page->addWidget(m_titre);
+    page->addWidget(construireCriteres());
+    page->addWidget(construireResultat(), 1);
+    auto *boutons = new QHBoxLayout;
+    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
+    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
+    boutons->addStretch(1);
+    for (QPushButton *bouton : {m_mini, m_quit}) {
+        bouton->setMinimumSize(96, 32);
+        boutons->addWidget(bouton);
+    }
+    page->addLayout(boutons);
+    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
+    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
+    connect(m_menu, &QPushButton::clicked, this, &Recherche::chercher);
+    connect(m_liste, &QTreeView::clicked, this, &Recherche::aller);
+    Recherche::Traduire();
+}
+
+QWidget *Recherche::construireCriteres()
+{
+    auto *zone = new QWidget(this);
+    auto *colonne = new QVBoxLayout(zone);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(Theme::Petit);
+    m_criteres = new QLabel(zone);
+    m_criteres->setForegroundRole(QPalette::PlaceholderText);
+    colonne->addWidget(m_criteres);
+    auto *ligne = new QHBoxLayout;
+    m_saisie = nommer(new QLineEdit(zone), QStringLiteral("Saisie"));
+    m_saisie->setClearButtonEnabled(true);
+    m_menu = nommer(new QPushButton(zone), QStringLiteral("Menu"));
+    m_menu->setMinimumHeight(32);
+    Theme::Accentuer(m_menu);
+    ligne->addWidget(m_saisie, 1);
+    ligne->addWidget(m_menu);
+    colonne->addLayout(ligne);
+    auto *options = new QHBoxLayout;
+    m_tris = nommer(new QComboBox(zone), QStringLiteral("ListeTri"));
+    for (int i = 0; i < NombreDeTris; ++i)
+        m_tris->addItem(Icones::Charger(QString::fromLatin1(GenreDe(TriDe(i)).icone)), {});
+    m_debut = nommer(new QCheckBox(zone), QStringLiteral("OptRec"));
+    options->addWidget(m_tris);
+    options->addSpacing(Theme::Moyen);
+    options->addWidget(m_debut);
+    options->addStretch(1);
+    colonne->addLayout(options);
+    return zone;
+}
+
+QWidget *Recherche::construireResultat()
+{
+    auto *zone = new QWidget(this);
+    auto *colonne = new QVBoxLayout(zone);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(Theme::Fin);
+    auto *ligne = new QHBoxLayout;
+    m_resultat = new QLabel(zone);
+    m_resultat->setFont(Theme::Taille(font(), 1, QFont::Bold));
+    m_nombre = nommer(new QLabel(zone), QStringLiteral("Nombre"));
+    m_nombre->setForegroundRole(QPalette::PlaceholderText);
+    ligne->addWidget(m_resultat, 1);
+    ligne->addWidget(m_nombre);
+    colonne->addLayout(ligne);
+    m_liste = nommer(new QTreeView(zone), QStringLiteral("Liste"));
+    m_liste->setModel(&m_modele);
+    m_liste->setRootIsDecorated(false);
+    m_liste->setUniformRowHeights(true);
+    m_liste->setEditTriggers(QTreeView::NoEditTriggers);
+    m_liste->setAlternatingRowColors(true);
+    colonne->addWidget(m_liste, 1);
+    return zone;
+}
+
+void Recherche::charger()
+{
+    m_tris->setCurrentIndex(static_cast<int>(TriDe(Reglages::courant().entier(Cle::Tris))));
+    m_modele.remplir(Tri::Albums, {});
+    m_cherche = false;
+    m_nombre->clear();
+    m_saisie->selectAll();
+    m_saisie->setFocus();
+}
+
+void Recherche::Traduire()
+{
+    setWindowTitle(texte(Txt::Recherche) + QStringLiteral(" - ") + titre());
+    m_titre->setText(titre() + QStringLiteral(" · ") + texte(Txt::Recherche));
+    m_criteres->setText(texte(Txt::RechercheParLibelle));
+    m_saisie->setAccessibleName(texte(Txt::RechercheParLibelle));
+    libeller(m_menu, texte(Txt::LancerLaRecherche));
+    libeller(m_debut, texte(Txt::CommencantPar));
+    m_debut->setToolTip(texte(Txt::CommencantPar) + QStringLiteral(" / ") + texte(Txt::Partout));
+    m_tris->setAccessibleName(texte(Txt::Tris));
+    for (int i = 0; i < NombreDeTris; ++i)
+        m_tris->setItemText(i, texte(GenreDe(TriDe(i)).bouton));
+    m_resultat->setText(texte(Txt::ResultatDeRecherche));
+    m_liste->setAccessibleName(texte(Txt::ResultatDeRecherche));
+    libeller(m_mini, texte(Txt::Minimiser));
+    libeller(m_quit, texte(Txt::Fermer));
+}
+
+void Recherche::chercher()
+{
+    const Tri tri = TriDe(m_tris->currentIndex());
+    const QString icone = QString::fromLatin1(GenreDe(tri).icone);
+    m_modele.poserIcones(Icones::Charger(icone), {});
+    m_modele.remplir(tri,
+        Rechercher::Chercher(tri, m_saisie->text(),
+            m_debut->isChecked() ? Rechercher::Mode::Debut : Rechercher::Mode::Partout));
+    m_cherche = true;
+    const int nombre = m_modele.rowCount();
+    m_nombre->setText(
+        nombre == 0 ? tr("Rien de tel") : texte(GenreDe(tri).prefixe) + u' ' + QString::number(nombre));
+}
+
+/// What was found may be renamed or gone.
+void Recherche::actualiser(const Changements &changements)
+{
+    if (!m_cherche || !isVisible() || !Concerne(changements, m_modele.tri()))
+        return;
+    const int courante = m_modele.id(m_liste->currentIndex());
+    chercher();
+    m_liste->setCurrentIndex(m_modele.indexDe(courante));
+}
+
+void Recherche::aller(const QModelIndex &index)
+{
+    if (!index.isValid())
+        return;
+    const Entree entree{m_modele.tri(), m_modele.id(index)};
+    if (Reglages::courant().entier(Cle::Tris) != static_cast<int>(entree.tri))
+        Q_EMIT triDemande(entree.tri);
+    Q_EMIT entreeDemandee(entree);
+}
+
+/// Enter in the list shows the hit, on a button it is the button's, anywhere else it searches.
+void Recherche::keyPressEvent(QKeyEvent *evenement)
+{
+    const bool entree = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
+    if (!entree)
+        return Forme::keyPressEvent(evenement);
+    if (m_liste->hasFocus())
+        aller(m_liste->currentIndex());
+    else if (auto *bouton = qobject_cast<QPushButton *>(focusWidget()))
+        bouton->click();
+    else {
+        chercher();
+        if (m_modele.rowCount() > 0) {
+            m_liste->setFocus();
+            m_liste->setCurrentIndex(m_modele.index(0));
+        }
+    }
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "browse/ListeEntrees.h"
+#include "core/ui/Forme.h"
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTreeView;
+
+/// The search for entries of one kind by their names; a hit shows its entry in the main window.
+class Recherche : public Forme
+{
+    Q_OBJECT
+
+public:
+    Recherche();
+
+    /// Begins anew, with the kind that the main window shows. The text of the last search is kept.
+    void charger();
+    void actualiser(const Changements &changements);
+
+Q_SIGNALS:
+    void triDemande(General::Tri tri);
+    void entreeDemandee(General::Entree entree);
+
+protected:
+    void Traduire() override;
+    void keyPressEvent(QKeyEvent *evenement) override;
+
+private:
+    QWidget *construireCriteres();
+    QWidget *construireResultat();
+    void chercher();
+    void aller(const QModelIndex &index);
+
+    ListeEntrees m_modele;
+    QLabel *m_titre = nullptr;
+    QLabel *m_criteres = nullptr;
+    QComboBox *m_tris = nullptr;
+    QLineEdit *m_saisie = nullptr;
+    QCheckBox *m_debut = nullptr;
+    QPushButton *m_menu = nullptr;
+    QLabel *m_resultat = nullptr;
+    QLabel *m_nombre = nullptr;
+    QTreeView *m_liste = nullptr;
+    QPushButton *m_mini = nullptr;
+    QPushButton *m_quit = nullptr;
+    bool m_cherche = false; ///< the list shows the hits of a search
+};
