@@ -5,6 +5,7 @@
 #include "browse/ChargerAlbums.h"
 #include "browse/ChargerAuteurs.h"
 #include "browse/General.h"
+#include "browse/ListeEntrees.h"
 #include "core/Collection.h"
 #include "core/Dossier.h"
 #include "core/Reglages.h"
@@ -13,6 +14,7 @@
 #include "db/Comparaison.h"
 #include "db/Creation.h"
 #include "db/Schema.h"
+#include "reports/Rechercher.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -71,6 +73,39 @@ void ouvrir(benchmark::State &etat)
     const Terrain terrain(static_cast<int>(etat.range(0)));
     for (auto _ : etat)
         const Base base;
+}
+
+/// The search form's own search: a text in the middle of the names, and one that nothing holds.
+void chercher(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const QString texte = etat.range(1) == 0 ? QStringLiteral("é") : QStringLiteral("zzz");
+    for (auto _ : etat)
+        benchmark::DoNotOptimize(
+            Rechercher::Chercher(General::Tri::Albums, texte, Rechercher::Mode::Partout).size());
+}
+
+/// The line that narrows the main list: its first letter on a list just read, then one letter more.
+void filtrer(benchmark::State &etat)
+{
+    const Terrain terrain(static_cast<int>(etat.range(0)));
+    const Entrees entrees = General::LireListe(General::Tri::Albums);
+    ListeEntrees liste;
+    liste.remplir(General::Tri::Albums, entrees);
+    for (auto _ : etat) {
+        if (etat.range(1) == 0) {
+            etat.PauseTiming();
+            liste.filtrer({});
+            liste.remplir(General::Tri::Albums, entrees);
+            etat.ResumeTiming();
+            liste.filtrer(QStringLiteral("e"));
+        } else {
+            etat.PauseTiming();
+            liste.filtrer(QStringLiteral("e"));
+            etat.ResumeTiming();
+            liste.filtrer(QStringLiteral("el"));
+        }
+    }
 }
 
 void remplirListe(benchmark::State &etat)
@@ -223,6 +258,8 @@ void taillesEtTris(benchmark::internal::Benchmark *mesure)
 BENCHMARK(parcoursNu)->Apply(tailles);
 BENCHMARK(ouvrir)->Apply(tailles);
 BENCHMARK(remplirListe)->Apply(taillesEtTris);
+BENCHMARK(chercher)->Args({100'000, 0})->Args({100'000, 1})->Unit(benchmark::kMillisecond);
+BENCHMARK(filtrer)->Args({100'000, 0})->Args({100'000, 1})->Unit(benchmark::kMillisecond);
 BENCHMARK(albumsDUnEditeur)->Apply(tailles);
 BENCHMARK(chargerFiche)->Apply(tailles);
 BENCHMARK(chargerFicheDe)

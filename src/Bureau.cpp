@@ -14,6 +14,7 @@
 #include "entry/Pop.h"
 #include "loans/Pret.h"
 #include "reports/Recherche.h"
+#include "webimport/BDNet.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -37,6 +38,7 @@ Bureau::Bureau(const Options &options)
     declarer<Splash>(Nom::Splash);
     declarer<Manuelle>(Nom::Manuelle);
     declarer<Facile>(Nom::Facile);
+    declarer<BDNet>(Nom::BDNet);
     declarer<Pret>(Nom::Pret);
     declarer<Recherche>(Nom::Recherche);
     declarer<FrmModif>(Nom::FrmModif);

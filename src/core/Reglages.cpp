@@ -49,6 +49,8 @@ constexpr std::array Table{
     Reglage{Cle::DossierImages, "Dossiers", "Images", Type::Texte, ""},
     Reglage{Cle::DossierCopies, "Dossiers", "Copies", Type::Texte, ""},
     Reglage{Cle::Site, "Liens", "Site", Type::Texte, ""},
+    Reglage{Cle::HoteBDNet, "BDNet", "Hote", Type::Texte, ""},
+    Reglage{Cle::AccueilBDNet, "BDNet", "Accueil", Type::Texte, ""},
 };
 
 constexpr bool dansLOrdre()

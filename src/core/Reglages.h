@@ -33,6 +33,8 @@ enum class Cle {
     DossierImages,
     DossierCopies,
     Site,
+    HoteBDNet,
+    AccueilBDNet,
 };
 
 class Reglages : public Courant<Reglages>
@@ -45,6 +47,9 @@ public:
 
     /// Receives, once for each key, the words that a stored value could not be understood; its default is used.
     std::function<void(const QString &)> avertir;
+
+    /// Where the store is, for a person who wants to edit it.
+    QString fichier() const { return m_magasin.fileName(); }
 
     bool booleen(Cle cle) const;
     int entier(Cle cle) const;

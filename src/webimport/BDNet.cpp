@@ -1,0 +1,337 @@
+#include "webimport/BDNet.h"
+
+#include "core/Reglages.h"
+#include "core/Traduction.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Messages.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+#include "core/ui/VueWeb.h"
+#include "webimport/DetailBDNet.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize TailleDessinee(1000, 740);
+constexpr int LargeurProgression = 180;
+
+QUrl adresseEntiere(const QString &texte)
+{
+    const QString nette = texte.trimmed();
+    return QUrl(
+        nette.contains(QLatin1String("://")) ? nette : QStringLiteral("http://") + nette, QUrl::TolerantMode);
+}
+
+}
+
+BDNet::BDNet()
+    : Forme(QStringLiteral("BDNet"))
+{
+    setWindowIcon(Icones::Programme());
+    resize(TailleDessinee);
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(Theme::Moyen, Theme::Moyen, Theme::Moyen, Theme::Moyen);
+    page->setSpacing(Theme::Petit);
+    construireBarre(page);
+    construireVues(page);
+    construirePied(page);
+    brancher();
+    BDNet::Traduire();
+    revenir();
+}
+
+void BDNet::construireBarre(QBoxLayout *page)
+{
+    auto *barre = new QHBoxLayout;
+    m_accueil = nommer(new QToolButton(this), QStringLiteral("GotO1"));
+    m_accueil->setIcon(Icones::Charger(QStringLiteral("web")));
+    m_accueil->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    barre->addWidget(m_accueil);
+    for (int i = 0; i < 2; ++i) {
+        m_navigation[i] = nommer(new QToolButton(this), QStringLiteral("Navigation"), i);
+        m_navigation[i]->setIcon(
+            Icones::Charger(i == 0 ? QStringLiteral("precedent") : QStringLiteral("suivant")));
+        m_navigation[i]->setEnabled(false);
+        barre->addWidget(m_navigation[i]);
+    }
+    for (QToolButton *bouton : {m_accueil, m_navigation[0], m_navigation[1]})
+        bouton->setAutoRaise(true);
+    m_adresse = nommer(new QLineEdit(this), QStringLiteral("Adresse"));
+    barre->addWidget(m_adresse, 1);
+    m_analyse = nommer(new QPushButton(this), QStringLiteral("Analyse"));
+    Theme::Accentuer(m_analyse);
+    barre->addWidget(m_analyse);
+    page->addLayout(barre);
+}
+
+void BDNet::construireVues(QBoxLayout *page)
+{
+    m_vues = new QStackedWidget(this);
+    m_notice = nommer(new QLabel(m_vues), QStringLiteral("Notice"));
+    m_notice->setAlignment(Qt::AlignCenter);
+    m_notice->setWordWrap(true);
+    m_notice->setForegroundRole(QPalette::PlaceholderText);
+    m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_web = new VueWeb(FabriqueWeb::Acces::Web, m_vues);
+    m_detail = new DetailBDNet(m_vues);
+    for (QWidget *vue :
+        {static_cast<QWidget *>(m_notice), static_cast<QWidget *>(m_web), static_cast<QWidget *>(m_detail)})
+        m_vues->addWidget(vue);
+    page->addWidget(m_vues, 1);
+}
+
+void BDNet::construirePied(QBoxLayout *page)
+{
+    auto *pied = new QHBoxLayout;
+    m_chargement = nommer(new QLabel(this), QStringLiteral("Lbl_Chargement"));
+    m_refus = nommer(new QLabel(this), QStringLiteral("Refus"));
+    m_refus->setForegroundRole(QPalette::BrightText);
+    m_refus->setTextFormat(Qt::PlainText);
+    m_refus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
+    m_progression->setFixedWidth(LargeurProgression);
+    m_progression->setTextVisible(false);
+    m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
+    m_creer = nommer(new QPushButton(this), QStringLiteral("BtnCreer"));
+    m_revenir = nommer(new QPushButton(this), QStringLiteral("REvenir"));
+    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
+    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
+    pied->addWidget(m_chargement);
+    pied->addWidget(m_progression);
+    pied->addWidget(m_annuler);
+    pied->addWidget(m_refus, 1);
+    Theme::Accentuer(m_creer);
+    for (QPushButton *bouton : {m_creer, m_revenir, m_mini, m_quit}) {
+        bouton->setMinimumSize(96, 32);
+        pied->addWidget(bouton);
+    }
+    page->addLayout(pied);
+}
+
+void BDNet::brancher()
+{
+    connect(m_accueil, &QToolButton::clicked, this,
+        [this] { allerA(Reglages::courant().texte(Cle::AccueilBDNet)); });
+    connect(m_navigation[0], &QToolButton::clicked, m_web, &VueWeb::reculer);
+    connect(m_navigation[1], &QToolButton::clicked, m_web, &VueWeb::avancer);
+    connect(m_adresse, &QLineEdit::textChanged, this, [this](const QString &adresse) {
+        m_analyse->setVisible(!estSurDetail() && Importation::EstUneFiche(adresseEntiere(adresse)));
+    });
+    connect(m_web, &VueWeb::adresseChangee, this, &BDNet::poserAdresse);
+    connect(m_web, &VueWeb::avance, this,
+        [this](int pourcent) { poserCharge(texte(Txt::ChargementEnCours), pourcent); });
+    connect(m_web, &VueWeb::chargee, this, [this](bool reussi) {
+        poserCharge({}, -1);
+        dire(reussi ? QString() : tr("Cette page ne peut pas être montrée."));
+    });
+    connect(m_web, &VueWeb::historiqueChange, this, [this](bool peutReculer, bool peutAvancer) {
+        m_navigation[0]->setEnabled(peutReculer);
+        m_navigation[1]->setEnabled(peutAvancer);
+    });
+    connect(m_analyse, &QPushButton::clicked, this, &BDNet::analyser);
+    connect(m_annuler, &QPushButton::clicked, &m_importation, &Importation::annuler);
+    connect(m_creer, &QPushButton::clicked, this, &BDNet::creer);
+    connect(m_revenir, &QPushButton::clicked, this, &BDNet::revenir);
+    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
+    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
+    connect(&m_importation, &Importation::avance, this, [this](qint64 recus, qint64 total) {
+        poserCharge(texte(Txt::ChargementEnCours), total > 0 ? static_cast<int>(100 * recus / total) : 0);
+    });
+    connect(&m_importation, &Importation::finie, this, &BDNet::montrerResultat);
+    connect(&m_importation, &Importation::echouee, this, &BDNet::montrerEchec);
+}
+
+void BDNet::charger()
+{
+    m_navigateur = m_web->preparer();
+    if (!m_importation.enCours())
+        revenir();
+    const QString accueil = Reglages::courant().texte(Cle::AccueilBDNet);
+    if (m_navigateur && !accueil.isEmpty() && m_adresse->text().isEmpty())
+        allerA(accueil);
+    m_adresse->setFocus();
+}
+
+void BDNet::Traduire()
+{
+    setWindowTitle(texte(Txt::CreationDesAlbumsAvecBDNet) + QStringLiteral(" - ") + titre());
+    libeller(m_accueil, texte(Txt::VisiterLeSite));
+    expliquer(m_navigation[0], texte(Txt::Precedent));
+    expliquer(m_navigation[1], texte(Txt::Suivant));
+    m_adresse->setAccessibleName(texte(Txt::Adresse));
+    m_adresse->setPlaceholderText(tr("Adresse d'une page"));
+    libeller(m_analyse, texte(Txt::Analyse));
+    m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
+    libeller(m_annuler, tr("Annuler"));
+    libeller(m_creer, texte(Txt::Creer));
+    m_creer->setToolTip(tr("Ctrl+Entrée"));
+    libeller(m_revenir, texte(Txt::RetourAuNavigateur));
+    libeller(m_mini, texte(Txt::Minimiser));
+    libeller(m_quit, texte(Txt::Fermer));
+    m_detail->Traduire();
+}
+
+bool BDNet::estSurDetail() const
+{
+    return m_vues->currentWidget() == m_detail;
+}
+
+void BDNet::allerA(const QString &adresse)
+{
+    if (adresse.trimmed().isEmpty())
+        return;
+    const QUrl url = adresseEntiere(adresse);
+    dire({});
+    if (url.scheme() != QLatin1String("http") && url.scheme() != QLatin1String("https"))
+        return dire(tr("Seules les adresses du web peuvent être montrées."));
+    m_adresse->setText(url.toString());
+    if (m_navigateur) {
+        m_vues->setCurrentWidget(m_web);
+        m_web->aller(url);
+    }
+}
+
+void BDNet::poserAdresse(const QUrl &url)
+{
+    m_adresse->setText(url.toString());
+    m_adresse->setCursorPosition(0);
+}
+
+/// Shows that something is under way; a negative number that nothing is.
+void BDNet::poserCharge(const QString &quoi, int pourcent)
+{
+    m_chargement->setText(quoi);
+    m_chargement->setVisible(pourcent >= 0);
+    m_progression->setVisible(pourcent >= 0);
+    m_progression->setRange(0, pourcent == 0 && m_importation.enCours() ? 0 : 100);
+    m_progression->setValue(pourcent);
+    m_annuler->setVisible(m_importation.enCours());
+}
+
+void BDNet::analyser()
+{
+    const QUrl url = adresseEntiere(m_adresse->text());
+    if (m_importation.enCours() || !Importation::EstUneFiche(url))
+        return;
+    dire({});
+    Traduire();
+    m_importation.commencer(url);
+    occuper(true);
+}
+
+void BDNet::occuper(bool occupe)
+{
+    for (QWidget *commande : {static_cast<QWidget *>(m_analyse), static_cast<QWidget *>(m_accueil),
+             static_cast<QWidget *>(m_adresse)})
+        commande->setEnabled(!occupe);
+    poserCharge(occupe ? texte(Txt::ChargementEnCours) : QString(), occupe ? 0 : -1);
+}
+
+void BDNet::montrerResultat(const Importation::Resultat &resultat)
+{
+    occuper(false);
+    setWindowTitle(QStringLiteral("terminé ..."));
+    if (!resultat.complet) {
+        setWindowTitle(windowTitle() + QStringLiteral("erreur ..."));
+        dire(tr("La page n'a pas pu être lue jusqu'au bout : complétez les champs."));
+    }
+    m_vues->setCurrentWidget(m_detail);
+    m_detail->montrer(resultat);
+    poserVue(true);
+}
+
+void BDNet::montrerEchec(const QString &raison)
+{
+    occuper(false);
+    if (raison.isEmpty())
+        return;
+    setWindowTitle(windowTitle() + QStringLiteral("erreur ..."));
+    dire(raison);
+}
+
+void BDNet::creer()
+{
+    const CreationBDNet::Saisie saisie = m_detail->saisie();
+    if (const auto refus = CreationBDNet::Verifier(saisie)) {
+        dire(refus->raison);
+        m_detail->designer(refus->champ);
+        return;
+    }
+    const int num = CreationBDNet::Creer(saisie);
+    Messages::Informer(this, texte(Txt::CreationEffectuee));
+    revenir();
+    Q_EMIT albumCree(num);
+}
+
+/// Back to the browser, ready for the next album.
+void BDNet::revenir()
+{
+    const Reglages &reglages = Reglages::courant();
+    const bool accueil = !reglages.texte(Cle::AccueilBDNet).isEmpty();
+    QStringList avis;
+    if (!m_navigateur)
+        avis << tr("Le navigateur n'est pas installé (paquet libqt6webenginewidgets6). L'adresse d'une fiche "
+                   "d'album, écrite ci-dessus, suffit pour l'analyser.");
+    if (!accueil || reglages.texte(Cle::HoteBDNet).isEmpty())
+        avis << tr("Réglez la page d'accueil du catalogue (« Accueil ») et son adresse (« Hote »), section "
+                   "« BDNet » des réglages : %1")
+                    .arg(reglages.fichier());
+    m_notice->setText(avis.join(QStringLiteral("\n\n")));
+    if (m_navigateur && !m_adresse->text().isEmpty())
+        m_vues->setCurrentWidget(m_web);
+    else
+        m_vues->setCurrentWidget(m_notice);
+    Traduire();
+    dire({});
+    m_accueil->setEnabled(m_navigateur && accueil);
+    poserVue(false);
+    poserCharge({}, -1);
+}
+
+/// Shows the commands of one of the two views: browser, or fields.
+void BDNet::poserVue(bool detail)
+{
+    m_accueil->setVisible(!detail);
+    for (QToolButton *bouton : m_navigation)
+        bouton->setVisible(m_navigateur && !detail);
+    m_adresse->setReadOnly(detail);
+    m_analyse->setVisible(!detail && Importation::EstUneFiche(adresseEntiere(m_adresse->text())));
+    m_creer->setVisible(detail);
+    m_revenir->setVisible(detail);
+}
+
+void BDNet::dire(const QString &ligne)
+{
+    m_refus->setText(ligne);
+}
+
+/// Enter in the address goes there, or reads the page where there is no browser; with Ctrl it creates.
+void BDNet::keyPressEvent(QKeyEvent *evenement)
+{
+    const bool entree = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
+    if (!entree)
+        return Forme::keyPressEvent(evenement);
+    if (estSurDetail() && evenement->modifiers().testFlag(Qt::ControlModifier))
+        creer();
+    else if (auto *bouton = qobject_cast<QAbstractButton *>(focusWidget()))
+        bouton->click();
+    else if (m_adresse->hasFocus() && m_navigateur)
+        allerA(m_adresse->text());
+    else if (m_adresse->hasFocus())
+        analyser();
+}
+
+void BDNet::closeEvent(QCloseEvent *evenement)
+{
+    m_importation.annuler();
+    Forme::closeEvent(evenement);
+}

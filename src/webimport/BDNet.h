@@ -1,0 +1,72 @@
+#pragma once
+
+#include "core/ui/Forme.h"
+#include "webimport/Importation.h"
+
+class DetailBDNet;
+class QBoxLayout;
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+class QPushButton;
+class QStackedWidget;
+class QToolButton;
+class VueWeb;
+
+/// Creation from the pages of the online catalogue: a browser to find an album's page, and the fields that the
+/// page gives. Where there is no browser, the page's address is enough.
+class BDNet : public Forme
+{
+    Q_OBJECT
+
+public:
+    BDNet();
+
+    void charger();
+
+Q_SIGNALS:
+    void albumCree(int num);
+
+protected:
+    void Traduire() override;
+    void keyPressEvent(QKeyEvent *evenement) override;
+    void closeEvent(QCloseEvent *evenement) override;
+
+private:
+    void construireBarre(QBoxLayout *page);
+    void construireVues(QBoxLayout *page);
+    void construirePied(QBoxLayout *page);
+    void brancher();
+
+    void allerA(const QString &adresse);
+    void poserAdresse(const QUrl &url);
+    void poserCharge(const QString &quoi, int pourcent);
+    void analyser();
+    void montrerResultat(const Importation::Resultat &resultat);
+    void montrerEchec(const QString &raison);
+    void occuper(bool occupe);
+    void creer();
+    void revenir();
+    void poserVue(bool detail);
+    bool estSurDetail() const;
+    void dire(const QString &ligne);
+
+    Importation m_importation;
+    bool m_navigateur = false; ///< there is a browser
+    QToolButton *m_accueil = nullptr;
+    QToolButton *m_navigation[2] = {};
+    QLineEdit *m_adresse = nullptr;
+    QPushButton *m_analyse = nullptr;
+    QStackedWidget *m_vues = nullptr;
+    VueWeb *m_web = nullptr;
+    QLabel *m_notice = nullptr;
+    DetailBDNet *m_detail = nullptr;
+    QLabel *m_chargement = nullptr;
+    QLabel *m_refus = nullptr;
+    QProgressBar *m_progression = nullptr;
+    QPushButton *m_annuler = nullptr;
+    QPushButton *m_creer = nullptr;
+    QPushButton *m_revenir = nullptr;
+    QPushButton *m_mini = nullptr;
+    QPushButton *m_quit = nullptr;
+};
