@@ -22,6 +22,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -473,8 +474,22 @@ void Frmmain::keyPressEvent(QKeyEvent *evenement)
     if (evenement->key() == Qt::Key_Escape) {
         dire({});
         m_volet->liste()->setFocus();
-    } else
+    } else if (evenement->key() == Qt::Key_F10 && evenement->modifiers().testFlag(Qt::ShiftModifier)) {
+        ouvrirMenu();
+    } else {
         Forme::keyPressEvent(evenement);
+    }
+}
+
+/// The context menu of what has the focus; the menu key brings it without being told.
+void Frmmain::ouvrirMenu()
+{
+    QWidget *cible = focusWidget();
+    if (!cible)
+        return;
+    const QPoint milieu = cible->rect().center();
+    QContextMenuEvent demande(QContextMenuEvent::Keyboard, milieu, cible->mapToGlobal(milieu));
+    QCoreApplication::sendEvent(cible, &demande);
 }
 
 void Frmmain::closeEvent(QCloseEvent *evenement)

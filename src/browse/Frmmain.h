@@ -90,6 +90,7 @@ private:
     void quitterFiche();
     void annuler();
     void retablir();
+    void ouvrirMenu();
     void ouvrirAide();
     void apropos();
 

@@ -26,6 +26,10 @@ void GrilleFiche::ajouterLigne()
         auto *cellule = nommer(new Legende(this), m_colonnes[i].nom, rang);
         cellule->setAccessibleName(texte(m_colonnes[i].libelle));
         m_place->addWidget(cellule, rang, i);
+        // The keyboard walks the lines as the eye does, not in the order in which they were made.
+        if (m_derniere)
+            setTabOrder(m_derniere, cellule);
+        m_derniere = cellule;
         m_cellules[i].push_back(cellule);
         connect(cellule, &Legende::actionnee, this,
             [this, rang, cellule] { Q_EMIT celluleActionnee(rang, cellule); });

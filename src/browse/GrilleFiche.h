@@ -36,4 +36,5 @@ private:
     Colonne m_colonnes[2];
     QGridLayout *m_place = nullptr;
     std::vector<Legende *> m_cellules[2];
+    Legende *m_derniere = nullptr;
 };
