@@ -1,6 +1,5 @@
 #include "db/Base.h"
 #include "db/Journal.h"
-#include "db/Schema.h"
 #include "db/Transaction.h"
 #include "support/Bac.h"
 #include "support/Ecoute.h"
@@ -25,25 +24,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-/// Every row of every table with its row number, each value with its type.
-QStringList toutLire()
-{
-    const Base base;
-    QStringList lignes;
-    const QStringList tables = Schema::Tables();
-    for (const QString &table : tables) {
-        const qsizetype champs = Schema::Champs(table).size();
-        for (auto rs = base.OpenRecordset("SELECT rowid, * FROM " + table + " ORDER BY rowid"); !rs.AtEnd();
-             rs.MoveNext()) {
-            QStringList ligne{table};
-            for (int i = 0; i <= champs; ++i)
-                ligne << QLatin1String(rs.Fields(i).typeName()) + u':' + rs.Fields(i).toString();
-            lignes << ligne.join(u'|');
-        }
-    }
-    return lignes;
-}
 
 /// One line for each notes change: what was done, where, and the values.
 QStringList enTexte(const Changements &changements)
@@ -157,7 +137,7 @@ void tst_journal::uneInstructionRefuseeNeLaissePasDeTrace()
     QFETCH(QString, sql);
     Bac bac;
     remplir();
-    const QStringList avant = toutLire();
+    const QStringList avant = Bac::toutLire();
     Ecoute ecoute(bac.collectionCourante);
     ecoute.annonces();
     {
@@ -167,7 +147,7 @@ void tst_journal::uneInstructionRefuseeNeLaissePasDeTrace()
         base.Execute("DELETE FROM Genre");
     }
     QCOMPARE(enTexte(derniere(ecoute)), QStringList({"Genre 1 >(1,avant)", "Genre 1 (1,avant)>"}));
-    QCOMPARE(toutLire(), avant);
+    QCOMPARE(Bac::toutLire(), avant);
 }
 
 void tst_journal::annulerEtRefaireRendentLigneParLigne_data()
@@ -197,22 +177,22 @@ void tst_journal::annulerEtRefaireRendentLigneParLigne()
     QFETCH(QStringList, actes);
     Bac bac;
     remplir();
-    const QStringList avant = toutLire();
+    const QStringList avant = Bac::toutLire();
     Ecoute ecoute(bac.collectionCourante);
     {
         const Base base;
         for (const QString &acte : std::as_const(actes))
             QVERIFY(base.Execute(acte) > 0);
     }
-    const QStringList apres = toutLire();
+    const QStringList apres = Bac::toutLire();
     QVERIFY(apres != avant);
     const Changements notes = derniere(ecoute);
     for (int i = 0; i < 2; ++i) {
         Journal::Annuler(Base(), notes);
-        QCOMPARE(toutLire(), avant);
+        QCOMPARE(Bac::toutLire(), avant);
         QVERIFY(!derniere(ecoute).empty());
         Journal::Refaire(Base(), notes);
-        QCOMPARE(toutLire(), apres);
+        QCOMPARE(Bac::toutLire(), apres);
     }
     Bac::executer("UPDATE Album SET NAlbum = 3 WHERE Num = 1");
     QCOMPARE(Bac::valeur("SELECT count(*) FROM SerieAlbums JOIN Album ON Num = SerieAlbums.NAlbum"
@@ -245,11 +225,11 @@ void tst_journal::annulerRefuseUneLigneChangeeDepuis()
     }
     const Changements notes = derniere(ecoute);
     Bac::executer(entretemps);
-    const QStringList avant = toutLire();
+    const QStringList avant = Bac::toutLire();
     {
         const Base base;
         QVERIFY(refus([&] { Journal::Annuler(base, notes); }).has_value());
-        QCOMPARE(toutLire(), avant);
+        QCOMPARE(Bac::toutLire(), avant);
         // The rules that keep the tome's key are in force again after the refusal.
         base.Execute("UPDATE Album SET NAlbum = 3 WHERE Num = 1");
     }

@@ -1,91 +1,17 @@
 #include "Application.h"
-#include "Bureau.h"
 #include "browse/General.h"
-#include "core/ui/Messages.h"
-#include "support/Bac.h"
+#include "support/Seance.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
-#include <QTest>
 #include <QTextEdit>
 
 using namespace General;
-
-/// The real program on a copy of the sample collection, worked by object names.
-struct Seance
-{
-    explicit Seance(bool dejaVu = true)
-        : bac(QStringLiteral(EXEMPLE))
-    {
-        if (dejaVu)
-            bac.reglages.ecrire(Cle::FirstTime, 1);
-    }
-    void demarrer()
-    {
-        bureau = std::make_unique<Bureau>(Options());
-        bureau->demarrer();
-        QVERIFY(QTest::qWaitForWindowExposed(fenetre("Frmmain")));
-        QTRY_VERIFY(!texteDe("TAlbum").isEmpty() || !boites.textes.isEmpty());
-    }
-
-    static QWidget *fenetre(const char *nom)
-    {
-        for (QWidget *candidate : QApplication::topLevelWidgets()) {
-            if (candidate->objectName() == QLatin1String(nom))
-                return candidate;
-        }
-        return nullptr;
-    }
-    template <class T>
-    static T *trouver(const char *nom, const char *forme = "Frmmain")
-    {
-        return fenetre(forme)->findChild<T *>(QLatin1String(nom));
-    }
-    static void cliquer(const char *nom, const char *forme = "Frmmain")
-    {
-        QTest::mouseClick(trouver<QAbstractButton>(nom, forme), Qt::LeftButton);
-    }
-    /// Caption of a label; empty until there is one.
-    /// Types a text, character by character, into a field or an editable list.
-    static void ecrire(const char *nom, const QString &texte, const char *forme)
-    {
-        auto *champ = trouver<QWidget>(nom, forme);
-        champ->setFocus();
-        auto *cible = champ->focusProxy() ? champ->focusProxy() : champ;
-        for (const QChar c : texte) {
-            QKeyEvent touche(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-            QApplication::sendEvent(cible, &touche);
-        }
-    }
-    static QString texteDe(const char *nom)
-    {
-        const auto *label = trouver<QLabel>(nom);
-        return label ? label->text() : QString();
-    }
-    /// Clicks the line of the main list that has this text.
-    static void choisir(const QString &texte)
-    {
-        auto *liste = trouver<QAbstractItemView>("Liste");
-        const auto trouves
-            = liste->model()->match(liste->model()->index(0, 0), Qt::DisplayRole, texte, 1, Qt::MatchExactly);
-        QVERIFY2(!trouves.isEmpty(), qPrintable(texte));
-        liste->scrollTo(trouves.first());
-        QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualRect(trouves.first()).center());
-    }
-
-    Bac bac;
-    Messages::Doublure boites;
-    std::unique_ptr<Bureau> bureau;
-};
 
 /// Takes web addresses in the desktop's place.
 class Adresses : public QObject

@@ -1,6 +1,7 @@
 #include "support/Bac.h"
 
 #include "db/Base.h"
+#include "db/Schema.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -65,4 +66,22 @@ QVariant Bac::valeur(const QString &sql, const QVariantList &valeurs)
 void Bac::executer(const QString &sql, const QVariantList &valeurs)
 {
     Base().Execute(sql, valeurs);
+}
+
+QStringList Bac::toutLire()
+{
+    const Base base;
+    QStringList lignes;
+    const QStringList tables = Schema::Tables();
+    for (const QString &table : tables) {
+        const qsizetype champs = Schema::Champs(table).size();
+        for (auto rs = base.OpenRecordset("SELECT rowid, * FROM " + table + " ORDER BY rowid"); !rs.AtEnd();
+             rs.MoveNext()) {
+            QStringList ligne{table};
+            for (int i = 0; i <= champs; ++i)
+                ligne << QLatin1String(rs.Fields(i).typeName()) + u':' + rs.Fields(i).toString();
+            lignes << ligne.join(u'|');
+        }
+    }
+    return lignes;
 }

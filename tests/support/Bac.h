@@ -29,6 +29,8 @@ public:
     static QVariant valeur(const QString &sql, const QVariantList &valeurs = {});
     /// Runs a statement through the engine.
     static void executer(const QString &sql, const QVariantList &valeurs = {});
+    /// Every row of every table with its row number, each value with its type.
+    static QStringList toutLire();
 
 private:
     QTemporaryDir m_dossier;
