@@ -128,7 +128,10 @@ QString Ecriture::TitreDe(const Edition &edition, const QString &valeur)
 
 QString Ecriture::RaisonSiAbsente(const Edition &edition)
 {
-    return Fiche::Existe(feuilleDe(edition), edition.entree.id)
+    const Champ *champ = ChampDe(edition);
+    const Feuille feuille = feuilleDe(edition);
+    const int id = edition.entree.id;
+    return Fiche::Existe(feuille, id) && (!champ || Fiche::Existe(feuille, id, champ->table))
         ? QString()
         : QCoreApplication::translate("Edition", "Cette fiche n'existe plus.");
 }

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 #include <array>
+#include <cmath>
 
 using namespace Champs;
 
@@ -96,7 +97,7 @@ std::optional<double> montant(const QString &saisie)
     net.remove(texte(Txt::Euro)).remove(u' ').remove(QChar(0x00A0)).remove(QChar(0x202F));
     bool sur = false;
     const double valeur = net.replace(u',', u'.').toDouble(&sur);
-    return sur ? std::optional(valeur) : std::nullopt;
+    return sur && std::isfinite(valeur) ? std::optional(valeur) : std::nullopt;
 }
 
 std::optional<QVariant> entier(const QString &saisie, const QVariant &siVide)
@@ -221,11 +222,12 @@ QString Fiche::RaisonDuRefus(const Champ &champ)
     }
 }
 
-bool Fiche::Existe(Feuille feuille, int id)
+bool Fiche::Existe(Feuille feuille, int id, const char *table)
 {
     const Base base;
-    const auto ligne = std::find_if(
-        Lignes().begin(), Lignes().end(), [feuille](const Ligne &l) { return l.feuille == feuille; });
+    const auto ligne = std::find_if(Lignes().begin(), Lignes().end(), [feuille, table](const Ligne &l) {
+        return l.feuille == feuille && (!table || qstrcmp(l.table, table) == 0);
+    });
     return !base.OpenRecordset(QLatin1String(ligne->ecriture), {id}).AtEnd();
 }
 

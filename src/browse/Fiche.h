@@ -40,7 +40,8 @@ std::optional<QVariant> Verifier(const Champs::Champ &champ, const QString &sais
 /// What the field takes, in one line, for the user whose text it refused.
 QString RaisonDuRefus(const Champs::Champ &champ);
 
-bool Existe(Champs::Feuille feuille, int id);
+/// True when the entry has its row in this table of the sheet, by default in the first.
+bool Existe(Champs::Feuille feuille, int id, const char *table = nullptr);
 
 /// Writes one value of an entry; nothing happens when the entry is gone.
 void Ecrire(Champs::Feuille feuille, int id, const char *nom, const QVariant &valeur);

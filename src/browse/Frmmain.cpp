@@ -134,22 +134,26 @@ void Frmmain::brancher()
 
 void Frmmain::raccourcis()
 {
-    const auto ajouter = [this](const QKeySequence &touches, auto acte) {
+    const auto ajouter = [this](const QList<QKeySequence> &touches, auto acte) {
         auto *action = new QAction(this);
-        action->setShortcut(touches);
+        action->setShortcuts(touches);
         connect(action, &QAction::triggered, this, acte);
         addAction(action);
     };
-    ajouter(QKeySequence::HelpContents, [this] { ouvrirAide(); });
-    ajouter(QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
-    ajouter(QKeySequence::New, [this] { Q_EMIT formeDemandee(Nom::Manuelle); });
-    ajouter(QKeySequence::Find, [this] { m_volet->filtrer(); });
-    ajouter(QKeySequence::Undo, [this] { annuler(); });
-    ajouter(QKeySequence::Redo, [this] { retablir(); });
-    ajouter(QKeySequence(Qt::CTRL | Qt::Key_Y), [this] { retablir(); });
-    ajouter(QKeySequence::Print, [this] { Q_EMIT formeDemandee(Nom::Impression); });
+    // Ctrl+Y is the platform's own key for it on some, and known to everybody on all.
+    const QKeySequence ctrlY(Qt::CTRL | Qt::Key_Y);
+    QList<QKeySequence> refaire = QKeySequence::keyBindings(QKeySequence::Redo);
+    if (!refaire.contains(ctrlY))
+        refaire << ctrlY;
+    ajouter({QKeySequence::HelpContents}, [this] { ouvrirAide(); });
+    ajouter({Qt::CTRL | Qt::Key_Q}, [this] { close(); });
+    ajouter({QKeySequence::New}, [this] { Q_EMIT formeDemandee(Nom::Manuelle); });
+    ajouter({QKeySequence::Find}, [this] { m_volet->filtrer(); });
+    ajouter({QKeySequence::Undo}, [this] { annuler(); });
+    ajouter(refaire, [this] { retablir(); });
+    ajouter({QKeySequence::Print}, [this] { Q_EMIT formeDemandee(Nom::Impression); });
     for (int i = 0; i < NombreDeTris; ++i)
-        ajouter(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + i)), [this, i] { montrerTri(TriDe(i)); });
+        ajouter({Qt::CTRL | Qt::Key(Qt::Key_1 + i)}, [this, i] { montrerTri(TriDe(i)); });
 }
 
 void Frmmain::charger()

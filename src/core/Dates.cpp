@@ -88,8 +88,10 @@ std::optional<Partielle> Dates::Lire(const QString &texte)
             numero = moisDe(nomDuMois);
         if (ecriture.mois > 0 && numero == 0)
             return std::nullopt;
-        return verifier({ecriture.jour > 0 ? lue.captured(ecriture.jour).toInt() : 0, numero,
-            lue.captured(ecriture.annee).toInt()});
+        const int jour = ecriture.jour > 0 ? lue.captured(ecriture.jour).toInt() : 0;
+        if (ecriture.jour > 0 && jour == 0)
+            return std::nullopt;
+        return verifier({jour, numero, lue.captured(ecriture.annee).toInt()});
     }
     return std::nullopt;
 }

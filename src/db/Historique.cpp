@@ -23,6 +23,7 @@ void fondre(Changements &changements, const Changements &suite)
         else
             amorce->apres = c.apres;
     }
+    std::erase_if(changements, [](const Changement &c) { return c.avant == c.apres; });
 }
 
 /// A step on the stack. It only stands there: what it says is done before the stack moves, so that a refusal
@@ -44,6 +45,8 @@ public:
         if (suite.visite != m_etape.visite || suite.titre != m_etape.titre || suite.lieu != m_etape.lieu)
             return false;
         fondre(m_etape.changements, suite.changements);
+        // A visit that ends where it began is no step.
+        setObsolete(m_etape.changements.empty());
         return true;
     }
 
@@ -89,6 +92,8 @@ Etape Historique::jouer(int rang, Acte acte, void (QUndoStack::*avancer)())
         if (e.sorte() == Error::Sorte::Perimee) {
             const_cast<QUndoCommand *>(m_pile.command(rang))->setObsolete(true);
             (m_pile.*avancer)();
+            // Of a step given up on the way forward the stack says nothing.
+            Q_EMIT change();
         }
         throw;
     }

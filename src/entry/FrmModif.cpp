@@ -89,8 +89,8 @@ void FrmModif::charger()
 {
     m_choisie = {0, edition().affichee};
     m_saisie->setText(edition().affichee);
-    m_depart = m_saisie->text();
     RendreDateVisible(Modification::EstUneDate(edition()));
+    m_depart = m_saisie->text();
     m_saisie->selectAll();
     m_saisie->setFocus();
 }
@@ -114,6 +114,7 @@ void FrmModif::remplir()
     m_modele.filtrer({});
     m_modele.remplir(General::Tri::Series, std::move(choix.entrees));
     const QModelIndex tenue = m_modele.index(choix.choisie);
+    m_tenue = m_modele.id(tenue);
     m_liste->setCurrentIndex(tenue);
     if (tenue.isValid())
         m_liste->scrollTo(tenue, QListView::PositionAtCenter);
@@ -188,7 +189,9 @@ void FrmModif::ajouter()
 
 void FrmModif::valider()
 {
-    if (m_choisie.texte == m_depart.trimmed()) {
+    // The same words may be another entry's.
+    const bool autre = m_choisie.id > 0 && m_choisie.id != m_tenue;
+    if (m_choisie.texte == m_depart.trimmed() && !autre) {
         close();
         return;
     }

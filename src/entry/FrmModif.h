@@ -42,5 +42,6 @@ private:
     QCalendarWidget *m_date = nullptr;
     Modification::Choisie m_choisie;
     QString m_depart; ///< what the form began with
+    int m_tenue = 0; ///< the entry that the field holds
     bool m_montre = false; ///< the current entry or day is set by the form, not by the user
 };

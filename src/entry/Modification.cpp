@@ -95,21 +95,27 @@ int premier(const Base &base, const QString &sql, const QVariantList &valeurs)
     return rs.AtEnd() ? 0 : rs.Fields(0).toInt();
 }
 
-/// Both names first; then the whole text as the one name of somebody who has a comma in it.
+int chercherPersonne(const Base &base, const Offre &offre, const Personne &personne)
+{
+    return premier(base,
+        QStringLiteral("SELECT %1 From %2 where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS")
+            .arg(cle(offre), table(offre)),
+        {personne.nom, personne.prenom});
+}
+
+/// Both names first, for an artist in the order of his sheet, too, which the caption may have put there; then
+/// the whole text as the one name of somebody who has a comma in it.
 int chercher(const Base &base, const Offre &offre, const QString &texte)
 {
     const QString nom = texte.trimmed();
     if (nom.isEmpty())
         return 0;
-    const auto [de, prenom] = separer(nom, offre.noms);
-    if (!prenom.isEmpty()) {
-        const int id = premier(base,
-            QStringLiteral("SELECT %1 From %2 where Nom = ? and trim(Prenom) = ? collate FRANCAIS")
-                .arg(cle(offre), table(offre)),
-            {de, prenom});
-        if (id > 0)
-            return id;
-    }
+    const Personne personne = separer(nom, offre.noms);
+    int id = personne.nom != nom ? chercherPersonne(base, offre, personne) : 0;
+    if (id == 0 && personne.nom != nom && offre.role && !offre.liens)
+        id = chercherPersonne(base, offre, {personne.prenom, personne.nom});
+    if (id > 0)
+        return id;
     return premier(base,
         QStringLiteral("SELECT %1 From %2 where Nom = ? order by %1 asc").arg(cle(offre), table(offre)),
         {nom});

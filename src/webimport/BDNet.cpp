@@ -126,6 +126,7 @@ void BDNet::brancher()
     connect(m_adresse, &QLineEdit::textChanged, this, [this](const QString &adresse) {
         m_analyse->setVisible(!estSurDetail() && Importation::EstUneFiche(adresseEntiere(adresse)));
     });
+    m_adresse->installEventFilter(this);
     connect(m_web, &VueWeb::adresseChangee, this, &BDNet::poserAdresse);
     connect(m_web, &VueWeb::avance, this,
         [this](int pourcent) { poserCharge(texte(Txt::ChargementEnCours), pourcent); });
@@ -191,7 +192,8 @@ void BDNet::allerA(const QString &adresse)
         return;
     const QUrl url = adresseEntiere(adresse);
     dire({});
-    if (url.scheme() != QLatin1String("http") && url.scheme() != QLatin1String("https"))
+    const bool duWeb = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+    if (!duWeb || !url.isValid() || url.host().isEmpty())
         return dire(tr("Seules les adresses du web peuvent être montrées."));
     m_adresse->setText(url.toString());
     if (m_navigateur) {
@@ -314,7 +316,7 @@ void BDNet::dire(const QString &ligne)
     m_refus->setText(ligne);
 }
 
-/// Enter in the address goes there, or reads the page where there is no browser; with Ctrl it creates.
+/// Enter on a button is that button's; with Ctrl it creates.
 void BDNet::keyPressEvent(QKeyEvent *evenement)
 {
     const bool entree = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
@@ -324,10 +326,22 @@ void BDNet::keyPressEvent(QKeyEvent *evenement)
         creer();
     else if (auto *bouton = qobject_cast<QAbstractButton *>(focusWidget()))
         bouton->click();
-    else if (m_adresse->hasFocus() && m_navigateur)
+}
+
+/// Enter in the address goes there, or reads the page where there is no browser. The key ends here: what it
+/// begins takes the focus away, and it must not press the button that gets it.
+bool BDNet::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (objet != m_adresse || evenement->type() != QEvent::KeyPress || estSurDetail())
+        return Forme::eventFilter(objet, evenement);
+    const int touche = static_cast<QKeyEvent *>(evenement)->key();
+    if (touche != Qt::Key_Return && touche != Qt::Key_Enter)
+        return false;
+    if (m_navigateur)
         allerA(m_adresse->text());
-    else if (m_adresse->hasFocus())
+    else
         analyser();
+    return true;
 }
 
 void BDNet::closeEvent(QCloseEvent *evenement)

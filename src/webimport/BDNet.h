@@ -30,6 +30,7 @@ Q_SIGNALS:
 protected:
     void Traduire() override;
     void keyPressEvent(QKeyEvent *evenement) override;
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:

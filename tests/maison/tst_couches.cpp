@@ -73,7 +73,7 @@ QString tst_couches::contenu(const QString &fichier) const
 QStringList tst_couches::inclusions(const QString &fichier) const
 {
     static const QRegularExpression forme(
-        QStringLiteral("^#include \"([^\"]+)\""), QRegularExpression::MultilineOption);
+        QStringLiteral("^#include \"([^\"]+(?<!\\.moc))\""), QRegularExpression::MultilineOption);
     QStringList chemins;
     for (auto trouve = forme.globalMatch(contenu(fichier)); trouve.hasNext();)
         chemins << trouve.next().captured(1);

@@ -32,15 +32,12 @@ QString cheminDuGreffon()
 /// The plug-in, or null where it is not installed.
 FabriqueWeb *fabrique()
 {
-    static FabriqueWeb *chargee = [] {
-        QPluginLoader chargeur(cheminDuGreffon());
-        // Looking at its file is cheap and tells whether there is one.
-        if (chargeur.metaData().isEmpty())
-            return static_cast<FabriqueWeb *>(nullptr);
-        partagerContexte();
-        return qobject_cast<FabriqueWeb *>(chargeur.instance());
-    }();
-    return chargee;
+    QPluginLoader chargeur(cheminDuGreffon());
+    // Looking at its file is cheap and tells whether there is one; loaded it is once.
+    if (chargeur.metaData().isEmpty())
+        return nullptr;
+    partagerContexte();
+    return qobject_cast<FabriqueWeb *>(chargeur.instance());
 }
 
 }

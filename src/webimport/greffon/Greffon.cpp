@@ -115,10 +115,13 @@ public:
         m_vue->setContextMenuPolicy(Qt::NoContextMenu);
         connect(m_vue, &QWebEngineView::urlChanged, this, [this](const QUrl &url) {
             dire(adresseChangee, url);
-            dire(historiqueChange, m_vue->history()->canGoBack(), m_vue->history()->canGoForward());
+            direHistorique();
         });
         connect(m_vue, &QWebEngineView::loadProgress, this, [this](int pourcent) { dire(avance, pourcent); });
-        connect(m_vue, &QWebEngineView::loadFinished, this, [this](bool reussi) { dire(chargee, reussi); });
+        connect(m_vue, &QWebEngineView::loadFinished, this, [this](bool reussi) {
+            dire(chargee, reussi);
+            direHistorique();
+        });
     }
 
     QWidget *widget() override { return m_vue; }
@@ -127,6 +130,10 @@ public:
     void avancer() override { m_vue->forward(); }
 
 private:
+    void direHistorique()
+    {
+        dire(historiqueChange, m_vue->history()->canGoBack(), m_vue->history()->canGoForward());
+    }
     template <class F, class... Args>
     static void dire(const F &fonction, Args... args)
     {

@@ -1,0 +1,153 @@
+#include "Application.h"
+#include "catalogue/ServeurCatalogue.h"
+#include "support/Seance.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QLineEdit>
+
+/// The import by its form: with the browser where its plug-in was built, by the address alone where not.
+class tst_bdnet : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void uneFicheDevientUnAlbumParSonAdresse();
+    void ceQuiNEstPasUneFicheNeSAnalysePas();
+    void unServeurLentSeQuitte();
+    void uneFicheDevientUnAlbumParLeNavigateur();
+    void leNavigateurRefuseLesFichiers();
+};
+
+namespace {
+
+bool greffonConstruit()
+{
+    return QFile::exists(QStringLiteral(GREFFONS "/bulleo_web.so"));
+}
+
+struct Import : Seance
+{
+    explicit Import(bool navigateur = false)
+    {
+        qputenv("BULLEO_GREFFONS", navigateur ? GREFFONS : "/nulle/part");
+        bac.reglages.ecrire(Cle::HoteBDNet, serveur.adresse());
+        bac.reglages.ecrire(Cle::AccueilBDNet, serveur.adresse(QStringLiteral("/")));
+        demarrer();
+        cliquer("Menu(0)");
+        cliquer("Creation(2)", "Splash");
+    }
+    static QString champ(const char *nom) { return trouver<QLineEdit>(nom, "BDNet")->text(); }
+    static QString refus() { return trouver<QLabel>("Refus", "BDNet")->text(); }
+    static bool visible(const char *nom) { return trouver<QWidget>(nom, "BDNet")->isVisible(); }
+    void poserAdresse(const QString &page)
+    {
+        auto *adresse = trouver<QLineEdit>("Adresse", "BDNet");
+        adresse->setText(serveur.adresse(page));
+        QTest::keyClick(adresse, Qt::Key_Return);
+    }
+
+    ServeurCatalogue serveur;
+};
+
+/// From the home page to the album and its cover.
+void parcourir(bool navigateur)
+{
+    Import s(navigateur);
+    QTRY_VERIFY(Seance::fenetre("BDNet") && Seance::fenetre("BDNet")->isVisible());
+    QTRY_COMPARE(Import::visible("Notice"), !navigateur);
+    if (navigateur) {
+        // The home page is there before one goes on from it.
+        QTRY_VERIFY_WITH_TIMEOUT(Import::visible("Progression"), 20'000);
+        QTRY_VERIFY_WITH_TIMEOUT(!Import::visible("Progression"), 20'000);
+        QCOMPARE(Import::champ("Adresse"), s.serveur.adresse(QStringLiteral("/")));
+    }
+    QVERIFY(!Import::visible("Analyse"));
+    s.poserAdresse(QStringLiteral("/catalogue_detail_cosinus.html"));
+    if (navigateur) {
+        QTRY_VERIFY(Import::visible("Analyse"));
+        QTRY_VERIFY_WITH_TIMEOUT(Seance::trouver<QWidget>("Navigation(0)", "BDNet")->isEnabled(), 20'000);
+        Seance::cliquer("Analyse", "BDNet");
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
+    QCOMPARE(Seance::fenetre("BDNet")->windowTitle(), QStringLiteral("terminé ..."));
+    QCOMPARE(Import::champ("Dataa(3)").trimmed(), QStringLiteral("le savant cosinus"));
+    QVERIFY(Seance::trouver<QCheckBox>("InfoSupp(1)", "BDNet")->isChecked());
+    // What the user corrects is what is created.
+    Seance::trouver<QLineEdit>("Dataa(0)", "BDNet")->setText(QStringLiteral("L'Idée fixe"));
+    Seance::trouver<QLineEdit>("Dataa(1)", "BDNet")->setText(QStringLiteral("premier"));
+    Seance::cliquer("BtnCreer", "BDNet");
+    QVERIFY(!Import::refus().isEmpty() && s.boites.textes.isEmpty());
+    Seance::trouver<QLineEdit>("Dataa(1)", "BDNet")->setText(QStringLiteral("9"));
+    Seance::cliquer("BtnCreer", "BDNet");
+    QCOMPARE(s.boites.textes, QStringList(texte(Txt::CreationEffectuee)));
+    QVERIFY(!Import::visible("BtnCreer"));
+    QTRY_COMPARE(Seance::texteDe("TAlbum"), QStringLiteral("L'Idée fixe"));
+    QTRY_COMPARE(Seance::trouver<QWidget>("Photo1")->toolTip(),
+        QStringLiteral("l'idée fixe du savant cosinus_1.jpg"));
+}
+
+}
+
+void tst_bdnet::uneFicheDevientUnAlbumParSonAdresse()
+{
+    parcourir(false);
+}
+
+void tst_bdnet::uneFicheDevientUnAlbumParLeNavigateur()
+{
+    if (!greffonConstruit())
+        QSKIP("the browser's plug-in was not built: its package is missing");
+    parcourir(true);
+}
+
+void tst_bdnet::ceQuiNEstPasUneFicheNeSAnalysePas()
+{
+    Import s;
+    for (const char *adresse : {"/", "/catalogue_serie.html"}) {
+        s.poserAdresse(QString::fromLatin1(adresse));
+        QVERIFY(!Import::visible("Analyse"));
+    }
+    s.poserAdresse(QStringLiteral("/catalogue_detail_ouverte.html"));
+    QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
+    QVERIFY(Seance::fenetre("BDNet")->windowTitle().endsWith(QStringLiteral("erreur ...")));
+    QCOMPARE(Import::champ("Dataa(3)"), QStringLiteral("essais "));
+    Seance::cliquer("REvenir", "BDNet");
+    QVERIFY(!Import::visible("BtnCreer") && Import::visible("Analyse"));
+}
+
+void tst_bdnet::unServeurLentSeQuitte()
+{
+    Import s;
+    s.poserAdresse(QStringLiteral("/catalogue_detail_sansfin.html"));
+    QTRY_VERIFY(Import::visible("Annuler") && Import::visible("Progression"));
+    QVERIFY(!Seance::trouver<QWidget>("Adresse", "BDNet")->isEnabled());
+    Seance::cliquer("Annuler", "BDNet");
+    QTRY_VERIFY(!Import::visible("Progression"));
+    QVERIFY(Seance::trouver<QWidget>("Adresse", "BDNet")->isEnabled() && Import::refus().isEmpty());
+    s.poserAdresse(QStringLiteral("/catalogue_detail_absente.html"));
+    QTRY_VERIFY(!Import::refus().isEmpty());
+}
+
+void tst_bdnet::leNavigateurRefuseLesFichiers()
+{
+    if (!greffonConstruit())
+        QSKIP("the browser's plug-in was not built: its package is missing");
+    Import s(true);
+    QTRY_VERIFY(Seance::trouver<QWidget>("WebBrowser1", "BDNet"));
+    for (const char *adresse :
+        {"file:///etc/hostname", "javascript:document.title='x'", "chrome://version"}) {
+        auto *champ = Seance::trouver<QLineEdit>("Adresse", "BDNet");
+        champ->setText(QString::fromLatin1(adresse));
+        QTest::keyClick(champ, Qt::Key_Return);
+        QVERIFY2(!Import::refus().isEmpty(), adresse);
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    Application application(argc, argv);
+    tst_bdnet test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_bdnet.moc"
