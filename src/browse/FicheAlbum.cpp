@@ -269,6 +269,8 @@ void FicheAlbum::construireGrilles(QBoxLayout *colonne)
         connect(grille, &GrilleFiche::celluleActionnee, this, [this](int rang, const Legende *cellule) {
             Q_EMIT editionDemandee(editionDeCellule(rang, cellule));
         });
+        // The first line is made now, so that the keyboard comes to the grid before the texts below it.
+        grille->montrer({});
     }
 }
 
