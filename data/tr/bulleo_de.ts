@@ -2,10 +2,64 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="fr_FR">
 <context>
+    <name>AnalysePage</name>
+    <message>
+        <source>La page ne peut pas être analysée.</source>
+        <translation>Die Seite kann nicht analysiert werden.</translation>
+    </message>
+    <message>
+        <source>Il lui manque une ligne.</source>
+        <translation>Es fehlt eine Zeile.</translation>
+    </message>
+    <message>
+        <source>Son prix n&apos;est pas un nombre.</source>
+        <translation>Der Preis ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Une balise n&apos;y est jamais fermée.</source>
+        <translation>Ein Tag darin wird nie geschlossen.</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
         <translation>Es ist ein unerwarteter Fehler aufgetreten.</translation>
+    </message>
+</context>
+<context>
+    <name>BDNet</name>
+    <message>
+        <source>Cette page ne peut pas être montrée.</source>
+        <translation>Diese Seite kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Adresse d&apos;une page</source>
+        <translation>Adresse einer Seite</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Entrée</source>
+        <translation>Strg+Eingabe</translation>
+    </message>
+    <message>
+        <source>Seules les adresses du web peuvent être montrées.</source>
+        <translation>Nur Webadressen können angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>La page n&apos;a pas pu être lue jusqu&apos;au bout : complétez les champs.</source>
+        <translation>Die Seite konnte nicht bis zum Ende gelesen werden: Ergänzen Sie die Felder.</translation>
+    </message>
+    <message>
+        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
+        <translation>Der Browser ist nicht installiert (Paket libqt6webenginewidgets6). Um eine Albumseite zu analysieren, genügt es, oben ihre Adresse einzugeben.</translation>
+    </message>
+    <message>
+        <source>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</source>
+        <translation>Legen Sie die Startseite des Katalogs („Accueil“) und seine Adresse („Hote“) im Abschnitt „BDNet“ der Einstellungen fest: %1</translation>
     </message>
 </context>
 <context>
@@ -33,6 +87,22 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Noch nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Annuler (Ctrl+Z)</source>
+        <translation>Rückgängig machen (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Annuler %1 (Ctrl+Z)</source>
+        <translation>%1 rückgängig machen (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Rétablir (Ctrl+Y)</source>
+        <translation>Wiederholen (Strg+Y)</translation>
+    </message>
+    <message>
+        <source>Rétablir %1 (Ctrl+Y)</source>
+        <translation>%1 wiederholen (Strg+Y)</translation>
     </message>
 </context>
 <context>
@@ -92,12 +162,31 @@
         <source>Cette fiche n&apos;existe pas.</source>
         <translation>Diese Karte existiert nicht.</translation>
     </message>
+    <message>
+        <source>%1 — Ctrl+Z pour annuler</source>
+        <translation>%1 – Strg+Z macht es rückgängig</translation>
+    </message>
+    <message>
+        <source>Annulé : %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Rétabli : %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
         <translation>Die Texte des Referenzkatalogs können nicht entschlüsselt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Couvertures</name>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +205,21 @@
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
         <translation>Diese Datei kann nicht kopiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Edition</name>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>Der Titel wurde auf 50 Zeichen gekürzt.</translation>
+    </message>
+    <message>
+        <source>Le numéro a été coupé à 3 caractères : %1</source>
+        <translation>Die Nummer wurde auf 3 Zeichen gekürzt: %1</translation>
+    </message>
+    <message>
+        <source>Cette fiche n&apos;existe plus.</source>
+        <translation>Diese Karte existiert nicht mehr.</translation>
     </message>
 </context>
 <context>
@@ -161,6 +265,25 @@
     <message>
         <source>Choisir</source>
         <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>Fiche</name>
+    <message>
+        <source>Le numéro est un nombre entier de 0 à 999.</source>
+        <translation>Die Nummer ist eine ganze Zahl von 0 bis 999.</translation>
+    </message>
+    <message>
+        <source>Le prix est un nombre, comme 12,50.</source>
+        <translation>Der Preis ist eine Zahl, zum Beispiel 12,50.</translation>
+    </message>
+    <message>
+        <source>Le nombre de pages est un nombre.</source>
+        <translation>Die Seitenzahl muss eine Zahl sein.</translation>
+    </message>
+    <message>
+        <source>Il faut ici un nombre entier.</source>
+        <translation>Hier ist eine ganze Zahl nötig.</translation>
     </message>
 </context>
 <context>
@@ -212,28 +335,25 @@
     </message>
 </context>
 <context>
+    <name>FrmModif</name>
+    <message>
+        <source>« %1 » sera ajouté ; ↓ pour choisir dans la liste.</source>
+        <translation>„%1“ wird hinzugefügt; ↓ zur Auswahl aus der Liste.</translation>
+    </message>
+    <message>
+        <source>Tapez d&apos;abord le nom à ajouter.</source>
+        <translation>Geben Sie zuerst den Namen ein, der hinzugefügt werden soll.</translation>
+    </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Dieser Eintrag existiert bereits!</translation>
+    </message>
+</context>
+<context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
         <translation>Der Titel wurde auf 50 Zeichen gekürzt.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n album(s)</source>
-        <translation>
-            <numerusform>%n Album</numerusform>
-            <numerusform>%n Alben</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n série(s)</source>
-        <translation>
-            <numerusform>%n Serie</numerusform>
-            <numerusform>%n Serien</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>valeur %1</source>
-        <translation>Wert %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
@@ -251,12 +371,23 @@
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Freie Software unter der Lizenz GNU GPL, Version 3 oder später</translation>
     </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Dieser Eintrag existiert bereits!</translation>
+    </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
         <translation>Die Kopie konnte nicht erstellt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Historique</name>
+    <message>
+        <source>Modification</source>
+        <translation>Änderung</translation>
     </message>
 </context>
 <context>
@@ -268,6 +399,13 @@
     <message>
         <source>Cette image ne peut pas être copiée.</source>
         <translation>Dieses Bild kann nicht kopiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Importation</name>
+    <message>
+        <source>La page ne peut pas être enregistrée.</source>
+        <translation>Die Seite kann nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>
@@ -287,12 +425,126 @@
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
         <translation>Kein Programm öffnet diese Adresse.</translation>
     </message>
+    <message>
+        <source>Cette image n&apos;existe plus.</source>
+        <translation>Dieses Bild existiert nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;ouvre cette image.</source>
+        <translation>Kein Programm öffnet dieses Bild.</translation>
+    </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
         <translation>Titel</translation>
+    </message>
+</context>
+<context>
+    <name>Modification</name>
+    <message>
+        <source>« %1 » n&apos;existe plus.</source>
+        <translation>„%1“ existiert nicht mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotosFiche</name>
+    <message>
+        <source>Ce fichier n&apos;est pas une image lisible.</source>
+        <translation>Diese Datei ist kein lesbares Bild.</translation>
+    </message>
+</context>
+<context>
+    <name>Pied</name>
+    <message numerus="yes">
+        <source>%n album(s)</source>
+        <translation>
+            <numerusform>%n Album</numerusform>
+            <numerusform>%n Alben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n série(s)</source>
+        <translation>
+            <numerusform>%n Serie</numerusform>
+            <numerusform>%n Serien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>valeur %1</source>
+        <translation>Wert %1</translation>
+    </message>
+</context>
+<context>
+    <name>Pop</name>
+    <message>
+        <source>Quitter</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Suppr</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
+        <translation>Diese Widmung ist eine Notiz: „%1“. Das Bild wird sie ersetzen. Fortfahren?</translation>
+    </message>
+</context>
+<context>
+    <name>Pret</name>
+    <message numerus="yes">
+        <source>%n jour(s)</source>
+        <translation>
+            <numerusform>%n Tag</numerusform>
+            <numerusform>%n Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rendre l&apos;album</source>
+        <translation>Als zurückgegeben markieren</translation>
+    </message>
+    <message>
+        <source>Supprimer la personne</source>
+        <translation>Person löschen</translation>
+    </message>
+    <message>
+        <source>Prêter « %1 »</source>
+        <translation>„%1“ verleihen</translation>
+    </message>
+    <message>
+        <source>Prêter</source>
+        <translation>Verleihen</translation>
+    </message>
+    <message>
+        <source>Choisir à qui l&apos;album montré est prêté</source>
+        <translation>Auswählen, an wen das angezeigte Album verliehen wird</translation>
+    </message>
+    <message>
+        <source>Montrez d&apos;abord un album dans la fenêtre principale</source>
+        <translation>Zeigen Sie zuerst ein Album im Hauptfenster an</translation>
+    </message>
+    <message>
+        <source>Dehors depuis</source>
+        <translation>Ausleihdauer</translation>
+    </message>
+    <message>
+        <source>Tous les prêts</source>
+        <translation>Alle Ausleihen</translation>
+    </message>
+</context>
+<context>
+    <name>Prets</name>
+    <message>
+        <source>Retour</source>
+        <translation>Rückgabe</translation>
+    </message>
+</context>
+<context>
+    <name>Recherche</name>
+    <message>
+        <source>Rien de tel</source>
+        <translation>Nichts gefunden</translation>
     </message>
 </context>
 <context>
@@ -313,14 +565,6 @@
         <translation>Geben Sie mindestens einen Titel an.</translation>
     </message>
     <message>
-        <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation>Die Nummer ist eine ganze Zahl von 0 bis 999.</translation>
-    </message>
-    <message>
-        <source>Le prix est un nombre, comme 12,50.</source>
-        <translation>Der Preis ist eine Zahl, zum Beispiel 12,50.</translation>
-    </message>
-    <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Diese Datei ist kein lesbares Bild.</translation>
     </message>
@@ -334,6 +578,21 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Noch nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>Telechargement</name>
+    <message>
+        <source>Le serveur est trop lent.</source>
+        <translation>Der Server ist zu langsam.</translation>
+    </message>
+    <message>
+        <source>Cette adresse n&apos;est pas une adresse web.</source>
+        <translation>Diese Adresse ist keine Webadresse.</translation>
+    </message>
+    <message>
+        <source>Le fichier est trop gros.</source>
+        <translation>Die Datei ist zu groß.</translation>
     </message>
 </context>
 <context>
@@ -364,6 +623,14 @@
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
         <translation>Hier ist noch nichts. Diese Liste füllt sich mit den Alben, die Sie anlegen.</translation>
+    </message>
+    <message>
+        <source>Rien ne correspond à « %1 ».</source>
+        <translation>Nichts entspricht „%1“.</translation>
+    </message>
+    <message>
+        <source>Filtrer la liste (Ctrl+F)</source>
+        <translation>Liste filtern (Strg+F)</translation>
     </message>
 </context>
 </TS>

@@ -2,10 +2,64 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="fr_FR">
 <context>
+    <name>AnalysePage</name>
+    <message>
+        <source>La page ne peut pas être analysée.</source>
+        <translation>The page cannot be analysed.</translation>
+    </message>
+    <message>
+        <source>Il lui manque une ligne.</source>
+        <translation>A line is missing from it.</translation>
+    </message>
+    <message>
+        <source>Son prix n&apos;est pas un nombre.</source>
+        <translation>Its price is not a number.</translation>
+    </message>
+    <message>
+        <source>Une balise n&apos;y est jamais fermée.</source>
+        <translation>A tag in it is never closed.</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
         <translation>An unexpected error has occurred.</translation>
+    </message>
+</context>
+<context>
+    <name>BDNet</name>
+    <message>
+        <source>Cette page ne peut pas être montrée.</source>
+        <translation>This page cannot be shown.</translation>
+    </message>
+    <message>
+        <source>Adresse d&apos;une page</source>
+        <translation>Address of a page</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Ctrl+Entrée</source>
+        <translation>Ctrl+Enter</translation>
+    </message>
+    <message>
+        <source>Seules les adresses du web peuvent être montrées.</source>
+        <translation>Only web addresses can be shown.</translation>
+    </message>
+    <message>
+        <source>La page n&apos;a pas pu être lue jusqu&apos;au bout : complétez les champs.</source>
+        <translation>The page could not be read to the end: complete the fields.</translation>
+    </message>
+    <message>
+        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
+        <translation>The browser is not installed (package libqt6webenginewidgets6). To analyse an album page, just type its address above.</translation>
+    </message>
+    <message>
+        <source>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</source>
+        <translation>Set the home page of the catalogue (“Accueil”) and its address (“Hote”) in the “BDNet” section of the settings: %1</translation>
     </message>
 </context>
 <context>
@@ -33,6 +87,22 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Not available yet</translation>
+    </message>
+    <message>
+        <source>Annuler (Ctrl+Z)</source>
+        <translation>Undo (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Annuler %1 (Ctrl+Z)</source>
+        <translation>Undo %1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Rétablir (Ctrl+Y)</source>
+        <translation>Redo (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>Rétablir %1 (Ctrl+Y)</source>
+        <translation>Redo %1 (Ctrl+Y)</translation>
     </message>
 </context>
 <context>
@@ -92,12 +162,31 @@
         <source>Cette fiche n&apos;existe pas.</source>
         <translation>This record does not exist.</translation>
     </message>
+    <message>
+        <source>%1 — Ctrl+Z pour annuler</source>
+        <translation>%1 — Ctrl+Z to undo</translation>
+    </message>
+    <message>
+        <source>Annulé : %1</source>
+        <translation>Undone: %1</translation>
+    </message>
+    <message>
+        <source>Rétabli : %1</source>
+        <translation>Redone: %1</translation>
+    </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
         <translation>The texts of the reference catalogue cannot be decoded.</translation>
+    </message>
+</context>
+<context>
+    <name>Couvertures</name>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation>The picture cannot be saved.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +205,21 @@
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
         <translation>This file cannot be copied.</translation>
+    </message>
+</context>
+<context>
+    <name>Edition</name>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>The title was cut to 50 characters.</translation>
+    </message>
+    <message>
+        <source>Le numéro a été coupé à 3 caractères : %1</source>
+        <translation>The number was cut to 3 characters: %1</translation>
+    </message>
+    <message>
+        <source>Cette fiche n&apos;existe plus.</source>
+        <translation>This record no longer exists.</translation>
     </message>
 </context>
 <context>
@@ -161,6 +265,25 @@
     <message>
         <source>Choisir</source>
         <translation>Select</translation>
+    </message>
+</context>
+<context>
+    <name>Fiche</name>
+    <message>
+        <source>Le numéro est un nombre entier de 0 à 999.</source>
+        <translation>The number is a whole number from 0 to 999.</translation>
+    </message>
+    <message>
+        <source>Le prix est un nombre, comme 12,50.</source>
+        <translation>The price is a number, such as 12.50.</translation>
+    </message>
+    <message>
+        <source>Le nombre de pages est un nombre.</source>
+        <translation>The page count must be a number.</translation>
+    </message>
+    <message>
+        <source>Il faut ici un nombre entier.</source>
+        <translation>A whole number is needed here.</translation>
     </message>
 </context>
 <context>
@@ -212,28 +335,25 @@
     </message>
 </context>
 <context>
+    <name>FrmModif</name>
+    <message>
+        <source>« %1 » sera ajouté ; ↓ pour choisir dans la liste.</source>
+        <translation>“%1” will be added; ↓ to choose from the list.</translation>
+    </message>
+    <message>
+        <source>Tapez d&apos;abord le nom à ajouter.</source>
+        <translation>First type the name to add.</translation>
+    </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>This entry already exists!</translation>
+    </message>
+</context>
+<context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
         <translation>The title was cut to 50 characters.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n album(s)</source>
-        <translation>
-            <numerusform>%n album</numerusform>
-            <numerusform>%n albums</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n série(s)</source>
-        <translation>
-            <numerusform>%n series</numerusform>
-            <numerusform>%n series</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>valeur %1</source>
-        <translation>value %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
@@ -251,12 +371,23 @@
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Free software, under the GNU GPL licence, version 3 or later</translation>
     </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>This entry already exists!</translation>
+    </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
         <translation>The copy could not be made.</translation>
+    </message>
+</context>
+<context>
+    <name>Historique</name>
+    <message>
+        <source>Modification</source>
+        <translation>Change</translation>
     </message>
 </context>
 <context>
@@ -268,6 +399,13 @@
     <message>
         <source>Cette image ne peut pas être copiée.</source>
         <translation>This picture cannot be copied.</translation>
+    </message>
+</context>
+<context>
+    <name>Importation</name>
+    <message>
+        <source>La page ne peut pas être enregistrée.</source>
+        <translation>The page cannot be saved.</translation>
     </message>
 </context>
 <context>
@@ -287,12 +425,126 @@
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
         <translation>No program opens this address.</translation>
     </message>
+    <message>
+        <source>Cette image n&apos;existe plus.</source>
+        <translation>This picture no longer exists.</translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;ouvre cette image.</source>
+        <translation>No program opens this picture.</translation>
+    </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
         <translation>Title</translation>
+    </message>
+</context>
+<context>
+    <name>Modification</name>
+    <message>
+        <source>« %1 » n&apos;existe plus.</source>
+        <translation>“%1” no longer exists.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotosFiche</name>
+    <message>
+        <source>Ce fichier n&apos;est pas une image lisible.</source>
+        <translation>This file is not a readable picture.</translation>
+    </message>
+</context>
+<context>
+    <name>Pied</name>
+    <message numerus="yes">
+        <source>%n album(s)</source>
+        <translation>
+            <numerusform>%n album</numerusform>
+            <numerusform>%n albums</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n série(s)</source>
+        <translation>
+            <numerusform>%n series</numerusform>
+            <numerusform>%n series</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>valeur %1</source>
+        <translation>value %1</translation>
+    </message>
+</context>
+<context>
+    <name>Pop</name>
+    <message>
+        <source>Quitter</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Suppr</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
+        <translation>This dedication is a note: “%1”. The picture will replace it. Continue?</translation>
+    </message>
+</context>
+<context>
+    <name>Pret</name>
+    <message numerus="yes">
+        <source>%n jour(s)</source>
+        <translation>
+            <numerusform>%n day</numerusform>
+            <numerusform>%n days</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rendre l&apos;album</source>
+        <translation>Mark as returned</translation>
+    </message>
+    <message>
+        <source>Supprimer la personne</source>
+        <translation>Delete the person</translation>
+    </message>
+    <message>
+        <source>Prêter « %1 »</source>
+        <translation>Lend “%1”</translation>
+    </message>
+    <message>
+        <source>Prêter</source>
+        <translation>Lend</translation>
+    </message>
+    <message>
+        <source>Choisir à qui l&apos;album montré est prêté</source>
+        <translation>Choose who the album shown is lent to</translation>
+    </message>
+    <message>
+        <source>Montrez d&apos;abord un album dans la fenêtre principale</source>
+        <translation>First show an album in the main window</translation>
+    </message>
+    <message>
+        <source>Dehors depuis</source>
+        <translation>Out for</translation>
+    </message>
+    <message>
+        <source>Tous les prêts</source>
+        <translation>All loans</translation>
+    </message>
+</context>
+<context>
+    <name>Prets</name>
+    <message>
+        <source>Retour</source>
+        <translation>Return</translation>
+    </message>
+</context>
+<context>
+    <name>Recherche</name>
+    <message>
+        <source>Rien de tel</source>
+        <translation>Nothing found</translation>
     </message>
 </context>
 <context>
@@ -313,14 +565,6 @@
         <translation>Give at least a title.</translation>
     </message>
     <message>
-        <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation>The number is a whole number from 0 to 999.</translation>
-    </message>
-    <message>
-        <source>Le prix est un nombre, comme 12,50.</source>
-        <translation>The price is a number, such as 12.50.</translation>
-    </message>
-    <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>This file is not a readable picture.</translation>
     </message>
@@ -334,6 +578,21 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Not available yet</translation>
+    </message>
+</context>
+<context>
+    <name>Telechargement</name>
+    <message>
+        <source>Le serveur est trop lent.</source>
+        <translation>The server is too slow.</translation>
+    </message>
+    <message>
+        <source>Cette adresse n&apos;est pas une adresse web.</source>
+        <translation>This address is not a web address.</translation>
+    </message>
+    <message>
+        <source>Le fichier est trop gros.</source>
+        <translation>The file is too large.</translation>
     </message>
 </context>
 <context>
@@ -364,6 +623,14 @@
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
         <translation>Nothing here for now. This list fills up with the albums you create.</translation>
+    </message>
+    <message>
+        <source>Rien ne correspond à « %1 ».</source>
+        <translation>Nothing matches “%1”.</translation>
+    </message>
+    <message>
+        <source>Filtrer la liste (Ctrl+F)</source>
+        <translation>Filter the list (Ctrl+F)</translation>
     </message>
 </context>
 </TS>

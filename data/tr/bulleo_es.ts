@@ -2,10 +2,64 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="fr_FR">
 <context>
+    <name>AnalysePage</name>
+    <message>
+        <source>La page ne peut pas être analysée.</source>
+        <translation>La página no se puede analizar.</translation>
+    </message>
+    <message>
+        <source>Il lui manque une ligne.</source>
+        <translation>Le falta una línea.</translation>
+    </message>
+    <message>
+        <source>Son prix n&apos;est pas un nombre.</source>
+        <translation>Su precio no es un número.</translation>
+    </message>
+    <message>
+        <source>Une balise n&apos;y est jamais fermée.</source>
+        <translation>Contiene una etiqueta que nunca se cierra.</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
         <translation>Se ha producido un error inesperado.</translation>
+    </message>
+</context>
+<context>
+    <name>BDNet</name>
+    <message>
+        <source>Cette page ne peut pas être montrée.</source>
+        <translation>Esta página no se puede mostrar.</translation>
+    </message>
+    <message>
+        <source>Adresse d&apos;une page</source>
+        <translation>Dirección de una página</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Ctrl+Entrée</source>
+        <translation>Ctrl+Intro</translation>
+    </message>
+    <message>
+        <source>Seules les adresses du web peuvent être montrées.</source>
+        <translation>Solo se pueden mostrar direcciones web.</translation>
+    </message>
+    <message>
+        <source>La page n&apos;a pas pu être lue jusqu&apos;au bout : complétez les champs.</source>
+        <translation>No se ha podido leer la página hasta el final: complete los campos.</translation>
+    </message>
+    <message>
+        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
+        <translation>El navegador no está instalado (paquete libqt6webenginewidgets6). Para analizar la página de un álbum, basta con escribir arriba su dirección.</translation>
+    </message>
+    <message>
+        <source>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</source>
+        <translation>Indique la página de inicio del catálogo («Accueil») y su dirección («Hote») en la sección «BDNet» de los ajustes: %1</translation>
     </message>
 </context>
 <context>
@@ -33,6 +87,22 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Aún no disponible</translation>
+    </message>
+    <message>
+        <source>Annuler (Ctrl+Z)</source>
+        <translation>Deshacer (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Annuler %1 (Ctrl+Z)</source>
+        <translation>Deshacer %1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Rétablir (Ctrl+Y)</source>
+        <translation>Rehacer (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>Rétablir %1 (Ctrl+Y)</source>
+        <translation>Rehacer %1 (Ctrl+Y)</translation>
     </message>
 </context>
 <context>
@@ -92,12 +162,31 @@
         <source>Cette fiche n&apos;existe pas.</source>
         <translation>Esta ficha no existe.</translation>
     </message>
+    <message>
+        <source>%1 — Ctrl+Z pour annuler</source>
+        <translation>%1 — Ctrl+Z para deshacer</translation>
+    </message>
+    <message>
+        <source>Annulé : %1</source>
+        <translation>Deshecho: %1</translation>
+    </message>
+    <message>
+        <source>Rétabli : %1</source>
+        <translation>Rehecho: %1</translation>
+    </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
         <translation>Los textos del catálogo de referencia no se pueden descodificar.</translation>
+    </message>
+</context>
+<context>
+    <name>Couvertures</name>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation>La imagen no se puede guardar.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +205,21 @@
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
         <translation>Este archivo no se puede copiar.</translation>
+    </message>
+</context>
+<context>
+    <name>Edition</name>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>El título se ha recortado a 50 caracteres.</translation>
+    </message>
+    <message>
+        <source>Le numéro a été coupé à 3 caractères : %1</source>
+        <translation>El número se ha recortado a 3 caracteres: %1</translation>
+    </message>
+    <message>
+        <source>Cette fiche n&apos;existe plus.</source>
+        <translation>Esta ficha ya no existe.</translation>
     </message>
 </context>
 <context>
@@ -161,6 +265,25 @@
     <message>
         <source>Choisir</source>
         <translation>Seleccionar</translation>
+    </message>
+</context>
+<context>
+    <name>Fiche</name>
+    <message>
+        <source>Le numéro est un nombre entier de 0 à 999.</source>
+        <translation>El número es un entero de 0 a 999.</translation>
+    </message>
+    <message>
+        <source>Le prix est un nombre, comme 12,50.</source>
+        <translation>El precio es un número, como 12,50.</translation>
+    </message>
+    <message>
+        <source>Le nombre de pages est un nombre.</source>
+        <translation>El número de páginas debe ser un número.</translation>
+    </message>
+    <message>
+        <source>Il faut ici un nombre entier.</source>
+        <translation>Aquí hace falta un número entero.</translation>
     </message>
 </context>
 <context>
@@ -212,28 +335,25 @@
     </message>
 </context>
 <context>
+    <name>FrmModif</name>
+    <message>
+        <source>« %1 » sera ajouté ; ↓ pour choisir dans la liste.</source>
+        <translation>Se añadirá «%1»; ↓ para elegir de la lista.</translation>
+    </message>
+    <message>
+        <source>Tapez d&apos;abord le nom à ajouter.</source>
+        <translation>Escriba primero el nombre que desea añadir.</translation>
+    </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>¡Este dato ya existe!</translation>
+    </message>
+</context>
+<context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
         <translation>El título se ha recortado a 50 caracteres.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n album(s)</source>
-        <translation>
-            <numerusform>%n álbum</numerusform>
-            <numerusform>%n álbumes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n série(s)</source>
-        <translation>
-            <numerusform>%n serie</numerusform>
-            <numerusform>%n series</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>valeur %1</source>
-        <translation>valor %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
@@ -251,12 +371,23 @@
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Software libre, con licencia GNU GPL, versión 3 o posterior</translation>
     </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>¡Este dato ya existe!</translation>
+    </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
         <translation>No se ha podido hacer la copia.</translation>
+    </message>
+</context>
+<context>
+    <name>Historique</name>
+    <message>
+        <source>Modification</source>
+        <translation>Cambio</translation>
     </message>
 </context>
 <context>
@@ -268,6 +399,13 @@
     <message>
         <source>Cette image ne peut pas être copiée.</source>
         <translation>Esta imagen no se puede copiar.</translation>
+    </message>
+</context>
+<context>
+    <name>Importation</name>
+    <message>
+        <source>La page ne peut pas être enregistrée.</source>
+        <translation>La página no se puede guardar.</translation>
     </message>
 </context>
 <context>
@@ -287,12 +425,126 @@
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
         <translation>Ningún programa abre esta dirección.</translation>
     </message>
+    <message>
+        <source>Cette image n&apos;existe plus.</source>
+        <translation>Esta imagen ya no existe.</translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;ouvre cette image.</source>
+        <translation>Ningún programa abre esta imagen.</translation>
+    </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
         <translation>Título</translation>
+    </message>
+</context>
+<context>
+    <name>Modification</name>
+    <message>
+        <source>« %1 » n&apos;existe plus.</source>
+        <translation>«%1» ya no existe.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotosFiche</name>
+    <message>
+        <source>Ce fichier n&apos;est pas une image lisible.</source>
+        <translation>Este archivo no es una imagen legible.</translation>
+    </message>
+</context>
+<context>
+    <name>Pied</name>
+    <message numerus="yes">
+        <source>%n album(s)</source>
+        <translation>
+            <numerusform>%n álbum</numerusform>
+            <numerusform>%n álbumes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n série(s)</source>
+        <translation>
+            <numerusform>%n serie</numerusform>
+            <numerusform>%n series</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>valeur %1</source>
+        <translation>valor %1</translation>
+    </message>
+</context>
+<context>
+    <name>Pop</name>
+    <message>
+        <source>Quitter</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Suppr</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
+        <translation>Esta dedicatoria es una nota: «%1». La imagen la sustituirá. ¿Continuar?</translation>
+    </message>
+</context>
+<context>
+    <name>Pret</name>
+    <message numerus="yes">
+        <source>%n jour(s)</source>
+        <translation>
+            <numerusform>%n día</numerusform>
+            <numerusform>%n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rendre l&apos;album</source>
+        <translation>Marcar como devuelto</translation>
+    </message>
+    <message>
+        <source>Supprimer la personne</source>
+        <translation>Eliminar persona</translation>
+    </message>
+    <message>
+        <source>Prêter « %1 »</source>
+        <translation>Prestar «%1»</translation>
+    </message>
+    <message>
+        <source>Prêter</source>
+        <translation>Prestar</translation>
+    </message>
+    <message>
+        <source>Choisir à qui l&apos;album montré est prêté</source>
+        <translation>Elegir a quién se presta el álbum mostrado</translation>
+    </message>
+    <message>
+        <source>Montrez d&apos;abord un album dans la fenêtre principale</source>
+        <translation>Muestre primero un álbum en la ventana principal</translation>
+    </message>
+    <message>
+        <source>Dehors depuis</source>
+        <translation>Desde hace</translation>
+    </message>
+    <message>
+        <source>Tous les prêts</source>
+        <translation>Todos los préstamos</translation>
+    </message>
+</context>
+<context>
+    <name>Prets</name>
+    <message>
+        <source>Retour</source>
+        <translation>Devolución</translation>
+    </message>
+</context>
+<context>
+    <name>Recherche</name>
+    <message>
+        <source>Rien de tel</source>
+        <translation>Sin resultados</translation>
     </message>
 </context>
 <context>
@@ -313,14 +565,6 @@
         <translation>Indique al menos un título.</translation>
     </message>
     <message>
-        <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation>El número es un entero de 0 a 999.</translation>
-    </message>
-    <message>
-        <source>Le prix est un nombre, comme 12,50.</source>
-        <translation>El precio es un número, como 12,50.</translation>
-    </message>
-    <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Este archivo no es una imagen legible.</translation>
     </message>
@@ -334,6 +578,21 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Aún no disponible</translation>
+    </message>
+</context>
+<context>
+    <name>Telechargement</name>
+    <message>
+        <source>Le serveur est trop lent.</source>
+        <translation>El servidor es demasiado lento.</translation>
+    </message>
+    <message>
+        <source>Cette adresse n&apos;est pas une adresse web.</source>
+        <translation>Esta dirección no es una dirección web.</translation>
+    </message>
+    <message>
+        <source>Le fichier est trop gros.</source>
+        <translation>El archivo es demasiado grande.</translation>
     </message>
 </context>
 <context>
@@ -364,6 +623,14 @@
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
         <translation>Por ahora no hay nada aquí. Esta lista se llena con los álbumes que usted crea.</translation>
+    </message>
+    <message>
+        <source>Rien ne correspond à « %1 ».</source>
+        <translation>Nada coincide con «%1».</translation>
+    </message>
+    <message>
+        <source>Filtrer la liste (Ctrl+F)</source>
+        <translation>Filtrar la lista (Ctrl+F)</translation>
     </message>
 </context>
 </TS>

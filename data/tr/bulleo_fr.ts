@@ -2,10 +2,64 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="fr_FR">
 <context>
+    <name>AnalysePage</name>
+    <message>
+        <source>La page ne peut pas être analysée.</source>
+        <translation>La page ne peut pas être analysée.</translation>
+    </message>
+    <message>
+        <source>Il lui manque une ligne.</source>
+        <translation>Il lui manque une ligne.</translation>
+    </message>
+    <message>
+        <source>Son prix n&apos;est pas un nombre.</source>
+        <translation>Son prix n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Une balise n&apos;y est jamais fermée.</source>
+        <translation>Une balise n&apos;y est jamais fermée.</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
         <translation>Une erreur imprévue s&apos;est produite.</translation>
+    </message>
+</context>
+<context>
+    <name>BDNet</name>
+    <message>
+        <source>Cette page ne peut pas être montrée.</source>
+        <translation>Cette page ne peut pas être montrée.</translation>
+    </message>
+    <message>
+        <source>Adresse d&apos;une page</source>
+        <translation>Adresse d&apos;une page</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Ctrl+Entrée</source>
+        <translation>Ctrl+Entrée</translation>
+    </message>
+    <message>
+        <source>Seules les adresses du web peuvent être montrées.</source>
+        <translation>Seules les adresses du web peuvent être montrées.</translation>
+    </message>
+    <message>
+        <source>La page n&apos;a pas pu être lue jusqu&apos;au bout : complétez les champs.</source>
+        <translation>La page n&apos;a pas pu être lue jusqu&apos;au bout : complétez les champs.</translation>
+    </message>
+    <message>
+        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
+        <translation>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</translation>
+    </message>
+    <message>
+        <source>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</source>
+        <translation>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</translation>
     </message>
 </context>
 <context>
@@ -33,6 +87,22 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Pas encore disponible</translation>
+    </message>
+    <message>
+        <source>Annuler (Ctrl+Z)</source>
+        <translation>Annuler (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Annuler %1 (Ctrl+Z)</source>
+        <translation>Annuler %1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Rétablir (Ctrl+Y)</source>
+        <translation>Rétablir (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>Rétablir %1 (Ctrl+Y)</source>
+        <translation>Rétablir %1 (Ctrl+Y)</translation>
     </message>
 </context>
 <context>
@@ -92,12 +162,31 @@
         <source>Cette fiche n&apos;existe pas.</source>
         <translation>Cette fiche n&apos;existe pas.</translation>
     </message>
+    <message>
+        <source>%1 — Ctrl+Z pour annuler</source>
+        <translation>%1 — Ctrl+Z pour annuler</translation>
+    </message>
+    <message>
+        <source>Annulé : %1</source>
+        <translation>Annulé : %1</translation>
+    </message>
+    <message>
+        <source>Rétabli : %1</source>
+        <translation>Rétabli : %1</translation>
+    </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
         <translation>Les textes du catalogue de référence ne peuvent pas être décodés.</translation>
+    </message>
+</context>
+<context>
+    <name>Couvertures</name>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation>L&apos;image ne peut pas être enregistrée.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +205,21 @@
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
         <translation>Ce fichier ne peut pas être copié.</translation>
+    </message>
+</context>
+<context>
+    <name>Edition</name>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>Le titre a été coupé à 50 caractères.</translation>
+    </message>
+    <message>
+        <source>Le numéro a été coupé à 3 caractères : %1</source>
+        <translation>Le numéro a été coupé à 3 caractères : %1</translation>
+    </message>
+    <message>
+        <source>Cette fiche n&apos;existe plus.</source>
+        <translation>Cette fiche n&apos;existe plus.</translation>
     </message>
 </context>
 <context>
@@ -161,6 +265,25 @@
     <message>
         <source>Choisir</source>
         <translation>Choisir</translation>
+    </message>
+</context>
+<context>
+    <name>Fiche</name>
+    <message>
+        <source>Le numéro est un nombre entier de 0 à 999.</source>
+        <translation>Le numéro est un nombre entier de 0 à 999.</translation>
+    </message>
+    <message>
+        <source>Le prix est un nombre, comme 12,50.</source>
+        <translation>Le prix est un nombre, comme 12,50.</translation>
+    </message>
+    <message>
+        <source>Le nombre de pages est un nombre.</source>
+        <translation>Le nombre de pages est un nombre.</translation>
+    </message>
+    <message>
+        <source>Il faut ici un nombre entier.</source>
+        <translation>Il faut ici un nombre entier.</translation>
     </message>
 </context>
 <context>
@@ -212,28 +335,25 @@
     </message>
 </context>
 <context>
+    <name>FrmModif</name>
+    <message>
+        <source>« %1 » sera ajouté ; ↓ pour choisir dans la liste.</source>
+        <translation>« %1 » sera ajouté ; ↓ pour choisir dans la liste.</translation>
+    </message>
+    <message>
+        <source>Tapez d&apos;abord le nom à ajouter.</source>
+        <translation>Tapez d&apos;abord le nom à ajouter.</translation>
+    </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>La donnée existe déjà !</translation>
+    </message>
+</context>
+<context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
         <translation>Le titre a été coupé à 50 caractères.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n album(s)</source>
-        <translation>
-            <numerusform>%n album</numerusform>
-            <numerusform>%n albums</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n série(s)</source>
-        <translation>
-            <numerusform>%n série</numerusform>
-            <numerusform>%n séries</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>valeur %1</source>
-        <translation>valeur %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
@@ -251,12 +371,23 @@
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</translation>
     </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>La donnée existe déjà !</translation>
+    </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
         <translation>La copie n&apos;a pas pu être faite.</translation>
+    </message>
+</context>
+<context>
+    <name>Historique</name>
+    <message>
+        <source>Modification</source>
+        <translation>Modification</translation>
     </message>
 </context>
 <context>
@@ -268,6 +399,13 @@
     <message>
         <source>Cette image ne peut pas être copiée.</source>
         <translation>Cette image ne peut pas être copiée.</translation>
+    </message>
+</context>
+<context>
+    <name>Importation</name>
+    <message>
+        <source>La page ne peut pas être enregistrée.</source>
+        <translation>La page ne peut pas être enregistrée.</translation>
     </message>
 </context>
 <context>
@@ -287,12 +425,126 @@
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
         <translation>Aucun programme n&apos;ouvre cette adresse.</translation>
     </message>
+    <message>
+        <source>Cette image n&apos;existe plus.</source>
+        <translation>Cette image n&apos;existe plus.</translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;ouvre cette image.</source>
+        <translation>Aucun programme n&apos;ouvre cette image.</translation>
+    </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
         <translation>Titre</translation>
+    </message>
+</context>
+<context>
+    <name>Modification</name>
+    <message>
+        <source>« %1 » n&apos;existe plus.</source>
+        <translation>« %1 » n&apos;existe plus.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotosFiche</name>
+    <message>
+        <source>Ce fichier n&apos;est pas une image lisible.</source>
+        <translation>Ce fichier n&apos;est pas une image lisible.</translation>
+    </message>
+</context>
+<context>
+    <name>Pied</name>
+    <message numerus="yes">
+        <source>%n album(s)</source>
+        <translation>
+            <numerusform>%n album</numerusform>
+            <numerusform>%n albums</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n série(s)</source>
+        <translation>
+            <numerusform>%n série</numerusform>
+            <numerusform>%n séries</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>valeur %1</source>
+        <translation>valeur %1</translation>
+    </message>
+</context>
+<context>
+    <name>Pop</name>
+    <message>
+        <source>Quitter</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Suppr</source>
+        <translation>Suppr</translation>
+    </message>
+    <message>
+        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
+        <translation>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</translation>
+    </message>
+</context>
+<context>
+    <name>Pret</name>
+    <message numerus="yes">
+        <source>%n jour(s)</source>
+        <translation>
+            <numerusform>%n jour</numerusform>
+            <numerusform>%n jours</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rendre l&apos;album</source>
+        <translation>Rendre l&apos;album</translation>
+    </message>
+    <message>
+        <source>Supprimer la personne</source>
+        <translation>Supprimer la personne</translation>
+    </message>
+    <message>
+        <source>Prêter « %1 »</source>
+        <translation>Prêter « %1 »</translation>
+    </message>
+    <message>
+        <source>Prêter</source>
+        <translation>Prêter</translation>
+    </message>
+    <message>
+        <source>Choisir à qui l&apos;album montré est prêté</source>
+        <translation>Choisir à qui l&apos;album montré est prêté</translation>
+    </message>
+    <message>
+        <source>Montrez d&apos;abord un album dans la fenêtre principale</source>
+        <translation>Montrez d&apos;abord un album dans la fenêtre principale</translation>
+    </message>
+    <message>
+        <source>Dehors depuis</source>
+        <translation>Dehors depuis</translation>
+    </message>
+    <message>
+        <source>Tous les prêts</source>
+        <translation>Tous les prêts</translation>
+    </message>
+</context>
+<context>
+    <name>Prets</name>
+    <message>
+        <source>Retour</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>Recherche</name>
+    <message>
+        <source>Rien de tel</source>
+        <translation>Rien de tel</translation>
     </message>
 </context>
 <context>
@@ -313,14 +565,6 @@
         <translation>Donnez au moins un titre.</translation>
     </message>
     <message>
-        <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation>Le numéro est un nombre entier de 0 à 999.</translation>
-    </message>
-    <message>
-        <source>Le prix est un nombre, comme 12,50.</source>
-        <translation>Le prix est un nombre, comme 12,50.</translation>
-    </message>
-    <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Ce fichier n&apos;est pas une image lisible.</translation>
     </message>
@@ -334,6 +578,21 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Pas encore disponible</translation>
+    </message>
+</context>
+<context>
+    <name>Telechargement</name>
+    <message>
+        <source>Le serveur est trop lent.</source>
+        <translation>Le serveur est trop lent.</translation>
+    </message>
+    <message>
+        <source>Cette adresse n&apos;est pas une adresse web.</source>
+        <translation>Cette adresse n&apos;est pas une adresse web.</translation>
+    </message>
+    <message>
+        <source>Le fichier est trop gros.</source>
+        <translation>Le fichier est trop gros.</translation>
     </message>
 </context>
 <context>
@@ -364,6 +623,14 @@
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
         <translation>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</translation>
+    </message>
+    <message>
+        <source>Rien ne correspond à « %1 ».</source>
+        <translation>Rien ne correspond à « %1 ».</translation>
+    </message>
+    <message>
+        <source>Filtrer la liste (Ctrl+F)</source>
+        <translation>Filtrer la liste (Ctrl+F)</translation>
     </message>
 </context>
 </TS>

@@ -2,10 +2,64 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="fr_FR">
 <context>
+    <name>AnalysePage</name>
+    <message>
+        <source>La page ne peut pas être analysée.</source>
+        <translation>Impossibile analizzare la pagina.</translation>
+    </message>
+    <message>
+        <source>Il lui manque une ligne.</source>
+        <translation>Manca una riga.</translation>
+    </message>
+    <message>
+        <source>Son prix n&apos;est pas un nombre.</source>
+        <translation>Il prezzo non è un numero.</translation>
+    </message>
+    <message>
+        <source>Une balise n&apos;y est jamais fermée.</source>
+        <translation>Contiene un tag che non viene mai chiuso.</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
         <translation>Si è verificato un errore imprevisto.</translation>
+    </message>
+</context>
+<context>
+    <name>BDNet</name>
+    <message>
+        <source>Cette page ne peut pas être montrée.</source>
+        <translation>Impossibile mostrare questa pagina.</translation>
+    </message>
+    <message>
+        <source>Adresse d&apos;une page</source>
+        <translation>Indirizzo di una pagina</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Ctrl+Entrée</source>
+        <translation>Ctrl+Invio</translation>
+    </message>
+    <message>
+        <source>Seules les adresses du web peuvent être montrées.</source>
+        <translation>Si possono mostrare solo indirizzi web.</translation>
+    </message>
+    <message>
+        <source>La page n&apos;a pas pu être lue jusqu&apos;au bout : complétez les champs.</source>
+        <translation>Non è stato possibile leggere la pagina fino in fondo: completate i campi.</translation>
+    </message>
+    <message>
+        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
+        <translation>Il browser non è installato (pacchetto libqt6webenginewidgets6). Per analizzare la pagina di un album basta scriverne l&apos;indirizzo qui sopra.</translation>
+    </message>
+    <message>
+        <source>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</source>
+        <translation>Impostate la pagina iniziale del catalogo («Accueil») e il suo indirizzo («Hote») nella sezione «BDNet» delle impostazioni: %1</translation>
     </message>
 </context>
 <context>
@@ -33,6 +87,22 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Non ancora disponibile</translation>
+    </message>
+    <message>
+        <source>Annuler (Ctrl+Z)</source>
+        <translation>Annulla (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Annuler %1 (Ctrl+Z)</source>
+        <translation>Annulla %1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Rétablir (Ctrl+Y)</source>
+        <translation>Ripeti (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>Rétablir %1 (Ctrl+Y)</source>
+        <translation>Ripeti %1 (Ctrl+Y)</translation>
     </message>
 </context>
 <context>
@@ -92,12 +162,31 @@
         <source>Cette fiche n&apos;existe pas.</source>
         <translation>Questa scheda non esiste.</translation>
     </message>
+    <message>
+        <source>%1 — Ctrl+Z pour annuler</source>
+        <translation>%1 — Ctrl+Z per annullare</translation>
+    </message>
+    <message>
+        <source>Annulé : %1</source>
+        <translation>Annullato: %1</translation>
+    </message>
+    <message>
+        <source>Rétabli : %1</source>
+        <translation>Ripetuto: %1</translation>
+    </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
         <translation>Impossibile decodificare i testi del catalogo di riferimento.</translation>
+    </message>
+</context>
+<context>
+    <name>Couvertures</name>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation>Impossibile salvare l&apos;immagine.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +205,21 @@
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
         <translation>Impossibile copiare questo file.</translation>
+    </message>
+</context>
+<context>
+    <name>Edition</name>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>Il titolo è stato troncato a 50 caratteri.</translation>
+    </message>
+    <message>
+        <source>Le numéro a été coupé à 3 caractères : %1</source>
+        <translation>Il numero è stato troncato a 3 caratteri: %1</translation>
+    </message>
+    <message>
+        <source>Cette fiche n&apos;existe plus.</source>
+        <translation>Questa scheda non esiste più.</translation>
     </message>
 </context>
 <context>
@@ -161,6 +265,25 @@
     <message>
         <source>Choisir</source>
         <translation>Seleziona</translation>
+    </message>
+</context>
+<context>
+    <name>Fiche</name>
+    <message>
+        <source>Le numéro est un nombre entier de 0 à 999.</source>
+        <translation>Il numero è un intero da 0 a 999.</translation>
+    </message>
+    <message>
+        <source>Le prix est un nombre, comme 12,50.</source>
+        <translation>Il prezzo è un numero, come 12,50.</translation>
+    </message>
+    <message>
+        <source>Le nombre de pages est un nombre.</source>
+        <translation>Il numero di pagine deve essere un numero.</translation>
+    </message>
+    <message>
+        <source>Il faut ici un nombre entier.</source>
+        <translation>Qui serve un numero intero.</translation>
     </message>
 </context>
 <context>
@@ -212,28 +335,25 @@
     </message>
 </context>
 <context>
+    <name>FrmModif</name>
+    <message>
+        <source>« %1 » sera ajouté ; ↓ pour choisir dans la liste.</source>
+        <translation>«%1» sarà aggiunto; ↓ per scegliere dall&apos;elenco.</translation>
+    </message>
+    <message>
+        <source>Tapez d&apos;abord le nom à ajouter.</source>
+        <translation>Scrivete prima il nome da aggiungere.</translation>
+    </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Questo dato esiste già!</translation>
+    </message>
+</context>
+<context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
         <translation>Il titolo è stato troncato a 50 caratteri.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n album(s)</source>
-        <translation>
-            <numerusform>%n album</numerusform>
-            <numerusform>%n album</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n série(s)</source>
-        <translation>
-            <numerusform>%n serie</numerusform>
-            <numerusform>%n serie</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>valeur %1</source>
-        <translation>valore %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
@@ -251,12 +371,23 @@
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Software libero, con licenza GNU GPL, versione 3 o successiva</translation>
     </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Questo dato esiste già!</translation>
+    </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
         <translation>Non è stato possibile fare la copia.</translation>
+    </message>
+</context>
+<context>
+    <name>Historique</name>
+    <message>
+        <source>Modification</source>
+        <translation>Modifica</translation>
     </message>
 </context>
 <context>
@@ -268,6 +399,13 @@
     <message>
         <source>Cette image ne peut pas être copiée.</source>
         <translation>Impossibile copiare questa immagine.</translation>
+    </message>
+</context>
+<context>
+    <name>Importation</name>
+    <message>
+        <source>La page ne peut pas être enregistrée.</source>
+        <translation>Impossibile salvare la pagina.</translation>
     </message>
 </context>
 <context>
@@ -287,12 +425,126 @@
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
         <translation>Nessun programma apre questo indirizzo.</translation>
     </message>
+    <message>
+        <source>Cette image n&apos;existe plus.</source>
+        <translation>Questa immagine non esiste più.</translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;ouvre cette image.</source>
+        <translation>Nessun programma apre questa immagine.</translation>
+    </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
         <translation>Titolo</translation>
+    </message>
+</context>
+<context>
+    <name>Modification</name>
+    <message>
+        <source>« %1 » n&apos;existe plus.</source>
+        <translation>«%1» non esiste più.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotosFiche</name>
+    <message>
+        <source>Ce fichier n&apos;est pas une image lisible.</source>
+        <translation>Questo file non è un&apos;immagine leggibile.</translation>
+    </message>
+</context>
+<context>
+    <name>Pied</name>
+    <message numerus="yes">
+        <source>%n album(s)</source>
+        <translation>
+            <numerusform>%n album</numerusform>
+            <numerusform>%n album</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n série(s)</source>
+        <translation>
+            <numerusform>%n serie</numerusform>
+            <numerusform>%n serie</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>valeur %1</source>
+        <translation>valore %1</translation>
+    </message>
+</context>
+<context>
+    <name>Pop</name>
+    <message>
+        <source>Quitter</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Suppr</source>
+        <translation>Canc</translation>
+    </message>
+    <message>
+        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
+        <translation>Questa dedica è una nota: «%1». L&apos;immagine la sostituirà. Continuare?</translation>
+    </message>
+</context>
+<context>
+    <name>Pret</name>
+    <message numerus="yes">
+        <source>%n jour(s)</source>
+        <translation>
+            <numerusform>%n giorno</numerusform>
+            <numerusform>%n giorni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rendre l&apos;album</source>
+        <translation>Segna come restituito</translation>
+    </message>
+    <message>
+        <source>Supprimer la personne</source>
+        <translation>Elimina la persona</translation>
+    </message>
+    <message>
+        <source>Prêter « %1 »</source>
+        <translation>Presta «%1»</translation>
+    </message>
+    <message>
+        <source>Prêter</source>
+        <translation>Presta</translation>
+    </message>
+    <message>
+        <source>Choisir à qui l&apos;album montré est prêté</source>
+        <translation>Scegli a chi prestare l&apos;album mostrato</translation>
+    </message>
+    <message>
+        <source>Montrez d&apos;abord un album dans la fenêtre principale</source>
+        <translation>Mostrate prima un album nella finestra principale</translation>
+    </message>
+    <message>
+        <source>Dehors depuis</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Tous les prêts</source>
+        <translation>Tutti i prestiti</translation>
+    </message>
+</context>
+<context>
+    <name>Prets</name>
+    <message>
+        <source>Retour</source>
+        <translation>Restituzione</translation>
+    </message>
+</context>
+<context>
+    <name>Recherche</name>
+    <message>
+        <source>Rien de tel</source>
+        <translation>Nessun risultato</translation>
     </message>
 </context>
 <context>
@@ -313,14 +565,6 @@
         <translation>Indicate almeno un titolo.</translation>
     </message>
     <message>
-        <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation>Il numero è un intero da 0 a 999.</translation>
-    </message>
-    <message>
-        <source>Le prix est un nombre, comme 12,50.</source>
-        <translation>Il prezzo è un numero, come 12,50.</translation>
-    </message>
-    <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Questo file non è un&apos;immagine leggibile.</translation>
     </message>
@@ -334,6 +578,21 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Non ancora disponibile</translation>
+    </message>
+</context>
+<context>
+    <name>Telechargement</name>
+    <message>
+        <source>Le serveur est trop lent.</source>
+        <translation>Il server è troppo lento.</translation>
+    </message>
+    <message>
+        <source>Cette adresse n&apos;est pas une adresse web.</source>
+        <translation>Questo indirizzo non è un indirizzo web.</translation>
+    </message>
+    <message>
+        <source>Le fichier est trop gros.</source>
+        <translation>Il file è troppo grande.</translation>
     </message>
 </context>
 <context>
@@ -364,6 +623,14 @@
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
         <translation>Per ora qui non c&apos;è nulla. Questo elenco si riempie con gli album che create.</translation>
+    </message>
+    <message>
+        <source>Rien ne correspond à « %1 ».</source>
+        <translation>Nulla corrisponde a «%1».</translation>
+    </message>
+    <message>
+        <source>Filtrer la liste (Ctrl+F)</source>
+        <translation>Filtra l&apos;elenco (Ctrl+F)</translation>
     </message>
 </context>
 </TS>

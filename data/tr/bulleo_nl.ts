@@ -2,10 +2,64 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="fr_FR">
 <context>
+    <name>AnalysePage</name>
+    <message>
+        <source>La page ne peut pas être analysée.</source>
+        <translation>De pagina kan niet worden geanalyseerd.</translation>
+    </message>
+    <message>
+        <source>Il lui manque une ligne.</source>
+        <translation>Er ontbreekt een regel.</translation>
+    </message>
+    <message>
+        <source>Son prix n&apos;est pas un nombre.</source>
+        <translation>De prijs is geen getal.</translation>
+    </message>
+    <message>
+        <source>Une balise n&apos;y est jamais fermée.</source>
+        <translation>Een tag erin wordt nooit gesloten.</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Une erreur imprévue s&apos;est produite.</source>
         <translation>Er is een onverwachte fout opgetreden.</translation>
+    </message>
+</context>
+<context>
+    <name>BDNet</name>
+    <message>
+        <source>Cette page ne peut pas être montrée.</source>
+        <translation>Deze pagina kan niet worden getoond.</translation>
+    </message>
+    <message>
+        <source>Adresse d&apos;une page</source>
+        <translation>Adres van een pagina</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Entrée</source>
+        <translation>Ctrl+Enter</translation>
+    </message>
+    <message>
+        <source>Seules les adresses du web peuvent être montrées.</source>
+        <translation>Alleen webadressen kunnen worden getoond.</translation>
+    </message>
+    <message>
+        <source>La page n&apos;a pas pu être lue jusqu&apos;au bout : complétez les champs.</source>
+        <translation>De pagina kon niet tot het einde worden gelezen: vul de velden aan.</translation>
+    </message>
+    <message>
+        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
+        <translation>De browser is niet geïnstalleerd (pakket libqt6webenginewidgets6). Om een albumpagina te analyseren, volstaat het om hierboven het adres ervan in te voeren.</translation>
+    </message>
+    <message>
+        <source>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</source>
+        <translation>Stel de startpagina van de catalogus (“Accueil”) en het adres ervan (“Hote”) in onder “BDNet” in de instellingen: %1</translation>
     </message>
 </context>
 <context>
@@ -33,6 +87,22 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Nog niet beschikbaar</translation>
+    </message>
+    <message>
+        <source>Annuler (Ctrl+Z)</source>
+        <translation>Ongedaan maken (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Annuler %1 (Ctrl+Z)</source>
+        <translation>%1 ongedaan maken (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Rétablir (Ctrl+Y)</source>
+        <translation>Opnieuw uitvoeren (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>Rétablir %1 (Ctrl+Y)</source>
+        <translation>%1 opnieuw uitvoeren (Ctrl+Y)</translation>
     </message>
 </context>
 <context>
@@ -92,12 +162,31 @@
         <source>Cette fiche n&apos;existe pas.</source>
         <translation>Deze fiche bestaat niet.</translation>
     </message>
+    <message>
+        <source>%1 — Ctrl+Z pour annuler</source>
+        <translation>%1 – Ctrl+Z om ongedaan te maken</translation>
+    </message>
+    <message>
+        <source>Annulé : %1</source>
+        <translation>Ongedaan gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>Rétabli : %1</source>
+        <translation>Opnieuw uitgevoerd: %1</translation>
+    </message>
 </context>
 <context>
     <name>Catalogue</name>
     <message>
         <source>Les textes du catalogue de référence ne peuvent pas être décodés.</source>
         <translation>De teksten van de referentiecatalogus kunnen niet worden gedecodeerd.</translation>
+    </message>
+</context>
+<context>
+    <name>Couvertures</name>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation>De afbeelding kan niet worden opgeslagen.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +205,21 @@
     <message>
         <source>Ce fichier ne peut pas être copié.</source>
         <translation>Dit bestand kan niet worden gekopieerd.</translation>
+    </message>
+</context>
+<context>
+    <name>Edition</name>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>De titel is afgekapt op 50 tekens.</translation>
+    </message>
+    <message>
+        <source>Le numéro a été coupé à 3 caractères : %1</source>
+        <translation>Het nummer is afgekapt op 3 tekens: %1</translation>
+    </message>
+    <message>
+        <source>Cette fiche n&apos;existe plus.</source>
+        <translation>Deze fiche bestaat niet meer.</translation>
     </message>
 </context>
 <context>
@@ -161,6 +265,25 @@
     <message>
         <source>Choisir</source>
         <translation>Kiezen</translation>
+    </message>
+</context>
+<context>
+    <name>Fiche</name>
+    <message>
+        <source>Le numéro est un nombre entier de 0 à 999.</source>
+        <translation>Het nummer is een geheel getal van 0 tot en met 999.</translation>
+    </message>
+    <message>
+        <source>Le prix est un nombre, comme 12,50.</source>
+        <translation>De prijs is een getal, zoals 12,50.</translation>
+    </message>
+    <message>
+        <source>Le nombre de pages est un nombre.</source>
+        <translation>Het aantal pagina&apos;s moet een getal zijn.</translation>
+    </message>
+    <message>
+        <source>Il faut ici un nombre entier.</source>
+        <translation>Hier is een geheel getal nodig.</translation>
     </message>
 </context>
 <context>
@@ -212,28 +335,25 @@
     </message>
 </context>
 <context>
+    <name>FrmModif</name>
+    <message>
+        <source>« %1 » sera ajouté ; ↓ pour choisir dans la liste.</source>
+        <translation>“%1” wordt toegevoegd; ↓ om uit de lijst te kiezen.</translation>
+    </message>
+    <message>
+        <source>Tapez d&apos;abord le nom à ajouter.</source>
+        <translation>Typ eerst de naam die u wilt toevoegen.</translation>
+    </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Dit gegeven bestaat al!</translation>
+    </message>
+</context>
+<context>
     <name>Frmmain</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
         <translation>De titel is afgekapt op 50 tekens.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n album(s)</source>
-        <translation>
-            <numerusform>%n album</numerusform>
-            <numerusform>%n albums</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n série(s)</source>
-        <translation>
-            <numerusform>%n reeks</numerusform>
-            <numerusform>%n reeksen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>valeur %1</source>
-        <translation>waarde %1</translation>
     </message>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
@@ -251,12 +371,23 @@
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Vrije software, onder de licentie GNU GPL, versie 3 of later</translation>
     </message>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Dit gegeven bestaat al!</translation>
+    </message>
 </context>
 <context>
     <name>General</name>
     <message>
         <source>La copie n&apos;a pas pu être faite.</source>
         <translation>De kopie kon niet worden gemaakt.</translation>
+    </message>
+</context>
+<context>
+    <name>Historique</name>
+    <message>
+        <source>Modification</source>
+        <translation>Wijziging</translation>
     </message>
 </context>
 <context>
@@ -268,6 +399,13 @@
     <message>
         <source>Cette image ne peut pas être copiée.</source>
         <translation>Deze afbeelding kan niet worden gekopieerd.</translation>
+    </message>
+</context>
+<context>
+    <name>Importation</name>
+    <message>
+        <source>La page ne peut pas être enregistrée.</source>
+        <translation>De pagina kan niet worden opgeslagen.</translation>
     </message>
 </context>
 <context>
@@ -287,12 +425,126 @@
         <source>Aucun programme n&apos;ouvre cette adresse.</source>
         <translation>Geen enkel programma opent dit adres.</translation>
     </message>
+    <message>
+        <source>Cette image n&apos;existe plus.</source>
+        <translation>Deze afbeelding bestaat niet meer.</translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;ouvre cette image.</source>
+        <translation>Geen enkel programma opent deze afbeelding.</translation>
+    </message>
 </context>
 <context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
         <translation>Titel</translation>
+    </message>
+</context>
+<context>
+    <name>Modification</name>
+    <message>
+        <source>« %1 » n&apos;existe plus.</source>
+        <translation>“%1” bestaat niet meer.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotosFiche</name>
+    <message>
+        <source>Ce fichier n&apos;est pas une image lisible.</source>
+        <translation>Dit bestand is geen leesbare afbeelding.</translation>
+    </message>
+</context>
+<context>
+    <name>Pied</name>
+    <message numerus="yes">
+        <source>%n album(s)</source>
+        <translation>
+            <numerusform>%n album</numerusform>
+            <numerusform>%n albums</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n série(s)</source>
+        <translation>
+            <numerusform>%n reeks</numerusform>
+            <numerusform>%n reeksen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>valeur %1</source>
+        <translation>waarde %1</translation>
+    </message>
+</context>
+<context>
+    <name>Pop</name>
+    <message>
+        <source>Quitter</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>Suppr</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
+        <translation>Deze dedicatie is een notitie: “%1”. De afbeelding zal deze vervangen. Doorgaan?</translation>
+    </message>
+</context>
+<context>
+    <name>Pret</name>
+    <message numerus="yes">
+        <source>%n jour(s)</source>
+        <translation>
+            <numerusform>%n dag</numerusform>
+            <numerusform>%n dagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rendre l&apos;album</source>
+        <translation>Als teruggebracht markeren</translation>
+    </message>
+    <message>
+        <source>Supprimer la personne</source>
+        <translation>Persoon verwijderen</translation>
+    </message>
+    <message>
+        <source>Prêter « %1 »</source>
+        <translation>“%1” uitlenen</translation>
+    </message>
+    <message>
+        <source>Prêter</source>
+        <translation>Uitlenen</translation>
+    </message>
+    <message>
+        <source>Choisir à qui l&apos;album montré est prêté</source>
+        <translation>Kiezen aan wie het getoonde album wordt uitgeleend</translation>
+    </message>
+    <message>
+        <source>Montrez d&apos;abord un album dans la fenêtre principale</source>
+        <translation>Toon eerst een album in het hoofdvenster</translation>
+    </message>
+    <message>
+        <source>Dehors depuis</source>
+        <translation>Uitleenduur</translation>
+    </message>
+    <message>
+        <source>Tous les prêts</source>
+        <translation>Alle uitleningen</translation>
+    </message>
+</context>
+<context>
+    <name>Prets</name>
+    <message>
+        <source>Retour</source>
+        <translation>Teruggave</translation>
+    </message>
+</context>
+<context>
+    <name>Recherche</name>
+    <message>
+        <source>Rien de tel</source>
+        <translation>Niets gevonden</translation>
     </message>
 </context>
 <context>
@@ -313,14 +565,6 @@
         <translation>Geef ten minste een titel op.</translation>
     </message>
     <message>
-        <source>Le numéro est un nombre entier de 0 à 999.</source>
-        <translation>Het nummer is een geheel getal van 0 tot en met 999.</translation>
-    </message>
-    <message>
-        <source>Le prix est un nombre, comme 12,50.</source>
-        <translation>De prijs is een getal, zoals 12,50.</translation>
-    </message>
-    <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Dit bestand is geen leesbare afbeelding.</translation>
     </message>
@@ -334,6 +578,21 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Nog niet beschikbaar</translation>
+    </message>
+</context>
+<context>
+    <name>Telechargement</name>
+    <message>
+        <source>Le serveur est trop lent.</source>
+        <translation>De server is te traag.</translation>
+    </message>
+    <message>
+        <source>Cette adresse n&apos;est pas une adresse web.</source>
+        <translation>Dit adres is geen webadres.</translation>
+    </message>
+    <message>
+        <source>Le fichier est trop gros.</source>
+        <translation>Het bestand is te groot.</translation>
     </message>
 </context>
 <context>
@@ -364,6 +623,14 @@
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit avec les albums que vous créez.</source>
         <translation>Hier staat voorlopig niets. Deze lijst vult zich met de albums die u aanmaakt.</translation>
+    </message>
+    <message>
+        <source>Rien ne correspond à « %1 ».</source>
+        <translation>Niets komt overeen met “%1”.</translation>
+    </message>
+    <message>
+        <source>Filtrer la liste (Ctrl+F)</source>
+        <translation>De lijst filteren (Ctrl+F)</translation>
     </message>
 </context>
 </TS>
