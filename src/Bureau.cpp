@@ -13,6 +13,7 @@
 #include "entry/Manuelle.h"
 #include "entry/Pop.h"
 #include "loans/Pret.h"
+#include "pictures/Acquisition.h"
 #include "reports/Recherche.h"
 #include "webimport/BDNet.h"
 
@@ -38,6 +39,7 @@ Bureau::Bureau(const Options &options)
     declarer<Splash>(Nom::Splash);
     declarer<Manuelle>(Nom::Manuelle);
     declarer<Facile>(Nom::Facile);
+    declarer<Acquisition>(Nom::Acquisition);
     declarer<BDNet>(Nom::BDNet);
     declarer<Pret>(Nom::Pret);
     declarer<Recherche>(Nom::Recherche);

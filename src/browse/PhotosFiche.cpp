@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -34,6 +35,19 @@ void PhotosFiche::Poser(const Edition &edition, const QString &chemin)
             QCoreApplication::translate("PhotosFiche", "Ce fichier n'est pas une image lisible."), chemin);
     const QString nom = Images::Copier(chemin);
     ecrire(edition, nom, nom);
+}
+
+void PhotosFiche::PoserImage(const Edition &edition, const QImage &image)
+{
+    constexpr int BonneQualite = 92;
+    const QString entree = General::LireTexte(edition.entree.tri, edition.entree.id);
+    const QTemporaryDir passage;
+    const QString chemin = passage.filePath(
+        Images::NomDeFichier(entree.isEmpty() ? edition.champ : entree) + QStringLiteral(".jpg"));
+    if (!passage.isValid() || !image.save(chemin, "JPG", BonneQualite))
+        throw Error(
+            QCoreApplication::translate("PhotosFiche", "L'image ne peut pas être enregistrée."), chemin);
+    Poser(edition, chemin);
 }
 
 void PhotosFiche::Oter(const Edition &edition)

@@ -4,15 +4,18 @@
 #include "core/Error.h"
 #include "core/Texte.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QProcess>
 #include <array>
 
 namespace {
 
+constexpr qsizetype LongueurDuNom = 120;
 const QString Rangement = QStringLiteral("images");
 const std::array DossiersDImages{Rangement, QStringLiteral("image")};
 
@@ -43,6 +46,51 @@ bool memeContenu(const QString &a, const QString &b)
     QFile fb(b);
     return fa.size() == fb.size() && fa.open(QIODevice::ReadOnly) && fb.open(QIODevice::ReadOnly)
         && fa.readAll() == fb.readAll();
+}
+
+/// Placeable or plain Windows metafile, by its first bytes.
+bool estUnMetafichier(const QString &chemin)
+{
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray debut = fichier.read(4);
+    return debut == QByteArray("\xD7\xCD\xC6\x9A") || debut == QByteArray("\x01\x00\x09\x00", 4);
+}
+
+/// A metafile as SVG, made by the converter beside the program; empty when it is not there, or refuses.
+QByteArray enSvg(const QString &chemin)
+{
+    constexpr int DelaiMs = 15'000;
+    QProcess convertisseur;
+    convertisseur.start(QCoreApplication::applicationDirPath() + QStringLiteral("/bulleo-wmf"), {chemin});
+    if (!convertisseur.waitForFinished(DelaiMs)) {
+        convertisseur.kill();
+        convertisseur.waitForFinished();
+        return {};
+    }
+    const bool reussi = convertisseur.exitStatus() == QProcess::NormalExit && convertisseur.exitCode() == 0;
+    return reussi ? convertisseur.readAllStandardOutput() : QByteArray();
+}
+
+/// The picture of a device, in the format of its content, or the one named.
+QImage lire(QIODevice &source, const QSize &taille, const QByteArray &format)
+{
+    // The platform's own limit is lower than ours.
+    constexpr int LimiteMio = static_cast<int>(PixelsMax * 4 >> 20) + 1;
+    static const bool fixee = (QImageReader::setAllocationLimit(LimiteMio), true);
+    Q_UNUSED(fixee)
+    QImageReader lecteur(&source, format);
+    lecteur.setAutoTransform(true);
+    lecteur.setDecideFormatFromContent(format.isEmpty());
+    const QSize entiere = lecteur.size();
+    if (!entiere.isValid() || qint64(entiere.width()) * entiere.height() > PixelsMax)
+        return {};
+    const bool couche = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const QSize cadre = couche ? taille.transposed() : taille;
+    if (entiere.width() > cadre.width() || entiere.height() > cadre.height())
+        lecteur.setScaledSize(entiere.scaled(cadre, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return lecteur.read();
 }
 
 }
@@ -92,19 +140,25 @@ QString Images::Copier(const QString &chemin)
 
 QImage Images::Decoder(const QString &chemin, const QSize &taille)
 {
-    // The platform's own limit is lower than ours.
-    constexpr int LimiteMio = static_cast<int>(PixelsMax * 4 >> 20) + 1;
-    static const bool fixee = (QImageReader::setAllocationLimit(LimiteMio), true);
-    Q_UNUSED(fixee)
-    QImageReader lecteur(chemin);
-    lecteur.setAutoTransform(true);
-    lecteur.setDecideFormatFromContent(true);
-    const QSize entiere = lecteur.size();
-    if (!entiere.isValid() || qint64(entiere.width()) * entiere.height() > PixelsMax)
-        return {};
-    const bool couche = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-    const QSize cadre = couche ? taille.transposed() : taille;
-    if (entiere.width() > cadre.width() || entiere.height() > cadre.height())
-        lecteur.setScaledSize(entiere.scaled(cadre, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    return lecteur.read();
+    if (estUnMetafichier(chemin)) {
+        QByteArray svg = enSvg(chemin);
+        QBuffer tampon(&svg);
+        return svg.isEmpty() ? QImage() : lire(tampon, taille, "svg");
+    }
+    QFile fichier(chemin);
+    return fichier.open(QIODevice::ReadOnly) ? lire(fichier, taille, {}) : QImage();
+}
+
+QString Images::NomDeFichier(const QString &titre)
+{
+    static const QString refuses = QStringLiteral("/\\:*?\"<>|");
+    QString nom = titre.left(LongueurDuNom);
+    for (QChar &c : nom) {
+        if (refuses.contains(c) || c.category() == QChar::Other_Control)
+            c = u'_';
+    }
+    // A leading dot would hide the file.
+    for (qsizetype i = 0; i < nom.size() && nom[i] == u'.'; ++i)
+        nom[i] = u'_';
+    return nom;
 }

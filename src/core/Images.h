@@ -22,6 +22,9 @@ QString Trouver(const QString &nom);
 /// not copied again; a name that another picture has gets " (2)" and so on. Throws Error.
 QString Copier(const QString &chemin);
 
+/// A text as part of a file name: what a file system refuses, or hides, becomes "_"; cut at 120 characters.
+QString NomDeFichier(const QString &texte);
+
 /// Decoded picture of a file, reduced to fit `taille` (pixels) when it is larger; upright by its own
 /// orientation mark. Null when the file is no picture or has more than PixelsMax pixels; of one that is cut
 /// short, what there is of it may come. Safe in any thread.

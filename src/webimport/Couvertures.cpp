@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr qsizetype LongueurDuNom = 120;
 constexpr QSize TailleDEssai(64, 64);
 
 void ecrire(const QString &chemin, const QByteArray &octets)
@@ -51,20 +50,6 @@ QUrl Couvertures::Adresse(const QString &hote, const QString &morceau, Rang rang
     return QUrl(adresse, QUrl::TolerantMode);
 }
 
-QString Couvertures::NomDeFichier(const QString &titre)
-{
-    static const QString refuses = QStringLiteral("/\\:*?\"<>|");
-    QString nom = titre.left(LongueurDuNom);
-    for (QChar &c : nom) {
-        if (refuses.contains(c) || c.category() == QChar::Other_Control)
-            c = u'_';
-    }
-    // A leading dot would hide the file.
-    for (qsizetype i = 0; i < nom.size() && nom[i] == u'.'; ++i)
-        nom[i] = u'_';
-    return nom;
-}
-
 QString Couvertures::Garder(const QByteArray &octets, const QString &titre, Rang rang)
 {
     const Dossier &dossier = Dossier::courant();
@@ -73,7 +58,7 @@ QString Couvertures::Garder(const QByteArray &octets, const QString &titre, Rang
     ecrire(brouillon, octets);
     if (Images::Decoder(brouillon, TailleDEssai).isNull())
         return {};
-    const QString debut = NomDeFichier(titre) + u'_' + numero;
+    const QString debut = Images::NomDeFichier(titre) + u'_' + numero;
     QString nom = debut + QStringLiteral(".jpg");
     const Base base;
     for (int essai = 2; estUtilisee(base, nom); ++essai)

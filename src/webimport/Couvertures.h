@@ -17,7 +17,4 @@ QUrl Adresse(const QString &hote, const QString &morceau, Rang rang);
 /// one gets " (2)". Throws Error when a file cannot be written.
 QString Garder(const QByteArray &octets, const QString &titre, Rang rang);
 
-/// A title as part of a file name: what a file system refuses becomes "_".
-QString NomDeFichier(const QString &titre);
-
 }
