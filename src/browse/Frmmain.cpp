@@ -253,7 +253,7 @@ void Frmmain::montrerEntree(Entree entree)
         Reglages::courant().ecrire(Cle::Tris, static_cast<int>(entree.tri));
     }
     if (entree.tri == m_volet->tri()) {
-        m_volet->liste()->choisir(entree.id);
+        m_volet->montrerLigne(entree.id);
         choisir(entree);
         return;
     }
@@ -400,7 +400,11 @@ void Frmmain::actualiser(const Changements &changements)
 {
     m_volet->actualiser(changements);
     const Entree avant = m_courante;
-    if (m_courante.id > 0)
+    // Who is no longer in the list of his kind is gone from here, though his row may stay.
+    const bool parti = avant.tri == m_volet->tri() && m_volet->liste()->modele().entrees().rang(avant.id) < 0;
+    if (parti)
+        oublier();
+    else if (m_courante.id > 0)
         montrerFiche(m_courante);
     if (m_courante.id == 0 && avant.id > 0 && avant.tri != m_volet->tri())
         montrerVoisin(avant.tri);

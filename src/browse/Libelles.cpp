@@ -59,31 +59,44 @@ Ajout ajouterAuteur(const Base &base, Tri tri, const QString &libelle)
 {
     const auto role
         = static_cast<AccesBase::Role>(static_cast<int>(tri) - static_cast<int>(Tri::Dessinateurs));
-    const QString nom = libelle.section(u',', 0, 0).trimmed();
-    const QString prenom = libelle.section(u',', 1).trimmed();
+    const QString avant = libelle.section(u',', 0, 0).trimmed();
+    // With nothing before the comma, the text is a name as it stands.
+    const QString nom = avant.isEmpty() ? libelle : avant;
+    const QString prenom = avant.isEmpty() ? QString() : libelle.section(u',', 1).trimmed();
     const auto la = base.OpenRecordset(
         QStringLiteral(
             "SELECT * From Auteurs where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"),
         {nom, prenom});
     if (la.AtEnd())
-        return {Creation::CreerAuteur(nom.isEmpty() ? libelle : nom, prenom, role), true};
+        return {Creation::CreerAuteur(nom, prenom, role), true};
     const int id = la.Fields(0).toInt();
     const bool exerce = la.Fields(AccesBase::NomDuRole(role)).toBool();
     AccesBase::PoserRole(id, role);
     return {id, !exerce};
 }
 
+/// The entry of this label; a press item is told from its neighbours by its number.
+int chercherNomme(const Base &base, Tri tri, const QString &libelle)
+{
+    const QString table = General::TableDe(tri);
+    QString sql = QStringLiteral("SELECT %1 From %2 where Nom = ?").arg(Schema::Champs(table).first(), table);
+    QVariantList valeurs{libelle};
+    if (tri == Tri::Presse) {
+        const DePresse lu = LireDePresse(libelle);
+        sql += QStringLiteral(" and coalesce(NPresseBD, 0) = ?");
+        valeurs = {lu.nom, lu.numero.value_or(0)};
+    }
+    const auto rs = base.OpenRecordset(sql + QStringLiteral(" order by 1 asc"), valeurs);
+    return rs.AtEnd() ? 0 : rs.Fields(0).toInt();
+}
+
 Ajout ajouterNomme(const Base &base, Tri tri, const QString &libelle)
 {
     const QString table = General::TableDe(tri);
-    const QString cle = Schema::Champs(table).first();
-    // Of one print one may have several; a press item is told from its neighbours by its number.
-    if (tri != Tri::ExLibris && tri != Tri::Presse) {
-        const auto la = base.OpenRecordset(
-            QStringLiteral("SELECT %1 From %2 where Nom = ? order by %1 asc").arg(cle, table), {libelle});
-        if (!la.AtEnd())
-            return {la.Fields(0).toInt(), false};
-    }
+    // Of one print one may have several.
+    const int la = tri == Tri::ExLibris ? 0 : chercherNomme(base, tri, libelle);
+    if (la > 0)
+        return {la, false};
     const int id = Creation::CreerEntree(table, libelle);
     if (tri == Tri::Presse)
         renommerPresse(id, libelle);

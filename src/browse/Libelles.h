@@ -11,8 +11,8 @@ enum class Renommage { Rien, Fait, Coupe };
 Renommage Renommer(General::Tri tri, int id, const QString &libelle);
 
 /// Adds an entry by the text of its label, with the defaults of a creation; an author who is there already
-/// gets the trade of the list. Nothing is added for a blank text, nor when there is such an entry already: its
-/// number is returned then. Albums are not added so. Throws Error.
+/// gets the trade of the list. Nothing is added for a blank text, nor when there is such an entry already (of a print
+/// one may have several): its number is returned then. Albums are not added so. Throws Error.
 struct Ajout
 {
     int id = 0;

@@ -156,6 +156,13 @@ void VoletListes::brancher()
     connect(&m_liste->modele(), &ListeEntrees::rowsRemoved, this, &VoletListes::poserNombre);
 }
 
+void VoletListes::montrerLigne(int id)
+{
+    if (!m_liste->modele().indexDe(id).isValid())
+        m_filtre->clear();
+    m_liste->choisir(id);
+}
+
 void VoletListes::filtrer()
 {
     m_filtre->setFocus();
@@ -287,7 +294,9 @@ void VoletListes::actualiser(const Changements &changements)
         remplir(m_tri);
     else
         poserPretes();
-    if (m_lies.id > 0)
+    if (m_lies.id > 0 && m_liste->modele().entrees().rang(m_lies.id) < 0)
+        viderLies();
+    else if (m_lies.id > 0)
         montrerLies(m_lies);
 }
 

@@ -31,6 +31,8 @@ public:
     void actualiser(const Changements &changements);
 
     General::Tri tri() const { return m_tri; }
+    /// Makes an entry of the main list the current one, taking away the filter that would hide it.
+    void montrerLigne(int id);
     /// Puts the cursor into the line that narrows the main list.
     void filtrer();
     /// Opens an empty line in the main list, for the name of a new entry.

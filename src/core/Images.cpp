@@ -77,14 +77,14 @@ QByteArray enSvg(const QString &chemin)
 QImage lire(QIODevice &source, const QSize &taille, const QByteArray &format)
 {
     // The platform's own limit is lower than ours.
-    constexpr int LimiteMio = static_cast<int>(PixelsMax * 4 >> 20) + 1;
+    constexpr int LimiteMio = static_cast<int>(Images::PixelsMax * 4 >> 20) + 1;
     static const bool fixee = (QImageReader::setAllocationLimit(LimiteMio), true);
     Q_UNUSED(fixee)
     QImageReader lecteur(&source, format);
     lecteur.setAutoTransform(true);
     lecteur.setDecideFormatFromContent(format.isEmpty());
     const QSize entiere = lecteur.size();
-    if (!entiere.isValid() || qint64(entiere.width()) * entiere.height() > PixelsMax)
+    if (!entiere.isValid() || qint64(entiere.width()) * entiere.height() > Images::PixelsMax)
         return {};
     const bool couche = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     const QSize cadre = couche ? taille.transposed() : taille;

@@ -86,6 +86,9 @@ Personne separer(const QString &texte, Noms noms)
         return {texte.trimmed(), {}};
     const QString avant = texte.left(virgule).trimmed();
     const QString apres = texte.mid(virgule + 1).trimmed();
+    // With nothing where the name should be, the text is a name as it stands.
+    if ((noms == Noms::NomPrenom ? avant : apres).isEmpty())
+        return {texte.trimmed(), {}};
     return noms == Noms::NomPrenom ? Personne{avant, apres} : Personne{apres, avant};
 }
 
@@ -124,11 +127,9 @@ int chercher(const Base &base, const Offre &offre, const QString &texte)
 int creer(const Base &base, const Offre &offre, const QString &texte)
 {
     const auto [nom, prenom] = separer(texte, offre.noms);
-    // A comma with nothing before it names nobody: the text is a name as it stands.
-    const QString entier = nom.isEmpty() ? texte.trimmed() : nom;
     if (offre.role)
-        return Creation::CreerAuteur(entier, prenom, *offre.role);
-    const int id = Creation::CreerEntree(table(offre), entier);
+        return Creation::CreerAuteur(nom, prenom, *offre.role);
+    const int id = Creation::CreerEntree(table(offre), nom);
     if (!prenom.isEmpty()) {
         auto rs = base.OpenRecordset(
             QStringLiteral("SELECT * From %1 where %2 = ?").arg(table(offre), cle(offre)), {id});

@@ -76,6 +76,7 @@ void Pop::ouvrir(const Edition &edition, const QPoint &point)
 {
     m_edition = edition;
     clear();
+    delete m_langues; // a menu clears its actions, not its menus
     remplir();
     popup(point);
 }

@@ -48,7 +48,7 @@ constexpr int Numeriser = 0;
 constexpr int Ouvrir = 1;
 
 /// The fields that a picture of the workshop can go into.
-constexpr const char *Champs[] = {"Photo1", "Photo2", "Dedi(0)", "Dedi(1)"};
+constexpr const char *ChampsDImage[] = {"Photo1", "Photo2", "Dedi(0)", "Dedi(1)"};
 
 }
 
@@ -116,7 +116,7 @@ void Acquisition::construireBoites(QBoxLayout *page)
     colonne->addWidget(m_destination);
     colonne->addSpacing(Theme::Moyen);
     colonne->addWidget(m_album);
-    for (int i = 0; i < static_cast<int>(std::size(Champs)); ++i) {
+    for (int i = 0; i < static_cast<int>(std::size(ChampsDImage)); ++i) {
         auto *bouton = nommer(new QPushButton(this), QStringLiteral("Utiliser"), i);
         connect(bouton, &QPushButton::clicked, this, [this, i] { utiliser(i); });
         colonne->addWidget(bouton);
@@ -341,7 +341,7 @@ void Acquisition::utiliser(int rang)
 {
     Edition edition;
     edition.entree = m_courante;
-    edition.champ = QLatin1String(Champs[rang]);
+    edition.champ = QLatin1String(ChampsDImage[rang]);
     PhotosFiche::PoserImage(edition, m_photo->image());
     dire(tr("C'est fait : %1").arg(m_utiliser[static_cast<std::size_t>(rang)]->text()));
 }

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void lesAlbumsDUneEntree();
     void renommerEcritCeQueLeLibelleDit_data();
     void renommerEcritCeQueLeLibelleDit();
+    void ajouterNeDoubleRien_data();
+    void ajouterNeDoubleRien();
     void unChoixMontreLaValeurCourante();
     void leLibelleDePresseSeCoupe_data();
     void leLibelleDePresseSeCoupe();
@@ -135,6 +137,54 @@ void tst_general::renommerEcritCeQueLeLibelleDit()
     const Libelles::Renommage fait = Libelles::Renommer(TriDe(tri), id, libelle);
     QCOMPARE(fait == Libelles::Renommage::Coupe, libelle.size() == 60);
     QCOMPARE(QStringLiteral("%1:%2").arg(id).arg(LireTexte(TriDe(tri), id)), attendu);
+}
+
+void tst_general::ajouterNeDoubleRien_data()
+{
+    QTest::addColumn<int>("tri");
+    QTest::addColumn<QString>("libelle");
+    QTest::addColumn<QString>("attendu");
+    QTest::addColumn<int>("lignes");
+    QTest::addColumn<bool>("nouveau");
+    const auto cas
+        = [](const char *nom, int tri, const char *libelle, const char *attendu, int lignes, bool nouveau) {
+              QTest::newRow(nom) << tri << QString::fromUtf8(libelle) << QString::fromUtf8(attendu) << lignes
+                                 << nouveau;
+          };
+    cas("blanc", 1, "  \t ", "0:", 0, false);
+    cas("album", 0, "Echo", "0:", 0, false);
+    cas("série connue", 1, " ZIG ", "1:Zig", 0, false);
+    cas("série", 1, "L'été", "2:L'été", 1, true);
+    cas("éditeur", 7, "Aubert", "8:Aubert", 1, true);
+    cas("ex-libris en double", 5, "La noce", "2:La noce", 1, true);
+    cas("presse", 6, "Le Rire - 13", "3:Le Rire - 13", 1, true);
+    cas("auteur d'un autre métier", 4, "TÖPFFER,rodolphe", "1:Töpffer, Rodolphe", 0, true);
+    cas("auteur du métier", 2, "Töpffer, Rodolphe", "1:Töpffer, Rodolphe", 0, false);
+    cas("auteur sans prénom", 3, "Cham", "2:Cham", 0, true);
+    cas("auteur au prénom nul", 3, "Zed", "3:Zed", 0, true);
+    cas("homonyme", 3, "Töpffer, Charles", "4:Töpffer, Charles", 1, true);
+    cas("nom seul d'un autre", 3, "Töpffer", "4:Töpffer", 1, true);
+    cas("virgule sans nom", 2, ", Paul", "4:, Paul", 1, true);
+}
+
+void tst_general::ajouterNeDoubleRien()
+{
+    QFETCH(int, tri);
+    QFETCH(QString, libelle);
+    QFETCH(int, lignes);
+    const Bac bac;
+    peupler();
+    const qsizetype avant = Bac::toutLire().size();
+    const Libelles::Ajout ajout = Libelles::Ajouter(TriDe(tri), libelle);
+    QTEST(QStringLiteral("%1:%2").arg(ajout.id).arg(LireTexte(TriDe(tri), ajout.id)), "attendu");
+    QTEST(ajout.nouveau, "nouveau");
+    QCOMPARE(Bac::toutLire().size(), avant + lignes);
+    QCOMPARE(LireListe(TriDe(tri)).rang(ajout.id) >= 0, ajout.id > 0);
+    if (tri == 5 || ajout.id == 0)
+        return;
+    // The same once more is there already.
+    QCOMPARE(Libelles::Ajouter(TriDe(tri), libelle).id, ajout.id);
+    QCOMPARE(Bac::toutLire().size(), avant + lignes);
 }
 
 void tst_general::unChoixMontreLaValeurCourante()
