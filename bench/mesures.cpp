@@ -14,6 +14,7 @@
 #include "db/Comparaison.h"
 #include "db/Creation.h"
 #include "db/Schema.h"
+#include "pictures/Scan.h"
 #include "reports/Rechercher.h"
 
 #include <QCoreApplication>
@@ -105,6 +106,19 @@ void filtrer(benchmark::State &etat)
             etat.ResumeTiming();
             liste.filtrer(QStringLiteral("el"));
         }
+    }
+}
+
+/// A quarter turn of a picture of 12 million points, and the least that it must do: a copy of it.
+void tourner(benchmark::State &etat)
+{
+    QImage image(4000, 3000, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    for (auto _ : etat) {
+        if (etat.range(0) == 0)
+            benchmark::DoNotOptimize(image.copy().constBits());
+        else
+            benchmark::DoNotOptimize(Scan::Tourner(image, Scan::QuartDeTour).constBits());
     }
 }
 
@@ -258,6 +272,7 @@ void taillesEtTris(benchmark::internal::Benchmark *mesure)
 BENCHMARK(parcoursNu)->Apply(tailles);
 BENCHMARK(ouvrir)->Apply(tailles);
 BENCHMARK(remplirListe)->Apply(taillesEtTris);
+BENCHMARK(tourner)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(chercher)->Args({100'000, 0})->Args({100'000, 1})->Unit(benchmark::kMillisecond);
 BENCHMARK(filtrer)->Args({100'000, 0})->Args({100'000, 1})->Unit(benchmark::kMillisecond);
 BENCHMARK(albumsDUnEditeur)->Apply(tailles);

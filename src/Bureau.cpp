@@ -77,6 +77,9 @@ void Bureau::brancher(F *forme)
     if constexpr (requires { &F::menuDemande; })
         connect(forme, &F::menuDemande, this,
             [this](const Edition &edition, const QPoint &point) { pop().ouvrir(edition, point); });
+    if constexpr (requires { &F::imageDemandee; })
+        connect(
+            forme, &F::imageDemandee, this, [this](const Edition &edition) { pop().choisirImage(edition); });
     if constexpr (requires { &F::suppressionDemandee; })
         connect(forme, &F::suppressionDemandee, this,
             [this](General::Entree entree) { pop().supprimer(entree); });

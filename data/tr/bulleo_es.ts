@@ -2,6 +2,77 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="fr_FR">
 <context>
+    <name>Acquisition</name>
+    <message>
+        <source>aucun scanner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dernier résultat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Utiliser comme couverture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Utiliser comme dos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Utiliser comme dédicace 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Utiliser comme dédicace 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Cancelar</translation>
+    </message>
+    <message>
+        <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ouvrir un fichier image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ce fichier n&apos;est pas une image lisible : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format Bitmap (*.bmp)|*.bmp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image enregistrée : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Le presse-papiers ne contient pas d&apos;image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&apos;est fait : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AnalysePage</name>
     <message>
         <source>La page ne peut pas être analysée.</source>
@@ -449,10 +520,29 @@
     </message>
 </context>
 <context>
+    <name>Numeriseur</name>
+    <message>
+        <source>Le scanner a refusé l&apos;opération.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Le scanner a rendu une image d&apos;un format inconnu.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Il n&apos;y a pas de scanner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PhotosFiche</name>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Este archivo no es una imagen legible.</translation>
+    </message>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation type="unfinished">La imagen no se puede guardar.</translation>
     </message>
 </context>
 <context>
@@ -567,6 +657,13 @@
     <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Este archivo no es una imagen legible.</translation>
+    </message>
+</context>
+<context>
+    <name>Scan</name>
+    <message>
+        <source>L&apos;image ne peut pas être enregistrée.</source>
+        <translation type="unfinished">La imagen no se puede guardar.</translation>
     </message>
 </context>
 <context>

@@ -250,6 +250,7 @@ void FicheAlbum::construireDedicaces(QBoxLayout *colonne)
     for (int i = 0; i < 2; ++i) {
         m_photosD[i] = nommer(new CadreImage(this), QStringLiteral("PhotoD"), i);
         m_photosD[i]->setFixedHeight(HauteurDedicace);
+        brancherCadre(QStringLiteral("Dedi(%1)").arg(i), m_photosD[i]);
         images->addWidget(m_photosD[i]);
     }
     colonne->addLayout(images);

@@ -1,5 +1,6 @@
 #include "browse/FicheForme.h"
 
+#include "browse/PhotosFiche.h"
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
 #include "core/ui/ChoixPlat.h"
@@ -125,7 +126,26 @@ void FicheForme::brancher(const Champ &champ, QWidget *controle)
     } else if (auto *choix = qobject_cast<ChoixPlat *>(controle)) {
         connect(choix, &QComboBox::activated, this,
             [this, nom, choix] { ecrire(nom, choix->currentData().toString()); });
+    } else if (auto *cadre = qobject_cast<CadreImage *>(controle)) {
+        brancherCadre(nom, cadre);
     }
+}
+
+void FicheForme::brancherCadre(const QString &champ, CadreImage *cadre)
+{
+    cadre->poserModifiable();
+    connect(cadre, &CadreImage::fichierDepose, this,
+        [this, champ, cadre](const QString &chemin) { PhotosFiche::Poser(editionDe(champ, cadre), chemin); });
+    connect(cadre, &CadreImage::imageCollee, this, [this, champ, cadre](const QImage &image) {
+        PhotosFiche::PoserImage(editionDe(champ, cadre), image);
+    });
+    connect(cadre, &CadreImage::ouvertureDemandee, this,
+        [this, champ, cadre] { Liens::OuvrirImage(editionDe(champ, cadre).affichee); });
+    // A click on an empty frame fills it; one on a picture is only a look.
+    connect(cadre, &CadreImage::actionnee, this, [this, champ, cadre] {
+        if (!cadre->aUneImage())
+            Q_EMIT imageDemandee(editionDe(champ, cadre));
+    });
 }
 
 Edition FicheForme::editionDe(const QString &champ, const QWidget *controle) const

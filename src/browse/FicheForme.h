@@ -7,6 +7,7 @@
 #include <map>
 #include <vector>
 
+class CadreImage;
 class QGridLayout;
 
 /// What all sheets share: a control for each field of the table, made, captioned and filled by it.
@@ -28,6 +29,8 @@ Q_SIGNALS:
     void entreeDemandee(General::Entree entree);
     /// A value is to be entered or chosen in a form of its own.
     void editionDemandee(const Edition &edition);
+    /// A picture file is to be chosen for the field.
+    void imageDemandee(const Edition &edition);
     /// The context menu is asked for on a value, or beside the values when the edition names no field.
     void menuDemande(const Edition &edition, const QPoint &point);
     /// Something is to be said of what was written, or why nothing was.
@@ -64,6 +67,8 @@ protected:
     const Valeurs &valeurs() const { return m_valeurs; }
 
     Edition editionDe(const QString &champ, const QWidget *controle) const;
+    /// Connects a frame: what is dropped on it or pasted into it becomes the picture of the field.
+    void brancherCadre(const QString &champ, CadreImage *cadre);
     /// Writes a value that was entered on the sheet itself. Throws Error.
     void ecrire(const QString &champ, const QString &saisie, int visite = 0);
 

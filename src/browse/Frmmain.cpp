@@ -312,6 +312,7 @@ void Frmmain::inscrire(FicheForme *fiche)
     connect(fiche, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
     connect(fiche, &FicheForme::editionDemandee, this, &Frmmain::editionDemandee);
     connect(fiche, &FicheForme::menuDemande, this, &Frmmain::menuDemande);
+    connect(fiche, &FicheForme::imageDemandee, this, &Frmmain::imageDemandee);
     connect(fiche, &FicheForme::dit, this, &Frmmain::dire);
 }
 

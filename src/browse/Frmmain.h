@@ -53,6 +53,7 @@ Q_SIGNALS:
     void langueDemandee(const QString &fichier);
     void editionDemandee(const Edition &edition);
     void menuDemande(const Edition &edition, const QPoint &point);
+    void imageDemandee(const Edition &edition);
     void suppressionDemandee(General::Entree entree);
     /// Another sheet is shown.
     void entreeMontree(General::Entree entree);

@@ -13,6 +13,7 @@
 #include "entry/Suppression.h"
 
 #include <QApplication>
+#include <QClipboard>
 
 using Champs::Champ;
 using Champs::Vue;
@@ -144,8 +145,8 @@ void Pop::remplirValeur()
 void Pop::remplirImage()
 {
     const bool dedicace = estDedicace(m_edition);
-    commande(
-        dedicace ? "modifimageDedi" : "modifphoto", texte(Txt::ModifierLImage), [this] { choisirImage(); });
+    commande(dedicace ? "modifimageDedi" : "modifphoto", texte(Txt::ModifierLImage),
+        [this] { choisirImage(m_edition); });
     const bool pleine
         = dedicace ? Images::EstUneImage(m_edition.affichee) : !Texte::EstVide(m_edition.affichee);
     if (pleine)
@@ -153,19 +154,19 @@ void Pop::remplirImage()
             [this] { PhotosFiche::Oter(m_edition); });
 }
 
-void Pop::choisirImage()
+void Pop::choisirImage(const Edition &edition)
 {
-    const bool note = estDedicace(m_edition) && !Texte::EstVide(m_edition.affichee)
-        && !Images::EstUneImage(m_edition.affichee);
+    const bool note
+        = estDedicace(edition) && !Texte::EstVide(edition.affichee) && !Images::EstUneImage(edition.affichee);
     QWidget *devant = QApplication::activeWindow();
     if (note
         && !Messages::Demander(devant,
             tr("Cette dédicace est une note : « %1 ». L'image la remplacera. Continuer ?")
-                .arg(pourMenu(m_edition.affichee))))
+                .arg(pourMenu(edition.affichee))))
         return;
     const QString chemin = ChoisirImage(devant);
     if (!chemin.isEmpty())
-        PhotosFiche::Poser(m_edition, chemin);
+        PhotosFiche::Poser(edition, chemin);
 }
 
 void Pop::supprimer(General::Entree entree)

@@ -15,6 +15,9 @@ public:
 
     /// Opens on a value of a sheet, or on an entry when the edition names no field.
     void ouvrir(const Edition &edition, const QPoint &point);
+    /// Asks for a picture file and makes it that of the field; a dedication that is a note is asked about first.
+    /// Throws Error.
+    void choisirImage(const Edition &edition);
     /// Deletes an entry, once the user has agreed. Throws Error.
     void supprimer(General::Entree entree);
 
@@ -37,8 +40,6 @@ private:
     void remplirEntree();
     void remplirValeur();
     void remplirImage();
-
-    void choisirImage();
 
     Edition m_edition;
     QMenu *m_langues = nullptr;

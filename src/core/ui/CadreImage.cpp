@@ -1,11 +1,15 @@
 #include "core/ui/CadreImage.h"
 
 #include "core/Images.h"
+#include "core/ui/Legende.h"
 #include "core/ui/Theme.h"
 #include "core/ui/Vignettes.h"
 
+#include <QClipboard>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -37,6 +41,12 @@ void CadreImage::poserLegende(const QString &legende)
     update();
 }
 
+void CadreImage::poserModifiable()
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
+}
+
 void CadreImage::demander()
 {
     const int generation = ++m_generation;
@@ -66,6 +76,8 @@ void CadreImage::paintEvent(QPaintEvent *)
         p.drawRoundedRect(cadre, 3, 3);
         p.setPen(Theme::Discret(palette()));
         p.drawText(rect().adjusted(8, 8, -8, -8), int(Qt::AlignCenter) | Qt::TextWordWrap, m_legende);
+        if (hasFocus())
+            Legende::DessinerFocus(p, *this);
         return;
     }
     QRectF place(QPointF(), m_image.deviceIndependentSize().scaled(size(), Qt::KeepAspectRatio));
@@ -75,6 +87,8 @@ void CadreImage::paintEvent(QPaintEvent *)
     p.drawImage(place, m_image);
     p.setPen(Theme::Trait(palette()));
     p.drawRect(place.adjusted(0.5, 0.5, -0.5, -0.5));
+    if (hasFocus())
+        Legende::DessinerFocus(p, *this);
 }
 
 void CadreImage::resizeEvent(QResizeEvent *evenement)
@@ -88,6 +102,25 @@ void CadreImage::mouseReleaseEvent(QMouseEvent *evenement)
 {
     if (evenement->button() == Qt::LeftButton && rect().contains(evenement->position().toPoint()))
         Q_EMIT actionnee();
+}
+
+void CadreImage::mouseDoubleClickEvent(QMouseEvent *evenement)
+{
+    if (evenement->button() == Qt::LeftButton && aUneImage())
+        Q_EMIT ouvertureDemandee();
+}
+
+void CadreImage::keyPressEvent(QKeyEvent *evenement)
+{
+    const int touche = evenement->key();
+    const QImage collee
+        = evenement->matches(QKeySequence::Paste) ? QGuiApplication::clipboard()->image() : QImage();
+    if (!collee.isNull())
+        Q_EMIT imageCollee(collee);
+    else if (touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space)
+        aUneImage() ? Q_EMIT ouvertureDemandee() : Q_EMIT actionnee();
+    else
+        QWidget::keyPressEvent(evenement);
 }
 
 void CadreImage::dragEnterEvent(QDragEnterEvent *evenement)

@@ -22,8 +22,16 @@ public:
 
     QSize sizeHint() const override { return {216, 288}; }
 
+    /// A frame of a sheet: the keyboard comes to it, files are dropped on it and pictures pasted into it.
+    void poserModifiable();
+
 Q_SIGNALS:
+    /// Clicked, or Enter or Space was pressed on it.
     void actionnee();
+    /// Its picture is to be opened: double click, or Enter.
+    void ouvertureDemandee();
+    /// A picture was pasted with Ctrl+V.
+    void imageCollee(const QImage &image);
     /// A file was dropped on the frame, when it accepts drops.
     void fichierDepose(const QString &chemin);
 
@@ -33,6 +41,8 @@ protected:
     void dragEnterEvent(QDragEnterEvent *evenement) override;
     void dropEvent(QDropEvent *evenement) override;
     void mouseReleaseEvent(QMouseEvent *evenement) override;
+    void mouseDoubleClickEvent(QMouseEvent *evenement) override;
+    void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
     void demander();
