@@ -15,6 +15,7 @@
 #include "loans/Pret.h"
 #include "pictures/Acquisition.h"
 #include "reports/Recherche.h"
+#include "reports/Stats.h"
 #include "webimport/BDNet.h"
 
 #include <QApplication>
@@ -43,6 +44,7 @@ Bureau::Bureau(const Options &options)
     declarer<BDNet>(Nom::BDNet);
     declarer<Pret>(Nom::Pret);
     declarer<Recherche>(Nom::Recherche);
+    declarer<Stats>(Nom::Stats);
     declarer<FrmModif>(Nom::FrmModif);
     declarer<FrmModif2>(Nom::FrmModif2);
 }

@@ -5,71 +5,71 @@
     <name>Acquisition</name>
     <message>
         <source>aucun scanner</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Scanner</translation>
     </message>
     <message>
         <source>Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen oder öffnen Sie ein Bild, legen Sie hier eine Datei ab oder fügen Sie ein Bild mit Strg+V ein</translation>
     </message>
     <message>
         <source>Dernier résultat</source>
-        <translation type="unfinished"></translation>
+        <translation>Letztes Ergebnis</translation>
     </message>
     <message>
         <source>Utiliser comme couverture</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Titelbild verwenden</translation>
     </message>
     <message>
         <source>Utiliser comme dos</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Rückseite verwenden</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Widmung 1 verwenden</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Widmung 2 verwenden</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen Sie im Hauptfenster ein Album an, um ihm dieses Bild zuzuordnen.</translation>
     </message>
     <message>
         <source>Ouvrir un fichier image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddatei öffnen</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Bilddateien (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist kein lesbares Bild: %1</translation>
     </message>
     <message>
         <source>Format Bitmap (*.bmp)|*.bmp</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitmap-Format (*.bmp)|*.bmp</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Bilddateien (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Image enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild gespeichert: %1</translation>
     </message>
     <message>
         <source>Le presse-papiers ne contient pas d&apos;image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält kein Bild.</translation>
     </message>
     <message>
         <source>C&apos;est fait : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigt: %1</translation>
     </message>
 </context>
 <context>
@@ -523,15 +523,15 @@
     <name>Numeriseur</name>
     <message>
         <source>Le scanner a refusé l&apos;opération.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Scanner hat den Vorgang abgelehnt.</translation>
     </message>
     <message>
         <source>Le scanner a rendu une image d&apos;un format inconnu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Scanner hat ein Bild in einem unbekannten Format geliefert.</translation>
     </message>
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Scanner.</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">Das Bild kann nicht gespeichert werden.</translation>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>
@@ -663,7 +663,7 @@
     <name>Scan</name>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">Das Bild kann nicht gespeichert werden.</translation>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>

@@ -5,71 +5,71 @@
     <name>Acquisition</name>
     <message>
         <source>aucun scanner</source>
-        <translation type="unfinished"></translation>
+        <translation>no scanner</translation>
     </message>
     <message>
         <source>Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan or open a picture, drop a file here, or paste a picture with Ctrl+V</translation>
     </message>
     <message>
         <source>Dernier résultat</source>
-        <translation type="unfinished"></translation>
+        <translation>Last result</translation>
     </message>
     <message>
         <source>Utiliser comme couverture</source>
-        <translation type="unfinished"></translation>
+        <translation>Use as cover</translation>
     </message>
     <message>
         <source>Utiliser comme dos</source>
-        <translation type="unfinished"></translation>
+        <translation>Use as back</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Use as dedication 1</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Use as dedication 2</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Cancel</translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Show an album in the main window to give it this picture.</translation>
     </message>
     <message>
         <source>Ouvrir un fichier image</source>
-        <translation type="unfinished"></translation>
+        <translation>Open a picture file</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>All picture files (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>This file is not a readable picture: %1</translation>
     </message>
     <message>
         <source>Format Bitmap (*.bmp)|*.bmp</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitmap format (*.bmp)|*.bmp</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>All picture files (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Image enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Picture saved: %1</translation>
     </message>
     <message>
         <source>Le presse-papiers ne contient pas d&apos;image.</source>
-        <translation type="unfinished"></translation>
+        <translation>The clipboard does not contain a picture.</translation>
     </message>
     <message>
         <source>C&apos;est fait : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Done: %1</translation>
     </message>
 </context>
 <context>
@@ -523,15 +523,15 @@
     <name>Numeriseur</name>
     <message>
         <source>Le scanner a refusé l&apos;opération.</source>
-        <translation type="unfinished"></translation>
+        <translation>The scanner refused the operation.</translation>
     </message>
     <message>
         <source>Le scanner a rendu une image d&apos;un format inconnu.</source>
-        <translation type="unfinished"></translation>
+        <translation>The scanner returned a picture in an unknown format.</translation>
     </message>
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no scanner.</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">The picture cannot be saved.</translation>
+        <translation>The picture cannot be saved.</translation>
     </message>
 </context>
 <context>
@@ -663,7 +663,7 @@
     <name>Scan</name>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">The picture cannot be saved.</translation>
+        <translation>The picture cannot be saved.</translation>
     </message>
 </context>
 <context>

@@ -5,71 +5,71 @@
     <name>Acquisition</name>
     <message>
         <source>aucun scanner</source>
-        <translation type="unfinished"></translation>
+        <translation>ningún escáner</translation>
     </message>
     <message>
         <source>Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Escanee o abra una imagen, suelte aquí un archivo o pegue una imagen con Ctrl+V</translation>
     </message>
     <message>
         <source>Dernier résultat</source>
-        <translation type="unfinished"></translation>
+        <translation>Último resultado</translation>
     </message>
     <message>
         <source>Utiliser comme couverture</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar como cubierta</translation>
     </message>
     <message>
         <source>Utiliser comme dos</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar como contracubierta</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar como dedicatoria 1</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar como dedicatoria 2</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestre un álbum en la ventana principal para asignarle esta imagen.</translation>
     </message>
     <message>
         <source>Ouvrir un fichier image</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un archivo de imagen</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos de imagen (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no es una imagen legible: %1</translation>
     </message>
     <message>
         <source>Format Bitmap (*.bmp)|*.bmp</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato Bitmap (*.bmp)|*.bmp</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos de imagen (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Image enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen guardada: %1</translation>
     </message>
     <message>
         <source>Le presse-papiers ne contient pas d&apos;image.</source>
-        <translation type="unfinished"></translation>
+        <translation>El portapapeles no contiene ninguna imagen.</translation>
     </message>
     <message>
         <source>C&apos;est fait : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hecho: %1</translation>
     </message>
 </context>
 <context>
@@ -523,15 +523,15 @@
     <name>Numeriseur</name>
     <message>
         <source>Le scanner a refusé l&apos;opération.</source>
-        <translation type="unfinished"></translation>
+        <translation>El escáner ha rechazado la operación.</translation>
     </message>
     <message>
         <source>Le scanner a rendu une image d&apos;un format inconnu.</source>
-        <translation type="unfinished"></translation>
+        <translation>El escáner ha devuelto una imagen en un formato desconocido.</translation>
     </message>
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún escáner.</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">La imagen no se puede guardar.</translation>
+        <translation>La imagen no se puede guardar.</translation>
     </message>
 </context>
 <context>
@@ -663,7 +663,7 @@
     <name>Scan</name>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">La imagen no se puede guardar.</translation>
+        <translation>La imagen no se puede guardar.</translation>
     </message>
 </context>
 <context>

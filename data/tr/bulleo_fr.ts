@@ -5,71 +5,71 @@
     <name>Acquisition</name>
     <message>
         <source>aucun scanner</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun scanner</translation>
     </message>
     <message>
         <source>Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V</translation>
     </message>
     <message>
         <source>Dernier résultat</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier résultat</translation>
     </message>
     <message>
         <source>Utiliser comme couverture</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser comme couverture</translation>
     </message>
     <message>
         <source>Utiliser comme dos</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser comme dos</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser comme dédicace 1</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser comme dédicace 2</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrez un album dans la fenêtre principale pour lui donner cette image.</translation>
     </message>
     <message>
         <source>Ouvrir un fichier image</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier image</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n&apos;est pas une image lisible : %1</translation>
     </message>
     <message>
         <source>Format Bitmap (*.bmp)|*.bmp</source>
-        <translation type="unfinished"></translation>
+        <translation>Format Bitmap (*.bmp)|*.bmp</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Image enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Image enregistrée : %1</translation>
     </message>
     <message>
         <source>Le presse-papiers ne contient pas d&apos;image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le presse-papiers ne contient pas d&apos;image.</translation>
     </message>
     <message>
         <source>C&apos;est fait : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;est fait : %1</translation>
     </message>
 </context>
 <context>
@@ -523,15 +523,15 @@
     <name>Numeriseur</name>
     <message>
         <source>Le scanner a refusé l&apos;opération.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le scanner a refusé l&apos;opération.</translation>
     </message>
     <message>
         <source>Le scanner a rendu une image d&apos;un format inconnu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le scanner a rendu une image d&apos;un format inconnu.</translation>
     </message>
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de scanner.</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">L&apos;image ne peut pas être enregistrée.</translation>
+        <translation>L&apos;image ne peut pas être enregistrée.</translation>
     </message>
 </context>
 <context>
@@ -663,7 +663,7 @@
     <name>Scan</name>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">L&apos;image ne peut pas être enregistrée.</translation>
+        <translation>L&apos;image ne peut pas être enregistrée.</translation>
     </message>
 </context>
 <context>

@@ -5,71 +5,71 @@
     <name>Acquisition</name>
     <message>
         <source>aucun scanner</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno scanner</translation>
     </message>
     <message>
         <source>Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Scansionate o aprite un&apos;immagine, trascinate qui un file oppure incollate un&apos;immagine con Ctrl+V</translation>
     </message>
     <message>
         <source>Dernier résultat</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo risultato</translation>
     </message>
     <message>
         <source>Utiliser comme couverture</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa come copertina</translation>
     </message>
     <message>
         <source>Utiliser comme dos</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa come retro</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa come dedica 1</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa come dedica 2</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Annulla</translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrate un album nella finestra principale per assegnargli questa immagine.</translation>
     </message>
     <message>
         <source>Ouvrir un fichier image</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri un file immagine</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file immagine (*.bmp;*.jpg;*.wmf;*.ico)|*.bmp;*.jpg;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image lisible : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non è un&apos;immagine leggibile: %1</translation>
     </message>
     <message>
         <source>Format Bitmap (*.bmp)|*.bmp</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato Bitmap (*.bmp)|*.bmp</translation>
     </message>
     <message>
         <source>Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file immagine (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico</translation>
     </message>
     <message>
         <source>Image enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine salvata: %1</translation>
     </message>
     <message>
         <source>Le presse-papiers ne contient pas d&apos;image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli appunti non contengono alcuna immagine.</translation>
     </message>
     <message>
         <source>C&apos;est fait : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatto: %1</translation>
     </message>
 </context>
 <context>
@@ -523,15 +523,15 @@
     <name>Numeriseur</name>
     <message>
         <source>Le scanner a refusé l&apos;opération.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo scanner ha rifiutato l&apos;operazione.</translation>
     </message>
     <message>
         <source>Le scanner a rendu une image d&apos;un format inconnu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo scanner ha restituito un&apos;immagine in un formato sconosciuto.</translation>
     </message>
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è alcuno scanner.</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">Impossibile salvare l&apos;immagine.</translation>
+        <translation>Impossibile salvare l&apos;immagine.</translation>
     </message>
 </context>
 <context>
@@ -663,7 +663,7 @@
     <name>Scan</name>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
-        <translation type="unfinished">Impossibile salvare l&apos;immagine.</translation>
+        <translation>Impossibile salvare l&apos;immagine.</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "core/Splash.h"
 
+#include "core/Fonds.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Fond.h"
@@ -191,7 +192,7 @@ Splash::Splash()
     setMinimumSize(TailleMinimale.boundedTo(ecran));
     resize(TailleDessinee.boundedTo(ecran));
     auto *panneau = nommer(new Fond(this), QStringLiteral("SSSplash1"));
-    panneau->poser(Fond::Texture(Reglages::courant().entier(Cle::Splash)), true);
+    panneau->poser(Fonds::Texture(Reglages::courant().entier(Cle::Splash)), true);
     auto *page = new QHBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->addWidget(panneau);

@@ -13,12 +13,14 @@ namespace {
 
 void limiter()
 {
-    constexpr rlim_t Memoire = rlim_t(512) << 20;
     constexpr rlim_t Secondes = 10;
-    const rlimit memoire{Memoire, Memoire};
     const rlimit temps{Secondes, Secondes};
-    setrlimit(RLIMIT_AS, &memoire);
     setrlimit(RLIMIT_CPU, &temps);
+#ifndef __SANITIZE_ADDRESS__ // whose shadow memory alone is larger than any limit
+    constexpr rlim_t Memoire = rlim_t(512) << 20;
+    const rlimit memoire{Memoire, Memoire};
+    setrlimit(RLIMIT_AS, &memoire);
+#endif
 }
 
 bool convertir(const char *chemin)
