@@ -172,8 +172,7 @@ void Bureau::montrerEtape(const Etape &etape, const QString &message)
 {
     auto *fenetre = forme<Frmmain>(Nom::Frmmain);
     const auto entree = etape.lieu.value<General::Entree>();
-    if (entree.id > 0 && entree != fenetre->courante()
-        && General::LireTexte(entree.tri, entree.id) != QString())
+    if (entree.id > 0 && entree != fenetre->courante() && General::EstDansLaListe(entree.tri, entree.id))
         fenetre->montrerEntree(entree);
     fenetre->dire(message.arg(etape.titre));
 }

@@ -6,7 +6,6 @@
 #include "core/ui/Forme.h"
 #include "db/Historique.h"
 
-#include <QPointer>
 #include <functional>
 #include <map>
 

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="fr_FR">
 <context>
+    <name>AccordPourLaNote</name>
+    <message>
+        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
+        <translation type="unfinished">Questa dedica è una nota: «%1». L&apos;immagine la sostituirà. Continuare?</translation>
+    </message>
+</context>
+<context>
     <name>Acquisition</name>
     <message>
         <source>aucun scanner</source>
@@ -70,6 +77,14 @@
     <message>
         <source>C&apos;est fait : %1</source>
         <translation>Fatto: %1</translation>
+    </message>
+    <message>
+        <source>Les scanners sont encore recherchés.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>« %1 » existe déjà. Le remplacer ?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -427,10 +442,6 @@
         <translation>Il titolo è stato troncato a 50 caratteri.</translation>
     </message>
     <message>
-        <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation>Per ora nessuna scheda da mostrare</translation>
-    </message>
-    <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
         <translation>Impossibile aprire la guida.</translation>
     </message>
@@ -445,6 +456,10 @@
     <message>
         <source>La donnée existe déjà !</source>
         <translation>Questo dato esiste già!</translation>
+    </message>
+    <message>
+        <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -567,6 +582,13 @@
     </message>
 </context>
 <context>
+    <name>PileFiches</name>
+    <message>
+        <source>Aucune fiche à montrer pour l&apos;instant</source>
+        <translation type="unfinished">Per ora nessuna scheda da mostrare</translation>
+    </message>
+</context>
+<context>
     <name>Pop</name>
     <message>
         <source>Quitter</source>
@@ -575,10 +597,6 @@
     <message>
         <source>Suppr</source>
         <translation>Canc</translation>
-    </message>
-    <message>
-        <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation>Questa dedica è una nota: «%1». L&apos;immagine la sostituirà. Continuare?</translation>
     </message>
 </context>
 <context>
@@ -675,6 +693,32 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Non ancora disponibile</translation>
+    </message>
+</context>
+<context>
+    <name>Statistiques</name>
+    <message>
+        <source>La page des statistiques ne peut pas être écrite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Stats</name>
+    <message>
+        <source>La page est ouverte dans votre navigateur : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La page est écrite, mais aucun programme ne l&apos;ouvre : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Annulla</translation>
+    </message>
+    <message>
+        <source>Recalculer</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

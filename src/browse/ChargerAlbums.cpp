@@ -60,10 +60,11 @@ int trouverIntervenant(const Base &base, const QString &texte)
     const QString table = QStringLiteral("Inter");
     const QString cle = QStringLiteral("NInter");
     const qsizetype virgule = texte.indexOf(u',');
-    if (virgule < 0)
+    if (virgule < 0 || texte.mid(virgule + 1).trimmed().isEmpty())
         return trouverOuFaire(base, table, cle, QStringLiteral("SELECT * From Inter where Nom = ?"), {texte});
     return trouverOuFaire(base, table, cle,
-        QStringLiteral("SELECT * From Inter where Nom = ? and trim(Prenom) = ? collate FRANCAIS"),
+        QStringLiteral(
+            "SELECT * From Inter where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"),
         {texte.mid(virgule + 1).trimmed(), texte.left(virgule).trimmed()});
 }
 

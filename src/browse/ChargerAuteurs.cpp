@@ -45,7 +45,9 @@ void ecrireDeuxNoms(int nAuteur, const QString &texte)
     Transaction transaction(base);
     const qsizetype coupe = texte.indexOf(QLatin1String(", "));
     Fiche::Ecrire(Feuille::Auteur, nAuteur, "Prenom", texte.left(coupe).trimmed());
-    Fiche::Ecrire(Feuille::Auteur, nAuteur, "Nom", texte.mid(coupe + 2).trimmed());
+    const QString nom = texte.mid(coupe + 2).trimmed();
+    if (!nom.isEmpty())
+        Fiche::Ecrire(Feuille::Auteur, nAuteur, "Nom", nom);
     transaction.Commit();
 }
 

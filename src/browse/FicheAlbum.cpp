@@ -11,7 +11,6 @@
 #include "core/ui/Theme.h"
 #include "core/ui/TitreGroupe.h"
 
-#include <QCheckBox>
 #include <QGridLayout>
 #include <QStackedLayout>
 #include <QToolButton>
@@ -344,6 +343,7 @@ void FicheAlbum::Traduire()
 
 void FicheAlbum::montrer(const ChargerAlbums::FicheAlbum &fiche)
 {
+    const bool memeAlbum = fiche.num == m_fiche.num;
     m_fiche = fiche;
     montrerValeurs({General::Tri::Albums, fiche.num}, fiche.valeurs);
     std::vector<std::pair<QString, QString>> lignes;
@@ -356,7 +356,7 @@ void FicheAlbum::montrer(const ChargerAlbums::FicheAlbum &fiche)
     m_cotes->montrer(lignes);
     montrerInfos(fiche.infos);
     montrerDedicaces(fiche.valeurs);
-    montrerFace(false);
+    montrerFace(memeAlbum && m_dos);
 }
 
 void FicheAlbum::montrerInfos(const InfosAlbum &infos)

@@ -203,6 +203,12 @@ void FicheForme::ecrireMemos()
         memo->annoncer();
 }
 
+void FicheForme::oublierMemos()
+{
+    for (Memo *memo : findChildren<Memo *>())
+        memo->oublier();
+}
+
 bool FicheForme::memosEnAttente() const
 {
     const QList<Memo *> memos = findChildren<Memo *>();
@@ -284,6 +290,9 @@ void FicheForme::inscrire(QWidget *valeur)
 
 void FicheForme::montrerValeurs(General::Entree entree, const Valeurs &valeurs)
 {
+    // What was typed here belongs to the entry that the sheet has shown.
+    if (entree != m_entree)
+        ecrireMemos();
     m_entree = entree;
     if (&valeurs != &m_valeurs)
         m_valeurs = valeurs;

@@ -24,6 +24,8 @@ public:
     /// Writes what was typed into the texts and still waits. Throws Error; it then goes on waiting.
     void ecrireMemos();
     bool memosEnAttente() const;
+    /// Gives up what waits.
+    void oublierMemos();
 
 Q_SIGNALS:
     void entreeDemandee(General::Entree entree);

@@ -1,11 +1,9 @@
 #include "browse/Frmmain.h"
 
 #include "browse/Bandeau.h"
-#include "browse/ChargerAlbums.h"
-#include "browse/FicheAlbum.h"
-#include "browse/FicheEntite.h"
 #include "browse/Libelles.h"
 #include "browse/Pied.h"
+#include "browse/PileFiches.h"
 #include "browse/VoletListes.h"
 #include "browse/VueListe.h"
 #include "core/Dossier.h"
@@ -29,12 +27,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLoggingCategory>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -86,13 +82,7 @@ void Frmmain::construireCorps(QBoxLayout *page)
     m_defilement->setFrameShape(QFrame::NoFrame);
     m_defilement->setFocusPolicy(Qt::NoFocus);
     m_defilement->viewport()->setAutoFillBackground(false);
-    m_fiches = new QStackedWidget(m_defilement);
-    m_fiches->setAutoFillBackground(false);
-    m_accueil = nommer(new QLabel(m_fiches), QStringLiteral("Accueil"));
-    m_accueil->setAlignment(Qt::AlignCenter);
-    m_accueil->setForegroundRole(QPalette::PlaceholderText);
-    m_accueil->setFont(Theme::Taille(font(), 1.3));
-    m_fiches->addWidget(m_accueil);
+    m_fiches = new PileFiches(m_defilement);
     m_defilement->setWidget(m_fiches);
     m_fiches->setAutoFillBackground(false);
     surFond->addWidget(m_defilement);
@@ -116,6 +106,11 @@ void Frmmain::brancher()
         edition.entree = entree;
         Q_EMIT menuDemande(edition, point);
     });
+    connect(m_fiches, &PileFiches::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
+    connect(m_fiches, &PileFiches::editionDemandee, this, &Frmmain::editionDemandee);
+    connect(m_fiches, &PileFiches::menuDemande, this, &Frmmain::menuDemande);
+    connect(m_fiches, &PileFiches::imageDemandee, this, &Frmmain::imageDemandee);
+    connect(m_fiches, &PileFiches::dit, this, &Frmmain::dire);
     connect(m_bandeau, &Bandeau::formeDemandee, this, &Frmmain::formeDemandee);
     connect(m_bandeau, &Bandeau::langueDemandee, this, &Frmmain::langueDemandee);
     connect(m_bandeau, &Bandeau::aideDemandee, this, &Frmmain::ouvrirAide);
@@ -125,8 +120,7 @@ void Frmmain::brancher()
     connect(m_bandeau, &Bandeau::sortieDemandee, this, &Frmmain::close);
     connect(m_bandeau, &Bandeau::loopBascule, this, [this](bool actif) {
         Reglages::courant().ecrire(Cle::Loop, actif);
-        if (m_ficheAlbum)
-            m_ficheAlbum->poserDefilement(actif);
+        m_fiches->poserDefilement(actif);
     });
     connect(m_bandeau, &Bandeau::annulationDemandee, this, &Frmmain::annuler);
     connect(m_bandeau, &Bandeau::retablissementDemande, this, &Frmmain::retablir);
@@ -168,6 +162,7 @@ void Frmmain::charger()
     m_fond->charger();
     restaurerTaille();
     m_bandeau->poserLoop(Reglages::courant().booleen(Cle::Loop));
+    m_fiches->poserDefilement(Reglages::courant().booleen(Cle::Loop));
     // From the event loop, so that a collection that cannot be opened is told of like any other error, and
     // still before the window is first painted.
     QTimer::singleShot(0, this, [this] {
@@ -236,7 +231,7 @@ void Frmmain::montrerPremiere()
     if (liste->currentIndex().isValid())
         return;
     if (liste->modele().rowCount() == 0) {
-        m_fiches->setCurrentIndex(0);
+        oublier();
         return;
     }
     const int premiere = liste->modele().entrees().id(0);
@@ -274,61 +269,17 @@ void Frmmain::montrerFiche(Entree entree)
     if (entree != m_courante)
         quitterFiche();
     m_courante = entree;
-    Q_EMIT entreeMontree(entree);
-    if (entree.tri == Tri::Albums)
-        return montrerAlbum(entree.id);
-    const Champs::Feuille feuille = GenreDe(entree.tri).feuille;
-    const auto valeurs = Fiche::Lire(feuille, entree.id);
-    if (!valeurs)
-        return oublier();
-    FicheEntite *&fiche = m_fichesEntites[feuille];
-    if (!fiche) {
-        fiche = new FicheEntite(feuille, m_fiches);
-        inscrire(fiche);
-    }
-    fiche->montrer(entree, *valeurs, LireAlbums(entree.tri, entree.id));
-    if (feuille == Champs::Feuille::Auteur)
-        fiche->montrerMetiers(ChargerAuteurs::LireMetiers(entree.id, entree.tri));
-    m_fiches->setCurrentWidget(fiche);
-}
-
-void Frmmain::montrerAlbum(int num)
-{
-    const auto fiche = ChargerAlbums::AfficherAlbum(num);
-    if (!fiche)
-        return oublier();
-    if (!m_ficheAlbum) {
-        m_ficheAlbum = new FicheAlbum(m_fiches);
-        inscrire(m_ficheAlbum);
-        m_ficheAlbum->poserDefilement(Reglages::courant().booleen(Cle::Loop));
-    }
-    m_ficheAlbum->montrer(*fiche);
-    m_fiches->setCurrentWidget(m_ficheAlbum);
-}
-
-void Frmmain::inscrire(FicheForme *fiche)
-{
-    m_fiches->addWidget(fiche);
-    connect(fiche, &FicheForme::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
-    connect(fiche, &FicheForme::editionDemandee, this, &Frmmain::editionDemandee);
-    connect(fiche, &FicheForme::menuDemande, this, &Frmmain::menuDemande);
-    connect(fiche, &FicheForme::imageDemandee, this, &Frmmain::imageDemandee);
-    connect(fiche, &FicheForme::dit, this, &Frmmain::dire);
-}
-
-FicheForme *Frmmain::ficheMontree() const
-{
-    return qobject_cast<FicheForme *>(m_fiches->currentWidget());
+    if (m_fiches->montrer(entree))
+        Q_EMIT entreeMontree(entree);
+    else
+        oublier();
 }
 
 /// What was typed into the sheet's texts is written before another sheet stands in its place.
 void Frmmain::quitterFiche()
 {
-    FicheForme *fiche = ficheMontree();
-    if (!fiche || m_courante.id == 0)
-        return;
     try {
-        fiche->ecrireMemos();
+        m_fiches->ecrireMemos();
     } catch (...) {
         // The text stays, and the list stands by it.
         if (m_courante.tri == m_volet->tri())
@@ -339,15 +290,13 @@ void Frmmain::quitterFiche()
 
 void Frmmain::annuler()
 {
-    if (FicheForme *fiche = ficheMontree())
-        fiche->ecrireMemos();
+    m_fiches->ecrireMemos();
     Q_EMIT annulationDemandee();
 }
 
 void Frmmain::retablir()
 {
-    if (FicheForme *fiche = ficheMontree())
-        fiche->ecrireMemos();
+    m_fiches->ecrireMemos();
     Q_EMIT retablissementDemande();
 }
 
@@ -355,7 +304,8 @@ void Frmmain::retablir()
 void Frmmain::oublier()
 {
     m_courante = {};
-    m_fiches->setCurrentIndex(0);
+    m_fiches->vider();
+    Q_EMIT entreeMontree(m_courante);
 }
 
 void Frmmain::renommerEntree(Entree entree)
@@ -432,10 +382,7 @@ void Frmmain::choisirCourante()
 void Frmmain::appliquerApparence()
 {
     m_volet->appliquerApparence();
-    if (m_ficheAlbum)
-        m_ficheAlbum->AppliquerPolicesFiche();
-    for (const auto &[feuille, fiche] : m_fichesEntites)
-        fiche->AppliquerPolicesFiche();
+    m_fiches->AppliquerPolices();
     m_fond->charger();
 }
 
@@ -459,9 +406,9 @@ void Frmmain::Traduire()
     setWindowTitle(titre());
     m_bandeau->Traduire();
     m_volet->Traduire();
-    m_accueil->setText(tr("Aucune fiche à montrer pour l'instant"));
+    m_fiches->Traduire();
     m_pied->Traduire();
-    if (m_courante.id > 0)
+    if (m_ouverte)
         QTimer::singleShot(0, this, [this] { actualiser({}); });
 }
 
@@ -503,13 +450,9 @@ void Frmmain::ouvrirMenu()
 
 void Frmmain::closeEvent(QCloseEvent *evenement)
 {
-    FicheForme *fiche = ficheMontree();
-    if (fiche && fiche->memosEnAttente()) {
+    if (m_fiches->memosEnAttente()) {
         evenement->ignore();
-        QTimer::singleShot(0, this, [this, fiche] {
-            fiche->ecrireMemos();
-            close();
-        });
+        QTimer::singleShot(0, this, &Frmmain::ecrirePuisFermer);
         return;
     }
     const QString question = texte(Txt::VoulezVousQuitter) + u' ' + titre() + QStringLiteral(" ?");
@@ -521,6 +464,21 @@ void Frmmain::closeEvent(QCloseEvent *evenement)
     QFile::remove(Dossier::courant().chemin(QStringLiteral("temp.bmp")));
     evenement->accept();
     Q_EMIT sortie();
+}
+
+/// A text that cannot be written does not keep anybody in the program.
+void Frmmain::ecrirePuisFermer()
+{
+    try {
+        m_fiches->ecrireMemos();
+    } catch (const Error &e) {
+        const QString question
+            = tr("Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?");
+        if (!Messages::Demander(this, e.message() + u'\n' + question))
+            return;
+        m_fiches->oublierMemos();
+    }
+    close();
 }
 
 void Frmmain::ouvrirAide()

@@ -4,19 +4,14 @@
 #include "core/ui/Forme.h"
 
 #include <functional>
-#include <map>
 
 class Bandeau;
-class FicheAlbum;
-class FicheEntite;
-class FicheForme;
 class Fond;
 class Pied;
+class PileFiches;
 class QBoxLayout;
-class QLabel;
 class QScrollArea;
 class QSplitter;
-class QStackedWidget;
 class VoletListes;
 
 /// The browsing window: menu row, lists, and the sheet of the chosen entry.
@@ -55,7 +50,7 @@ Q_SIGNALS:
     void menuDemande(const Edition &edition, const QPoint &point);
     void imageDemandee(const Edition &edition);
     void suppressionDemandee(General::Entree entree);
-    /// Another sheet is shown.
+    /// Another sheet is shown; its entry's number is 0 when there is none.
     void entreeMontree(General::Entree entree);
     void annulationDemandee();
     void retablissementDemande();
@@ -80,17 +75,15 @@ private:
 
     void choisir(General::Entree entree);
     void montrerFiche(General::Entree entree);
-    void montrerAlbum(int num);
     void oublier();
     void renommer(General::Tri tri, int id, const QString &libelle);
     void ajouter(General::Tri tri, const QString &libelle);
     void choisirCourante();
     void montrerVoisin(General::Tri tri);
-    FicheForme *ficheMontree() const;
-    void inscrire(FicheForme *fiche);
     void quitterFiche();
     void annuler();
     void retablir();
+    void ecrirePuisFermer();
     void ouvrirMenu();
     void ouvrirAide();
     void apropos();
@@ -100,10 +93,7 @@ private:
     VoletListes *m_volet = nullptr;
     Fond *m_fond = nullptr;
     QScrollArea *m_defilement = nullptr;
-    QStackedWidget *m_fiches = nullptr;
-    FicheAlbum *m_ficheAlbum = nullptr;
-    std::map<Champs::Feuille, FicheEntite *> m_fichesEntites;
-    QLabel *m_accueil = nullptr;
+    PileFiches *m_fiches = nullptr;
     Pied *m_pied = nullptr;
     General::Entree m_courante;
     bool m_peinte = false;

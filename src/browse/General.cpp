@@ -6,6 +6,7 @@
 #include "core/Texte.h"
 #include "db/AccesBase.h"
 #include "db/Base.h"
+#include "db/Schema.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -134,9 +135,21 @@ Entrees remplir(Recordset rs, Forme forme, const Avance &avance)
     return entrees;
 }
 
+/// A change that leaves a row where it is and what its line shows: identifier, name and what stands behind it. An
+/// author's flags say in which lists he is.
+bool garde(const Changement &c)
+{
+    constexpr std::ptrdiff_t ColonnesMontrees = 3;
+    const bool auteur = c.table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0;
+    return !auteur && c.avant && c.apres && std::ssize(*c.avant) >= ColonnesMontrees
+        && std::equal(c.avant->begin(), c.avant->begin() + ColonnesMontrees, c.apres->begin());
+}
+
 bool touche(const Changements &changements, std::initializer_list<const char *> tables)
 {
     for (const Changement &changement : changements) {
+        if (garde(changement))
+            continue;
         for (const char *table : tables) {
             if (changement.table.compare(QLatin1String(table), Qt::CaseInsensitive) == 0)
                 return true;
@@ -253,6 +266,17 @@ QString General::LireTexte(Tri tri, int id)
     const Entrees ligne
         = remplir(base.OpenRecordset(QLatin1String(requetes(tri).ligne), {id}), requetes(tri).forme, {});
     return ligne.empty() ? QString() : ligne.texte(0);
+}
+
+bool General::EstDansLaListe(Tri tri, int id)
+{
+    const QString table = TableDe(tri);
+    const QString role = DrapeauDe(tri);
+    QString sql = QStringLiteral("SELECT 1 From %1 where %2 = ?").arg(table, Schema::Champs(table).first());
+    if (!role.isEmpty())
+        sql += QStringLiteral(" and %1 <> 0").arg(role);
+    const Base base;
+    return !base.OpenRecordset(sql, {id}).AtEnd();
 }
 
 Totaux General::LireTotaux()

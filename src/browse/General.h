@@ -81,6 +81,9 @@ std::vector<int> LirePretes();
 /// One line of a list, read anew; its text is empty when the entry is gone. Throws Error.
 QString LireTexte(Tri tri, int id);
 
+/// True when the list of this kind holds the entry. Throws Error.
+bool EstDansLaListe(Tri tri, int id);
+
 /// How many albums and series there are, and what the albums cost. Throws Error.
 struct Totaux
 {

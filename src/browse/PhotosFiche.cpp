@@ -33,6 +33,8 @@ void PhotosFiche::Poser(const Edition &edition, const QString &chemin)
     if (!QFileInfo(chemin).isFile() || Images::Decoder(chemin, TailleDEssai).isNull())
         throw Error(
             QCoreApplication::translate("PhotosFiche", "Ce fichier n'est pas une image lisible."), chemin);
+    if (const QString absente = Ecriture::RaisonSiAbsente(edition); !absente.isEmpty())
+        throw Error(absente, {});
     const QString nom = Images::Copier(chemin);
     ecrire(edition, nom, nom);
 }

@@ -40,11 +40,11 @@ void VueListe::remplir(General::Tri tri, Entrees entrees)
     m_modele.poserIcones(Icones::Charger(icone), Icones::AvecMarque(icone, QStringLiteral("pret")));
     m_modele.remplir(tri, std::move(entrees));
     if (courante > 0) {
-        // Where the entry was, its successor stands now.
-        const QModelIndex sienne = m_modele.indexDe(courante);
+        // Where the entry was, its successor stands now; one that a filter hides is still the one.
+        const bool partie = m_modele.entrees().rang(courante) < 0;
         const int dernier = m_modele.rowCount() - 1;
-        setCurrentIndex(sienne.isValid() ? sienne : m_modele.index(std::min(rang, dernier)));
-        m_retenue = choisie();
+        setCurrentIndex(partie ? m_modele.index(std::min(rang, dernier)) : m_modele.indexDe(courante));
+        m_retenue = partie ? choisie() : courante;
     }
     if (memeListe)
         verticalScrollBar()->setValue(hauteur);

@@ -76,8 +76,11 @@ void Historique::prendre(const Etape &etape)
     Etape nommee = etape;
     if (nommee.titre.isEmpty())
         nommee.titre = QCoreApplication::translate("Historique", "Modification");
+    const int avant = m_pile.index();
     m_pile.push(new Marche(nommee));
-    Q_EMIT inscrite(nommee);
+    // A visit that came back to where it began took its step away again.
+    if (m_pile.index() >= avant)
+        Q_EMIT inscrite(nommee);
 }
 
 Etape Historique::jouer(int rang, Acte acte, void (QUndoStack::*avancer)())

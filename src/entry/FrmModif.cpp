@@ -72,7 +72,12 @@ void FrmModif::construireCalendrier()
     corps()->addWidget(m_date, 1);
     connect(m_date, &QCalendarWidget::clicked, this, &FrmModif::prendreJour);
     connect(m_date, &QCalendarWidget::selectionChanged, this, &FrmModif::prendreJour);
-    connect(m_date, &QCalendarWidget::activated, this, [this] { valider(); });
+    connect(m_date, &QCalendarWidget::activated, this, [this] {
+        // The day that an empty field begins with was not taken yet.
+        if (m_choisie.texte.isEmpty())
+            prendreJour();
+        valider();
+    });
 }
 
 void FrmModif::Traduire()

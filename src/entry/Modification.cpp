@@ -180,15 +180,16 @@ void suivrePret(const Base &base, int album, int emprunteur)
     rs.Update();
 }
 
-void ecrireIntervenant(const Edition &edition, const Choisie &choisie)
+void ecrireIntervenant(const Base &base, const Edition &edition, const Offre &offre, const Choisie &choisie)
 {
     ChargerAlbums::Intervenant ligne = edition.intervenant;
+    const int id = trouverOuCreer(base, offre, choisie);
     if (Ecriture::NomDe(edition) == QLatin1String("NomI")) {
-        ligne.intervenant = choisie.id;
-        ligne.nom = choisie.texte;
+        ligne.intervenant = id;
+        ligne.nom.clear();
     } else {
-        ligne.metier = choisie.id;
-        ligne.activite = choisie.texte;
+        ligne.metier = id;
+        ligne.activite.clear();
     }
     ChargerAlbums::EcrireIntervenant(edition.entree.id, edition.intervenant, ligne);
 }
@@ -269,7 +270,7 @@ QString Modification::Valider(const Edition &edition, const Choisie &choisie)
     if (Ecriture::ChampDe(edition))
         ecrireLien(base, edition, offre, choisie);
     else
-        ecrireIntervenant(edition, choisie);
+        ecrireIntervenant(base, edition, offre, choisie);
     transaction.Commit();
     return {};
 }

@@ -1,5 +1,6 @@
 #include "entry/Pop.h"
 
+#include "browse/AccordPourLaNote.h"
 #include "browse/PhotosFiche.h"
 #include "core/Images.h"
 #include "core/Texte.h"
@@ -156,13 +157,8 @@ void Pop::remplirImage()
 
 void Pop::choisirImage(const Edition &edition)
 {
-    const bool note
-        = estDedicace(edition) && !Texte::EstVide(edition.affichee) && !Images::EstUneImage(edition.affichee);
     QWidget *devant = QApplication::activeWindow();
-    if (note
-        && !Messages::Demander(devant,
-            tr("Cette dédicace est une note : « %1 ». L'image la remplacera. Continuer ?")
-                .arg(pourMenu(edition.affichee))))
+    if (!AccordPourLaNote(devant, edition))
         return;
     const QString chemin = ChoisirImage(devant);
     if (!chemin.isEmpty())

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -63,6 +64,14 @@ Pret::Pret()
     m_titre->setForegroundRole(QPalette::Link);
     page->addWidget(m_titre);
 
+    construireListes(page);
+    construireBoutons(page);
+    brancher();
+    Pret::Traduire();
+}
+
+void Pret::construireListes(QBoxLayout *page)
+{
     auto *listes = new QHBoxLayout;
     listes->setSpacing(Theme::Grand);
     m_lPers = construireListe(QStringLiteral("LPers"), m_personnes);
@@ -88,7 +97,10 @@ Pret::Pret()
         listes->addLayout(colonne, rang++);
     }
     page->addLayout(listes, 1);
+}
 
+void Pret::construireBoutons(QBoxLayout *page)
+{
     auto *boutons = new QHBoxLayout;
     m_preter = nommer(new QPushButton(this), QStringLiteral("Preter"));
     m_del = nommer(new QPushButton(this), QStringLiteral("Del"));
@@ -102,6 +114,10 @@ Pret::Pret()
     }
     page->addLayout(boutons);
     Theme::Accentuer(m_preter);
+}
+
+void Pret::brancher()
+{
     connect(m_lPers->selectionModel(), &QItemSelectionModel::currentChanged, this, &Pret::choisirPersonne);
     connect(m_lPers, &QTreeView::clicked, this, &Pret::choisirPersonne);
     connect(m_lPret->selectionModel(), &QItemSelectionModel::currentChanged, this, &Pret::choisirPret);
@@ -114,7 +130,6 @@ Pret::Pret()
     connect(m_del, &QPushButton::clicked, this, &Pret::supprimer);
     connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
     connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
-    Pret::Traduire();
 }
 
 QTreeView *Pret::construireListe(const QString &nom, QStandardItemModel &modele)
@@ -263,6 +278,8 @@ void Pret::Traduire()
     libeller(m_quit, texte(Txt::Fermer));
     poserCible(m_del->property("tag").toString());
     poserCourante(m_courante);
+    // The days and the count are words of the language, too.
+    QTimer::singleShot(0, this, [this] { actualiser({}); });
 }
 
 void Pret::keyPressEvent(QKeyEvent *evenement)

@@ -6,6 +6,7 @@
 
 #include <QStandardItemModel>
 
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QTreeView;
@@ -33,6 +34,9 @@ protected:
     void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
+    void construireListes(QBoxLayout *page);
+    void construireBoutons(QBoxLayout *page);
+    void brancher();
     QTreeView *construireListe(const QString &nom, QStandardItemModel &modele);
     void remplirPersonnes();
     void remplirPrets();

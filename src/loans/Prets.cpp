@@ -44,15 +44,15 @@ std::vector<Prets::Pret> Prets::LirePrets(int emprunteur)
 {
     const Base base;
     const QString colonnes
-        = QStringLiteral("SELECT a.Num, l.TAlbum, a.DPret, a.NPret From Album a join LAlbums l"
-                         " on l.NAlbum = a.Num ");
+        = QStringLiteral("SELECT a.Num, l.TAlbum, a.DPret, p.Nom From Album a join LAlbums l"
+                         " on l.NAlbum = a.Num left join Pret p on p.NPret = a.NPret ");
     auto rs = emprunteur > 0
         ? base.OpenRecordset(colonnes + QStringLiteral("where a.NPret = ? order by a.NAlbum ;"), {emprunteur})
         : base.OpenRecordset(colonnes + QStringLiteral("where a.NPret > 0 order by l.TAlbum"));
     std::vector<Pret> prets;
     for (; !rs.AtEnd(); rs.MoveNext())
-        prets.push_back({rs.Fields(0).toInt(), rs.Fields(1).toString().trimmed(), nomDe(rs.Fields(3).toInt()),
-            joursDepuis(rs.Fields(2).toString())});
+        prets.push_back({rs.Fields(0).toInt(), rs.Fields(1).toString().trimmed(),
+            rs.Fields(3).toString().trimmed(), joursDepuis(rs.Fields(2).toString())});
     return prets;
 }
 

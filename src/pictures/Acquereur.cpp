@@ -27,6 +27,8 @@ void Acquereur::lancer(Travail travail)
             *suite = travail();
         } catch (const Error &e) {
             *suite = [this, raison = e.message()] { Q_EMIT echouee(raison); };
+        } catch (const std::exception &e) {
+            *suite = [this, raison = QString::fromUtf8(e.what())] { Q_EMIT echouee(raison); };
         }
     }));
     connect(m_fil.get(), &QThread::finished, this, [this, suite] {

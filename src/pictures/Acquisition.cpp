@@ -1,5 +1,6 @@
 #include "pictures/Acquisition.h"
 
+#include "browse/AccordPourLaNote.h"
 #include "browse/PhotosFiche.h"
 #include "core/Dossier.h"
 #include "core/Reglages.h"
@@ -186,8 +187,16 @@ void Acquisition::montrerSources(const std::vector<Numeriseur::Source> &sources)
         m_sources->addItem(source.titre, source.nom);
     m_sources->setCurrentIndex(std::max(0, m_sources->findData(choisie)));
     m_sources->setEnabled(m_sources->count() > 0);
-    if (m_sources->count() == 0)
-        m_sources->addItem(tr("aucun scanner"));
+    nommerAbsence();
+}
+
+/// The list says so when there is nothing in it.
+void Acquisition::nommerAbsence()
+{
+    if (m_sources->isEnabled())
+        return;
+    m_sources->clear();
+    m_sources->addItem(tr("aucun scanner"));
 }
 
 void Acquisition::Traduire()
@@ -199,6 +208,7 @@ void Acquisition::Traduire()
     }
     m_libelleSources->setText(texte(Txt::Scanner));
     m_sources->setAccessibleName(texte(Txt::Scanner));
+    nommerAbsence();
     m_photo->poserLegende(
         tr("Numérisez ou ouvrez une image, déposez un fichier ici, ou collez-la avec Ctrl+V"));
     m_photo->setAccessibleName(texte(Txt::Photos));
@@ -262,13 +272,14 @@ void Acquisition::numeriser()
 {
     const QString source = m_sources->currentData().toString();
     if (m_acquereur.occupe())
-        return;
+        return dire(tr("Les scanners sont encore recherchés."));
     if (source.isEmpty()) {
         // One may have been plugged in since.
         m_acquereur.lister();
         return dire(texte(Txt::VerifierScanner));
     }
     occuper(true);
+    m_annuler->show();
     m_acquereur.acquerir(source);
 }
 
@@ -288,6 +299,8 @@ void Acquisition::ouvrir()
 
 void Acquisition::ouvrirFichier(const QString &chemin)
 {
+    if (m_occupee)
+        return;
     const QImage image = Scan::Ouvrir(chemin);
     if (image.isNull())
         return dire(tr("Ce fichier n'est pas une image lisible : %1").arg(QFileInfo(chemin).fileName()));
@@ -304,8 +317,13 @@ void Acquisition::enregistrer()
     QString chemin = Messages::EnregistrerFichier(this, texte(Txt::Sauvegarder), propose, filtre);
     if (chemin.isEmpty())
         return;
-    if (!Scan::PeutEcrire(chemin))
+    if (!Scan::PeutEcrire(chemin)) {
         chemin = Scan::NomPropose(chemin);
+        // The dialog asked about another name.
+        const QString question = tr("« %1 » existe déjà. Le remplacer ?").arg(QFileInfo(chemin).fileName());
+        if (QFileInfo::exists(chemin) && !Messages::Demander(this, question))
+            return;
+    }
     Scan::Enregistrer(m_photo->image(), chemin);
     m_fichier = chemin;
     dire(tr("Image enregistrée : %1").arg(chemin));
@@ -342,6 +360,8 @@ void Acquisition::utiliser(int rang)
     Edition edition;
     edition.entree = m_courante;
     edition.champ = QLatin1String(ChampsDImage[rang]);
+    if (!AccordPourLaNote(this, edition))
+        return;
     PhotosFiche::PoserImage(edition, m_photo->image());
     dire(tr("C'est fait : %1").arg(m_utiliser[static_cast<std::size_t>(rang)]->text()));
 }
@@ -358,9 +378,7 @@ void Acquisition::occuper(bool occupe)
     m_occupee = occupe;
     m_progression->setVisible(occupe);
     m_progression->setValue(0);
-    m_annuler->setVisible(occupe && m_acquereur.occupe());
-    if (occupe)
-        m_annuler->setVisible(true);
+    m_annuler->hide();
     poserEtat();
 }
 
@@ -371,7 +389,9 @@ void Acquisition::dire(const QString &ligne)
 
 void Acquisition::keyPressEvent(QKeyEvent *evenement)
 {
-    if (evenement->matches(QKeySequence::Paste))
+    if (m_occupee)
+        Forme::keyPressEvent(evenement);
+    else if (evenement->matches(QKeySequence::Paste))
         coller();
     else if (evenement->matches(QKeySequence::Open))
         ouvrir();

@@ -47,6 +47,7 @@ private:
     void utiliser(int rang);
     void poserImage(const QImage &image, const QString &fichier);
     void montrerSources(const std::vector<Numeriseur::Source> &sources);
+    void nommerAbsence();
     void occuper(bool occupe);
     void poserEtat();
     void dire(const QString &ligne);

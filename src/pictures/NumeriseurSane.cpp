@@ -133,9 +133,11 @@ private:
 
 QImage composer(const SANE_Parameters &p, const QByteArray &octets)
 {
-    const int lignes = static_cast<int>(octets.size() / p.bytes_per_line);
     const bool couleur = p.format == SANE_FRAME_RGB;
-    if ((!couleur && p.format != SANE_FRAME_GRAY) || p.depth != 8 || lignes == 0)
+    const bool connu = (couleur || p.format == SANE_FRAME_GRAY) && p.depth == 8 && p.pixels_per_line > 0
+        && p.bytes_per_line >= p.pixels_per_line * (couleur ? 3 : 1);
+    const int lignes = connu ? static_cast<int>(octets.size() / p.bytes_per_line) : 0;
+    if (lignes == 0)
         throw Error(
             dire(QT_TRANSLATE_NOOP("Numeriseur", "Le scanner a rendu une image d'un format inconnu.")), {});
     return QImage(reinterpret_cast<const uchar *>(octets.constData()), p.pixels_per_line, lignes,

@@ -7,7 +7,7 @@
 /// The work on one picture: opening, saving, turning, mirroring, fitting into a frame.
 namespace Scan {
 
-/// A quarter turn, in radians, as the workshop has always made it: with 3.14 for pi.
+/// A quarter turn, in radians, with 3.14 for pi.
 constexpr double QuartDeTour = 3.14 / 2;
 
 /// Turned by an angle in radians around the middles of both pictures; positive turns to the left. A turn nearer to

@@ -5,7 +5,6 @@
 #include "core/ui/Icones.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
-#include "reports/Rechercher.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -61,9 +60,9 @@ QWidget *Recherche::construireCriteres()
     auto *colonne = new QVBoxLayout(zone);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(Theme::Petit);
-    m_criteres = new QLabel(zone);
-    m_criteres->setForegroundRole(QPalette::PlaceholderText);
-    colonne->addWidget(m_criteres);
+    m_libelle = new QLabel(zone);
+    m_libelle->setForegroundRole(QPalette::PlaceholderText);
+    colonne->addWidget(m_libelle);
     auto *ligne = new QHBoxLayout;
     m_saisie = nommer(new QLineEdit(zone), QStringLiteral("Saisie"));
     m_saisie->setClearButtonEnabled(true);
@@ -114,8 +113,8 @@ void Recherche::charger()
 {
     m_tris->setCurrentIndex(static_cast<int>(TriDe(Reglages::courant().entier(Cle::Tris))));
     m_modele.remplir(Tri::Albums, {});
-    m_cherche = false;
-    m_nombre->clear();
+    m_criteres.reset();
+    poserNombre();
     m_saisie->selectAll();
     m_saisie->setFocus();
 }
@@ -124,7 +123,7 @@ void Recherche::Traduire()
 {
     setWindowTitle(texte(Txt::Recherche) + QStringLiteral(" - ") + titre());
     m_titre->setText(titre() + QStringLiteral(" · ") + texte(Txt::Recherche));
-    m_criteres->setText(texte(Txt::RechercheParLibelle));
+    m_libelle->setText(texte(Txt::RechercheParLibelle));
     m_saisie->setAccessibleName(texte(Txt::RechercheParLibelle));
     libeller(m_menu, texte(Txt::LancerLaRecherche));
     libeller(m_debut, texte(Txt::CommencantPar));
@@ -134,31 +133,46 @@ void Recherche::Traduire()
         m_tris->setItemText(i, texte(GenreDe(TriDe(i)).bouton));
     m_resultat->setText(texte(Txt::ResultatDeRecherche));
     m_liste->setAccessibleName(texte(Txt::ResultatDeRecherche));
+    poserNombre();
     libeller(m_mini, texte(Txt::Minimiser));
     libeller(m_quit, texte(Txt::Fermer));
 }
 
 void Recherche::chercher()
 {
-    const Tri tri = TriDe(m_tris->currentIndex());
-    const QString icone = QString::fromLatin1(GenreDe(tri).icone);
+    m_criteres = Criteres{TriDe(m_tris->currentIndex()), m_saisie->text(),
+        m_debut->isChecked() ? Rechercher::Mode::Debut : Rechercher::Mode::Partout};
+    remplir();
+}
+
+/// The hits of the last search, looked for anew.
+void Recherche::remplir()
+{
+    const QString icone = QString::fromLatin1(GenreDe(m_criteres->tri).icone);
     m_modele.poserIcones(Icones::Charger(icone), {});
-    m_modele.remplir(tri,
-        Rechercher::Chercher(tri, m_saisie->text(),
-            m_debut->isChecked() ? Rechercher::Mode::Debut : Rechercher::Mode::Partout));
-    m_cherche = true;
+    m_modele.remplir(
+        m_criteres->tri, Rechercher::Chercher(m_criteres->tri, m_criteres->texte, m_criteres->mode));
+    poserNombre();
+}
+
+void Recherche::poserNombre()
+{
     const int nombre = m_modele.rowCount();
-    m_nombre->setText(
-        nombre == 0 ? tr("Rien de tel") : texte(GenreDe(tri).prefixe) + u' ' + QString::number(nombre));
+    if (!m_criteres)
+        m_nombre->clear();
+    else if (nombre == 0)
+        m_nombre->setText(tr("Rien de tel"));
+    else
+        m_nombre->setText(texte(GenreDe(m_criteres->tri).prefixe) + u' ' + QString::number(nombre));
 }
 
 /// What was found may be renamed or gone.
 void Recherche::actualiser(const Changements &changements)
 {
-    if (!m_cherche || !isVisible() || !Concerne(changements, m_modele.tri()))
+    if (!m_criteres || !isVisible() || !Concerne(changements, m_modele.tri()))
         return;
     const int courante = m_modele.id(m_liste->currentIndex());
-    chercher();
+    remplir();
     m_liste->setCurrentIndex(m_modele.indexDe(courante));
 }
 

@@ -2,6 +2,7 @@
 
 #include "browse/ListeEntrees.h"
 #include "core/ui/Forme.h"
+#include "reports/Rechercher.h"
 
 class QCheckBox;
 class QComboBox;
@@ -34,11 +35,13 @@ private:
     QWidget *construireCriteres();
     QWidget *construireResultat();
     void chercher();
+    void remplir();
+    void poserNombre();
     void aller(const QModelIndex &index);
 
     ListeEntrees m_modele;
     QLabel *m_titre = nullptr;
-    QLabel *m_criteres = nullptr;
+    QLabel *m_libelle = nullptr;
     QComboBox *m_tris = nullptr;
     QLineEdit *m_saisie = nullptr;
     QCheckBox *m_debut = nullptr;
@@ -48,5 +51,13 @@ private:
     QTreeView *m_liste = nullptr;
     QPushButton *m_mini = nullptr;
     QPushButton *m_quit = nullptr;
-    bool m_cherche = false; ///< the list shows the hits of a search
+
+    /// What the hits shown were found by; nothing before the first search.
+    struct Criteres
+    {
+        General::Tri tri;
+        QString texte;
+        Rechercher::Mode mode;
+    };
+    std::optional<Criteres> m_criteres;
 };

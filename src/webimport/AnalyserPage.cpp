@@ -84,6 +84,8 @@ void couper(const Coupe &coupe, const QString &ligne, Page &page)
 
 void lireSerie(const QString &ligne, Page &page)
 {
+    if (!page.serie.isEmpty())
+        return;
     couper({&Page::serie, "<h1>Série&nbsp;", "<h1>Série&nbsp;", "</span>"}, ligne, page);
     const qsizetype tome = page.serie.indexOf(QLatin1String("(tome"), 0, Qt::CaseInsensitive);
     if (tome >= 0)

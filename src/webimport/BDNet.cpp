@@ -179,6 +179,7 @@ void BDNet::Traduire()
     libeller(m_mini, texte(Txt::Minimiser));
     libeller(m_quit, texte(Txt::Fermer));
     m_detail->Traduire();
+    poserNotice();
 }
 
 bool BDNet::estSurDetail() const
@@ -274,8 +275,8 @@ void BDNet::creer()
     Q_EMIT albumCree(num);
 }
 
-/// Back to the browser, ready for the next album.
-void BDNet::revenir()
+/// What is missing for the catalogue to be browsed, and where to set it.
+void BDNet::poserNotice()
 {
     const Reglages &reglages = Reglages::courant();
     const bool accueil = !reglages.texte(Cle::AccueilBDNet).isEmpty();
@@ -288,13 +289,18 @@ void BDNet::revenir()
                    "« BDNet » des réglages : %1")
                     .arg(reglages.fichier());
     m_notice->setText(avis.join(QStringLiteral("\n\n")));
+}
+
+/// Back to the browser, ready for the next album.
+void BDNet::revenir()
+{
     if (m_navigateur && !m_adresse->text().isEmpty())
         m_vues->setCurrentWidget(m_web);
     else
         m_vues->setCurrentWidget(m_notice);
     Traduire();
     dire({});
-    m_accueil->setEnabled(m_navigateur && accueil);
+    m_accueil->setEnabled(m_navigateur && !Reglages::courant().texte(Cle::AccueilBDNet).isEmpty());
     poserVue(false);
     poserCharge({}, -1);
 }

@@ -48,6 +48,7 @@ private:
     void occuper(bool occupe);
     void creer();
     void revenir();
+    void poserNotice();
     void poserVue(bool detail);
     bool estSurDetail() const;
     void dire(const QString &ligne);

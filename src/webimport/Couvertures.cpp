@@ -21,20 +21,34 @@ void ecrire(const QString &chemin, const QByteArray &octets)
             chemin, fichier.errorString());
 }
 
-/// True when some sheet shows the picture of this name.
+/// What comes from a server is looked at by the decoders of the web's own formats only.
+bool estUneImageDuWeb(const QByteArray &octets)
+{
+    return octets.startsWith("\xFF\xD8\xFF") || octets.startsWith("\x89PNG\r\n") || octets.startsWith("GIF8")
+        || octets.startsWith("BM");
+}
+
+/// True when some sheet shows the picture of this name, whatever the path before it.
 bool estUtilisee(const Base &base, const QString &nom)
 {
+    const QString test
+        = QStringLiteral("SELECT 1 From %1 where '/' || replace(%2, '\\', '/') like '%/' || ? escape '!'"
+                         " or '/' || replace(%3, '\\', '/') like '%/' || ? escape '!' limit 1");
+    QString motif = nom;
+    for (const QChar c : QStringLiteral("!%_"))
+        motif.replace(c, u'!' + QString(c));
+    const auto trouvee = [&](const char *table, const char *premier, const char *second) {
+        const QString sql = QString(test)
+                                .replace(QLatin1String("%1"), QLatin1String(table))
+                                .replace(QLatin1String("%2"), QLatin1String(premier))
+                                .replace(QLatin1String("%3"), QLatin1String(second));
+        return !base.OpenRecordset(sql, {motif, motif}).AtEnd();
+    };
     for (const char *table : {"LAlbums", "Serie", "Auteurs", "Editeur", "ExLibris", "PresseBD"}) {
-        const auto rs
-            = base.OpenRecordset(QStringLiteral("SELECT 1 From %1 where Photo1 = ? or Photo2 = ? limit 1")
-                                     .arg(QLatin1String(table)),
-                {nom, nom});
-        if (!rs.AtEnd())
+        if (trouvee(table, "Photo1", "Photo2"))
             return true;
     }
-    return !base.OpenRecordset(
-                    QStringLiteral("SELECT 1 From LAlbums where dedi1 = ? or dedi2 = ? limit 1"), {nom, nom})
-                .AtEnd();
+    return trouvee("LAlbums", "dedi1", "dedi2");
 }
 
 }
@@ -56,7 +70,7 @@ QString Couvertures::Garder(const QByteArray &octets, const QString &titre, Rang
     const QString numero = QString::number(static_cast<int>(rang));
     const QString brouillon = dossier.chemin(QStringLiteral("temp%1.jpg").arg(numero));
     ecrire(brouillon, octets);
-    if (Images::Decoder(brouillon, TailleDEssai).isNull())
+    if (!estUneImageDuWeb(octets) || Images::Decoder(brouillon, TailleDEssai).isNull())
         return {};
     const QString debut = Images::NomDeFichier(titre) + u'_' + numero;
     QString nom = debut + QStringLiteral(".jpg");

@@ -26,7 +26,7 @@ public:
     explicit Telechargement(QObject *parent = nullptr);
     Telechargement(const Limites &limites, QObject *parent);
 
-    /// Begins; one at a time. Exactly one of `fini` and `echoue` follows, from the event loop.
+    /// Begins; one at a time. Exactly one of `fini` and `echoue` follows.
     void commencer(const QUrl &url);
     /// Ends it with `echoue` and an empty reason.
     void annuler();

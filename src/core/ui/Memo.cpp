@@ -27,17 +27,35 @@ Memo::Memo(QWidget *parent)
     });
 }
 
-void Memo::montrer(const QString &texte)
+QString Memo::texte() const
 {
-    const bool deuxVides = Texte::EstVide(texte) && Texte::EstVide(toPlainText());
-    if (m_enAttente || texte == toPlainText() || (hasFocus() && deuxVides))
+    // The plain text of a document has no no-break spaces left.
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+}
+
+void Memo::oublier()
+{
+    m_pause.stop();
+    m_enAttente = false;
+}
+
+void Memo::montrer(const QString &valeur)
+{
+    QString montree = valeur;
+    montree.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    const QString avant = texte();
+    const bool deuxVides = Texte::EstVide(montree) && Texte::EstVide(avant);
+    if (m_enAttente || m_annonce || montree == avant || (hasFocus() && deuxVides))
         return;
     const QScopedValueRollback montre(m_montre, true);
     const int place = textCursor().position();
-    setPlainText(texte);
+    setPlainText(montree);
     if (hasFocus()) {
         QTextCursor curseur = textCursor();
-        curseur.setPosition(std::min(place, static_cast<int>(texte.size())));
+        curseur.setPosition(std::min(place, static_cast<int>(montree.size())));
         setTextCursor(curseur);
     }
 }
@@ -47,8 +65,15 @@ void Memo::annoncer()
     m_pause.stop();
     if (!m_enAttente)
         return;
-    Q_EMIT modifie(toPlainText(), m_visite);
+    // While it is written a box may come up and take the focus, which would announce it once more.
     m_enAttente = false;
+    const QScopedValueRollback annonce(m_annonce, true);
+    try {
+        Q_EMIT modifie(texte(), m_visite);
+    } catch (...) {
+        m_enAttente = true;
+        throw;
+    }
 }
 
 bool Memo::event(QEvent *evenement)

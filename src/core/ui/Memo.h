@@ -13,8 +13,10 @@ public:
     explicit Memo(QWidget *parent = nullptr);
 
     /// Shows a text, unless what was typed here still waits.
-    void montrer(const QString &texte);
+    void montrer(const QString &valeur);
     bool enAttente() const { return m_enAttente; }
+    /// Gives up what waits: it will be announced no more.
+    void oublier();
     /// Announces what waits. A receiver that throws leaves it waiting.
     void annoncer();
 
@@ -28,8 +30,11 @@ protected:
     void focusOutEvent(QFocusEvent *evenement) override;
 
 private:
+    QString texte() const;
+
     QTimer m_pause;
     int m_visite = 1;
     bool m_enAttente = false;
+    bool m_annonce = false; ///< what waited is being written
     bool m_montre = false; ///< the change of text comes from here
 };

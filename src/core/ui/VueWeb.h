@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// A place for a web page. The browser engine is a plug-in, loaded when the first page is wanted, so that the
-/// start never pays for it; where the plug-in is missing, the place stays empty and says so.
+/// start never pays for it; where the plug-in is missing, the place stays empty.
 class VueWeb : public QWidget
 {
     Q_OBJECT

@@ -1,7 +1,5 @@
 #include "core/ui/PanneauWeb.h"
 
-#include <QApplication>
-#include <QFileInfo>
 #include <QPointer>
 #include <QTextStream>
 #include <QWebEngineCertificateError>
@@ -122,6 +120,15 @@ public:
             dire(chargee, reussi);
             direHistorique();
         });
+    }
+
+    ~Panneau() override
+    {
+        // The page goes before its profile, which the view would end first.
+        if (!m_vue)
+            return;
+        m_vue->disconnect(this);
+        delete m_vue->page();
     }
 
     QWidget *widget() override { return m_vue; }
