@@ -5,7 +5,7 @@
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation type="unfinished">Diese Widmung ist eine Notiz: „%1“. Das Bild wird sie ersetzen. Fortfahren?</translation>
+        <translation>Diese Widmung ist eine Notiz: „%1“. Das Bild wird sie ersetzen. Fortfahren?</translation>
     </message>
 </context>
 <context>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Les scanners sont encore recherchés.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird noch nach Scannern gesucht.</translation>
     </message>
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es schon. Ersetzen?</translation>
     </message>
 </context>
 <context>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der soeben eingegebene Text kann nicht gespeichert werden. Verwerfen?</translation>
     </message>
 </context>
 <context>
@@ -585,7 +585,7 @@
     <name>PileFiches</name>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation type="unfinished">Zurzeit keine Karte anzuzeigen</translation>
+        <translation>Zurzeit keine Karte anzuzeigen</translation>
     </message>
 </context>
 <context>
@@ -699,26 +699,26 @@
     <name>Statistiques</name>
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Statistikseite kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
     <name>Stats</name>
     <message>
         <source>La page est ouverte dans votre navigateur : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite ist in Ihrem Browser geöffnet: %1</translation>
     </message>
     <message>
         <source>La page est écrite, mais aucun programme ne l&apos;ouvre : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite ist geschrieben, aber kein Programm öffnet sie: %1</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Recalculer</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu berechnen</translation>
     </message>
 </context>
 <context>

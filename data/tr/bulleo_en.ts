@@ -5,7 +5,7 @@
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation type="unfinished">This dedication is a note: “%1”. The picture will replace it. Continue?</translation>
+        <translation>This dedication is a note: “%1”. The picture will replace it. Continue?</translation>
     </message>
 </context>
 <context>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Les scanners sont encore recherchés.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanners are still being looked for.</translation>
     </message>
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” already exists. Replace it?</translation>
     </message>
 </context>
 <context>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>The text that you have just typed cannot be saved. Lose it?</translation>
     </message>
 </context>
 <context>
@@ -585,7 +585,7 @@
     <name>PileFiches</name>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation type="unfinished">No record to show for now</translation>
+        <translation>No record to show for now</translation>
     </message>
 </context>
 <context>
@@ -699,26 +699,26 @@
     <name>Statistiques</name>
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>The statistics page cannot be written.</translation>
     </message>
 </context>
 <context>
     <name>Stats</name>
     <message>
         <source>La page est ouverte dans votre navigateur : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The page is open in your browser: %1</translation>
     </message>
     <message>
         <source>La page est écrite, mais aucun programme ne l&apos;ouvre : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The page is written, but no program opens it: %1</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Cancel</translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Recalculer</source>
-        <translation type="unfinished"></translation>
+        <translation>Compute again</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation type="unfinished">Esta dedicatoria es una nota: «%1». La imagen la sustituirá. ¿Continuar?</translation>
+        <translation>Esta dedicatoria es una nota: «%1». La imagen la sustituirá. ¿Continuar?</translation>
     </message>
 </context>
 <context>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Les scanners sont encore recherchés.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía se están buscando los escáneres.</translation>
     </message>
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ya existe. ¿Reemplazarlo?</translation>
     </message>
 </context>
 <context>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto que acaba de escribir no se puede guardar. ¿Perderlo?</translation>
     </message>
 </context>
 <context>
@@ -585,7 +585,7 @@
     <name>PileFiches</name>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation type="unfinished">Por ahora no hay ninguna ficha que mostrar</translation>
+        <translation>Por ahora no hay ninguna ficha que mostrar</translation>
     </message>
 </context>
 <context>
@@ -699,26 +699,26 @@
     <name>Statistiques</name>
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir la página de estadísticas.</translation>
     </message>
 </context>
 <context>
     <name>Stats</name>
     <message>
         <source>La page est ouverte dans votre navigateur : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La página está abierta en su navegador: %1</translation>
     </message>
     <message>
         <source>La page est écrite, mais aucun programme ne l&apos;ouvre : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La página está escrita, pero ningún programa la abre: %1</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Recalculer</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a calcular</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation type="unfinished">Questa dedica è una nota: «%1». L&apos;immagine la sostituirà. Continuare?</translation>
+        <translation>Questa dedica è una nota: «%1». L&apos;immagine la sostituirà. Continuare?</translation>
     </message>
 </context>
 <context>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Les scanners sont encore recherchés.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ricerca degli scanner è ancora in corso.</translation>
     </message>
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» esiste già. Sostituirlo?</translation>
     </message>
 </context>
 <context>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Il testo appena scritto non può essere salvato. Perderlo?</translation>
     </message>
 </context>
 <context>
@@ -585,7 +585,7 @@
     <name>PileFiches</name>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation type="unfinished">Per ora nessuna scheda da mostrare</translation>
+        <translation>Per ora nessuna scheda da mostrare</translation>
     </message>
 </context>
 <context>
@@ -699,26 +699,26 @@
     <name>Statistiques</name>
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pagina delle statistiche non può essere scritta.</translation>
     </message>
 </context>
 <context>
     <name>Stats</name>
     <message>
         <source>La page est ouverte dans votre navigateur : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La pagina è aperta nel browser: %1</translation>
     </message>
     <message>
         <source>La page est écrite, mais aucun programme ne l&apos;ouvre : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La pagina è scritta, ma nessun programma la apre: %1</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Annulla</translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Recalculer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricalcola</translation>
     </message>
 </context>
 <context>

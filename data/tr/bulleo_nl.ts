@@ -5,7 +5,7 @@
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation type="unfinished">Deze dedicatie is een notitie: “%1”. De afbeelding zal deze vervangen. Doorgaan?</translation>
+        <translation>Deze dedicatie is een notitie: “%1”. De afbeelding zal deze vervangen. Doorgaan?</translation>
     </message>
 </context>
 <context>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Les scanners sont encore recherchés.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er wordt nog naar scanners gezocht.</translation>
     </message>
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ bestaat al. Vervangen?</translation>
     </message>
 </context>
 <context>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>De tekst die u net hebt getypt kan niet worden opgeslagen. Verloren laten gaan?</translation>
     </message>
 </context>
 <context>
@@ -585,7 +585,7 @@
     <name>PileFiches</name>
     <message>
         <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation type="unfinished">Voorlopig geen fiche om te tonen</translation>
+        <translation>Voorlopig geen fiche om te tonen</translation>
     </message>
 </context>
 <context>
@@ -699,26 +699,26 @@
     <name>Statistiques</name>
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>De statistiekpagina kan niet worden geschreven.</translation>
     </message>
 </context>
 <context>
     <name>Stats</name>
     <message>
         <source>La page est ouverte dans votre navigateur : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>De pagina is geopend in uw browser: %1</translation>
     </message>
     <message>
         <source>La page est écrite, mais aucun programme ne l&apos;ouvre : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>De pagina is geschreven, maar geen programma opent haar: %1</translation>
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Annuleren</translation>
+        <translation>Annuleren</translation>
     </message>
     <message>
         <source>Recalculer</source>
-        <translation type="unfinished"></translation>
+        <translation>Opnieuw berekenen</translation>
     </message>
 </context>
 <context>
