@@ -15,7 +15,7 @@ using Champs::Champ;
 using Champs::Feuille;
 using Champs::Regle;
 using Champs::Vue;
-using Ecriture::Issue;
+using Ecriture::Resultat;
 
 namespace {
 
@@ -136,7 +136,7 @@ QString Ecriture::RaisonSiAbsente(const Edition &edition)
         : QCoreApplication::translate("Edition", "Cette fiche n'existe plus.");
 }
 
-Issue Ecriture::Ecrire(const Edition &edition, const QString &saisie, int visite)
+Resultat Ecriture::Ecrire(const Edition &edition, const QString &saisie, int visite)
 {
     const Champ *champ = ChampDe(edition);
     const Collection::Intitule intitule(

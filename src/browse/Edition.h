@@ -31,13 +31,13 @@ QString TitreDe(const Edition &edition, const QString &valeur);
 
 /// What came of an entered text: why it was refused, or what is to be said of what was written. Both are empty
 /// when it was written as it is.
-struct Issue
+struct Resultat
 {
     QString refus;
     QString avis;
 };
 /// Writes an entered text into its field, as one step. Edits of a memo in one `visite` are one. Throws Error.
-Issue Ecrire(const Edition &edition, const QString &saisie, int visite = 0);
+Resultat Ecrire(const Edition &edition, const QString &saisie, int visite = 0);
 
 /// Why nothing can be written: the entry is gone. Empty when it is there. Throws Error.
 QString RaisonSiAbsente(const Edition &edition);

@@ -183,16 +183,16 @@ void FicheForme::contextMenuEvent(QContextMenuEvent *evenement)
 
 void FicheForme::ecrire(const QString &champ, const QString &saisie, int visite)
 {
-    Ecriture::Issue issue;
+    Ecriture::Resultat resultat;
     try {
-        issue = Ecriture::Ecrire(editionDe(champ, this), saisie, visite);
+        resultat = Ecriture::Ecrire(editionDe(champ, this), saisie, visite);
     } catch (...) {
         remontrer();
         throw;
     }
-    if (!issue.refus.isEmpty())
+    if (!resultat.refus.isEmpty())
         remontrer();
-    const QString mot = issue.refus.isEmpty() ? issue.avis : issue.refus;
+    const QString mot = resultat.refus.isEmpty() ? resultat.avis : resultat.refus;
     if (!mot.isEmpty())
         Q_EMIT dit(mot);
 }

@@ -42,13 +42,13 @@ void FrmModif2::valider()
         close();
         return;
     }
-    const Ecriture::Issue issue = Ecriture::Ecrire(edition(), m_saisie->text());
-    if (!issue.refus.isEmpty()) {
-        refuser(issue.refus);
+    const Ecriture::Resultat resultat = Ecriture::Ecrire(edition(), m_saisie->text());
+    if (!resultat.refus.isEmpty()) {
+        refuser(resultat.refus);
         m_saisie->setFocus();
         return;
     }
     close();
-    if (!issue.avis.isEmpty())
-        Q_EMIT dite(issue.avis);
+    if (!resultat.avis.isEmpty())
+        Q_EMIT dite(resultat.avis);
 }

@@ -13,7 +13,7 @@
 
 using Couvertures::Rang;
 
-/// A session with the catalogue on the loopback, with limits that a test can wait for.
+/// A visit to the catalogue on the loopback, with limits that a test can wait for.
 struct Visite
 {
     Visite() { bac.reglages.ecrire(Cle::HoteBDNet, serveur.adresse().mid(7)); }
