@@ -15,8 +15,6 @@ class tst_fiche : public QObject
 
 private Q_SLOTS:
     void chaqueChampAUneColonneDuSchema();
-    void uneSaisieEstVerifiee_data();
-    void uneSaisieEstVerifiee();
     void laFicheDitTout();
     void laFicheVideNeDitRien();
     void lAlbumDansSaSerie();
@@ -31,48 +29,6 @@ void tst_fiche::chaqueChampAUneColonneDuSchema()
             QVERIFY2(
                 Schema::Champs(QLatin1String(champ.table)).contains(QLatin1String(champ.colonne)), champ.nom);
     }
-}
-
-void tst_fiche::uneSaisieEstVerifiee_data()
-{
-    QTest::addColumn<QByteArray>("champ");
-    QTest::addColumn<QString>("saisie");
-    QTest::addColumn<bool>("admise");
-    QTest::addColumn<QVariant>("stockee");
-    const auto ligne = [](const char *champ, const char *saisie, bool admise, const QVariant &stockee = {}) {
-        QTest::newRow(
-            qPrintable(QStringLiteral("%1 « %2 »").arg(QLatin1String(champ), QString::fromUtf8(saisie))))
-            << QByteArray(champ) << QString::fromUtf8(saisie) << admise << stockee;
-    };
-    ligne("NumBD", "1234", true, 123);
-    ligne("NumBD", "", true, 0);
-    ligne("NumBD", "-1", false);
-    ligne("NumBD", "abc", false);
-    ligne("PrixA", "12,50", true, 12.5);
-    ligne("PrixA", "12.50", true, 12.5);
-    ligne("PrixA", "1 234,50 €", true, 1234.5);
-    ligne("PrixA", "", true, QVariant());
-    ligne("PrixA", "cher", false);
-    ligne("NbPage", "48", true, QStringLiteral("48"));
-    ligne("NbPage", "", true, QString());
-    ligne("NbPage", "abc", false);
-    ligne("ISBN", "  2-205  ", true, QStringLiteral("2-205"));
-    ligne("ISBN", "....", true, QStringLiteral("...."));
-    ligne("LCoffret", "1", true, true);
-    ligne("LCoffret", "0", true, false);
-    ligne("Hist", " deux\n lignes ", true, QStringLiteral(" deux\n lignes "));
-}
-
-void tst_fiche::uneSaisieEstVerifiee()
-{
-    QFETCH(QByteArray, champ);
-    QFETCH(QString, saisie);
-    QFETCH(bool, admise);
-    const Bac bac;
-    const auto valeur = Fiche::Verifier(*Chercher(Feuille::Album, champ.constData()), saisie);
-    QCOMPARE(valeur.has_value(), admise);
-    if (admise)
-        QTEST(*valeur, "stockee");
 }
 
 void tst_fiche::laFicheDitTout()

@@ -23,8 +23,6 @@ private Q_SLOTS:
     void ajouterNeDoubleRien_data();
     void ajouterNeDoubleRien();
     void unChoixMontreLaValeurCourante();
-    void leLibelleDePresseSeCoupe_data();
-    void leLibelleDePresseSeCoupe();
     void laCopieRefuseLaBaseSousTousSesNoms();
     void leModelePorteCleEtMarqueDePret();
 };
@@ -101,29 +99,24 @@ void tst_general::renommerEcritCeQueLeLibelleDit_data()
     QTest::addColumn<QString>("libelle");
     QTest::addColumn<QString>("attendu");
     const QString long60(60, u'x');
-    QTest::newRow("titre") << 0 << "  L'Été "
-                           << "1:L'Été";
-    QTest::newRow("titre long") << 0 << long60 << "1:" + long60.left(50);
-    QTest::newRow("blanc") << 0 << "   "
-                           << "1:Edgar";
-    QTest::newRow("série") << 1 << "Zag, le puce"
-                           << "1:Zag, le puce";
-    QTest::newRow("auteur") << 2 << "Doré, Gustave"
-                            << "1:Doré, Gustave";
-    QTest::newRow("auteur sans virgule") << 2 << "Doré"
-                                         << "1:Doré";
-    QTest::newRow("auteur, deux virgules") << 3 << "Doré, G., fils"
-                                           << "1:Doré, G., fils";
-    QTest::newRow("ex-libris") << 5 << "La fin"
-                               << "1:La fin";
-    QTest::newRow("presse") << 6 << "Le Rire - 13"
-                            << "1:Le Rire - 13";
-    QTest::newRow("presse sans numéro") << 6 << "Le Rire bleu"
-                                        << "1:Le Rire bleu - 12";
-    QTest::newRow("éditeur") << 7 << "Plon & fils"
-                             << "7:Plon & fils";
-    QTest::newRow("collection") << 8 << "L'Art"
-                                << "1:L'Art";
+    const auto cas = [](const char *nom, int tri, const QString &libelle, const QString &attendu) {
+        QTest::newRow(nom) << tri << libelle << attendu;
+    };
+    cas("titre", 0, "  L'Été ", "1:L'Été");
+    cas("titre long", 0, long60, "1:" + long60.left(50));
+    cas("blanc", 0, "   ", "1:Edgar");
+    cas("série", 1, "Zag, le puce", "1:Zag, le puce");
+    cas("auteur", 2, "Doré, Gustave", "1:Doré, Gustave");
+    cas("auteur sans virgule", 2, "Doré", "1:Doré");
+    cas("auteur, deux virgules", 3, "Doré, G., fils", "1:Doré, G., fils");
+    cas("ex-libris", 5, "La fin", "1:La fin");
+    cas("presse", 6, "Le Rire - 13", "1:Le Rire - 13");
+    cas("presse sans numéro", 6, "Le Rire bleu", "1:Le Rire bleu - 12");
+    cas("éditeur", 7, "Plon & fils", "7:Plon & fils");
+    cas("collection", 8, "L'Art", "1:L'Art");
+    cas("presse, trait d'union", 6, "Cri-Cri - 3", "1:Cri-Cri - 3");
+    cas("presse, numéro devant", 6, "3 - Cri-Cri", "1:Cri-Cri - 3");
+    cas("presse, numéro vide", 6, "Pilou - ", "1:Pilou - 12");
 }
 
 void tst_general::renommerEcritCeQueLeLibelleDit()
@@ -202,33 +195,6 @@ void tst_general::unChoixMontreLaValeurCourante()
                  QStringLiteral("LPresseBD"), QStringLiteral("PresseBD"), QStringLiteral("Le Rire - 12"))
                         .entrees),
         QStringList({"2:Fillette - ", "1:Le Rire - 12"}));
-}
-
-void tst_general::leLibelleDePresseSeCoupe_data()
-{
-    QTest::addColumn<QString>("libelle");
-    QTest::addColumn<QString>("nom");
-    QTest::addColumn<int>("numero");
-    QTest::newRow("nom - numéro") << "Le Rire - 12"
-                                  << "Le Rire" << 12;
-    QTest::newRow("trait d'union") << "Cri-Cri - 3"
-                                   << "Cri-Cri" << 3;
-    QTest::newRow("numéro - nom") << "3 - Cri-Cri"
-                                  << "Cri-Cri" << 3;
-    QTest::newRow("sans numéro") << "Cri-Cri"
-                                 << "Cri-Cri" << -1;
-    QTest::newRow("numéro vide") << "Pilou - "
-                                 << "Pilou" << -1;
-    QTest::newRow("sans nom") << " - 5"
-                              << "" << 5;
-}
-
-void tst_general::leLibelleDePresseSeCoupe()
-{
-    QFETCH(QString, libelle);
-    const Libelles::DePresse lu = Libelles::LireDePresse(libelle);
-    QTEST(lu.nom, "nom");
-    QTEST(lu.numero.value_or(-1), "numero");
 }
 
 void tst_general::laCopieRefuseLaBaseSousTousSesNoms()

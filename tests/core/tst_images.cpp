@@ -65,31 +65,22 @@ void tst_images::uneImageEstTrouvee_data()
 {
     QTest::addColumn<QString>("nom");
     QTest::addColumn<QString>("trouve");
-    QTest::newRow("nom simple") << "a.jpg"
-                                << "images/a.jpg";
-    QTest::newRow("images avant image") << "deux.jpg"
-                                        << "images/deux.jpg";
-    QTest::newRow("puis image") << "b.jpg"
-                                << "image/b.jpg";
-    QTest::newRow("casse et blancs") << " A.JPG "
-                                     << "images/a.jpg";
-    QTest::newRow("chemin du dossier") << "image\\deux.jpg"
-                                       << "image/deux.jpg";
-    QTest::newRow("relatif ailleurs") << "scans\\c.jpg"
-                                      << "Scans/c.jpg";
-    QTest::newRow("complet") << "/Scans/c.jpg"
-                             << "Scans/c.jpg";
-    QTest::newRow("complet perdu") << "/nulle/part/a.jpg"
-                                   << "images/a.jpg";
-    QTest::newRow("autre machine") << "C:\\BD\\images\\b.jpg"
-                                   << "image/b.jpg";
-    QTest::newRow("autre serveur") << "\\\\serveur\\BD\\b.jpg"
-                                   << "image/b.jpg";
-    QTest::newRow("absent") << "z.jpg"
-                            << "";
-    QTest::newRow("blanc") << " "
-                           << "";
-    QTest::newRow("points") << QString(855, u'.') << "";
+    const auto cas = [](const char *nom, const QString &cherche, const char *trouve) {
+        QTest::newRow(nom) << cherche << QString(trouve);
+    };
+    cas("nom simple", "a.jpg", "images/a.jpg");
+    cas("images avant image", "deux.jpg", "images/deux.jpg");
+    cas("puis image", "b.jpg", "image/b.jpg");
+    cas("casse et blancs", " A.JPG ", "images/a.jpg");
+    cas("chemin du dossier", "image\\deux.jpg", "image/deux.jpg");
+    cas("relatif ailleurs", "scans\\c.jpg", "Scans/c.jpg");
+    cas("complet", "/Scans/c.jpg", "Scans/c.jpg");
+    cas("complet perdu", "/nulle/part/a.jpg", "images/a.jpg");
+    cas("autre machine", "C:\\BD\\images\\b.jpg", "image/b.jpg");
+    cas("autre serveur", "\\\\serveur\\BD\\b.jpg", "image/b.jpg");
+    cas("absent", "z.jpg", "");
+    cas("blanc", " ", "");
+    cas("points", QString(855, u'.'), "");
 }
 
 void tst_images::uneImageEstTrouvee()

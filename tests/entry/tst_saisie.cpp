@@ -59,36 +59,18 @@ void tst_saisie::laSaisieDitCeQuElleRefuse_data()
     QTest::addColumn<QString>("prix");
     QTest::addColumn<QString>("photo");
     QTest::addColumn<QString>("champ");
-    QTest::newRow("rien") << ""
-                          << ""
-                          << ""
-                          << "";
-    QTest::newRow("tome en lettres") << "abc"
-                                     << ""
-                                     << ""
-                                     << "Tome";
-    QTest::newRow("tome négatif") << "-1"
-                                  << ""
-                                  << ""
-                                  << "Tome";
-    QTest::newRow("tome trop long") << "1234"
-                                    << ""
-                                    << ""
-                                    << "Tome";
-    QTest::newRow("prix à virgule") << ""
-                                    << "12,50"
-                                    << ""
-                                    << "";
-    QTest::newRow("prix à point") << ""
-                                  << "12.50"
-                                  << ""
-                                  << "";
-    QTest::newRow("prix en lettres") << ""
-                                     << "douze"
-                                     << ""
-                                     << "PrixA";
-    QTest::newRow("image qui n'en est pas une") << ""
-                                                << "" << __FILE__ << "ImageRecto";
+    const auto cas = [](const char *tome, const char *prix, const char *photo, const char *champ) {
+        QTest::addRow("« %s » « %s » « %s »", tome, prix, photo)
+            << QString(tome) << QString(prix) << QString(photo) << QString(champ);
+    };
+    cas("", "", "", "");
+    cas("abc", "", "", "Tome");
+    cas("-1", "", "", "Tome");
+    cas("1234", "", "", "Tome");
+    cas("", "12,50", "", "");
+    cas("", "12.50", "", "");
+    cas("", "douze", "", "PrixA");
+    cas("", "", __FILE__, "ImageRecto");
 }
 
 void tst_saisie::laSaisieDitCeQuElleRefuse()
