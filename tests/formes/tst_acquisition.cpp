@@ -1,4 +1,3 @@
-#include "Application.h"
 #include "core/Images.h"
 #include "support/Seance.h"
 
@@ -138,9 +137,6 @@ void tst_acquisition::unCadrePrendCeQuOnYMet()
 
 int main(int argc, char *argv[])
 {
-    Application application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    tst_acquisition test;
-    return QTest::qExec(&test, argc, argv);
+    return jouer<tst_acquisition>(argc, argv);
 }
 #include "tst_acquisition.moc"

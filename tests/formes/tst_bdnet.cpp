@@ -1,4 +1,3 @@
-#include "Application.h"
 #include "catalogue/ServeurCatalogue.h"
 #include "support/Seance.h"
 
@@ -147,8 +146,6 @@ void tst_bdnet::leNavigateurRefuseLesFichiers()
 
 int main(int argc, char *argv[])
 {
-    Application application(argc, argv);
-    tst_bdnet test;
-    return QTest::qExec(&test, argc, argv);
+    return jouer<tst_bdnet>(argc, argv);
 }
 #include "tst_bdnet.moc"

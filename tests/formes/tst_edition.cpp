@@ -1,4 +1,3 @@
-#include "Application.h"
 #include "browse/Frmmain.h"
 #include "support/Autre.h"
 #include "support/Seance.h"
@@ -269,10 +268,7 @@ struct Atelier : Seance
     {
         controle<QPlainTextEdit>(nom)->setFocus();
         controle<QPlainTextEdit>(nom)->selectAll();
-        for (const QChar c : texte) {
-            QKeyEvent touche(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-            QApplication::sendEvent(controle(nom), &touche);
-        }
+        taper(controle(nom), texte);
     }
     static void choisirMot(QComboBox *choix, const QString &mot)
     {
@@ -359,7 +355,6 @@ private Q_SLOTS:
     }
     void chaqueChampSEditeOuIlEst_data();
     void chaqueChampSEditeOuIlEst();
-    void ctrlYRefait();
     void unNomConnuGardeSaFicheEtSesRoles_data();
     void unNomConnuGardeSaFicheEtSesRoles();
     void unHomonymeChoisiEstPris();
@@ -443,16 +438,6 @@ void tst_edition::chaqueChampSEditeOuIlEst()
     QCOMPARE(m_partage->boites.textes, QStringList());
 }
 
-void tst_edition::ctrlYRefait()
-{
-    const Atelier s;
-    Atelier::agir("ISBN", "Saisir", "2-205");
-    Atelier::commander(Qt::Key_Z);
-    QTRY_COMPARE(lire("Album.ISBN"), "978");
-    Atelier::commander(Qt::Key_Y);
-    QTRY_COMPARE_WITH_TIMEOUT(lire("Album.ISBN"), "2-205", 500);
-}
-
 void tst_edition::unNomConnuGardeSaFicheEtSesRoles_data()
 {
     // At first Töpffer (1) draws and writes, Monnier (8) colours.
@@ -482,7 +467,7 @@ void tst_edition::unNomConnuGardeSaFicheEtSesRoles()
     QCOMPARE(lire(cas.lu), cas.stockee);
     Atelier::commander(Qt::Key_Z);
     QTRY_COMPARE(lire(cas.lu), avant);
-    Seance::cliquer("Refaire");
+    Atelier::commander(Qt::Key_Y);
     QTRY_COMPARE(lire(cas.lu), cas.stockee);
 }
 
@@ -728,10 +713,7 @@ void tst_edition::uneVisiteDUnMemoEstUneEtape()
 
 int main(int argc, char *argv[])
 {
-    Application application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    tst_edition edition;
-    return QTest::qExec(&edition, argc, argv);
+    return jouer<tst_edition>(argc, argv);
 }
 
 #include "tst_edition.moc"

@@ -1,4 +1,3 @@
-#include "Application.h"
 #include "browse/General.h"
 #include "core/Dates.h"
 #include "support/Apres.h"
@@ -75,13 +74,6 @@ struct Menus : Seance
     {
         choisir(nom);
         QTRY_COMPARE(fiche(), nom);
-    }
-    static void taper(QWidget *champ, const QString &texte)
-    {
-        for (const QChar c : texte) {
-            QKeyEvent touche(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-            QApplication::sendEvent(champ, &touche);
-        }
     }
     /// Types into the line that edits a label, and ends with a key.
     static void nommer(const QString &texte, int fin)
@@ -334,6 +326,11 @@ void tst_menus::ajouterEtRenommerSurPlace()
     m.nommer("Zoé & Cie", Qt::Key_Return);
     QTRY_COMPARE(m.courante(), "Zoé & Cie");
     QCOMPARE(Bac::valeur("SELECT Nom FROM Serie WHERE NSerie = 20").toString(), "Zoé & Cie");
+    QTest::keyClick(m.liste(), Qt::Key_F2);
+    m.nommer("  Écume d'été ", Qt::Key_Return);
+    QTRY_COMPARE(m.courante(), "Écume d'été");
+    QTRY_COMPARE(m.fiche(), "Écume d'été");
+    QCOMPARE(m.liste()->currentIndex().data(Qt::UserRole), "N 20");
 }
 
 void tst_menus::leFiltreGardeLaSelection()
@@ -455,10 +452,7 @@ void tst_menus::lesPretsSeRendentEtSeFont()
 
 int main(int argc, char *argv[])
 {
-    Application application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    tst_menus menus;
-    return QTest::qExec(&menus, argc, argv);
+    return jouer<tst_menus>(argc, argv);
 }
 
 #include "tst_menus.moc"

@@ -1,4 +1,3 @@
-#include "Application.h"
 #include "browse/General.h"
 #include "support/Seance.h"
 
@@ -33,7 +32,6 @@ private Q_SLOTS:
     void lePremierDemarrageMontreLeLanceur();
     void chaqueTriALaListeQuIlAnnonce();
     void unClicMontreLaFiche();
-    void renommerGardeLaSelection();
     void laLangueChangePartout();
     void quitterDemandeEtRange();
     void uneBaseEtrangereEstDite();
@@ -118,27 +116,6 @@ void tst_parcours::unClicMontreLaFiche()
         albums->viewport(), Qt::LeftButton, {}, albums->visualRect(albums->model()->index(1, 0)).center());
     QTRY_COMPARE(Seance::texteDe("TAlbum"), albums->model()->index(1, 0).data().toString());
     QCOMPARE(Seance::texteDe("TitreListe"), texte(Txt::ListeDesSeries));
-}
-
-void tst_parcours::renommerGardeLaSelection()
-{
-    Seance s;
-    s.demarrer();
-    Seance::choisir(QStringLiteral("Bonaparte"));
-    auto *liste = Seance::trouver<QAbstractItemView>("Liste");
-    const QString cle = liste->currentIndex().data(Qt::UserRole).toString();
-    QTest::keyClick(liste, Qt::Key_F2);
-    auto *saisie = liste->findChild<QLineEdit *>();
-    QVERIFY(saisie);
-    saisie->setText(QStringLiteral("  Écume d'été "));
-    QTest::keyClick(saisie, Qt::Key_Return);
-    QTRY_COMPARE(liste->currentIndex().data().toString(), QStringLiteral("Écume d'été"));
-    QCOMPARE(liste->currentIndex().data(Qt::UserRole).toString(), cle);
-    QTRY_COMPARE(Seance::texteDe("TAlbum"), QStringLiteral("Écume d'été"));
-    QCOMPARE(Bac::valeur(QStringLiteral("SELECT TAlbum FROM LAlbums WHERE NAlbum = ?"), {cle.mid(1).toInt()})
-                 .toString(),
-        QStringLiteral("Écume d'été"));
-    QVERIFY(s.boites.textes.isEmpty());
 }
 
 void tst_parcours::laLangueChangePartout()
@@ -317,10 +294,7 @@ void tst_parcours::chaqueControleAUnNom()
 
 int main(int argc, char *argv[])
 {
-    Application application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    tst_parcours parcours;
-    return QTest::qExec(&parcours, argc, argv);
+    return jouer<tst_parcours>(argc, argv);
 }
 
 #include "tst_parcours.moc"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Application.h"
 #include "Bureau.h"
 #include "core/ui/Messages.h"
 #include "support/Bac.h"
@@ -45,18 +46,21 @@ struct Seance
     {
         QTest::mouseClick(trouver<QAbstractButton>(nom, forme), Qt::LeftButton);
     }
-    /// Caption of a label; empty until there is one.
     /// Types a text, character by character, into a field or an editable list.
     static void ecrire(const char *nom, const QString &texte, const char *forme)
     {
         auto *champ = trouver<QWidget>(nom, forme);
         champ->setFocus();
-        auto *cible = champ->focusProxy() ? champ->focusProxy() : champ;
+        taper(champ->focusProxy() ? champ->focusProxy() : champ, texte);
+    }
+    static void taper(QWidget *champ, const QString &texte)
+    {
         for (const QChar c : texte) {
             QKeyEvent touche(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-            QApplication::sendEvent(cible, &touche);
+            QApplication::sendEvent(champ, &touche);
         }
     }
+    /// Caption of a label; empty until there is one.
     static QString texteDe(const char *nom)
     {
         const auto *label = trouver<QLabel>(nom);
@@ -77,3 +81,13 @@ struct Seance
     Messages::Doublure boites;
     std::unique_ptr<Bureau> bureau;
 };
+
+/// What each program of journeys does, as its main().
+template <class Parcours>
+int jouer(int argc, char *argv[])
+{
+    Application application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Parcours parcours;
+    return QTest::qExec(&parcours, argc, argv);
+}
