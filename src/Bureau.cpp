@@ -14,6 +14,7 @@
 #include "entry/Pop.h"
 #include "loans/Pret.h"
 #include "pictures/Acquisition.h"
+#include "reports/Impression.h"
 #include "reports/Recherche.h"
 #include "reports/Stats.h"
 #include "webimport/BDNet.h"
@@ -43,6 +44,7 @@ Bureau::Bureau(const Options &options)
     declarer<Acquisition>(Nom::Acquisition);
     declarer<BDNet>(Nom::BDNet);
     declarer<Pret>(Nom::Pret);
+    declarer<Impression>(Nom::Impression);
     declarer<Recherche>(Nom::Recherche);
     declarer<Stats>(Nom::Stats);
     declarer<FrmModif>(Nom::FrmModif);
@@ -100,6 +102,14 @@ void Bureau::brancher(F *forme)
             fenetre->montrerTri(General::Tri::Albums);
             fenetre->montrerEntree({General::Tri::Albums, num});
         });
+    if constexpr (requires { &F::selectionDemandee; })
+        connect(forme, &F::selectionDemandee, this,
+            [this](const QString &libelle, const std::vector<int> &albums) {
+                this->forme<Frmmain>(Nom::Frmmain)->montrerSelection(libelle, albums);
+                montrer(Nom::Frmmain);
+            });
+    if constexpr (requires { &F::poserListe; })
+        forme->poserListe([this] { return this->forme<Frmmain>(Nom::Frmmain)->listeMontree(); });
     if constexpr (requires { &F::langueDemandee; })
         connect(forme, &F::langueDemandee, this, &Bureau::choisirLangue);
     if constexpr (requires { &F::retourDemande; })

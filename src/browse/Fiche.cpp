@@ -90,16 +90,6 @@ QString nomDe(const Champ &champ, int id, const QVariant &stockee)
     return Fiche::LireNom(*champ.source, stockee.toInt());
 }
 
-/// A number in this program's language or with a point; nothing when it is none.
-std::optional<double> montant(const QString &saisie)
-{
-    QString net = saisie;
-    net.remove(texte(Txt::Euro)).remove(u' ').remove(QChar(0x00A0)).remove(QChar(0x202F));
-    bool sur = false;
-    const double valeur = net.replace(u',', u'.').toDouble(&sur);
-    return sur && std::isfinite(valeur) ? std::optional(valeur) : std::nullopt;
-}
-
 std::optional<QVariant> entier(const QString &saisie, const QVariant &siVide)
 {
     if (saisie.isEmpty())
@@ -191,11 +181,11 @@ std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisi
     case Regle::Identifiant:
         return entier(net, {});
     case Regle::Pages:
-        return net.isEmpty() || montant(net) ? std::optional<QVariant>(net) : std::nullopt;
+        return net.isEmpty() || LireMontant(net) ? std::optional<QVariant>(net) : std::nullopt;
     case Regle::Prix: {
         if (net.isEmpty())
             return QVariant();
-        const auto valeur = montant(net);
+        const auto valeur = LireMontant(net);
         return valeur ? std::optional<QVariant>(*valeur) : std::nullopt;
     }
     case Regle::Http:
@@ -259,6 +249,15 @@ bool Fiche::EcrireSaisie(Feuille feuille, int id, const QString &nom, const QStr
     return valeur.has_value();
 }
 
+std::optional<double> Fiche::LireMontant(const QString &saisie)
+{
+    QString net = saisie;
+    net.remove(texte(Txt::Euro)).remove(u' ').remove(QChar(0x00A0)).remove(QChar(0x202F));
+    bool sur = false;
+    const double valeur = net.replace(u',', u'.').toDouble(&sur);
+    return sur && std::isfinite(valeur) ? std::optional(valeur) : std::nullopt;
+}
+
 QString Fiche::LireNom(const Source &source, int id)
 {
     const Base base;
@@ -282,6 +281,23 @@ QString Fiche::LireNomsLies(const Source &source, int album)
         noms << LireNom(source, liens.Fields(0).toInt());
     noms.removeAll(QString());
     return noms.join(QStringLiteral(", "));
+}
+
+std::unordered_map<int, QString> Fiche::LireTousLesNomsLies(const Source &source)
+{
+    const Base base;
+    const QString tous = QString::fromLatin1(source.liens).remove(QStringLiteral(" where NAlbum = ?"));
+    std::unordered_map<int, QString> noms;
+    std::unordered_map<int, QString> parAlbum;
+    for (auto liens = base.OpenRecordset(tous); !liens.AtEnd(); liens.MoveNext()) {
+        const auto [nom, neuf] = noms.try_emplace(liens.Fields(0).toInt());
+        if (neuf)
+            nom->second = LireNom(source, nom->first);
+        QString &texte = parAlbum[liens.Fields(1).toInt()];
+        if (!nom->second.isEmpty())
+            texte += (texte.isEmpty() ? QString() : QStringLiteral(", ")) + nom->second;
+    }
+    return parAlbum;
 }
 
 QString Fiche::MotDeLaNote(int note)

@@ -6,6 +6,7 @@
 #include <QVariant>
 #include <map>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 /// What a sheet holds for one field: the value as stored and the text to show, empty where there is none.
@@ -49,10 +50,15 @@ void Ecrire(Champs::Feuille feuille, int id, const char *nom, const QVariant &va
 /// Writes an entered text into a field when the field accepts it; false when it refuses, and nothing changes.
 bool EcrireSaisie(Champs::Feuille feuille, int id, const QString &nom, const QString &saisie);
 
+/// A typed amount, with a comma or a point, with or without the euro sign; nothing when it is none.
+std::optional<double> LireMontant(const QString &saisie);
+
 /// The name of an entry that a choice offers, or empty.
 QString LireNom(const Champs::Source &source, int id);
 /// The names of all entries that an album is linked to, joined by ", ".
 QString LireNomsLies(const Champs::Source &source, int album);
+/// The same of all albums at once, by the number of the album.
+std::unordered_map<int, QString> LireTousLesNomsLies(const Champs::Source &source);
 
 /// The word for a grade of 1 to 5 stars; any other value is the lowest.
 QString MotDeLaNote(int note);

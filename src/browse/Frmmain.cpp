@@ -221,6 +221,18 @@ void Frmmain::montrerTri(Tri tri)
         montrerPremiere();
 }
 
+void Frmmain::montrerSelection(const QString &libelle, const std::vector<int> &albums)
+{
+    montrerTri(Tri::Albums);
+    m_volet->montrerSelection(libelle, albums);
+    m_volet->liste()->setCurrentIndex(m_volet->liste()->modele().index(0));
+}
+
+Liste Frmmain::listeMontree() const
+{
+    return m_volet->montree();
+}
+
 void Frmmain::montrerPremiere()
 {
     qCDebug(demarrage) << "peinte";

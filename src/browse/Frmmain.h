@@ -28,6 +28,10 @@ public:
     void montrerTri(General::Tri tri);
     /// Shows an entry's sheet, with its list when it is another one. Throws Error.
     void montrerEntree(General::Entree entree);
+    /// Shows the list of albums narrowed to some of them, under a name. Throws Error.
+    void montrerSelection(const QString &libelle, const std::vector<int> &albums);
+    /// What the main list shows.
+    General::Liste listeMontree() const;
     /// The entry whose sheet is shown; its identifier is 0 when there is none.
     General::Entree courante() const { return m_courante; }
     /// Edits an entry's label in its list, or opens an empty line there for a new entry. Both throw Error.

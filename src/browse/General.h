@@ -33,6 +33,13 @@ struct Entree
     bool operator==(const Entree &) const = default;
 };
 
+/// The entries of a kind that a list shows, in its order.
+struct Liste
+{
+    Tri tri = Tri::Albums;
+    std::vector<int> ids;
+};
+
 /// One kind of list as the window presents it.
 struct Genre
 {

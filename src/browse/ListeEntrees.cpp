@@ -24,6 +24,17 @@ void ListeEntrees::filtrer(const QString &texte)
     endResetModel();
 }
 
+void ListeEntrees::restreindre(std::vector<int> ids)
+{
+    std::sort(ids.begin(), ids.end());
+    if (ids == m_seulement)
+        return;
+    beginResetModel();
+    m_seulement = std::move(ids);
+    chercher();
+    endResetModel();
+}
+
 void ListeEntrees::plier()
 {
     if (m_plies.size() == m_entrees.size())
@@ -35,14 +46,18 @@ void ListeEntrees::plier()
 
 void ListeEntrees::chercher()
 {
-    m_filtree = !m_filtre.isEmpty();
+    const bool parTexte = !m_filtre.isEmpty();
+    m_filtree = parTexte || !m_seulement.empty();
     m_visibles.clear();
     if (!m_filtree)
         return;
-    plier();
+    if (parTexte)
+        plier();
     const std::string voulu = m_filtre.toStdString();
-    for (int i = 0; i < m_plies.size(); ++i) {
-        if (m_plies.utf8(i).find(voulu) != std::string_view::npos)
+    for (int i = 0; i < m_entrees.size(); ++i) {
+        const bool permise = m_seulement.empty()
+            || std::binary_search(m_seulement.begin(), m_seulement.end(), m_entrees.id(i));
+        if (permise && (!parTexte || m_plies.utf8(i).find(voulu) != std::string_view::npos))
             m_visibles.push_back(i);
     }
 }
@@ -72,6 +87,14 @@ QModelIndex ListeEntrees::indexDe(int id) const
     const auto visible = std::lower_bound(m_visibles.begin(), m_visibles.end(), ligne);
     const bool la = visible != m_visibles.end() && *visible == ligne;
     return la ? index(static_cast<int>(visible - m_visibles.begin())) : QModelIndex();
+}
+
+std::vector<int> ListeEntrees::visibles() const
+{
+    std::vector<int> ids;
+    for (int i = 0; i < lignesLues(); ++i)
+        ids.push_back(m_entrees.id(ligneDe(i)));
+    return ids;
 }
 
 bool ListeEntrees::estPretee(int id) const

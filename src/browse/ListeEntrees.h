@@ -19,6 +19,8 @@ public:
     void vider() { remplir(m_tri, {}); }
     /// Shows only the lines that hold this text, whatever case and accents; all of them for a blank one.
     void filtrer(const QString &texte);
+    /// Shows only the lines of these entries, besides; all of them without any.
+    void restreindre(std::vector<int> ids);
     /// What stands before the number in a key: "N " unless told otherwise.
     void poserPrefixe(const QString &prefixe) { m_prefixe = prefixe; }
     /// Opens an empty line at the end, number 0, for a new entry to be named in; closing it takes it away.
@@ -36,6 +38,8 @@ public:
         return index.isValid() && !estNeuve(index) ? m_entrees.id(ligneDe(index.row())) : 0;
     }
     QModelIndex indexDe(int id) const;
+    /// The entries shown.
+    std::vector<int> visibles() const;
     const Entrees &entrees() const { return m_entrees; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -61,6 +65,7 @@ private:
     Entrees m_entrees;
     Entrees m_plies; ///< the texts as a search compares them; made by the first search
     QString m_filtre;
+    std::vector<int> m_seulement; ///< the entries that may show, in rising order; all when it is empty
     bool m_filtree = false;
     bool m_neuve = false;
     std::vector<int> m_visibles; ///< lines shown while filtered

@@ -114,6 +114,13 @@ QWidget *VoletListes::construireTitre()
     m_filtre->installEventFilter(this);
     colonne->addSpacing(Theme::Fin);
     colonne->addWidget(m_filtre);
+    m_selection = nommer(new QToolButton(zone), QStringLiteral("Selection"));
+    m_selection->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_selection->setIcon(Icones::Charger(QStringLiteral("fermer")));
+    m_selection->setIconSize({14, 14});
+    m_selection->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_selection->hide();
+    colonne->addWidget(m_selection);
     return zone;
 }
 
@@ -153,6 +160,7 @@ void VoletListes::brancher()
         m_liste->filtrer(texte);
         poserNombre();
     });
+    connect(m_selection, &QToolButton::clicked, this, &VoletListes::oterSelection);
     connect(&m_liste->modele(), &ListeEntrees::rowsRemoved, this, &VoletListes::poserNombre);
 }
 
@@ -160,7 +168,32 @@ void VoletListes::montrerLigne(int id)
 {
     if (!m_liste->modele().indexDe(id).isValid())
         m_filtre->clear();
+    if (!m_liste->modele().indexDe(id).isValid())
+        oterSelection();
     m_liste->choisir(id);
+}
+
+Liste VoletListes::montree() const
+{
+    return {m_tri, m_liste->modele().visibles()};
+}
+
+void VoletListes::montrerSelection(const QString &libelle, const std::vector<int> &albums)
+{
+    montrer(Tri::Albums);
+    m_filtre->clear();
+    m_liste->restreindre(albums);
+    m_selection->setText(libelle);
+    expliquer(m_selection, tr("%1 — montrer toute la liste").arg(libelle));
+    m_selection->show();
+    poserNombre();
+}
+
+void VoletListes::oterSelection()
+{
+    m_liste->restreindre({});
+    m_selection->hide();
+    poserNombre();
 }
 
 void VoletListes::filtrer()
@@ -172,6 +205,7 @@ void VoletListes::filtrer()
 void VoletListes::ajouter()
 {
     m_filtre->clear();
+    oterSelection();
     m_vide->hide();
     m_liste->ajouter();
 }
@@ -208,6 +242,7 @@ void VoletListes::montrer(Tri tri)
 {
     if (tri != m_tri)
         m_filtre->clear();
+    oterSelection();
     // The button pressed and the list shown never disagree, even when the reading fails.
     try {
         remplir(tri);
@@ -252,7 +287,8 @@ void VoletListes::poserNombre()
     m_liste->setAccessibleName(texte(genre.titre));
     // A collection that could not be read must not look like an empty one.
     m_vide->setVisible(m_remplie && nombre == 0);
-    m_vide->setText(entier > 0 ? tr("Rien ne correspond à « %1 ».").arg(m_filtre->text())
+    m_vide->setText(entier > 0 && m_filtre->text().isEmpty() ? tr("Ces albums ne sont plus là.")
+            : entier > 0 ? tr("Rien ne correspond à « %1 ».").arg(m_filtre->text())
             : m_tri == Tri::Albums
             ? tr("Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.")
             : tr("Rien ici pour l'instant. Cette liste se remplit avec les albums que vous créez."));

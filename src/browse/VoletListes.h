@@ -31,6 +31,10 @@ public:
     void actualiser(const Changements &changements);
 
     General::Tri tri() const { return m_tri; }
+    /// What the main list shows, filters regarded.
+    General::Liste montree() const;
+    /// Narrows the list of albums to some of them, under a name that a click takes away again. Throws Error.
+    void montrerSelection(const QString &libelle, const std::vector<int> &albums);
     /// Makes an entry of the main list the current one, taking away the filter that would hide it.
     void montrerLigne(int id);
     /// Puts the cursor into the line that narrows the main list.
@@ -65,6 +69,7 @@ private:
     QWidget *construireLies();
     void brancher();
     void remplir(General::Tri tri);
+    void oterSelection();
     void poserPretes();
     void poserNombre();
     void replier();
@@ -77,6 +82,7 @@ private:
     QLabel *m_nombre = nullptr;
     QProgressBar *m_progression = nullptr;
     QLineEdit *m_filtre = nullptr;
+    QToolButton *m_selection = nullptr; ///< names what the list is narrowed to
     QSplitter *m_partage = nullptr;
     VueListe *m_liste = nullptr;
     VueListe *m_albums = nullptr;

@@ -75,11 +75,25 @@ void VueListe::filtrer(const QString &texte)
 {
     m_muette = true;
     m_modele.filtrer(texte);
+    retrouver();
+    m_muette = false;
+}
+
+void VueListe::restreindre(std::vector<int> ids)
+{
+    m_muette = true;
+    m_modele.restreindre(std::move(ids));
+    retrouver();
+    m_muette = false;
+}
+
+/// The entry that was current is so again when its line shows.
+void VueListe::retrouver()
+{
     const QModelIndex retenue = m_modele.indexDe(m_retenue);
     setCurrentIndex(retenue);
     if (retenue.isValid())
         scrollTo(retenue, PositionAtCenter);
-    m_muette = false;
 }
 
 bool VueListe::renommer(int id)

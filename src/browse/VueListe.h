@@ -22,6 +22,8 @@ public:
     int choisie() const { return m_modele.id(currentIndex()); }
     /// Shows only the lines that hold this text; the current entry comes back when its line does.
     void filtrer(const QString &texte);
+    /// Shows only the lines of these entries, likewise; all of them without any.
+    void restreindre(std::vector<int> ids);
     /// Edits the label of an entry in place; false when it is not in this list.
     bool renommer(int id);
     /// Opens an empty line for the name of a new entry.
@@ -40,6 +42,8 @@ protected:
     void closeEditor(QWidget *editeur, QAbstractItemDelegate::EndEditHint suite) override;
 
 private:
+    void retrouver();
+
     ListeEntrees m_modele;
     QTimer m_annonce;
     bool m_muette = false;

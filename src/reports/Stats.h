@@ -1,14 +1,20 @@
 #pragma once
 
 #include "core/ui/Forme.h"
+#include "reports/Repartition.h"
 
+#include <array>
+
+class Graphique;
 class QBoxLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class QTabWidget;
 class VueWeb;
 
-/// The statistics page: computed when the form opens, and anew on demand.
+/// The statistics page, computed when the form opens and anew on demand; beside it charts, whose bars show their
+/// albums in the main window.
 class Stats : public Forme
 {
     Q_OBJECT
@@ -19,14 +25,23 @@ public:
     /// Computes the page and shows it. Throws Error.
     void charger();
 
+Q_SIGNALS:
+    void selectionDemandee(const QString &libelle, const std::vector<int> &albums);
+
 protected:
     void Traduire() override;
 
 private:
+    QWidget *construirePage();
+    void construireGraphiques();
     void construirePied(QBoxLayout *page);
+    void tracer();
     void montrer(const QString &chemin);
 
     QLabel *m_titre = nullptr;
+    QTabWidget *m_onglets = nullptr;
+    std::array<Graphique *, Repartition::NombreDeSujets> m_graphiques{};
+    std::array<bool, Repartition::NombreDeSujets> m_traces{}; ///< charts that show the collection as it is
     VueWeb *m_web = nullptr;
     QLabel *m_notice = nullptr;
     QProgressBar *m_progression = nullptr;

@@ -1,0 +1,502 @@
+#include "reports/Impression.h"
+
+#include "core/Images.h"
+#include "core/Reglages.h"
+#include "core/Traduction.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Messages.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Suivi.h"
+#include "core/ui/Theme.h"
+#include "core/ui/TitreGroupe.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QTableWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+
+using namespace General;
+using Listage::Ordre;
+using Listage::Tableau;
+
+namespace {
+
+constexpr QSize TailleDessinee(980, 680);
+constexpr int LargeurColonnes = 270;
+constexpr int LignesDExemple = 30;
+constexpr int HauteurBouton = 32;
+constexpr int HauteurLigne = 24;
+/// In the order of the groups on the form.
+enum Groupe { GroupeColonnes, GroupePortee, GroupeExemple, GroupeSorties };
+
+QString libelleDeLaSortie(int rang)
+{
+    switch (rang) {
+    case 0:
+        return texte(Txt::EditerListeHtml);
+    case 1:
+        return texte(Txt::EditerListeTexte);
+    case 2:
+        return Impression::tr("Éditer la liste au format PDF");
+    default:
+        return Impression::tr("Exporter la liste au format CSV");
+    }
+}
+
+constexpr const char *NomsDesSorties[] = {"Html", "Texte", "Pdf", "Csv"};
+constexpr const char *Extensions[] = {"html", "txt", "pdf", "csv"};
+
+}
+
+Impression::Impression()
+    : Forme(QStringLiteral("Impression"))
+{
+    setWindowIcon(Icones::Programme());
+    resize(TailleDessinee);
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
+    page->setSpacing(Theme::Moyen);
+    m_titre = new QLabel(this);
+    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
+    m_titre->setForegroundRole(QPalette::Link);
+    page->addWidget(m_titre);
+    for (TitreGroupe *&groupe : m_groupes)
+        groupe = new TitreGroupe(this);
+    auto *corps = new QHBoxLayout;
+    corps->setSpacing(Theme::Grand);
+    corps->addWidget(construireColonnes());
+    auto *droite = new QVBoxLayout;
+    droite->setSpacing(Theme::Moyen);
+    droite->addWidget(construireChoix());
+    droite->addWidget(construireExemple(), 1);
+    droite->addWidget(construireSorties());
+    corps->addLayout(droite, 1);
+    page->addLayout(corps, 1);
+    construirePied(page);
+    Impression::Traduire();
+}
+
+QWidget *Impression::construireColonnes()
+{
+    auto *zone = new QWidget(this);
+    zone->setFixedWidth(LargeurColonnes);
+    auto *colonne = new QVBoxLayout(zone);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->addWidget(m_groupes[GroupeColonnes]);
+    m_zoneColonnes = new QScrollArea(zone);
+    m_zoneColonnes->setWidgetResizable(true);
+    m_zoneColonnes->setFrameShape(QFrame::NoFrame);
+    m_zoneColonnes->setFocusPolicy(Qt::NoFocus);
+    colonne->addWidget(m_zoneColonnes, 1);
+    auto *boutons = new QHBoxLayout;
+    m_toutes = nommer(new QPushButton(zone), QStringLiteral("Toutes"));
+    m_aucune = nommer(new QPushButton(zone), QStringLiteral("Aucune"));
+    boutons->addWidget(m_toutes);
+    boutons->addWidget(m_aucune);
+    boutons->addStretch(1);
+    colonne->addLayout(boutons);
+    connect(m_toutes, &QPushButton::clicked, this, [this] { cocherToutes(true); });
+    connect(m_aucune, &QPushButton::clicked, this, [this] { cocherToutes(false); });
+    return zone;
+}
+
+QWidget *Impression::construireChoix()
+{
+    auto *zone = new QWidget(this);
+    auto *colonne = new QVBoxLayout(zone);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->addWidget(m_groupes[GroupePortee]);
+    const auto rangee = [&](auto &boutons, const char *nom) {
+        auto *ligne = new QHBoxLayout;
+        auto *groupe = new QButtonGroup(this);
+        int rang = 0;
+        for (QRadioButton *&bouton : boutons) {
+            bouton = nommer(new QRadioButton(zone), QLatin1String(nom), rang);
+            groupe->addButton(bouton, rang++);
+            ligne->addWidget(bouton);
+            ligne->addSpacing(Theme::Petit);
+        }
+        ligne->addStretch(1);
+        colonne->addLayout(ligne);
+        return groupe;
+    };
+    connect(rangee(m_portees, "Portee"), &QButtonGroup::idClicked, this, [this](int rang) {
+        Reglages::courant().ecrire(Cle::PorteeImp, rang);
+        changer();
+    });
+    connect(rangee(m_ordres, "TriImp"), &QButtonGroup::idClicked, this, [this](int rang) {
+        Reglages::courant().ecrire(Cle::TriImp, rang);
+        montrerExemple();
+    });
+    return zone;
+}
+
+QWidget *Impression::construireExemple()
+{
+    auto *zone = new QWidget(this);
+    auto *colonne = new QVBoxLayout(zone);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->addWidget(m_groupes[GroupeExemple]);
+    m_exemple = nommer(new QTableWidget(zone), QStringLiteral("Exemple"));
+    m_exemple->setEditTriggers(QTableWidget::NoEditTriggers);
+    m_exemple->setSelectionMode(QTableWidget::NoSelection);
+    m_exemple->setAlternatingRowColors(true);
+    m_exemple->setWordWrap(false);
+    m_exemple->setTabKeyNavigation(false);
+    m_exemple->verticalHeader()->hide();
+    m_exemple->verticalHeader()->setDefaultSectionSize(HauteurLigne);
+    m_exemple->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    colonne->addWidget(m_exemple, 1);
+    m_nombre = nommer(new QLabel(zone), QStringLiteral("Nombre"));
+    m_nombre->setForegroundRole(QPalette::PlaceholderText);
+    colonne->addWidget(m_nombre);
+    return zone;
+}
+
+QWidget *Impression::construireSorties()
+{
+    auto *zone = new QWidget(this);
+    auto *grille = new QGridLayout(zone);
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setSpacing(Theme::Petit);
+    grille->addWidget(m_groupes[GroupeSorties], 0, 0, 1, 3);
+    for (std::size_t i = 0; i < m_sorties.size(); ++i) {
+        const int rang = static_cast<int>(i);
+        m_sorties[i] = nommer(new QPushButton(zone), QLatin1String(NomsDesSorties[i]));
+        m_sorties[i]->setMinimumHeight(HauteurBouton);
+        grille->addWidget(m_sorties[i], 1 + rang / 2, rang % 2);
+        connect(m_sorties[i], &QPushButton::clicked, this, [this, i] { ecrire(static_cast<Sortie>(i)); });
+    }
+    m_apercu = nommer(new QPushButton(zone), QStringLiteral("Apercu"));
+    m_imprimer = nommer(new QPushButton(zone), QStringLiteral("Imprimer"));
+    m_imprimer->setIcon(Icones::Charger(QStringLiteral("impression"), QPalette::HighlightedText));
+    Theme::Accentuer(m_imprimer);
+    for (QPushButton *bouton : {m_apercu, m_imprimer})
+        bouton->setMinimumHeight(HauteurBouton);
+    grille->addWidget(m_apercu, 1, 2);
+    grille->addWidget(m_imprimer, 2, 2);
+    connect(m_apercu, &QPushButton::clicked, this, &Impression::montrerApercu);
+    connect(m_imprimer, &QPushButton::clicked, this, &Impression::imprimer);
+    return zone;
+}
+
+void Impression::construirePied(QBoxLayout *page)
+{
+    auto *pied = new QHBoxLayout;
+    m_message = nommer(new QLabel(this), QStringLiteral("Message"));
+    m_message->setTextFormat(Qt::RichText);
+    m_message->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
+    m_progression->setTextVisible(false);
+    m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
+    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
+    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
+    pied->addWidget(m_message, 1);
+    pied->addWidget(m_progression, 1);
+    pied->addWidget(m_annuler);
+    for (QPushButton *bouton : {m_mini, m_quit}) {
+        bouton->setMinimumSize(96, HauteurBouton);
+        pied->addWidget(bouton);
+    }
+    page->addLayout(pied);
+    m_progression->hide();
+    m_annuler->hide();
+    connect(m_message, &QLabel::linkActivated, this,
+        [](const QString &lien) { QDesktopServices::openUrl(QUrl(lien)); });
+    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
+    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void Impression::charger()
+{
+    const Reglages &reglages = Reglages::courant();
+    m_montree = m_liste ? m_liste() : Liste();
+    m_ordres[reglages.entier(Cle::TriImp) == 1 ? 1 : 0]->setChecked(true);
+    const int voulue = reglages.entier(Cle::PorteeImp);
+    m_portees[voulue >= 0 && voulue < std::ssize(m_portees) ? static_cast<std::size_t>(voulue) : 0]
+        ->setChecked(true);
+    dire({});
+    proposerPortees();
+    changer();
+}
+
+void Impression::poserCourante(Entree entree)
+{
+    m_courante = entree;
+    if (isVisible())
+        charger();
+}
+
+/// What there is to print: the sheet only when one is shown.
+void Impression::proposerPortees()
+{
+    const bool fiche = m_courante.id > 0;
+    m_portees[2]->setEnabled(fiche);
+    if (!fiche && m_portees[2]->isChecked())
+        m_portees[1]->setChecked(true);
+    m_portees[1]->setText(
+        QStringLiteral("%1 (%2)").arg(tr("La liste affichée"), texte(GenreDe(m_montree.tri).bouton)));
+    m_portees[1]->setAccessibleName(m_portees[1]->text());
+}
+
+Impression::Portee Impression::portee() const
+{
+    const auto choisie = std::find_if(
+        m_portees.begin(), m_portees.end(), [](const QRadioButton *bouton) { return bouton->isChecked(); });
+    return static_cast<Portee>(choisie - m_portees.begin());
+}
+
+Tri Impression::tri() const
+{
+    return portee() == Portee::Liste ? m_montree.tri : Tri::Albums;
+}
+
+/// Another extent: other columns to choose from, and orders that make sense.
+void Impression::changer()
+{
+    const bool fiche = portee() == Portee::Fiche;
+    poserColonnes();
+    for (QWidget *reglage : {static_cast<QWidget *>(m_zoneColonnes), static_cast<QWidget *>(m_toutes),
+             static_cast<QWidget *>(m_aucune)})
+        reglage->setEnabled(!fiche);
+    for (QRadioButton *ordre : m_ordres)
+        ordre->setEnabled(!fiche && tri() == Tri::Albums);
+    montrerExemple();
+}
+
+/// The columns that were chosen last for this kind of sheet; those proposed when none ever was.
+QStringList Impression::memorisees(Champs::Feuille feuille) const
+{
+    const QString debut = QString::number(static_cast<int>(feuille)) + u'.';
+    QStringList noms;
+    for (const QString &mot : Reglages::courant().texte(Cle::ColonnesImp).split(u' ', Qt::SkipEmptyParts)) {
+        if (mot.startsWith(debut))
+            noms << mot.mid(debut.size());
+    }
+    return noms;
+}
+
+void Impression::poserColonnes()
+{
+    m_triDesColonnes = tri();
+    m_colonnes = Listage::ColonnesDe(m_triDesColonnes);
+    m_cases.clear();
+    const QStringList voulues = memorisees(GenreDe(m_triDesColonnes).feuille);
+    auto *zone = new QWidget;
+    auto *pile = new QVBoxLayout(zone);
+    pile->setContentsMargins(0, 0, Theme::Petit, 0);
+    pile->setSpacing(Theme::Fin);
+    for (const Listage::Colonne &colonne : m_colonnes) {
+        auto *choix
+            = nommer(new QCheckBox(zone), QStringLiteral("Colonnes"), static_cast<int>(m_cases.size()));
+        libeller(choix, Listage::LibelleDe(colonne));
+        QString nom = QLatin1String(colonne.champ->nom);
+        if (colonne.contraire)
+            nom += u'!';
+        choix->setProperty("colonne", nom);
+        choix->setChecked(voulues.isEmpty() ? colonne.dOffice : voulues.contains(nom));
+        connect(choix, &QCheckBox::clicked, this, [this] {
+            memoriser();
+            montrerExemple();
+        });
+        pile->addWidget(choix);
+        m_cases.push_back(choix);
+    }
+    pile->addStretch(1);
+    m_zoneColonnes->setWidget(zone);
+}
+
+void Impression::memoriser()
+{
+    const QString debut = QString::number(static_cast<int>(GenreDe(m_triDesColonnes).feuille)) + u'.';
+    QStringList mots;
+    for (const QString &mot : Reglages::courant().texte(Cle::ColonnesImp).split(u' ', Qt::SkipEmptyParts)) {
+        if (!mot.startsWith(debut))
+            mots << mot;
+    }
+    for (const QCheckBox *choix : m_cases) {
+        if (choix->isChecked())
+            mots << debut + choix->property("colonne").toString();
+    }
+    Reglages::courant().ecrire(Cle::ColonnesImp, mots.join(u' '));
+}
+
+void Impression::cocherToutes(bool cochees)
+{
+    for (QCheckBox *choix : m_cases)
+        choix->setChecked(cochees);
+    memoriser();
+    montrerExemple();
+}
+
+std::vector<Listage::Colonne> Impression::choisies() const
+{
+    std::vector<Listage::Colonne> colonnes;
+    for (std::size_t i = 0; i < m_cases.size(); ++i) {
+        if (m_cases[i]->isChecked())
+            colonnes.push_back(m_colonnes[i]);
+    }
+    return colonnes;
+}
+
+Tableau Impression::tableau() const
+{
+    if (portee() == Portee::Fiche)
+        return Listage::DeLaFiche(m_courante);
+    const Ordre ordre = m_ordres[1]->isChecked() ? Ordre::Series : Ordre::Albums;
+    if (portee() == Portee::Collection)
+        return Listage::DesEntrees(tri(), choisies(), ordre);
+    return Listage::DesEntrees(tri(), choisies(), ordre, m_montree.ids);
+}
+
+/// The first rows, as they would come out.
+void Impression::montrerExemple()
+{
+    const Tableau liste = tableau();
+    const bool vide = liste.tetes.empty();
+    m_exemple->clear();
+    m_exemple->setRowCount(0);
+    m_exemple->setColumnCount(static_cast<int>(liste.tetes.size()));
+    QStringList tetes;
+    for (const auto &tete : liste.tetes)
+        tetes << tete.libelle;
+    m_exemple->setHorizontalHeaderLabels(tetes);
+    if (!vide)
+        liste.parcourir([&](const QStringList &cellules) {
+            const int ligne = m_exemple->rowCount();
+            m_exemple->insertRow(ligne);
+            for (int i = 0; i < cellules.size(); ++i) {
+                auto *cellule = new QTableWidgetItem(cellules[i].simplified());
+                if (liste.tetes[static_cast<std::size_t>(i)].aDroite)
+                    cellule->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+                m_exemple->setItem(ligne, i, cellule);
+            }
+            return ligne + 1 < LignesDExemple;
+        });
+    m_exemple->resizeColumnsToContents();
+    m_exemple->horizontalHeader()->setStretchLastSection(true);
+    m_nombre->setText(vide              ? tr("Cochez au moins une colonne.")
+            : portee() == Portee::Fiche ? liste.titre
+                                        : tr("%n ligne(s) en tout", nullptr, static_cast<int>(liste.lignes)));
+    for (QPushButton *bouton : {m_sorties[0], m_sorties[1], m_sorties[2], m_sorties[3], m_apercu, m_imprimer})
+        bouton->setEnabled(!vide);
+}
+
+bool Impression::travailler(const std::function<bool(const Sorties::Avance &)> &travail)
+{
+    dire({});
+    m_message->hide();
+    const auto remontrer = qScopeGuard([this] { m_message->show(); });
+    Suivi suivi(m_progression, m_annuler);
+    return travail([&](int pourcent) { return suivi.avancer(pourcent); });
+}
+
+void Impression::ecrire(Sortie sortie)
+{
+    static const Ecriture Ecritures[]
+        = {Sorties::EcrireHtml, Sorties::EcrireTexte, MiseEnPage::EcrirePdf, Sorties::EcrireCsv};
+    const auto rang = static_cast<std::size_t>(sortie);
+    Reglages &reglages = Reglages::courant();
+    const Tableau liste = tableau();
+    const QString suffixe = QLatin1String(Extensions[rang]);
+    QString dossier = reglages.texte(Cle::DossierListes);
+    if (dossier.isEmpty() || !QFileInfo(dossier).isDir())
+        dossier = QDir::homePath();
+    const QString propose = QDir(dossier).filePath(Images::NomDeFichier(liste.titre) + u'.' + suffixe);
+    QString chemin = Messages::EnregistrerFichier(this, libelleDeLaSortie(static_cast<int>(rang)), propose,
+        QStringLiteral("%1|*.%2").arg(suffixe.toUpper(), suffixe));
+    if (chemin.isEmpty())
+        return;
+    if (QFileInfo(chemin).suffix().isEmpty())
+        chemin += u'.' + suffixe;
+    reglages.ecrire(Cle::DossierListes, QFileInfo(chemin).absolutePath());
+    const bool entiere
+        = travailler([&](const Sorties::Avance &avance) { return Ecritures[rang](chemin, liste, avance); });
+    if (!entiere)
+        return dire(tr("Annulé : rien n'a été écrit."));
+    dire(tr("Liste enregistrée : %1")
+             .arg(QStringLiteral("<a href=\"%1\">%2</a>")
+                      .arg(QUrl::fromLocalFile(chemin).toString(QUrl::FullyEncoded),
+                          QFileInfo(chemin).fileName().toHtmlEscaped())));
+}
+
+void Impression::dessiner(QPrinter &imprimante)
+{
+    const Tableau liste = tableau();
+    if (!travailler(
+            [&](const Sorties::Avance &avance) { return MiseEnPage::Dessiner(imprimante, liste, avance); }))
+        imprimante.abort();
+}
+
+void Impression::imprimer()
+{
+    QPrinter imprimante(QPrinter::HighResolution);
+    imprimante.setDocName(tableau().titre);
+    imprimante.setPageOrientation(
+        MiseEnPage::EstLarge(tableau()) ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPrintDialog dialogue(&imprimante, this);
+    if (dialogue.exec() != QDialog::Accepted)
+        return;
+    dessiner(imprimante);
+    dire(imprimante.printerState() == QPrinter::Aborted ? tr("Impression annulée.")
+                                                        : tr("La liste est partie à l'impression."));
+}
+
+void Impression::montrerApercu()
+{
+    QPrinter imprimante(QPrinter::ScreenResolution);
+    imprimante.setPageOrientation(
+        MiseEnPage::EstLarge(tableau()) ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPrintPreviewDialog dialogue(&imprimante, this);
+    dialogue.setObjectName(QStringLiteral("DialogueApercu"));
+    dialogue.resize(size());
+    connect(&dialogue, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter *p) { dessiner(*p); });
+    dialogue.exec();
+}
+
+void Impression::dire(const QString &message)
+{
+    m_message->setText(message);
+}
+
+void Impression::Traduire()
+{
+    setWindowTitle(texte(Txt::Impression) + QStringLiteral(" - ") + titre());
+    m_titre->setText(texte(Txt::Impression));
+    m_groupes[GroupeColonnes]->setText(texte(Txt::SelectionDesInformations));
+    m_groupes[GroupePortee]->setText(tr("Que voulez-vous lister ?"));
+    m_groupes[GroupeExemple]->setText(tr("Ce qui sortira"));
+    m_groupes[GroupeSorties]->setText(tr("Vers un fichier ou sur papier"));
+    libeller(m_toutes, tr("Toutes"));
+    libeller(m_aucune, tr("Aucune"));
+    libeller(m_portees[0], tr("Toute la collection"));
+    libeller(m_portees[2], tr("La fiche affichée"));
+    proposerPortees();
+    libeller(m_ordres[0], texte(Txt::TriParNomDAlbums));
+    libeller(m_ordres[1], texte(Txt::TriParNomDeSeries));
+    m_exemple->setAccessibleName(tr("Ce qui sortira"));
+    for (std::size_t i = 0; i < m_sorties.size(); ++i)
+        libeller(m_sorties[i], libelleDeLaSortie(static_cast<int>(i)));
+    libeller(m_apercu, tr("Aperçu avant impression"));
+    libeller(m_imprimer, tr("Imprimer…"));
+    m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
+    libeller(m_annuler, tr("Annuler"));
+    libeller(m_mini, texte(Txt::Minimiser));
+    libeller(m_quit, texte(Txt::Fermer));
+    if (isVisible())
+        changer();
+}

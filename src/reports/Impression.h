@@ -1,0 +1,91 @@
+#pragma once
+
+#include "core/ui/Forme.h"
+#include "reports/MiseEnPage.h"
+
+#include <array>
+
+class QBoxLayout;
+class QCheckBox;
+class QLabel;
+class QPrinter;
+class QProgressBar;
+class QPushButton;
+class QRadioButton;
+class QScrollArea;
+class QTableWidget;
+class TitreGroupe;
+
+/// Lists on paper and in files: which entries, which columns, in which order, and into what.
+class Impression : public Forme
+{
+    Q_OBJECT
+
+public:
+    Impression();
+
+    /// Takes up the list and the sheet that the main window shows. Throws Error.
+    void charger();
+    /// The entry of the sheet shown; number 0 when there is none.
+    void poserCourante(General::Entree entree);
+    /// How the list that the main window shows is asked for.
+    void poserListe(std::function<General::Liste()> liste) { m_liste = std::move(liste); }
+
+protected:
+    void Traduire() override;
+
+private:
+    enum class Portee { Collection, Liste, Fiche };
+    enum class Sortie { Html, Texte, Pdf, Csv };
+    using Ecriture = std::function<bool(const QString &, const Listage::Tableau &, const Sorties::Avance &)>;
+
+    QWidget *construireColonnes();
+    QWidget *construireChoix();
+    QWidget *construireExemple();
+    QWidget *construireSorties();
+    void construirePied(QBoxLayout *page);
+
+    Portee portee() const;
+    General::Tri tri() const;
+    void proposerPortees();
+    void poserColonnes();
+    void memoriser();
+    QStringList memorisees(Champs::Feuille feuille) const;
+    std::vector<Listage::Colonne> choisies() const;
+    Listage::Tableau tableau() const;
+    void montrerExemple();
+    void changer();
+    void cocherToutes(bool cochees);
+
+    void ecrire(Sortie sortie);
+    void imprimer();
+    void montrerApercu();
+    void dessiner(QPrinter &imprimante);
+    bool travailler(const std::function<bool(const Sorties::Avance &)> &travail);
+    void dire(const QString &message);
+
+    std::function<General::Liste()> m_liste;
+    General::Entree m_courante;
+    General::Liste m_montree;
+    General::Tri m_triDesColonnes = General::Tri::Albums;
+    std::vector<Listage::Colonne> m_colonnes;
+    std::vector<QCheckBox *> m_cases;
+
+    QLabel *m_titre = nullptr;
+    std::array<TitreGroupe *, 4> m_groupes{};
+    QScrollArea *m_zoneColonnes = nullptr;
+    QPushButton *m_toutes = nullptr;
+    QPushButton *m_aucune = nullptr;
+    std::array<QRadioButton *, 3> m_portees{};
+    std::array<QRadioButton *, 2> m_ordres{};
+    QTableWidget *m_exemple = nullptr;
+    QLabel *m_nombre = nullptr;
+    std::array<QPushButton *, 4> m_sorties{};
+    QPushButton *m_imprimer = nullptr;
+    QPushButton *m_apercu = nullptr;
+    QLabel *m_message = nullptr;
+    QProgressBar *m_progression = nullptr;
+    QPushButton *m_annuler = nullptr;
+    QPushButton *m_mini = nullptr;
+    QPushButton *m_quit = nullptr;
+};

@@ -1,0 +1,316 @@
+#include "reports/Listage.h"
+
+#include "browse/ChargerAlbums.h"
+#include "browse/ChargerAuteurs.h"
+#include "browse/Fiche.h"
+#include "core/Images.h"
+#include "core/Traduction.h"
+#include "db/Base.h"
+#include "db/Schema.h"
+
+#include <QCoreApplication>
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+
+using namespace Listage;
+using Champs::Champ;
+using Champs::Feuille;
+using Champs::Vue;
+using General::Tri;
+
+namespace {
+
+/// The columns of albums that have a name of their own in a list; they come first and are chosen at first.
+struct Intitulee
+{
+    const char *champ;
+    Txt libelle;
+    std::optional<Txt> suite = {};
+    bool contraire = false;
+};
+constexpr Intitulee DAlbums[] = {
+    {"TAlbum", Txt::TitreAlbum},
+    {"NumBD", Txt::NumeroAlbum},
+    {"Serie", Txt::TitreSerie},
+    {"Qualite", Txt::Qualite},
+    {"DateParu", Txt::DateParution},
+    {"LSerieLim", Txt::SerieLimiteeAbregee},
+    {"LBrochee", Txt::Cartonnee, {}, true},
+    {"LEditionOri", Txt::Edition, Txt::Originale},
+    {"Format", Txt::FormatCouverture},
+    {"LCoffret", Txt::FaitPartieDuCoffret},
+};
+
+bool estIntitulee(const Champ &champ)
+{
+    return std::any_of(std::begin(DAlbums), std::end(DAlbums),
+        [&](const Intitulee &i) { return !i.contraire && qstrcmp(i.champ, champ.nom) == 0; });
+}
+
+bool estUnNombre(const Champ &champ)
+{
+    switch (champ.vue) {
+    case Vue::Tome:
+    case Vue::Prix:
+    case Vue::Cote:
+        return true;
+    default:
+        return champ.regle == Champs::Regle::Nombre && champ.vue == Vue::Texte;
+    }
+}
+
+/// The names behind identifiers, each read once; those of link rows all at once.
+class Noms
+{
+public:
+    explicit Noms(const Champs::Source &source)
+        : m_source(source)
+        , m_lies(source.liens ? Fiche::LireTousLesNomsLies(source) : std::unordered_map<int, QString>())
+    {
+    }
+    const QString &de(int id, int cle)
+    {
+        if (m_source.liens)
+            return m_lies[id];
+        const auto [place, neuf] = m_connus.try_emplace(cle);
+        if (neuf && cle > 0)
+            place->second = Fiche::LireNom(m_source, cle);
+        return place->second;
+    }
+
+private:
+    const Champs::Source &m_source;
+    std::unordered_map<int, QString> m_lies;
+    std::unordered_map<int, QString> m_connus;
+};
+
+/// A column during a walk: where its value stands in the row, and how it becomes text.
+class Lecteur
+{
+public:
+    Lecteur(const Colonne &colonne, int rang)
+        : m_colonne(colonne)
+        , m_rang(rang)
+        , m_noms(colonne.champ->source ? std::make_unique<Noms>(*colonne.champ->source) : nullptr)
+    {
+    }
+    QString lire(const Recordset &rs, int id) const
+    {
+        const Champ &champ = *m_colonne.champ;
+        if (m_noms)
+            return m_noms->de(id, champ.colonne ? static_cast<int>(rs.Int64(m_rang)) : 0);
+        const QVariant valeur = rs.Fields(m_rang);
+        if (champ.vue == Vue::Case)
+            return texte(valeur.toBool() != m_colonne.contraire ? Txt::Oui : Txt::Non);
+        if (champ.vue == Vue::Etoiles && valeur.isValid())
+            return mot(champ, valeur);
+        return Fiche::Afficher(champ, valeur);
+    }
+
+private:
+    /// A grade by its word; what is no grade as it is.
+    static QString mot(const Champ &champ, const QVariant &valeur)
+    {
+        bool nombre = false;
+        const int grade = valeur.toString().trimmed().toInt(&nombre);
+        return nombre && grade >= 1 ? Fiche::MotDeLaNote(grade)
+            : nombre                ? QString()
+                                    : Fiche::Afficher(champ, valeur);
+    }
+
+    Colonne m_colonne;
+    int m_rang;
+    std::unique_ptr<Noms> m_noms;
+};
+
+/// What the rows of a kind are read from; the first column is the identifier, the second the series of an album.
+QString requete(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre)
+{
+    const bool albums = tri == Tri::Albums;
+    const QString table = General::TableDe(tri);
+    QStringList champs{albums ? QStringLiteral("l.NAlbum") : Schema::Champs(table).first(),
+        albums ? QStringLiteral("a.NumSerie") : QStringLiteral("0")};
+    for (const Colonne &c : colonnes) {
+        const QString nom = QLatin1String(c.champ->colonne ? c.champ->colonne : "NULL");
+        const QString alias = !albums || !c.champ->colonne ? QString()
+            : qstrcmp(c.champ->table, "LAlbums") == 0      ? QStringLiteral("l.")
+                                                           : QStringLiteral("a.");
+        champs << alias + nom;
+    }
+    QString sql = QStringLiteral("SELECT ") + champs.join(QStringLiteral(", "));
+    if (!albums) {
+        const QString drapeau = General::DrapeauDe(tri);
+        sql += QStringLiteral(" From %1").arg(table);
+        if (!drapeau.isEmpty())
+            sql += QStringLiteral(" where %1 <> 0").arg(drapeau);
+        return sql + QStringLiteral(" order by Nom asc");
+    }
+    sql += QStringLiteral(" From LAlbums l left join Album a on a.Num = l.NAlbum");
+    if (ordre == Ordre::Albums)
+        return sql + QStringLiteral(" order by l.TAlbum asc");
+    return sql
+        + QStringLiteral(" left join Serie s on s.NSerie = a.NumSerie and s.NSerie > 0"
+                         " order by s.Nom is null, s.Nom asc, a.NAlbum asc, l.TAlbum asc");
+}
+
+qint64 compter(Tri tri)
+{
+    const QString drapeau = General::DrapeauDe(tri);
+    const Base base;
+    return base
+        .OpenRecordset(QStringLiteral("SELECT count(*) From ") + General::TableDe(tri)
+            + (drapeau.isEmpty() ? QString() : QStringLiteral(" where %1 <> 0").arg(drapeau)))
+        .Int64(0);
+}
+
+/// What a walk counts for the lines below the table.
+struct Compte
+{
+    qint64 lignes = 0;
+    std::unordered_set<qint64> series;
+};
+
+bool parcourirEntrees(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre,
+    const std::optional<std::vector<int>> &seulement, Compte &compte, const Rangee &rangee)
+{
+    constexpr int PremiereColonne = 2;
+    compte = {};
+    const Base base;
+    std::vector<Lecteur> lecteurs;
+    for (const Colonne &colonne : colonnes)
+        lecteurs.emplace_back(colonne, PremiereColonne + static_cast<int>(lecteurs.size()));
+    QStringList cellules(static_cast<qsizetype>(colonnes.size()));
+    for (auto rs = base.OpenRecordset(requete(tri, colonnes, ordre)); !rs.AtEnd(); rs.MoveNext()) {
+        const int id = static_cast<int>(rs.Int64(0));
+        if (seulement && !std::binary_search(seulement->begin(), seulement->end(), id))
+            continue;
+        ++compte.lignes;
+        if (const qint64 serie = rs.Int64(1); serie > 0)
+            compte.series.insert(serie);
+        for (std::size_t i = 0; i < lecteurs.size(); ++i)
+            cellules[static_cast<qsizetype>(i)] = lecteurs[i].lire(rs, id);
+        if (!rangee(cellules))
+            return false;
+    }
+    return true;
+}
+
+QString total(Txt libelle, qint64 nombre)
+{
+    return QStringLiteral("%1 : %2").arg(texte(libelle)).arg(nombre);
+}
+
+QStringList totauxDe(Tri tri, const Compte &compte)
+{
+    if (tri != Tri::Albums)
+        return {total(General::GenreDe(tri).bouton, compte.lignes)};
+    return {total(Txt::NombreTotalDAlbums, compte.lignes),
+        total(Txt::NombreTotalDeSeries, static_cast<qint64>(compte.series.size()))};
+}
+
+using Lignes = std::vector<QStringList>;
+
+void ajouterChamps(Lignes &lignes, Feuille feuille, const Valeurs &valeurs)
+{
+    for (const Champ &champ : Champs::Tous()) {
+        if (champ.feuille != feuille || champ.vue == Vue::Image)
+            continue;
+        const auto valeur = valeurs.find(QLatin1String(champ.nom));
+        if (valeur == valeurs.end() || valeur->second.affichee.isEmpty())
+            continue;
+        const QString affichee = valeur->second.affichee;
+        const bool note = champ.vue == Vue::Etoiles && affichee.toInt() >= 1;
+        lignes.push_back({texte(champ.libelle), note ? Fiche::MotDeLaNote(affichee.toInt()) : affichee});
+    }
+}
+
+void ajouterGrilles(Lignes &lignes, int album)
+{
+    for (const auto &i : ChargerAlbums::AfficherIntervenants(album))
+        lignes.push_back({i.activite.isEmpty() ? texte(Txt::Intervenants) : i.activite, i.nom});
+    for (const auto &c : ChargerAlbums::AfficherCotes(album))
+        lignes.push_back({QStringLiteral("%1, %2").arg(texte(Txt::Cotes), c.mois), c.cote});
+}
+
+void ajouterLies(Lignes &lignes, Txt libelle, const Entrees &liees)
+{
+    for (int i = 0; i < liees.size(); ++i)
+        lignes.push_back({i == 0 ? texte(libelle) : QString(), liees.texte(i)});
+}
+
+Lignes lireFiche(General::Entree entree, QString &image)
+{
+    Lignes lignes;
+    const Base base;
+    const Feuille feuille = General::GenreDe(entree.tri).feuille;
+    const auto valeurs = Fiche::Lire(feuille, entree.id);
+    if (!valeurs)
+        return lignes;
+    ajouterChamps(lignes, feuille, *valeurs);
+    if (const auto photo = valeurs->find(QStringLiteral("Photo1")); photo != valeurs->end())
+        image = Images::Trouver(photo->second.stockee.toString());
+    if (entree.tri == Tri::Albums)
+        ajouterGrilles(lignes, entree.id);
+    ajouterLies(lignes, Txt::AlbumsDeBD, General::LireAlbums(entree.tri, entree.id));
+    if (entree.tri == Tri::Editeurs)
+        ajouterLies(lignes, Txt::PressesBD, General::LirePresse(entree.id));
+    return lignes;
+}
+
+}
+
+std::vector<Colonne> Listage::ColonnesDe(Tri tri)
+{
+    std::vector<Colonne> colonnes;
+    const Feuille feuille = General::GenreDe(tri).feuille;
+    const bool albums = feuille == Feuille::Album;
+    if (albums) {
+        for (const Intitulee &i : DAlbums)
+            colonnes.push_back(
+                {Champs::Chercher(Feuille::Album, i.champ), i.libelle, i.suite, i.contraire, true});
+    }
+    for (const Champ &champ : Champs::Tous()) {
+        if (champ.feuille == feuille && champ.vue != Vue::Image && !(albums && estIntitulee(champ)))
+            colonnes.push_back({&champ, champ.libelle, {}, false, !albums && champ.vue != Vue::Memo});
+    }
+    return colonnes;
+}
+
+QString Listage::LibelleDe(const Colonne &colonne)
+{
+    const QString libelle = texte(colonne.libelle);
+    return colonne.suite ? libelle + u' ' + texte(*colonne.suite) : libelle;
+}
+
+Tableau Listage::DesEntrees(
+    Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre, std::optional<std::vector<int>> seulement)
+{
+    if (seulement)
+        std::sort(seulement->begin(), seulement->end());
+    Tableau tableau;
+    tableau.titre = texte(General::GenreDe(tri).titre);
+    for (const Colonne &colonne : colonnes)
+        tableau.tetes.push_back({LibelleDe(colonne), estUnNombre(*colonne.champ)});
+    tableau.lignes = seulement ? static_cast<qint64>(seulement->size()) : compter(tri);
+    const auto compte = std::make_shared<Compte>();
+    tableau.parcourir = [=](const Rangee &rangee) {
+        return parcourirEntrees(tri, colonnes, ordre, seulement, *compte, rangee);
+    };
+    tableau.totaux = [=] { return totauxDe(tri, *compte); };
+    return tableau;
+}
+
+Tableau Listage::DeLaFiche(General::Entree entree)
+{
+    Tableau tableau;
+    const auto lignes = std::make_shared<Lignes>(lireFiche(entree, tableau.image));
+    tableau.titre = General::LireTexte(entree.tri, entree.id);
+    tableau.tetes = {{QCoreApplication::translate("Listage", "Champ"), false},
+        {QCoreApplication::translate("Listage", "Valeur"), false}};
+    tableau.lignes = static_cast<qint64>(lignes->size());
+    tableau.parcourir
+        = [lignes](const Rangee &rangee) { return std::all_of(lignes->begin(), lignes->end(), rangee); };
+    tableau.totaux = [] { return QStringList(); };
+    return tableau;
+}
