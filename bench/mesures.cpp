@@ -15,7 +15,9 @@
 #include "db/Creation.h"
 #include "db/Schema.h"
 #include "pictures/Scan.h"
+#include "reports/Listage.h"
 #include "reports/Rechercher.h"
+#include "reports/Sorties.h"
 #include "reports/Statistiques.h"
 
 #include <QCoreApplication>
@@ -85,6 +87,20 @@ void chercher(benchmark::State &etat)
     for (auto _ : etat)
         benchmark::DoNotOptimize(
             Rechercher::Chercher(General::Tri::Albums, texte, Rechercher::Mode::Partout).size());
+}
+
+/// All albums into a file, with the columns that are proposed.
+void lister(benchmark::State &etat)
+{
+    const Terrain terrain(100'000);
+    const QString chemin = terrain.chemin + QStringLiteral("/liste");
+    std::vector<Listage::Colonne> colonnes = Listage::ColonnesDe(General::Tri::Albums);
+    std::erase_if(colonnes, [](const Listage::Colonne &c) { return !c.dOffice; });
+    const auto ecrire = etat.range(0) == 0 ? Sorties::EcrireCsv
+        : etat.range(0) == 1               ? Sorties::EcrireHtml
+                                           : Sorties::EcrireTexte;
+    for (auto _ : etat)
+        ecrire(chemin, Listage::DesEntrees(General::Tri::Albums, colonnes), {});
 }
 
 /// The line that narrows the main list: its first letter on a list just read, then one letter more.
@@ -296,6 +312,7 @@ BENCHMARK(parcoursNu)->Apply(tailles);
 BENCHMARK(ouvrir)->Apply(tailles);
 BENCHMARK(remplirListe)->Apply(taillesEtTris);
 BENCHMARK(statistiques)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(lister)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 BENCHMARK(tourner)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(chercher)->Args({100'000, 0})->Args({100'000, 1})->Unit(benchmark::kMillisecond);
 BENCHMARK(filtrer)->Args({100'000, 0})->Args({100'000, 1})->Unit(benchmark::kMillisecond);

@@ -3,11 +3,14 @@ include(GNUInstallDirs)
 set(BULLEO_PARTAGE ${CMAKE_BINARY_DIR}/partage)
 add_custom_target(partage ALL)
 
-# Copies the files of a folder of data/ into the shipped folder, again when one of them changes.
+# Copies the files of a folder of data/ and of its folders into the shipped folder, again when one of them changes.
+# The scripts by which some were made stay behind.
 function(livrer_dossier source destination)
-    file(GLOB fichiers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${source}/*)
+    set(racine ${CMAKE_CURRENT_SOURCE_DIR}/${source})
+    file(GLOB_RECURSE fichiers CONFIGURE_DEPENDS ${racine}/*)
+    list(FILTER fichiers EXCLUDE REGEX "\\.sh$")
     foreach(fichier IN LISTS fichiers)
-        get_filename_component(nom ${fichier} NAME)
+        file(RELATIVE_PATH nom ${racine} ${fichier})
         set(copie ${BULLEO_PARTAGE}/${destination}/${nom})
         add_custom_command(OUTPUT ${copie} DEPENDS ${fichier} VERBATIM
             COMMAND ${CMAKE_COMMAND} -E copy ${fichier} ${copie})
