@@ -296,12 +296,7 @@ bool General::Concerne(const Changements &changements, Tri tri)
 QString General::VerifierCopie(const QString &chemin)
 {
     for (const QString &nom : {QStringLiteral("bd.mdb"), QStringLiteral("BDbase.bd")}) {
-        const QFileInfo propre(Dossier::courant().chemin(nom));
-        const QFileInfo cible(chemin);
-        const bool memeNom
-            = cible.absoluteFilePath().compare(propre.absoluteFilePath(), Qt::CaseInsensitive) == 0;
-        const bool memeFichier = cible.exists() && cible.canonicalFilePath() == propre.canonicalFilePath();
-        if (memeNom || memeFichier)
+        if (Dossier::courant().estLeFichier(chemin, nom))
             return nom;
     }
     return {};

@@ -101,6 +101,14 @@ QString Dossier::chemin(const QString &nom) const
     return chemin;
 }
 
+bool Dossier::estLeFichier(const QString &chemin, const QString &nom) const
+{
+    const QFileInfo propre(this->chemin(nom));
+    const QFileInfo autre(chemin);
+    return autre.absoluteFilePath().compare(propre.absoluteFilePath(), Qt::CaseInsensitive) == 0
+        || (autre.exists() && autre.canonicalFilePath() == propre.canonicalFilePath());
+}
+
 void Dossier::copierLivre(const QString &source, const QString &nom) const
 {
     const QString cible = chemin(nom);
@@ -127,7 +135,11 @@ void Dossier::preparer() const
 bool Dossier::verrouiller()
 {
     QDir().mkpath(m_racine);
-    m_verrou = std::make_unique<QLockFile>(m_racine + u'/' + Verrou);
+    const QString chemin = m_racine + u'/' + Verrou;
+    m_verrou = std::make_unique<QLockFile>(chemin);
     m_verrou->setStaleLockTime(0);
-    return m_verrou->tryLock(0) || m_verrou->error() != QLockFile::LockFailedError;
+    const bool enReste = QFileInfo::exists(chemin);
+    const bool pris = m_verrou->tryLock(0);
+    m_finBrutale = pris && enReste;
+    return pris || m_verrou->error() != QLockFile::LockFailedError;
 }

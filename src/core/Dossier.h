@@ -23,6 +23,8 @@ public:
     /// is matched without regard to case when it exists.
     QString chemin(const QString &nom) const;
     QString racine() const { return m_racine; }
+    /// True when a path leads to this file of the folder, by whatever link or letter case.
+    bool estLeFichier(const QString &chemin, const QString &nom) const;
 
     /// Fills a new or empty folder from what is shipped and adds what a folder with a collection lacks. A
     /// folder that holds files but no collection is left alone: an empty one must never hide a lost one.
@@ -31,6 +33,8 @@ public:
 
     /// False when another running program holds this folder. The lock of a dead process is taken over.
     bool verrouiller();
+    /// True when the lock was that of a dead process: the last run did not end by itself.
+    bool finBrutale() const { return m_finBrutale; }
 
 private:
     void copierLivre(const QString &source, const QString &nom) const;
@@ -38,4 +42,5 @@ private:
     QString m_racine;
     QString m_livre;
     std::unique_ptr<QLockFile> m_verrou;
+    bool m_finBrutale = false;
 };

@@ -156,11 +156,11 @@ void tst_dossier::leVerrouAUnDetenteurEtCeluiDUnMortEstRepris()
     QVERIFY(detenteur.waitForReadyRead());
     QCOMPARE(detenteur.readAll(), "pris");
     Dossier dossier(lieu.temporaire.filePath("mien"), {});
-    QVERIFY(!dossier.verrouiller());
+    QVERIFY(!dossier.verrouiller() && !dossier.finBrutale());
     detenteur.kill();
     QVERIFY(detenteur.waitForFinished());
     QVERIFY(QFile::exists(dossier.chemin(".bulleo.lock")));
-    QVERIFY(dossier.verrouiller());
+    QVERIFY(dossier.verrouiller() && dossier.finBrutale());
     QVERIFY(!Dossier(lieu.temporaire.filePath("mien/"), {}).verrouiller());
 }
 
