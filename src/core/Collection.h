@@ -2,6 +2,7 @@
 
 #include "core/Courant.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -42,6 +43,17 @@ class Collection : public QObject, public Courant<Collection>
 public:
     /// Asked when the file is in use by another program; true tries again. Without it the opening fails.
     std::function<bool(const Error &)> reessayer;
+
+    /// The backups of this run, which the engine makes before it writes.
+    struct SuiviDesSauvegardes
+    {
+        std::function<QDateTime()> maintenant = [] { return QDateTime::currentDateTime(); };
+        /// Told why none could be made; not again until one succeeds. It is called in the middle of a write, so
+        /// it may only post.
+        std::function<void(const Error &)> manquee;
+        QDateTime derniere; ///< when one was last made or tried; null before the first write
+        bool enEchec = false;
+    } sauvegardes;
 
     /// Names what is changed while it lives; the outermost one counts. It must outlive the Base that is written
     /// through, since a step is complete when that is closed: it is declared before it.

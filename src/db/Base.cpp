@@ -10,6 +10,7 @@
 Base::Base()
     : Base(Dossier::courant().chemin(QStringLiteral("bd.mdb")), Entete::Nature::Collection)
 {
+    m_connexion->aSauver = true;
 }
 
 Base::Base(const QString &chemin, Entete::Nature nature)
@@ -25,7 +26,7 @@ Recordset Base::OpenRecordset(const QString &sql, const QVariantList &valeurs) c
 int Base::Execute(const QString &sql, const QVariantList &valeurs) const
 {
     int changees = 0;
-    m_connexion->executer([&] {
+    m_connexion->ecrire([&] {
         SQLite::Statement instruction(m_connexion->db(), Sql::Normaliser(sql).toStdString());
         for (int i = 0; i < valeurs.size(); ++i)
             Valeur::Lier(instruction, i + 1, valeurs[i]);

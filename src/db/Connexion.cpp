@@ -2,6 +2,8 @@
 
 #include "core/Error.h"
 #include "db/Collation.h"
+#include "db/Moteur.h"
+#include "db/Sauvegardes.h"
 #include "db/Schema.h"
 
 #include <QCoreApplication>
@@ -13,8 +15,6 @@
 
 namespace {
 
-constexpr int AttenteMs = 250;
-
 std::map<QString, std::weak_ptr<Connexion>> &ouvertes()
 {
     static std::map<QString, std::weak_ptr<Connexion>> connexions;
@@ -24,27 +24,6 @@ std::map<QString, std::weak_ptr<Connexion>> &ouvertes()
 QString dire(const char *texte)
 {
     return QCoreApplication::translate("Base", texte);
-}
-
-Error traduire(const SQLite::Exception &e, const QString &chemin)
-{
-    const QString mots = QString::fromUtf8(e.what());
-    switch (e.getErrorCode()) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return {Error::Sorte::EnUsage,
-            dire(QT_TRANSLATE_NOOP("Base", "La base est utilisée par un autre programme.")), chemin};
-    case SQLITE_READONLY:
-        return {Error::Sorte::LectureSeule, dire(QT_TRANSLATE_NOOP("Base", "La base est en lecture seule.")),
-            chemin};
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-        return {Error::Sorte::Abimee, dire(QT_TRANSLATE_NOOP("Base", "La base est abîmée.")), chemin, mots};
-    case SQLITE_FULL:
-        return {dire(QT_TRANSLATE_NOOP("Base", "Le disque est plein.")), chemin, mots};
-    default:
-        return {dire(QT_TRANSLATE_NOOP("Base", "La base a refusé l'opération.")), chemin, mots};
-    }
 }
 
 }
@@ -77,7 +56,7 @@ Connexion::Connexion(const QString &chemin, Entete::Nature nature)
     Entete::Verifier(chemin, nature);
     executer([&] {
         m_db = std::make_unique<SQLite::Database>(
-            chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, AttenteMs);
+            chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, Moteur::AttenteMs);
         preparer(nature);
     });
 }
@@ -123,6 +102,14 @@ void Connexion::executer(const std::function<void()> &acte)
         acte();
     } catch (const SQLite::Exception &e) {
         m_journal.couper(marque);
-        throw traduire(e, m_chemin);
+        throw Moteur::Refus(e, m_chemin);
     }
+}
+
+void Connexion::ecrire(const std::function<void()> &acte)
+{
+    // What is not noted is not the user's.
+    if (aSauver && !m_journal.enPause())
+        Sauvegardes::AvantEcriture(*m_db);
+    executer(acte);
 }

@@ -26,8 +26,11 @@ public:
     /// Runs one act on the engine. What the engine refuses becomes an Error that names the file, and what the
     /// act had already noted in the journal is forgotten.
     void executer(const std::function<void()> &acte);
+    /// Likewise for an act that writes: where a backup is due, it is made before.
+    void ecrire(const std::function<void()> &acte);
 
     int profondeur = 0; ///< of nested transactions
+    bool aSauver = false; ///< this is the collection of the application folder, which has backups
 
 private:
     void preparer(Entete::Nature nature);

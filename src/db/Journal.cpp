@@ -142,7 +142,7 @@ Journal::Pause::~Pause()
 void Journal::Annuler(const Base &base, const Changements &changements)
 {
     Transaction transaction(base);
-    base.connexion().executer([&] {
+    base.connexion().ecrire([&] {
         const SansDeclencheurs sans(base.connexion().db().getHandle());
         for (auto c = changements.rbegin(); c != changements.rend(); ++c)
             remplacer(base.connexion(), *c, c->apres, c->avant);
@@ -153,7 +153,7 @@ void Journal::Annuler(const Base &base, const Changements &changements)
 void Journal::Refaire(const Base &base, const Changements &changements)
 {
     Transaction transaction(base);
-    base.connexion().executer([&] {
+    base.connexion().ecrire([&] {
         const SansDeclencheurs sans(base.connexion().db().getHandle());
         for (const Changement &c : changements)
             remplacer(base.connexion(), c, c.avant, c.apres);

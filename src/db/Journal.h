@@ -18,6 +18,8 @@ public:
     void couper(std::size_t marque) { m_changements.resize(marque); }
     Changements prendre() { return std::exchange(m_changements, {}); }
 
+    bool enPause() const { return m_pauses > 0; }
+
     /// Suspends the noting for work that is not the user's: upgrade, cleaning, conversion.
     class Pause
     {

@@ -257,7 +257,7 @@ void Recordset::inserer()
     const QString sql = noms.isEmpty()
         ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(m_table)
         : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(m_table, noms.join(u','), marques);
-    m_connexion->executer([&] {
+    m_connexion->ecrire([&] {
         preparer(sql, valeurs)->exec();
         m_derniere = m_connexion->db().getLastInsertRowid();
     });
@@ -279,7 +279,7 @@ void Recordset::modifier()
     m_derniere = cle;
     if (ecritures.isEmpty())
         return;
-    m_connexion->executer([&] {
+    m_connexion->ecrire([&] {
         // The row read before must not hold the statement open while it is rewritten.
         m_ligne->reset();
         const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
@@ -294,7 +294,7 @@ void Recordset::Delete()
 {
     ligne();
     completer();
-    m_connexion->executer([&] {
+    m_connexion->ecrire([&] {
         m_ligne->reset();
         preparer(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(m_table), {m_cles[m_position]})->exec();
     });

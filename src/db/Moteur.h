@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/Error.h"
+
+#include <memory>
+
+namespace SQLite {
+class Database;
+class Exception;
+}
+
+/// What the engine does with whole files, beside the one that is at work.
+namespace Moteur {
+
+/// How long a file may be held by others before it counts as in use.
+constexpr int AttenteMs = 250;
+
+/// What the engine refused on a file, as an Error.
+Error Refus(const SQLite::Exception &e, const QString &chemin);
+
+/// Opens a collection that is not at work, to be read only. Throws Error.
+std::unique_ptr<SQLite::Database> Ouvrir(const QString &chemin);
+
+/// True when no table holds a row. Throws Error.
+bool EstVierge(SQLite::Database &db);
+
+/// Copies an open base into a file, which is on the disk when this returns; a file that is there is replaced.
+/// Nothing is left of a copy that fails. Throws Error.
+void Copier(SQLite::Database &source, const QString &cible);
+
+/// Puts a file in the place of another in one step. Throws Error.
+void Remplacer(const QString &neuf, const QString &cible);
+
+/// A path that no file has: the one given, or with " (2)" and so on before its suffix.
+QString CheminLibre(const QString &chemin);
+
+}
