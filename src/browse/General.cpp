@@ -148,6 +148,8 @@ bool garde(const Changement &c)
 bool touche(const Changements &changements, std::initializer_list<const char *> tables)
 {
     for (const Changement &changement : changements) {
+        if (changement.table.isEmpty())
+            return true;
         if (garde(changement))
             continue;
         for (const char *table : tables) {

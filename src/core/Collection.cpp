@@ -20,6 +20,17 @@ void Collection::annoncer(const Changements &changements)
     Etape etape = m_intitule.value_or(Etape());
     etape.changements = changements;
     Q_EMIT faite(etape);
+    publier(changements);
+}
+
+void Collection::remplacer()
+{
+    Q_EMIT remplacee();
+    publier({Changement()});
+}
+
+void Collection::publier(const Changements &changements)
+{
     QMetaObject::invokeMethod(
         this, [this, changements] { Q_EMIT changee(changements); }, Qt::QueuedConnection);
 }

@@ -72,11 +72,17 @@ public:
     /// Hands the step over at once, and announces its changes from the event loop, once the action that made
     /// them is over.
     void annoncer(const Changements &changements);
+    /// Announces that another collection stands in the file: no step leads back, everything is to be read anew.
+    void remplacer();
 
 Q_SIGNALS:
     void faite(const Etape &etape);
+    /// A change without a table stands for a change of everything.
     void changee(const Changements &changements);
+    void remplacee();
 
 private:
+    void publier(const Changements &changements);
+
     std::optional<Etape> m_intitule;
 };

@@ -60,6 +60,7 @@ Historique::Historique(Collection &collection)
 {
     m_pile.setUndoLimit(Limite);
     connect(&collection, &Collection::faite, this, &Historique::prendre);
+    connect(&collection, &Collection::remplacee, this, &Historique::oublier);
     connect(&m_pile, &QUndoStack::indexChanged, this, &Historique::change);
 }
 
