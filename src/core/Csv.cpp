@@ -1,12 +1,16 @@
 #include "core/Csv.h"
 
 #include "core/Error.h"
+#include "core/Texte.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <array>
 #include <csv.h>
 
 namespace {
+
+constexpr std::array Separateurs{',', ';', '\t'};
 
 /// What the callbacks of the reader share. The reader counts no lines, so line ends are counted here.
 struct Lecture
@@ -43,11 +47,20 @@ void finDeLigne(int caractere, void *donnees)
         ++lecture.ligne;
 }
 
+[[noreturn]] void echec(const QString &chemin, const QString &details)
+{
+    throw Error(QCoreApplication::translate("Csv", "Ce fichier ne peut pas être lu."), chemin, details);
+}
+
 /// Owns the C parser.
 struct Analyseur
 {
     csv_parser parser;
-    Analyseur() { csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_EMPTY_IS_NULL | CSV_REPALL_NL); }
+    explicit Analyseur(char separateur)
+    {
+        csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_EMPTY_IS_NULL | CSV_REPALL_NL);
+        csv_set_delim(&parser, static_cast<unsigned char>(separateur));
+    }
     ~Analyseur() { csv_free(&parser); }
     Analyseur(const Analyseur &) = delete;
     Analyseur &operator=(const Analyseur &) = delete;
@@ -60,19 +73,32 @@ QString Csv::Rangee::operator[](const QString &colonne) const
     return cellules.value(entete->indexOf(colonne));
 }
 
-void Csv::Lire(const QString &chemin, const std::function<void(const Rangee &)> &pour)
+char Csv::Separateur(const QString &chemin)
 {
-    const auto echec = [&](const QString &details) {
-        throw Error(QCoreApplication::translate("Csv", "Ce fichier ne peut pas être lu."), chemin, details);
-    };
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly))
-        echec(fichier.errorString());
-    QByteArray octets = fichier.readAll();
-    if (octets.startsWith("\xEF\xBB\xBF"))
-        octets.remove(0, 3);
+        echec(chemin, fichier.errorString());
+    std::array<qsizetype, Separateurs.size()> nombres{};
+    bool entreGuillemets = false;
+    const QByteArray premiere = fichier.readLine();
+    for (const char c : premiere) {
+        entreGuillemets = entreGuillemets != (c == '"');
+        const auto lequel = std::find(Separateurs.begin(), Separateurs.end(), c);
+        if (!entreGuillemets && lequel != Separateurs.end())
+            ++nombres[static_cast<std::size_t>(lequel - Separateurs.begin())];
+    }
+    const auto plusFrequent = std::max_element(nombres.begin(), nombres.end());
+    return Separateurs[static_cast<std::size_t>(plusFrequent - nombres.begin())];
+}
 
-    Analyseur analyseur;
+QStringList Csv::Lire(const QString &chemin, const std::function<void(const Rangee &)> &pour, char separateur)
+{
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::ReadOnly))
+        echec(chemin, fichier.errorString());
+    const QByteArray octets = Texte::Decoder(fichier.readAll()).toUtf8();
+
+    Analyseur analyseur(separateur);
     Lecture lecture;
     lecture.pour = &pour;
     const auto taille = static_cast<size_t>(octets.size());
@@ -80,5 +106,8 @@ void Csv::Lire(const QString &chemin, const std::function<void(const Rangee &)> 
         = csv_parse(&analyseur.parser, octets.constData(), taille, finDeCellule, finDeLigne, &lecture)
         == taille;
     if (!lu || csv_fini(&analyseur.parser, finDeCellule, finDeLigne, &lecture) != 0)
-        echec(QString::fromUtf8(csv_strerror(csv_error(&analyseur.parser))));
+        echec(chemin,
+            QCoreApplication::translate("Csv", "Ligne %1").arg(lecture.ligne) + QStringLiteral(" : ")
+                + QString::fromUtf8(csv_strerror(csv_error(&analyseur.parser))));
+    return lecture.entete;
 }

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <functional>
 
-/// Reading of comma-separated files (RFC 4180, UTF-8).
+/// Reading of files of separated values (RFC 4180), in UTF-8 or else Windows-1252.
 namespace Csv {
 
 /// One data row by column name, with the number of the line on which it ends.
@@ -19,7 +19,13 @@ struct Rangee
     QString operator[](const QString &colonne) const;
 };
 
-/// Calls `pour` for each row under the header. Throws Error when the file cannot be read or is no such file.
-void Lire(const QString &chemin, const std::function<void(const Rangee &)> &pour);
+/// What separates the cells of a file: whichever of comma, semicolon and tab its first line has most often
+/// outside quotes. Throws Error when the file cannot be read.
+char Separateur(const QString &chemin);
+
+/// Calls `pour` for each row under the header, which is returned. Throws Error when the file cannot be read or is
+/// no such file.
+QStringList Lire(
+    const QString &chemin, const std::function<void(const Rangee &)> &pour, char separateur = ',');
 
 }
