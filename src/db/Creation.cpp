@@ -40,6 +40,11 @@ QString texteOuVide(const QString &texte)
     return texte.trimmed().isEmpty() ? Vide : texte;
 }
 
+QString titreDe(const Creation::Album &album)
+{
+    return texteOuVide(album.titre).left(LongueurTitre);
+}
+
 /// The tables of one kind of named entry, and how an album is linked to it.
 struct Lien
 {
@@ -128,9 +133,9 @@ void ajouterAuxListes(const Base &base, int num, const Creation::Album &album)
     auto rs = base.OpenRecordset(QStringLiteral("SELECT * From LAlbums"));
     rs.AddNew();
     poser(rs,
-        {{"NAlbum", num}, {"TAlbum", texteOuVide(album.titre).left(LongueurTitre)},
-            {"Photo1", texteOuVide(album.photo1)}, {"Photo2", texteOuVide(album.photo2)},
-            {"Histoire", texteOuVide(album.histoire)}, {"dedi1", Vide}, {"dedi2", Vide}});
+        {{"NAlbum", num}, {"TAlbum", titreDe(album)}, {"Photo1", texteOuVide(album.photo1)},
+            {"Photo2", texteOuVide(album.photo2)}, {"Histoire", texteOuVide(album.histoire)}, {"dedi1", Vide},
+            {"dedi2", Vide}});
     rs.Update();
 }
 
@@ -151,6 +156,17 @@ int chercherAuteur(const Base &base, const QString &nom)
     return coupe.AtEnd() ? 0 : coupe.Fields(0).toInt();
 }
 
+}
+
+bool Creation::Existe(const Album &album)
+{
+    const Base base;
+    const auto rs = base.OpenRecordset(
+        QStringLiteral("SELECT a.Num From LAlbums l join Album a on a.Num = l.NAlbum"
+                       " left join Serie s on s.NSerie = a.NumSerie where l.TAlbum = ? and a.NAlbum = ?"
+                       " and trim(coalesce(s.Nom, '')) = ? collate FRANCAIS"),
+        {titreDe(album), album.tome, album.serie.trimmed()});
+    return !rs.AtEnd();
 }
 
 int Creation::CreerAlbum(const Album &album)

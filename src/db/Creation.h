@@ -28,8 +28,12 @@ struct Album
     double prix = 0;
 };
 
+/// True when the collection has an album of this title, tome and series, texts compared as the engine does.
+/// Throws Error.
+bool Existe(const Album &album);
+
 /// Makes the album and all that ties it to the collection; returns its number. Every row is committed by
-/// itself, so what was made before an error stays. Throws Error.
+/// itself unless a Transaction holds it, so what was made before an error stays. Throws Error.
 int CreerAlbum(const Album &album);
 
 /// Credits an author on an album in a role; one who is credited already gets the role's flag beside those he

@@ -98,11 +98,17 @@ std::optional<Saisie::Refus> Saisie::Verifier(const Textes &textes)
     return std::nullopt;
 }
 
-int Saisie::Creer(const Textes &textes)
+Creation::Album Saisie::Composer(const Textes &textes)
 {
     Creation::Album album = textes.album;
     album.tome = Fiche::Verifier(champ("NumBD"), textes.tome)->toInt();
     album.prix = Fiche::Verifier(champ("PrixA"), textes.prix)->toDouble();
+    return album;
+}
+
+int Saisie::Creer(const Textes &textes)
+{
+    Creation::Album album = Composer(textes);
     if (!textes.photo1.isEmpty())
         album.photo1 = Images::Copier(textes.photo1);
     if (!textes.photo2.isEmpty())

@@ -44,6 +44,9 @@ struct Refus
 /// The first refusal, before anything is written; nothing when all is well.
 std::optional<Refus> Verifier(const Textes &textes);
 
+/// The album of texts that have passed Verifier, without the pictures.
+Creation::Album Composer(const Textes &textes);
+
 /// Takes the pictures into the collection and creates the album; returns its number. The texts must have
 /// passed Verifier. Throws Error.
 int Creer(const Textes &textes);
