@@ -1,5 +1,8 @@
 #include "Bureau.h"
 
+#include "appearance/Polices.h"
+#include "appearance/Textures.h"
+#include "archives/Restauration.h"
 #include "browse/Frmmain.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
@@ -43,10 +46,13 @@ Bureau::Bureau(const Options &options)
     declarer<Facile>(Nom::Facile);
     declarer<Acquisition>(Nom::Acquisition);
     declarer<BDNet>(Nom::BDNet);
+    declarer<Polices>(Nom::Polices);
     declarer<Pret>(Nom::Pret);
     declarer<Impression>(Nom::Impression);
     declarer<Recherche>(Nom::Recherche);
+    declarer<Restauration>(Nom::Restauration);
     declarer<Stats>(Nom::Stats);
+    declarer<Textures>(Nom::Textures);
     declarer<FrmModif>(Nom::FrmModif);
     declarer<FrmModif2>(Nom::FrmModif2);
 }
@@ -118,6 +124,10 @@ void Bureau::brancher(F *forme)
             this->forme<Frmmain>(Nom::Frmmain)
                 ->montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris)));
         });
+    if constexpr (requires { &F::apparenceChangee; })
+        connect(forme, &F::apparenceChangee, this, &Bureau::appliquerApparence);
+    if constexpr (requires { forme->appliquerApparence(); })
+        m_apparences.push_back([forme] { forme->appliquerApparence(); });
     if constexpr (requires { &F::copieDemandee; })
         connect(forme, &F::copieDemandee, this, &Bureau::sauvegarderCopie);
     if constexpr (requires { &F::actualiser; })
@@ -259,6 +269,13 @@ void Bureau::annoncerLangue()
     m_catalogues.charger(Traduction::courant().locale(), Dossier::Livre() + QStringLiteral("/tr"));
     for (const auto &[nom, forme] : m_formes)
         QCoreApplication::postEvent(forme.get(), new QEvent(QEvent::LanguageChange));
+}
+
+/// Fonts, colours and background, in every form that has been made.
+void Bureau::appliquerApparence()
+{
+    for (const auto &appliquer : m_apparences)
+        appliquer();
 }
 
 /// The launcher comes by itself when the user wants it, and the first time of all.

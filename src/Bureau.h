@@ -54,6 +54,7 @@ private:
     void chargerTextes();
     void choisirLangue(const QString &fichier);
     void annoncerLangue();
+    void appliquerApparence();
     void premierDemarrage();
     void sauvegarderCopie();
     void capturer();
@@ -65,6 +66,7 @@ private:
     Historique m_historique;
     std::map<Forme::Nom, std::function<Forme *()>> m_fabriques;
     std::map<Forme::Nom, std::unique_ptr<Forme>> m_formes;
+    std::vector<std::function<void()>> m_apparences; ///< of the forms that have been made
     std::unique_ptr<Pop> m_pop;
     std::map<Forme::Nom, std::function<void()>> m_chargements; ///< what is to be read when a form is shown
 };

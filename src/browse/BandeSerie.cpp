@@ -75,7 +75,7 @@ void BandeSerie::paintEvent(QPaintEvent *)
         const InfosAlbum::Place &place = m_bande[static_cast<std::size_t>(m_premiere + i)];
         const QRectF r = QRectF(caseDe(i)).adjusted(0.5, 0.5, -0.5, -0.5);
         const bool trou = place.num == 0;
-        const QColor fond = place.num == m_courant ? Theme::Rouge(palette()) : Theme::Bleu(palette());
+        const QColor fond = place.num == m_courant ? Theme::FondRouge(palette()) : Theme::FondBleu(palette());
         p.setPen(trou ? QPen(palette().color(QPalette::Shadow), 1, Qt::DashLine) : QPen(Qt::NoPen));
         p.setBrush(trou ? QBrush(Qt::NoBrush) : QBrush(fond));
         p.drawRoundedRect(r, 2, 2);

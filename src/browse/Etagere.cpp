@@ -90,7 +90,7 @@ private:
         constexpr int Hauteur = 18;
         const QRect etiquette(
             coin - QPoint(0, Hauteur - 1), QSize(p->fontMetrics().horizontalAdvance(texte) + 10, Hauteur));
-        p->fillRect(etiquette, Theme::Rouge(palette));
+        p->fillRect(etiquette, Theme::FondRouge(palette));
         p->setPen(palette.color(QPalette::HighlightedText));
         p->drawText(etiquette, Qt::AlignCenter, texte);
         p->restore();

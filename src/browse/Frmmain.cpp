@@ -10,6 +10,7 @@
 #include "core/Error.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
+#include "core/ui/Aide.h"
 #include "core/ui/Fond.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Liens.h"
@@ -113,7 +114,7 @@ void Frmmain::brancher()
     connect(m_fiches, &PileFiches::dit, this, &Frmmain::dire);
     connect(m_bandeau, &Bandeau::formeDemandee, this, &Frmmain::formeDemandee);
     connect(m_bandeau, &Bandeau::langueDemandee, this, &Frmmain::langueDemandee);
-    connect(m_bandeau, &Bandeau::aideDemandee, this, &Frmmain::ouvrirAide);
+    connect(m_bandeau, &Bandeau::aideDemandee, this, [] { Aide::Ouvrir(QStringLiteral("index")); });
     connect(
         m_bandeau, &Bandeau::siteDemande, this, [] { Liens::Ouvrir(Reglages::courant().texte(Cle::Site)); });
     connect(m_bandeau, &Bandeau::aProposDemande, this, &Frmmain::apropos);
@@ -139,7 +140,6 @@ void Frmmain::raccourcis()
     QList<QKeySequence> refaire = QKeySequence::keyBindings(QKeySequence::Redo);
     if (!refaire.contains(ctrlY))
         refaire << ctrlY;
-    ajouter({QKeySequence::HelpContents}, [this] { ouvrirAide(); });
     ajouter({Qt::CTRL | Qt::Key_Q}, [this] { close(); });
     ajouter({QKeySequence::New}, [this] { Q_EMIT formeDemandee(Nom::Manuelle); });
     ajouter({QKeySequence::Find}, [this] { m_volet->filtrer(); });
@@ -491,13 +491,6 @@ void Frmmain::ecrirePuisFermer()
         m_fiches->oublierMemos();
     }
     close();
-}
-
-void Frmmain::ouvrirAide()
-{
-    const QString chemin = Dossier::courant().chemin(QStringLiteral("Help\\index.htm"));
-    if (!QFileInfo::exists(chemin) || !QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)))
-        throw Error(tr("L'aide ne peut pas être ouverte."), chemin);
 }
 
 void Frmmain::apropos()

@@ -89,7 +89,6 @@ private:
     void retablir();
     void ecrirePuisFermer();
     void ouvrirMenu();
-    void ouvrirAide();
     void apropos();
 
     Bandeau *m_bandeau = nullptr;

@@ -57,14 +57,15 @@ void Pied::animer(bool actif)
         m_timer.stop();
 }
 
-/// A new shade of pure red, never the one that it has.
+/// A new shade of pure red, never the one that it has; one that can be read in the dark, there.
 void Pied::changerCouleur()
 {
     QPalette palette = m_anim->palette();
     const int courante = palette.color(QPalette::WindowText).red();
     int rouge = courante;
     while (rouge == courante)
-        rouge = QRandomGenerator::global()->bounded(256);
+        while (rouge == courante)
+            rouge = QRandomGenerator::global()->bounded(Theme::EstSombre(this->palette()) ? 170 : 0, 256);
     palette.setColor(QPalette::WindowText, QColor(rouge, 0, 0));
     m_anim->setPalette(palette);
 }

@@ -103,9 +103,6 @@ QWidget *VoletListes::construireTitre()
     m_progression = nommer(new QProgressBar(zone), QStringLiteral("Progression"));
     m_progression->setTextVisible(false);
     m_progression->setFixedHeight(HauteurFilet);
-    QPalette rouge;
-    rouge.setColor(QPalette::Highlight, Theme::Rouge(palette()));
-    m_progression->setPalette(rouge);
     colonne->addWidget(m_progression);
     m_filtre = nommer(new QLineEdit(zone), QStringLiteral("Filtre"));
     m_filtre->setClearButtonEnabled(true);
@@ -353,6 +350,9 @@ void VoletListes::Traduire()
 
 void VoletListes::appliquerApparence()
 {
+    QPalette rouge;
+    rouge.setColor(QPalette::Highlight, Theme::Rouge(this->palette()));
+    m_progression->setPalette(rouge);
     QPalette palette;
     if (Theme::CouleurChoisie().isValid())
         palette.setColor(QPalette::Text, Theme::CouleurChoisie());

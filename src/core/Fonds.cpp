@@ -1,10 +1,17 @@
 #include "core/Fonds.h"
 
 #include "core/Dossier.h"
+#include "core/Images.h"
 #include "core/Reglages.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+namespace {
+
+const QString Rangement = QStringLiteral("Fond Ecran");
+
+}
 
 QString Fonds::CheminChoisi()
 {
@@ -15,17 +22,43 @@ QString Fonds::CheminChoisi()
         return QFileInfo(nom).isFile() ? nom : QString();
     QString dossier = Reglages::courant().texte(Cle::RepFondScreen).trimmed().replace(u'\\', u'/');
     if (dossier.isEmpty())
-        dossier = Dossier::courant().chemin(QStringLiteral("Fond Ecran"));
+        dossier = CheminDe({});
     if (!dossier.endsWith(u'/'))
         dossier += u'/';
     const QString chemin = dossier + nom.section(u'/', -1);
     return QFileInfo(chemin).isFile() ? chemin : QString();
 }
 
+QStringList Fonds::Textures()
+{
+    return QDir(CheminDe({}))
+        .entryList(
+            {QStringLiteral("*.jpg"), QStringLiteral("*.jpeg")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+}
+
+QString Fonds::NomDe(const QString &fichier)
+{
+    return fichier.section(u'.', 0, 0);
+}
+
+QString Fonds::CheminDe(const QString &fichier)
+{
+    return Dossier::courant().chemin(Rangement + u'/' + fichier);
+}
+
+QString Fonds::Ajouter(const QString &chemin)
+{
+    return Images::CopierDans(Rangement, chemin);
+}
+
+void Fonds::Choisir(const QString &fichier)
+{
+    Reglages::courant().ecrire(Cle::FondScreen, fichier.isEmpty() ? QString() : CheminDe(fichier));
+    Reglages::courant().ecrire(Cle::RepFondScreen, fichier.isEmpty() ? QString() : CheminDe({}));
+}
+
 QString Fonds::Texture(int rang)
 {
-    const QDir dossier(Dossier::courant().chemin(QStringLiteral("Fond Ecran")));
-    const QStringList noms
-        = dossier.entryList({QStringLiteral("*.jpg"), QStringLiteral("*.jpeg")}, QDir::Files, QDir::Name);
-    return rang > 0 && rang <= noms.size() ? dossier.filePath(noms[rang - 1]) : QString();
+    const QStringList noms = Textures();
+    return rang > 0 && rang <= noms.size() ? CheminDe(noms[rang - 1]) : QString();
 }

@@ -119,8 +119,13 @@ QString Images::Trouver(const QString &nom)
 
 QString Images::Copier(const QString &chemin)
 {
+    return CopierDans(Rangement, chemin);
+}
+
+QString Images::CopierDans(const QString &dossier, const QString &chemin)
+{
     const QFileInfo source(chemin);
-    const auto cible = [](const QString &nom) { return Dossier::courant().chemin(Rangement + u'/' + nom); };
+    const auto cible = [&](const QString &nom) { return Dossier::courant().chemin(dossier + u'/' + nom); };
     if (!QDir().mkpath(cible({})))
         throw Error(
             QCoreApplication::translate("Images", "Le dossier des images ne peut pas être créé."), cible({}));

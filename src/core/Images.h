@@ -21,6 +21,8 @@ QString Trouver(const QString &nom);
 /// Copies a picture into "images" and returns the bare name to store. A picture that is already there is
 /// not copied again; a name that another picture has gets " (2)" and so on. Throws Error.
 QString Copier(const QString &chemin);
+/// The same into another folder of the application folder.
+QString CopierDans(const QString &dossier, const QString &chemin);
 
 /// A text as part of a file name: what a file system refuses, or hides, becomes "_"; cut at 120 characters.
 QString NomDeFichier(const QString &texte);

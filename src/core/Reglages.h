@@ -27,6 +27,7 @@ enum class Cle {
     FontBold,
     FontItalic,
     Forecolor,
+    Theme,
     Height,
     Width,
     Volets,

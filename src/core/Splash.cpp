@@ -424,7 +424,8 @@ void Splash::survoler(QAbstractButton &bouton, bool entre)
         return; // they stand on colours of their own
     QPalette palette;
     if (entre && bouton.isEnabled())
-        palette.setColor(QPalette::ButtonText, BleuDuSurvol);
+        palette.setColor(QPalette::ButtonText,
+            Theme::EstSombre(this->palette()) ? Theme::Bleu(this->palette()) : BleuDuSurvol);
     bouton.setPalette(palette);
 }
 

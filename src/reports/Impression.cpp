@@ -20,7 +20,6 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -62,30 +61,25 @@ constexpr const char *Extensions[] = {"html", "txt", "pdf", "csv"};
 }
 
 Impression::Impression()
-    : Forme(QStringLiteral("Impression"))
+    : FormeOutil(QStringLiteral("Impression"), TailleDessinee, Mini | Progression)
 {
-    setWindowIcon(Icones::Programme());
-    resize(TailleDessinee);
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
-    page->setSpacing(Theme::Moyen);
-    m_titre = new QLabel(this);
-    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
-    m_titre->setForegroundRole(QPalette::Link);
-    page->addWidget(m_titre);
     for (TitreGroupe *&groupe : m_groupes)
         groupe = new TitreGroupe(this);
-    auto *corps = new QHBoxLayout;
-    corps->setSpacing(Theme::Grand);
-    corps->addWidget(construireColonnes());
+    auto *moities = new QHBoxLayout;
+    moities->setSpacing(Theme::Grand);
+    moities->addWidget(construireColonnes());
     auto *droite = new QVBoxLayout;
     droite->setSpacing(Theme::Moyen);
     droite->addWidget(construireChoix());
     droite->addWidget(construireExemple(), 1);
     droite->addWidget(construireSorties());
-    corps->addLayout(droite, 1);
-    page->addLayout(corps, 1);
-    construirePied(page);
+    moities->addLayout(droite, 1);
+    corps()->addLayout(moities, 1);
+    m_message = ajouterMessage();
+    m_message->setTextFormat(Qt::RichText);
+    m_message->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    connect(m_message, &QLabel::linkActivated, this,
+        [](const QString &lien) { QDesktopServices::openUrl(QUrl(lien)); });
     Impression::Traduire();
 }
 
@@ -191,34 +185,6 @@ QWidget *Impression::construireSorties()
     connect(m_apercu, &QPushButton::clicked, this, &Impression::montrerApercu);
     connect(m_imprimer, &QPushButton::clicked, this, &Impression::imprimer);
     return zone;
-}
-
-void Impression::construirePied(QBoxLayout *page)
-{
-    auto *pied = new QHBoxLayout;
-    m_message = nommer(new QLabel(this), QStringLiteral("Message"));
-    m_message->setTextFormat(Qt::RichText);
-    m_message->setTextInteractionFlags(Qt::TextBrowserInteraction);
-    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
-    m_progression->setTextVisible(false);
-    m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
-    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
-    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
-    pied->addWidget(m_message, 1);
-    pied->addWidget(m_progression, 1);
-    pied->addWidget(m_annuler);
-    for (QPushButton *bouton : {m_mini, m_quit}) {
-        bouton->setMinimumSize(96, HauteurBouton);
-        pied->addWidget(bouton);
-    }
-    page->addLayout(pied);
-    m_progression->hide();
-    m_annuler->hide();
-    connect(m_message, &QLabel::linkActivated, this,
-        [](const QString &lien) { QDesktopServices::openUrl(QUrl(lien)); });
-    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
-    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
 }
 
 void Impression::charger()
@@ -401,7 +367,7 @@ bool Impression::travailler(const std::function<bool(const Sorties::Avance &)> &
     dire({});
     m_message->hide();
     const auto remontrer = qScopeGuard([this] { m_message->show(); });
-    Suivi suivi(m_progression, m_annuler);
+    Suivi suivi(progression(), annuler());
     return travail([&](int pourcent) { return suivi.avancer(pourcent); });
 }
 
@@ -475,8 +441,8 @@ void Impression::dire(const QString &message)
 
 void Impression::Traduire()
 {
-    setWindowTitle(texte(Txt::Impression) + QStringLiteral(" - ") + titre());
-    m_titre->setText(texte(Txt::Impression));
+    FormeOutil::Traduire();
+    poserTitre(texte(Txt::Impression));
     m_groupes[GroupeColonnes]->setText(texte(Txt::SelectionDesInformations));
     m_groupes[GroupePortee]->setText(tr("Que voulez-vous lister ?"));
     m_groupes[GroupeExemple]->setText(tr("Ce qui sortira"));
@@ -493,10 +459,6 @@ void Impression::Traduire()
         libeller(m_sorties[i], libelleDeLaSortie(static_cast<int>(i)));
     libeller(m_apercu, tr("Aperçu avant impression"));
     libeller(m_imprimer, tr("Imprimer…"));
-    m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
-    libeller(m_annuler, tr("Annuler"));
-    libeller(m_mini, texte(Txt::Minimiser));
-    libeller(m_quit, texte(Txt::Fermer));
     if (isVisible())
         changer();
 }

@@ -1,15 +1,13 @@
 #pragma once
 
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 #include "reports/MiseEnPage.h"
 
 #include <array>
 
-class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QPrinter;
-class QProgressBar;
 class QPushButton;
 class QRadioButton;
 class QScrollArea;
@@ -17,7 +15,7 @@ class QTableWidget;
 class TitreGroupe;
 
 /// Lists on paper and in files: which entries, which columns, in which order, and into what.
-class Impression : public Forme
+class Impression : public FormeOutil
 {
     Q_OBJECT
 
@@ -43,7 +41,6 @@ private:
     QWidget *construireChoix();
     QWidget *construireExemple();
     QWidget *construireSorties();
-    void construirePied(QBoxLayout *page);
 
     Portee portee() const;
     General::Tri tri() const;
@@ -71,7 +68,6 @@ private:
     std::vector<Listage::Colonne> m_colonnes;
     std::vector<QCheckBox *> m_cases;
 
-    QLabel *m_titre = nullptr;
     std::array<TitreGroupe *, 4> m_groupes{};
     QScrollArea *m_zoneColonnes = nullptr;
     QPushButton *m_toutes = nullptr;
@@ -84,8 +80,4 @@ private:
     QPushButton *m_imprimer = nullptr;
     QPushButton *m_apercu = nullptr;
     QLabel *m_message = nullptr;
-    QProgressBar *m_progression = nullptr;
-    QPushButton *m_annuler = nullptr;
-    QPushButton *m_mini = nullptr;
-    QPushButton *m_quit = nullptr;
 };

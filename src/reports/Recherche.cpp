@@ -25,30 +25,10 @@ constexpr QSize TailleDessinee(560, 620);
 }
 
 Recherche::Recherche()
-    : Forme(QStringLiteral("Recherche"))
+    : FormeOutil(QStringLiteral("Recherche"), TailleDessinee)
 {
-    setWindowIcon(Icones::Programme());
-    resize(TailleDessinee);
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
-    page->setSpacing(Theme::Moyen);
-    m_titre = new QLabel(this);
-    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
-    m_titre->setForegroundRole(QPalette::Link);
-    page->addWidget(m_titre);
-    page->addWidget(construireCriteres());
-    page->addWidget(construireResultat(), 1);
-    auto *boutons = new QHBoxLayout;
-    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
-    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
-    boutons->addStretch(1);
-    for (QPushButton *bouton : {m_mini, m_quit}) {
-        bouton->setMinimumSize(96, 32);
-        boutons->addWidget(bouton);
-    }
-    page->addLayout(boutons);
-    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
-    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
+    corps()->addWidget(construireCriteres());
+    corps()->addWidget(construireResultat(), 1);
     connect(m_menu, &QPushButton::clicked, this, &Recherche::chercher);
     connect(m_liste, &QTreeView::clicked, this, &Recherche::aller);
     Recherche::Traduire();
@@ -121,8 +101,8 @@ void Recherche::charger()
 
 void Recherche::Traduire()
 {
-    setWindowTitle(texte(Txt::Recherche) + QStringLiteral(" - ") + titre());
-    m_titre->setText(titre() + QStringLiteral(" · ") + texte(Txt::Recherche));
+    FormeOutil::Traduire();
+    poserTitre(texte(Txt::Recherche));
     m_libelle->setText(texte(Txt::RechercheParLibelle));
     m_saisie->setAccessibleName(texte(Txt::RechercheParLibelle));
     libeller(m_menu, texte(Txt::LancerLaRecherche));
@@ -134,8 +114,6 @@ void Recherche::Traduire()
     m_resultat->setText(texte(Txt::ResultatDeRecherche));
     m_liste->setAccessibleName(texte(Txt::ResultatDeRecherche));
     poserNombre();
-    libeller(m_mini, texte(Txt::Minimiser));
-    libeller(m_quit, texte(Txt::Fermer));
 }
 
 void Recherche::chercher()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "browse/ListeEntrees.h"
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 #include "reports/Rechercher.h"
 
 class QCheckBox;
@@ -12,7 +12,7 @@ class QPushButton;
 class QTreeView;
 
 /// The search for entries of one kind by their names; a hit shows its entry in the main window.
-class Recherche : public Forme
+class Recherche : public FormeOutil
 {
     Q_OBJECT
 
@@ -40,7 +40,6 @@ private:
     void aller(const QModelIndex &index);
 
     ListeEntrees m_modele;
-    QLabel *m_titre = nullptr;
     QLabel *m_libelle = nullptr;
     QComboBox *m_tris = nullptr;
     QLineEdit *m_saisie = nullptr;
@@ -49,8 +48,6 @@ private:
     QLabel *m_resultat = nullptr;
     QLabel *m_nombre = nullptr;
     QTreeView *m_liste = nullptr;
-    QPushButton *m_mini = nullptr;
-    QPushButton *m_quit = nullptr;
 
     /// What the hits shown were found by; nothing before the first search.
     struct Criteres

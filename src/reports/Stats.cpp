@@ -1,7 +1,6 @@
 #include "reports/Stats.h"
 
 #include "core/Traduction.h"
-#include "core/ui/Icones.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Suivi.h"
 #include "core/ui/Theme.h"
@@ -11,7 +10,6 @@
 
 #include <QDesktopServices>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabWidget>
@@ -25,24 +23,16 @@ constexpr QSize TailleDessinee(900, 700);
 }
 
 Stats::Stats()
-    : Forme(QStringLiteral("Stats"))
+    : FormeOutil(QStringLiteral("Stats"), TailleDessinee, Mini | Progression)
 {
-    setWindowIcon(Icones::Programme());
-    resize(TailleDessinee);
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(Theme::Moyen, Theme::Moyen, Theme::Moyen, Theme::Moyen);
-    page->setSpacing(Theme::Petit);
-    m_titre = new QLabel(this);
-    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
-    m_titre->setForegroundRole(QPalette::Link);
-    page->addWidget(m_titre);
     m_onglets = nommer(new QTabWidget(this), QStringLiteral("Onglets"));
     m_onglets->setDocumentMode(true);
     m_onglets->addTab(construirePage(), {});
     construireGraphiques();
-    page->addWidget(m_onglets, 1);
+    corps()->addWidget(m_onglets, 1);
     connect(m_onglets, &QTabWidget::currentChanged, this, &Stats::tracer, Qt::QueuedConnection);
-    construirePied(page);
+    m_calculer = ajouterAuPied(QStringLiteral("Calculer"));
+    connect(m_calculer, &QPushButton::clicked, this, &Stats::charger);
     Stats::Traduire();
 }
 
@@ -90,35 +80,11 @@ void Stats::tracer()
     m_graphiques[i]->montrer(Repartition::Lire(static_cast<Repartition::Sujet>(rang)));
 }
 
-void Stats::construirePied(QBoxLayout *page)
-{
-    auto *pied = new QHBoxLayout;
-    m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
-    m_progression->setTextVisible(false);
-    m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
-    m_calculer = nommer(new QPushButton(this), QStringLiteral("Calculer"));
-    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
-    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
-    pied->addWidget(m_progression, 1);
-    pied->addWidget(m_annuler);
-    pied->addStretch(1);
-    for (QPushButton *bouton : {m_calculer, m_mini, m_quit}) {
-        bouton->setMinimumSize(96, 32);
-        pied->addWidget(bouton);
-    }
-    page->addLayout(pied);
-    m_progression->hide();
-    m_annuler->hide();
-    connect(m_calculer, &QPushButton::clicked, this, &Stats::charger);
-    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
-    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
-}
-
 void Stats::charger()
 {
     QString chemin;
     {
-        Suivi suivi(m_progression, m_annuler);
+        Suivi suivi(progression(), annuler());
         chemin = Statistiques::Calculer([&](int pourcent) { return suivi.avancer(pourcent); });
     }
     m_traces = {};
@@ -143,8 +109,8 @@ void Stats::montrer(const QString &chemin)
 
 void Stats::Traduire()
 {
-    setWindowTitle(texte(Txt::Statistiques) + QStringLiteral(" - ") + titre());
-    m_titre->setText(texte(Txt::Statistiques));
+    FormeOutil::Traduire();
+    poserTitre(texte(Txt::Statistiques));
     const QString onglets[]
         = {tr("Page"), tr("Genres"), tr("Éditeurs"), tr("Décennies"), tr("Croissance"), tr("Valeur")};
     for (int i = 0; i < m_onglets->count(); ++i)
@@ -153,9 +119,5 @@ void Stats::Traduire()
     m_traces = {};
     if (isVisible())
         tracer();
-    m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
-    libeller(m_annuler, tr("Annuler"));
     libeller(m_calculer, tr("Recalculer"));
-    libeller(m_mini, texte(Txt::Minimiser));
-    libeller(m_quit, texte(Txt::Fermer));
 }

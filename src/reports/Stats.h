@@ -1,21 +1,19 @@
 #pragma once
 
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 #include "reports/Repartition.h"
 
 #include <array>
 
 class Graphique;
-class QBoxLayout;
 class QLabel;
-class QProgressBar;
 class QPushButton;
 class QTabWidget;
 class VueWeb;
 
 /// The statistics page, computed when the form opens and anew on demand; beside it charts, whose bars show their
 /// albums in the main window.
-class Stats : public Forme
+class Stats : public FormeOutil
 {
     Q_OBJECT
 
@@ -34,19 +32,13 @@ protected:
 private:
     QWidget *construirePage();
     void construireGraphiques();
-    void construirePied(QBoxLayout *page);
     void tracer();
     void montrer(const QString &chemin);
 
-    QLabel *m_titre = nullptr;
     QTabWidget *m_onglets = nullptr;
     std::array<Graphique *, Repartition::NombreDeSujets> m_graphiques{};
     std::array<bool, Repartition::NombreDeSujets> m_traces{}; ///< charts that show the collection as it is
     VueWeb *m_web = nullptr;
     QLabel *m_notice = nullptr;
-    QProgressBar *m_progression = nullptr;
-    QPushButton *m_annuler = nullptr;
     QPushButton *m_calculer = nullptr;
-    QPushButton *m_mini = nullptr;
-    QPushButton *m_quit = nullptr;
 };

@@ -1,6 +1,6 @@
 #include "db/Base.h"
 #include "db/Historique.h"
-#include "db/Restauration.h"
+#include "db/Remplacement.h"
 #include "db/Sauvegardes.h"
 #include "db/Schema.h"
 #include "support/Autre.h"
@@ -11,7 +11,7 @@
 #include <QDir>
 #include <QTest>
 
-using Restauration::Etat;
+using Remplacement::Etat;
 
 class tst_restauration : public QObject
 {
@@ -90,17 +90,17 @@ void tst_restauration::unFichierEstPrisPourCeQuIlEst()
     const QString fichier = bac.chemin("bd 2026-03-01 10-00-00.bd");
     Bac::ecrire(fichier, octets);
     const QStringList entrees = QDir(bac.chemin()).entryList();
-    const auto examen = Restauration::Examiner(fichier);
+    const auto examen = Remplacement::Examiner(fichier);
     QCOMPARE(examen.etat, etat);
     QCOMPARE(examen.date, QDateTime({2026, 3, 1}, {10, 0}));
     QCOMPARE(examen.taille, octets.size());
     QCOMPARE(examen.albums, etat == Etat::Saine ? 1 : 0);
     const bool permise = etat == Etat::Saine || etat == Etat::Vierge;
-    QCOMPARE(Restauration::Restaurer(fichier).isEmpty(), permise);
+    QCOMPARE(Remplacement::Restaurer(fichier).isEmpty(), permise);
     QCOMPARE(Bac::toutLire().size(), etat == Etat::Saine ? 2 : 0);
     QCOMPARE(Bac::lire(fichier), octets);
     QCOMPARE(QDir(bac.chemin()).entryList(), entrees);
-    QCOMPARE(refus([&] { Restauration::Examiner(bac.chemin("absent")); }), Error::Sorte::Introuvable);
+    QCOMPARE(refus([&] { Remplacement::Examiner(bac.chemin("absent")); }), Error::Sorte::Introuvable);
 }
 
 void tst_restauration::laBaseEnServiceNEstPasRestauree_data()
@@ -118,8 +118,8 @@ void tst_restauration::laBaseEnServiceNEstPasRestauree()
     Bac::executer("INSERT INTO Genre VALUES (1, 'un')");
     QFile::link(bac.collection(), bac.chemin("lien.bd"));
     const QByteArray avant = Bac::lire(bac.collection());
-    QCOMPARE(Restauration::Examiner(bac.chemin(chemin)).etat, Etat::Courante);
-    QVERIFY(!Restauration::Restaurer(bac.chemin(chemin)).isEmpty());
+    QCOMPARE(Remplacement::Examiner(bac.chemin(chemin)).etat, Etat::Courante);
+    QVERIFY(!Remplacement::Restaurer(bac.chemin(chemin)).isEmpty());
     QCOMPARE(Bac::lire(bac.collection()), avant);
     QVERIFY(Sauvegardes::Lister().isEmpty());
 }
@@ -148,7 +148,7 @@ void tst_restauration::laBaseRemplaceeEstGardee()
     if (journal)
         Bac::ecrire(bac.collection() + "-journal", "un reste");
     for (int tour = 0; tour < 2; ++tour) {
-        QCOMPARE(Restauration::Restaurer(bac.chemin("choisie.bd")), "");
+        QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
         QCOMPARE(titreEcrit(), "la nouvelle");
         QVERIFY(dossier(bac, "*.neuve").isEmpty());
         QVERIFY(!QFile::exists(bac.collection() + "-journal"));
@@ -164,7 +164,7 @@ void tst_restauration::laBaseRemplaceeEstGardee()
     }
     if (!saine)
         return;
-    QCOMPARE(Restauration::Restaurer(Sauvegardes::DerniereSaine()), "");
+    QCOMPARE(Remplacement::Restaurer(Sauvegardes::DerniereSaine()), "");
     QCOMPARE(titreEcrit(), "celle d'avant");
     QCOMPARE(Sauvegardes::Lister().size(), 2);
 }
@@ -175,12 +175,12 @@ void tst_restauration::unEchecLaisseToutEnPlace()
     Bac::ecrire(bac.collection(), albumNomme("celle d'avant"));
     Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("la nouvelle"));
     Bac::ecrire(bac.chemin("sauvegardes"), "un fichier");
-    QVERIFY(refus([&] { Restauration::Restaurer(bac.chemin("choisie.bd")); }).has_value());
+    QVERIFY(refus([&] { Remplacement::Restaurer(bac.chemin("choisie.bd")); }).has_value());
     QVERIFY(QFile::remove(bac.chemin("sauvegardes")));
     {
         Autre autre(bac.collection());
         autre.executer("BEGIN EXCLUSIVE");
-        QCOMPARE(refus([&] { Restauration::Restaurer(bac.chemin("choisie.bd")); }), Error::Sorte::EnUsage);
+        QCOMPARE(refus([&] { Remplacement::Restaurer(bac.chemin("choisie.bd")); }), Error::Sorte::EnUsage);
     }
     QCOMPARE(titreEcrit(), "celle d'avant");
     QVERIFY(Sauvegardes::Lister().isEmpty());
@@ -196,8 +196,8 @@ void tst_restauration::uneBaseDAvantEstMiseANiveau()
             "DROP TRIGGER CleTomeAlbumNeuf; DROP TRIGGER CleTomeAlbum; DROP TRIGGER CleTomeLien;"
             "DROP TRIGGER CleTomeLienNeuf; ALTER TABLE Album DROP COLUMN Coffret; PRAGMA user_version=1;"
             "INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 1)");
-    QCOMPARE(Restauration::Examiner(bac.chemin("choisie.bd")).etat, Etat::Saine);
-    QCOMPARE(Restauration::Restaurer(bac.chemin("choisie.bd")), "");
+    QCOMPARE(Remplacement::Examiner(bac.chemin("choisie.bd")).etat, Etat::Saine);
+    QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
     QCOMPARE(Bac::valeur("SELECT Coffret FROM Album"), 0);
     QCOMPARE(Bac::valeur("SELECT NumeroAlbum2 FROM SerieAlbums"), "D");
     QCOMPARE(Bac::valeur("PRAGMA user_version"), Schema::Version());
@@ -212,7 +212,7 @@ void tst_restauration::onRepartDeLaBaseRestauree()
     QCOMPARE(ecoute.annonces().size(), 1U);
     Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("a"));
     QVERIFY(histoire.peutAnnuler());
-    QCOMPARE(Restauration::Restaurer(bac.chemin("choisie.bd")), "");
+    QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
     QVERIFY(!histoire.peutAnnuler());
     QCOMPARE(ecoute.annonces().size(), 2U);
     QVERIFY(ecoute.annonces().back().front().table.isEmpty());

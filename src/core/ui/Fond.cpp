@@ -11,6 +11,8 @@ namespace {
 
 constexpr QSize TailleMax(2560, 1600);
 constexpr int OpaciteDuVoile = 150;
+/// The textures are light: in the dark little of them may show.
+constexpr int OpaciteDeNuit = 225;
 
 }
 
@@ -44,6 +46,6 @@ void Fond::paintEvent(QPaintEvent *)
     else
         p.drawImage(rect(), m_texture);
     QColor voile = bureau;
-    voile.setAlpha(OpaciteDuVoile);
+    voile.setAlpha(Theme::EstSombre(palette()) ? OpaciteDeNuit : OpaciteDuVoile);
     p.fillRect(rect(), voile);
 }

@@ -1,12 +1,17 @@
 #include "core/ui/Forme.h"
 
+#include "core/ui/Aide.h"
+
 #include <QEvent>
 #include <QKeyEvent>
+#include <QShortcut>
 
 Forme::Forme(const QString &nom, QWidget *parent)
     : QWidget(parent, Qt::Window)
 {
     setObjectName(nom);
+    auto *aide = new QShortcut(QKeySequence::HelpContents, this);
+    connect(aide, &QShortcut::activated, this, [this] { Aide::Ouvrir(objectName()); });
 }
 
 void Forme::changeEvent(QEvent *evenement)

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// Base of every form: it puts its captions in when it is first shown and at each change of language, and
-/// Escape closes it. A form shows values and announces wishes; Bureau connects them.
+/// Escape closes it, F1 opens its page of the help. A form shows values and announces wishes; Bureau connects them.
 class Forme : public QWidget
 {
     Q_OBJECT

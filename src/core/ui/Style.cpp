@@ -81,6 +81,26 @@ void dessinerFocus(const QStyleOption &o, QPainter &p)
     p.restore();
 }
 
+bool estAccentue(const QWidget *widget)
+{
+    return widget && widget->property(Theme::Accent).toBool();
+}
+
+/// The option with red in the place of the button's own colours, and paper in that of its text.
+template <class Option>
+Option accentuer(const Option &option)
+{
+    Option o = option;
+    if (!o.state.testFlag(QStyle::State_Enabled))
+        return o;
+    const QColor rouge = Theme::FondRouge(option.palette);
+    o.palette.setColor(QPalette::Button, rouge);
+    o.palette.setColor(QPalette::Midlight, rouge.lighter(115));
+    o.palette.setColor(QPalette::Mid, rouge.darker(115));
+    o.palette.setColor(QPalette::ButtonText, option.palette.color(QPalette::HighlightedText));
+    return o;
+}
+
 /// A thumb in a groove without arrows.
 void dessinerAscenseur(const QStyleOptionSlider &o, QPainter &p, const QRect &pouce)
 {
@@ -120,7 +140,7 @@ void Style::drawPrimitive(
     case PE_PanelButtonTool:
         return dessinerBouton(*option, *painter, true);
     case PE_PanelButtonCommand:
-        return dessinerBouton(*option, *painter, false);
+        return dessinerBouton(estAccentue(widget) ? accentuer(*option) : *option, *painter, false);
     case PE_IndicatorCheckBox:
         return dessinerCase(*option, *painter);
     case PE_Frame:
@@ -138,6 +158,10 @@ void Style::drawControl(
 {
     if (element == CE_ProgressBar)
         return dessinerProgression(*qstyleoption_cast<const QStyleOptionProgressBar *>(option), *painter);
+    if (element == CE_PushButtonLabel && estAccentue(widget)) {
+        const auto accentue = accentuer(*qstyleoption_cast<const QStyleOptionButton *>(option));
+        return QProxyStyle::drawControl(element, &accentue, painter, widget);
+    }
     if (element == CE_ToolButtonLabel && option->state.testFlag(State_On)) {
         // The label of a chosen button stands on the accent colour.
         QStyleOptionToolButton choisi = *qstyleoption_cast<const QStyleOptionToolButton *>(option);

@@ -1,6 +1,7 @@
 #include "core/ui/Theme.h"
 
 #include "core/Reglages.h"
+#include "core/ui/Clarte.h"
 #include "core/ui/Style.h"
 
 #include <QApplication>
@@ -36,12 +37,67 @@ QPalette clair()
     return p;
 }
 
+QPalette sombre()
+{
+    QPalette p;
+    p.setColor(QPalette::Window, 0x25272C);
+    p.setColor(QPalette::WindowText, 0xE9E4D8);
+    p.setColor(QPalette::Base, 0x2D3036);
+    p.setColor(QPalette::AlternateBase, 0x33363D);
+    p.setColor(QPalette::Text, 0xE9E4D8);
+    p.setColor(QPalette::PlaceholderText, 0xA8A294);
+    p.setColor(QPalette::Button, 0x353941);
+    p.setColor(QPalette::ButtonText, 0xE9E4D8);
+    p.setColor(QPalette::BrightText, 0xE0645A);
+    p.setColor(QPalette::Light, 0x4A4E57);
+    p.setColor(QPalette::Midlight, 0x3E424B);
+    p.setColor(QPalette::Mid, 0x4D515A);
+    p.setColor(QPalette::Dark, 0x1C1E22);
+    p.setColor(QPalette::Shadow, 0x6A6E77);
+    p.setColor(QPalette::Highlight, 0x3A6294);
+    p.setColor(QPalette::HighlightedText, 0xFFFFFF);
+    p.setColor(QPalette::Link, 0x8DB4E2);
+    p.setColor(QPalette::LinkVisited, 0xD3B06A);
+    p.setColor(QPalette::ToolTipBase, 0x3E424B);
+    p.setColor(QPalette::ToolTipText, 0xE9E4D8);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, 0x7A776F);
+    return p;
+}
+
+/// What the desktop wants; it lives as long as the application.
+Clarte *clarte()
+{
+    return qApp->findChild<Clarte *>();
+}
+
 }
 
 void Theme::Appliquer(QApplication &application)
 {
+    auto *desktop = new Clarte(&application);
+    QObject::connect(desktop, &Clarte::change, &application, Relire);
+    // The font that old settings name is not everywhere; this one has its measures.
+    QFont::insertSubstitution(QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans"));
     application.setStyle(new Style);
-    application.setPalette(clair());
+    Relire();
+}
+
+void Theme::Relire()
+{
+    const auto choix = static_cast<Choix>(Reglages::courant().entier(Cle::Theme));
+    const bool nuit = choix == Choix::Sombre || (choix != Choix::Clair && clarte() && clarte()->sombre());
+    QApplication::setPalette(nuit ? sombre() : clair());
+}
+
+bool Theme::EstSombre(const QPalette &p)
+{
+    return p.color(QPalette::Window).lightness() < p.color(QPalette::WindowText).lightness();
+}
+
+QColor Theme::FondRouge(const QPalette &p)
+{
+    return EstSombre(p) ? Rouge(p).darker(130) : Rouge(p);
 }
 
 QColor Theme::Or()
@@ -69,11 +125,7 @@ QColor Theme::CouleurChoisie()
 
 void Theme::Accentuer(QPushButton *bouton)
 {
-    QPalette palette;
-    palette.setColor(QPalette::Button, Rouge(bouton->palette()));
-    palette.setColor(QPalette::Midlight, Rouge(bouton->palette()).lighter(115));
-    palette.setColor(QPalette::ButtonText, bouton->palette().color(QPalette::HighlightedText));
-    bouton->setPalette(palette);
+    bouton->setProperty(Accent, true);
 }
 
 QFont Theme::Taille(const QFont &base, qreal facteur, QFont::Weight graisse)

@@ -17,7 +17,14 @@ constexpr int Petit = 8;
 constexpr int Moyen = 14;
 constexpr int Grand = 22;
 
+/// Light or dark: as the desktop wants it, or as the user does.
+enum class Choix { Bureau, Clair, Sombre };
+
+/// Gives the program its look, and follows the desktop and the setting from then on.
 void Appliquer(QApplication &application);
+/// Takes the colours anew, after the setting changed.
+void Relire();
+bool EstSombre(const QPalette &p);
 
 /// The desk on which the sheet lies.
 inline QColor Bureau(const QPalette &p)
@@ -52,6 +59,12 @@ inline QColor Rouge(const QPalette &p)
 {
     return p.color(QPalette::BrightText);
 }
+/// Blue and red as grounds under white letters.
+inline QColor FondBleu(const QPalette &p)
+{
+    return p.color(QPalette::Highlight);
+}
+QColor FondRouge(const QPalette &p);
 inline QColor Titre(const QPalette &p)
 {
     return p.color(QPalette::LinkVisited);
@@ -63,6 +76,8 @@ QColor Or();
 QFont PoliceChoisie();
 QColor CouleurChoisie();
 
+/// The property of a button that the style draws in red.
+constexpr char Accent[] = "accent";
 /// Makes a button the one that a form is about.
 void Accentuer(QPushButton *bouton);
 

@@ -4,7 +4,7 @@
 #include <QString>
 
 /// Putting another collection in the place of the one at work.
-namespace Restauration {
+namespace Remplacement {
 
 /// What a file is. Only sound and blank ones can be put in place as they are; old ones are converted first.
 enum class Etat { Saine, Vierge, Courante, Ancienne, Catalogue, Abimee, Etrangere };

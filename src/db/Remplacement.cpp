@@ -1,4 +1,4 @@
-#include "db/Restauration.h"
+#include "db/Remplacement.h"
 
 #include "core/Collection.h"
 #include "core/Dossier.h"
@@ -17,8 +17,8 @@
 #include <filesystem>
 #include <optional>
 
-using Restauration::Etat;
-using Restauration::Examen;
+using Remplacement::Etat;
+using Remplacement::Examen;
 
 namespace {
 
@@ -146,7 +146,7 @@ void garder(const QString &collection)
 
 }
 
-Examen Restauration::Examiner(const QString &chemin)
+Examen Remplacement::Examiner(const QString &chemin)
 {
     Examen examen;
     examen.date = Sauvegardes::DateDe(chemin);
@@ -160,7 +160,7 @@ Examen Restauration::Examiner(const QString &chemin)
     return examen;
 }
 
-QString Restauration::RaisonDuRefus(Etat etat)
+QString Remplacement::RaisonDuRefus(Etat etat)
 {
     switch (etat) {
     case Etat::Saine:
@@ -181,7 +181,7 @@ QString Restauration::RaisonDuRefus(Etat etat)
     Q_UNREACHABLE();
 }
 
-QString Restauration::Restaurer(const QString &chemin)
+QString Remplacement::Restaurer(const QString &chemin)
 {
     const QString refus = RaisonDuRefus(Examiner(chemin).etat);
     if (!refus.isEmpty())

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/ui/FormeOutil.h"
+
+class CadreImage;
+class QCheckBox;
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+class TitreGroupe;
+
+/// The background of the windows: a texture of the folder "Fond Ecran", one's own, or none.
+class Textures : public FormeOutil
+{
+    Q_OBJECT
+
+public:
+    Textures();
+
+    /// Lists the textures there are.
+    void charger();
+
+Q_SIGNALS:
+    void apparenceChangee();
+
+protected:
+    void Traduire() override;
+
+private:
+    void construireListe(class QBoxLayout *ligne);
+    void construireApercu(QBoxLayout *ligne);
+    QListWidgetItem *ajouterLigne(const QString &fichier, const QString &nom);
+    void choisir(QListWidgetItem *ligne);
+    void montrerApercu();
+    void ajouterTexture();
+    void valider();
+
+    TitreGroupe *m_titreListe = nullptr;
+    QListWidget *m_liste = nullptr;
+    QPushButton *m_suppl = nullptr;
+    QCheckBox *m_apercu = nullptr;
+    QCheckBox *m_defilement = nullptr;
+    CadreImage *m_visu = nullptr;
+    QLabel *m_message = nullptr;
+    QPushButton *m_valider = nullptr;
+};

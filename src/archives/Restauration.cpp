@@ -1,0 +1,176 @@
+#include "archives/Restauration.h"
+
+#include "core/Reglages.h"
+#include "core/Traduction.h"
+#include "core/ui/Messages.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+#include "core/ui/TitreGroupe.h"
+#include "db/Sauvegardes.h"
+
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+using Remplacement::Etat;
+using Remplacement::Examen;
+
+namespace {
+
+constexpr QSize TailleDessinee(680, 480);
+enum Colonne { ColonneDate, ColonneAlbums, ColonneTaille, ColonneFichier };
+constexpr int Chemin = Qt::UserRole;
+constexpr int EtatDuFichier = Qt::UserRole + 1;
+
+bool estUtilisable(Etat etat)
+{
+    return etat == Etat::Saine || etat == Etat::Vierge || etat == Etat::Ancienne;
+}
+
+}
+
+Restauration::Restauration()
+    : FormeOutil(QStringLiteral("Restauration"), TailleDessinee)
+{
+    construireListe();
+    m_message = ajouterMessage();
+    m_choisir = ajouterAuPied(QStringLiteral("Choisir"));
+    m_valider = ajouterAuPied(QStringLiteral("Valider"), true);
+    connect(m_choisir, &QPushButton::clicked, this, &Restauration::choisirFichier);
+    connect(m_valider, &QPushButton::clicked, this, &Restauration::restaurer);
+    connect(m_sauvegardes, &QTreeWidget::currentItemChanged, this, &Restauration::expliquerChoix);
+    connect(m_sauvegardes, &QTreeWidget::itemActivated, this, &Restauration::restaurer);
+    Restauration::Traduire();
+    expliquerChoix();
+}
+
+void Restauration::construireListe()
+{
+    m_titreListe = new TitreGroupe(this);
+    corps()->addWidget(m_titreListe);
+    m_sauvegardes = nommer(new QTreeWidget(this), QStringLiteral("Sauvegardes"));
+    m_sauvegardes->setRootIsDecorated(false);
+    m_sauvegardes->setUniformRowHeights(true);
+    m_sauvegardes->setAlternatingRowColors(true);
+    corps()->addWidget(m_sauvegardes, 1);
+    m_vide = new QLabel(m_sauvegardes);
+    m_vide->setWordWrap(true);
+    m_vide->setAlignment(Qt::AlignCenter);
+    m_vide->setForegroundRole(QPalette::PlaceholderText);
+    m_vide->setContentsMargins(Theme::Grand, Theme::Grand, Theme::Grand, Theme::Grand);
+    (new QVBoxLayout(m_sauvegardes))->addWidget(m_vide);
+}
+
+void Restauration::charger()
+{
+    m_sauvegardes->clear();
+    m_message->clear();
+    int rang = 0;
+    for (const Sauvegardes::Sauvegarde &s : Sauvegardes::Lister()) {
+        Examen examen;
+        examen.date = s.date;
+        examen.taille = s.taille;
+        examen.albums = s.albums;
+        examen.etat = s.albums < 0 ? Etat::Abimee : Etat::Saine;
+        ajouterLigne(s.chemin, QFileInfo(s.chemin).fileName(), examen, rang++);
+    }
+    m_vide->setVisible(rang == 0);
+    m_sauvegardes->setCurrentItem(m_sauvegardes->topLevelItem(0));
+    expliquerChoix();
+}
+
+void Restauration::ajouterLigne(const QString &chemin, const QString &nom, const Examen &examen, int rang)
+{
+    const QLocale &locale = Traduction::courant().locale();
+    const bool lisible = examen.etat == Etat::Saine || examen.etat == Etat::Vierge;
+    auto *ligne = new QTreeWidgetItem({locale.toString(examen.date, QLocale::ShortFormat),
+        lisible ? locale.toString(examen.albums) : QStringLiteral("—"),
+        locale.formattedDataSize(examen.taille), nom});
+    for (const int colonne : {ColonneAlbums, ColonneTaille})
+        ligne->setTextAlignment(colonne, Qt::AlignRight | Qt::AlignVCenter);
+    ligne->setData(0, Chemin, chemin);
+    ligne->setData(0, EtatDuFichier, static_cast<int>(examen.etat));
+    m_sauvegardes->insertTopLevelItem(rang, ligne);
+    for (int colonne = 0; colonne < m_sauvegardes->columnCount(); ++colonne)
+        m_sauvegardes->resizeColumnToContents(colonne);
+}
+
+void Restauration::choisirFichier()
+{
+    const QString chemin = Messages::OuvrirFichier(this, texte(Txt::RestaurerUneAncienneBase),
+        Reglages::courant().texte(Cle::DossierCopies), texte(Txt::FiltreRestauration));
+    if (!chemin.isEmpty())
+        proposer(chemin);
+}
+
+void Restauration::proposer(const QString &chemin)
+{
+    const Examen examen = Remplacement::Examiner(chemin);
+    const QString raison = Remplacement::RaisonDuRefus(examen.etat);
+    if (!estUtilisable(examen.etat)) {
+        m_message->setText(examen.mots.isEmpty() ? raison : raison + u' ' + examen.mots);
+        return;
+    }
+    Reglages::courant().ecrire(Cle::DossierCopies, QFileInfo(chemin).absolutePath());
+    m_vide->hide();
+    ajouterLigne(chemin, chemin, examen, 0);
+    m_sauvegardes->setCurrentItem(m_sauvegardes->topLevelItem(0));
+    m_sauvegardes->setFocus();
+}
+
+QString Restauration::cheminChoisi() const
+{
+    const QTreeWidgetItem *ligne = m_sauvegardes->currentItem();
+    return ligne ? ligne->data(0, Chemin).toString() : QString();
+}
+
+/// What will be done with the file chosen, or why nothing can be.
+void Restauration::expliquerChoix()
+{
+    const QTreeWidgetItem *ligne = m_sauvegardes->currentItem();
+    const auto etat = ligne ? static_cast<Etat>(ligne->data(0, EtatDuFichier).toInt()) : Etat::Etrangere;
+    m_valider->setEnabled(ligne && estUtilisable(etat));
+    if (!ligne)
+        return m_message->clear();
+    m_message->setText(etat == Etat::Ancienne
+            ? tr("Une ancienne base : elle sera convertie, son fichier reste comme il est.")
+            : estUtilisable(etat) ? tr("La base en service est gardée parmi les sauvegardes.")
+                                  : Remplacement::RaisonDuRefus(etat));
+}
+
+void Restauration::restaurer()
+{
+    const QTreeWidgetItem *ligne = m_sauvegardes->currentItem();
+    if (!m_valider->isEnabled())
+        return;
+    const QString chemin = cheminChoisi();
+    if (static_cast<Etat>(ligne->data(0, EtatDuFichier).toInt()) == Etat::Ancienne)
+        return Q_EMIT conversionDemandee(chemin);
+    const QString question = tr("Remplacer la base en service par celle du %1, avec %2 album(s) ?")
+                                 .arg(ligne->text(ColonneDate), ligne->text(ColonneAlbums));
+    if (!Messages::Demander(this, question))
+        return;
+    const QString refus = Remplacement::Restaurer(chemin);
+    if (!refus.isEmpty())
+        return m_message->setText(refus);
+    charger();
+    Messages::Informer(this, texte(Txt::RestaurationEffectuee));
+}
+
+void Restauration::Traduire()
+{
+    FormeOutil::Traduire();
+    poserTitre(texte(Txt::Restauration));
+    m_titreListe->setText(tr("Sauvegardes"));
+    m_sauvegardes->setAccessibleName(tr("Sauvegardes"));
+    m_sauvegardes->setHeaderLabels({tr("Date"), texte(Txt::AlbumsDeBD), tr("Octets"), tr("Fichier")});
+    m_vide->setText(
+        tr("Aucune sauvegarde pour l'instant : la première se fait d'elle-même, avant votre prochaine"
+           " modification. Vous pouvez aussi choisir un fichier."));
+    libeller(m_choisir, tr("Choisir un fichier…"));
+    libeller(m_valider, tr("Restaurer"));
+    expliquerChoix();
+}

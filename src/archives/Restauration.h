@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/ui/FormeOutil.h"
+#include "db/Remplacement.h"
+
+class QLabel;
+class QTreeWidget;
+class TitreGroupe;
+
+/// Another collection in the place of the one at work: one of the dated backups, or a file chosen.
+class Restauration : public FormeOutil
+{
+    Q_OBJECT
+
+public:
+    Restauration();
+
+    /// Lists the backups there are. Throws Error.
+    void charger();
+    /// Adds a file to the list and chooses it. Throws Error.
+    void proposer(const QString &chemin);
+
+Q_SIGNALS:
+    /// An old collection is to be converted and put in place.
+    void conversionDemandee(const QString &chemin);
+
+protected:
+    void Traduire() override;
+
+private:
+    void construireListe();
+    void ajouterLigne(
+        const QString &chemin, const QString &nom, const Remplacement::Examen &examen, int rang);
+    void choisirFichier();
+    void expliquerChoix();
+    void restaurer();
+    QString cheminChoisi() const;
+
+    TitreGroupe *m_titreListe = nullptr;
+    QTreeWidget *m_sauvegardes = nullptr;
+    QLabel *m_vide = nullptr;
+    QLabel *m_message = nullptr;
+    QPushButton *m_choisir = nullptr;
+    QPushButton *m_valider = nullptr;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+
+/// Whether the desktop wants windows in dark colours, as it says through its portal, and when that changes.
+class Clarte : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Clarte(QObject *parent = nullptr);
+
+    bool sombre() const { return m_sombre; }
+
+Q_SIGNALS:
+    void change();
+
+private Q_SLOTS:
+    void recevoir(const QString &section, const QString &cle, const class QDBusVariant &valeur);
+
+private:
+    bool m_sombre = false;
+};

@@ -1,0 +1,98 @@
+#include "core/ui/FormeOutil.h"
+
+#include "core/Traduction.h"
+#include "core/ui/Icones.h"
+#include "core/ui/Nommer.h"
+#include "core/ui/Theme.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize TailleBouton(96, 32);
+
+}
+
+FormeOutil::FormeOutil(const QString &nom, const QSize &taille, int elements)
+    : Forme(nom)
+{
+    setWindowIcon(Icones::Programme());
+    resize(taille.boundedTo(screen()->availableSize()));
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
+    page->setSpacing(Theme::Moyen);
+    m_titre = new QLabel(this);
+    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
+    m_titre->setForegroundRole(QPalette::Link);
+    page->addWidget(m_titre);
+    m_corps = new QVBoxLayout;
+    m_corps->setSpacing(Theme::Moyen);
+    page->addLayout(m_corps, 1);
+
+    auto *pied = new QHBoxLayout;
+    m_gauche = new QHBoxLayout;
+    m_gauche->addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
+    pied->addLayout(m_gauche, 1);
+    m_boutons = new QHBoxLayout;
+    pied->addLayout(m_boutons);
+    page->addLayout(pied);
+    if (elements & Progression) {
+        m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
+        m_progression->setTextVisible(false);
+        m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
+        m_gauche->addWidget(m_progression, 1);
+        m_gauche->addWidget(m_annuler);
+        m_progression->hide();
+        m_annuler->hide();
+    }
+    if (elements & Mini) {
+        m_mini = ajouterAuPied(QStringLiteral("Mini"));
+        connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
+    }
+    m_quit = ajouterAuPied(QStringLiteral("Quit"));
+    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
+}
+
+QPushButton *FormeOutil::ajouterAuPied(const QString &nom, bool accent)
+{
+    auto *bouton = nommer(new QPushButton(this), nom);
+    bouton->setMinimumSize(TailleBouton);
+    if (accent)
+        Theme::Accentuer(bouton);
+    // The form's own buttons stand before those of the frame.
+    const bool propre = m_quit != nullptr;
+    m_boutons->insertWidget(propre ? m_boutons->count() - (m_mini ? 2 : 1) : m_boutons->count(), bouton);
+    if (propre)
+        setTabOrder(bouton, m_mini ? m_mini : m_quit);
+    return bouton;
+}
+
+QLabel *FormeOutil::ajouterMessage()
+{
+    auto *message = nommer(new QLabel(this), QStringLiteral("Message"));
+    message->setWordWrap(true);
+    message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_gauche->insertWidget(0, message, 1);
+    return message;
+}
+
+void FormeOutil::poserTitre(const QString &texte)
+{
+    setWindowTitle(texte + QStringLiteral(" - ") + ::titre());
+    m_titre->setText(texte);
+}
+
+void FormeOutil::Traduire()
+{
+    if (m_progression) {
+        m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
+        libeller(m_annuler, tr("Annuler"));
+    }
+    if (m_mini)
+        libeller(m_mini, texte(Txt::Minimiser));
+    libeller(m_quit, texte(Txt::Fermer));
+}
