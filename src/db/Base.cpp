@@ -3,9 +3,6 @@
 #include "core/Dossier.h"
 #include "db/Connexion.h"
 #include "db/Sql.h"
-#include "db/Valeur.h"
-
-#include <SQLiteCpp/Statement.h>
 
 Base::Base()
     : Base(Dossier::courant().chemin(QStringLiteral("bd.mdb")), Entete::Nature::Collection)
@@ -27,10 +24,10 @@ int Base::Execute(const QString &sql, const QVariantList &valeurs) const
 {
     int changees = 0;
     m_connexion->ecrire([&] {
-        SQLite::Statement instruction(m_connexion->db(), Sql::Normaliser(sql).toStdString());
-        for (int i = 0; i < valeurs.size(); ++i)
-            Valeur::Lier(instruction, i + 1, valeurs[i]);
-        changees = instruction.exec();
+        const auto instruction = m_connexion->preparer(Sql::Normaliser(sql), valeurs);
+        changees = instruction->exec();
     });
+    if (!Sql::EstUneEcriture(sql))
+        m_connexion->oublierInstructions();
     return changees;
 }

@@ -5,6 +5,7 @@
 #include "db/Moteur.h"
 #include "db/Sauvegardes.h"
 #include "db/Schema.h"
+#include "db/Valeur.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -14,6 +15,8 @@
 #include <sqlite3.h>
 
 namespace {
+
+constexpr std::size_t InstructionsGardees = 64;
 
 std::map<QString, std::weak_ptr<Connexion>> &ouvertes()
 {
@@ -31,6 +34,9 @@ QString dire(const char *texte)
 std::shared_ptr<Connexion> Connexion::ouvrir(const QString &chemin, Entete::Nature nature)
 {
     Q_ASSERT(!qApp || QThread::currentThread() == qApp->thread());
+    // Inner routines come by the same path: no need to ask the disk where it leads.
+    if (auto ouverte = ouvertes()[chemin].lock())
+        return ouverte;
     // One file is one connection, whatever link leads to it.
     const QFileInfo fichier(chemin);
     const QString cle = fichier.exists() ? fichier.canonicalFilePath() : fichier.absoluteFilePath();
@@ -39,7 +45,7 @@ std::shared_ptr<Connexion> Connexion::ouvrir(const QString &chemin, Entete::Natu
     for (;;) {
         try {
             auto connexion = std::make_shared<Connexion>(cle, nature);
-            ouvertes()[cle] = connexion;
+            ouvertes()[cle] = ouvertes()[chemin] = connexion;
             return connexion;
         } catch (const Error &e) {
             const bool enUsage = e.sorte() == Error::Sorte::EnUsage;
@@ -87,9 +93,32 @@ void Connexion::verifierIndex()
 Connexion::~Connexion()
 {
     const Changements changements = m_journal.prendre();
+    m_instructions.clear();
     m_db.reset();
     if (m_annonce && !changements.empty())
         Collection::courant().annoncer(changements);
+}
+
+Instruction Connexion::preparer(const QString &sql, const QVariantList &valeurs)
+{
+    Instruction instruction(nullptr, Rendre{this});
+    if (auto gardee = m_instructions.extract(sql.toStdString())) {
+        instruction.reset(gardee.mapped().release());
+        instruction->clearBindings();
+    } else {
+        instruction.reset(new SQLite::Statement(*m_db, sql.toStdString()));
+    }
+    for (int i = 0; i < valeurs.size(); ++i)
+        Valeur::Lier(*instruction, i + 1, valeurs[i]);
+    return instruction;
+}
+
+void Rendre::operator()(SQLite::Statement *instruction) const
+{
+    std::unique_ptr<SQLite::Statement> rendue(instruction);
+    instruction->tryReset();
+    if (connexion->m_instructions.size() < InstructionsGardees)
+        connexion->m_instructions.emplace(instruction->getQuery(), std::move(rendue));
 }
 
 void Connexion::executer(const std::function<void()> &acte)

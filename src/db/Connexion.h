@@ -1,11 +1,15 @@
 #pragma once
 
 #include "db/Entete.h"
+#include "db/Instruction.h"
 #include "db/Journal.h"
 
+#include <QVariantList>
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 #include <functional>
 #include <memory>
+#include <unordered_map>
 
 /// One open database file. Base and Recordset share it; the last one out closes it, which announces what
 /// was changed.
@@ -23,6 +27,11 @@ public:
     SQLite::Database &db() { return *m_db; }
     Journal &journal() { return m_journal; }
 
+    /// A statement with its values bound, to be made and used within executer().
+    Instruction preparer(const QString &sql, const QVariantList &valeurs);
+    /// Forgets the statements kept: tables may have other columns than before.
+    void oublierInstructions() { m_instructions.clear(); }
+
     /// Runs one act on the engine. What the engine refuses becomes an Error that names the file, and what the
     /// act had already noted in the journal is forgotten.
     void executer(const std::function<void()> &acte);
@@ -33,11 +42,13 @@ public:
     bool aSauver = false; ///< this is the collection of the application folder, which has backups
 
 private:
+    friend struct Rendre;
     void preparer(Entete::Nature nature);
     void verifierIndex();
 
     QString m_chemin;
     Journal m_journal;
     std::unique_ptr<SQLite::Database> m_db;
+    std::unordered_multimap<std::string, std::unique_ptr<SQLite::Statement>> m_instructions;
     bool m_annonce;
 };

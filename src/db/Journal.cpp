@@ -3,6 +3,7 @@
 #include "core/Error.h"
 #include "db/Base.h"
 #include "db/Connexion.h"
+#include "db/Sql.h"
 #include "db/Transaction.h"
 #include "db/Valeur.h"
 
@@ -46,40 +47,32 @@ private:
 
 std::optional<Ligne> ligneActuelle(Connexion &connexion, const QString &table, qint64 cle)
 {
-    SQLite::Statement lecture(
-        connexion.db(), "SELECT * FROM \"" + table.toStdString() + "\" WHERE rowid = ?");
-    lecture.bind(1, static_cast<int64_t>(cle));
-    if (!lecture.executeStep())
+    const Instruction lecture
+        = connexion.preparer(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(Sql::Nom(table)), {cle});
+    if (!lecture->executeStep())
         return std::nullopt;
     Ligne ligne;
-    for (int i = 0; i < lecture.getColumnCount(); ++i)
-        ligne.push_back(Valeur::Lire(lecture.getColumn(i)));
+    for (int i = 0; i < lecture->getColumnCount(); ++i)
+        ligne.push_back(Valeur::Lire(lecture->getColumn(i)));
     return ligne;
 }
 
 void supprimer(Connexion &connexion, const QString &table, qint64 cle)
 {
-    SQLite::Statement suppression(
-        connexion.db(), "DELETE FROM \"" + table.toStdString() + "\" WHERE rowid = ?");
-    suppression.bind(1, static_cast<int64_t>(cle));
-    suppression.exec();
+    connexion.preparer(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(Sql::Nom(table)), {cle})->exec();
 }
 
 void inserer(Connexion &connexion, const QString &table, qint64 cle, const Ligne &ligne)
 {
-    SQLite::Statement forme(connexion.db(), "SELECT * FROM \"" + table.toStdString() + "\" LIMIT 0");
+    const Instruction forme
+        = connexion.preparer(QStringLiteral("SELECT * FROM %1 LIMIT 0").arg(Sql::Nom(table)), {});
     QStringList colonnes{QStringLiteral("rowid")};
-    for (int i = 0; i < forme.getColumnCount(); ++i)
-        colonnes << u'"' + QString::fromUtf8(forme.getColumnName(i)) + u'"';
+    for (int i = 0; i < forme->getColumnCount(); ++i)
+        colonnes << Sql::Nom(QString::fromUtf8(forme->getColumnName(i)));
     const QString marques = QStringList(colonnes.size(), QStringLiteral("?")).join(u',');
-    SQLite::Statement insertion(connexion.db(),
-        QStringLiteral("INSERT INTO \"%1\" (%2) VALUES (%3)")
-            .arg(table, colonnes.join(u','), marques)
-            .toStdString());
-    insertion.bind(1, static_cast<int64_t>(cle));
-    for (std::size_t i = 0; i < ligne.size(); ++i)
-        Valeur::Lier(insertion, static_cast<int>(i) + 2, ligne[i]);
-    insertion.exec();
+    const QString sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                            .arg(Sql::Nom(table), colonnes.join(u','), marques);
+    connexion.preparer(sql, QVariantList{cle} + QVariantList(ligne.begin(), ligne.end()))->exec();
 }
 
 void remplacer(Connexion &connexion, const Changement &c, const std::optional<Ligne> &attendue,

@@ -30,20 +30,12 @@ Recordset::Recordset(std::shared_ptr<Connexion> connexion, const QString &sql, c
         m_table = uneTable->table;
         m_parcours = numerosDe(*uneTable);
     } else {
-        m_connexion->executer([&] { m_marche = preparer(m_sql, m_valeurs); });
+        m_connexion->executer([&] { m_marche = m_connexion->preparer(m_sql, m_valeurs); });
     }
 }
 
 Recordset::Recordset(Recordset &&) noexcept = default;
 Recordset::~Recordset() = default;
-
-Recordset::Instruction Recordset::preparer(const QString &sql, const QVariantList &valeurs) const
-{
-    auto instruction = std::make_unique<SQLite::Statement>(m_connexion->db(), sql.toStdString());
-    for (int i = 0; i < valeurs.size(); ++i)
-        Valeur::Lier(*instruction, i + 1, valeurs[i]);
-    return instruction;
-}
 
 qint64 Recordset::RecordCount()
 {
@@ -54,7 +46,7 @@ qint64 Recordset::RecordCount()
     qint64 nombre = 0;
     m_connexion->executer([&] {
         const Instruction compte
-            = preparer(QStringLiteral("SELECT count(*) FROM (%1)").arg(m_sql), m_valeurs);
+            = m_connexion->preparer(QStringLiteral("SELECT count(*) FROM (%1)").arg(m_sql), m_valeurs);
         compte->executeStep();
         nombre = compte->getColumn(0).getInt64();
     });
@@ -66,7 +58,7 @@ void Recordset::avancer() const
 {
     m_connexion->executer([&] {
         if (!m_marche)
-            m_marche = preparer(m_parcours, m_valeurs);
+            m_marche = m_connexion->preparer(m_parcours, m_valeurs);
         m_epuisee = m_epuisee || !m_marche->executeStep();
     });
     if (m_table.isEmpty())
@@ -156,7 +148,8 @@ void Recordset::MoveNext()
 SQLite::Statement &Recordset::ligneParNumero() const
 {
     if (!m_ligne)
-        m_ligne = preparer(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(m_table), {QVariant(0)});
+        m_ligne = m_connexion->preparer(
+            QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(m_table), {QVariant(0)});
     return *m_ligne;
 }
 
@@ -258,7 +251,7 @@ void Recordset::inserer()
         ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(m_table)
         : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(m_table, noms.join(u','), marques);
     m_connexion->ecrire([&] {
-        preparer(sql, valeurs)->exec();
+        m_connexion->preparer(sql, valeurs)->exec();
         m_derniere = m_connexion->db().getLastInsertRowid();
     });
     // Adding a row must not cost a walk of all others.
@@ -284,7 +277,7 @@ void Recordset::modifier()
         m_ligne->reset();
         const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
                                 .arg(m_table, ecritures.join(QStringLiteral(", ")));
-        if (preparer(sql, valeurs + QVariantList{cle})->exec() == 0)
+        if (m_connexion->preparer(sql, valeurs + QVariantList{cle})->exec() == 0)
             throw Error(QCoreApplication::translate("Base", "La fiche n'existe plus."), m_table);
     });
     charger(cle);
@@ -296,7 +289,9 @@ void Recordset::Delete()
     completer();
     m_connexion->ecrire([&] {
         m_ligne->reset();
-        preparer(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(m_table), {m_cles[m_position]})->exec();
+        m_connexion
+            ->preparer(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(m_table), {m_cles[m_position]})
+            ->exec();
     });
 }
 

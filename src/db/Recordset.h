@@ -1,5 +1,7 @@
 #pragma once
 
+#include "db/Instruction.h"
+
 #include <QHash>
 #include <QString>
 #include <QVariant>
@@ -7,12 +9,6 @@
 #include <optional>
 #include <string_view>
 #include <vector>
-
-class Connexion;
-namespace SQLite {
-class Column;
-class Statement;
-}
 
 /// The rows of a query. "SELECT * From one table ..." can be edited: it is a list of row numbers, complete
 /// before the first change, whose rows are fetched one by one, so that a walk survives its own edits. Every
@@ -52,9 +48,7 @@ public:
 
 private:
     enum class Mode { Lecture, Ajout, Edition };
-    using Instruction = std::unique_ptr<SQLite::Statement>;
 
-    Instruction preparer(const QString &sql, const QVariantList &valeurs) const;
     void commencer() const;
     void suivante() const;
     void avancer() const;

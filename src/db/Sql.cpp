@@ -34,6 +34,13 @@ std::optional<Sql::UneTable> Sql::Decomposer(const QString &sql)
     return UneTable{m.captured(1), m.captured(2)};
 }
 
+bool Sql::EstUneEcriture(const QString &sql)
+{
+    const QString debut = sql.trimmed().left(6).toUpper();
+    return debut == QLatin1String("INSERT") || debut == QLatin1String("UPDATE")
+        || debut == QLatin1String("DELETE");
+}
+
 QString Sql::Nom(const QString &nom)
 {
     return u'"' + QString(nom).replace(u'"', QStringLiteral("\"\"")) + u'"';

@@ -17,6 +17,9 @@ struct UneTable
 };
 std::optional<UneTable> Decomposer(const QString &sql);
 
+/// True for INSERT, UPDATE and DELETE, which change rows and leave the tables what they are.
+bool EstUneEcriture(const QString &sql);
+
 /// A name between double quotes, as the engine takes it.
 QString Nom(const QString &nom);
 

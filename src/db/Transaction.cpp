@@ -31,6 +31,7 @@ Transaction::~Transaction()
     // A point that the engine has already rolled back by itself is gone; a release alone would commit.
     if (m_connexion.db().tryExec("ROLLBACK TO " + nom) == 0)
         m_connexion.db().tryExec("RELEASE " + nom);
+    m_connexion.oublierInstructions();
     m_connexion.journal().couper(m_marque);
 }
 

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void leTexteDUneRequeteEstMisEnForme_data();
     void leTexteDUneRequeteEstMisEnForme();
     void uneLigneSupprimeeEntreTempsRefuseLEdition();
+    void uneTableQuiChangeEstRelue();
 };
 
 namespace {
@@ -281,6 +282,25 @@ void tst_recordset::uneLigneSupprimeeEntreTempsRefuseLEdition()
     rs.MoveNext();
     QCOMPARE(rs.Fields("Nom"), "a02");
     QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 1);
+}
+
+/// The engine keeps its statements: those of before must not read the table of after.
+void tst_recordset::uneTableQuiChangeEstRelue()
+{
+    const Bac bac;
+    const Base base;
+    base.Execute("INSERT INTO Genre VALUES (1, 'a')");
+    const auto lire = [&](const QString &champ) {
+        const auto rs = base.OpenRecordset("SELECT * From Genre");
+        return rs.Fields(champ).toString();
+    };
+    QCOMPARE(lire("Nom"), "a");
+    {
+        const Transaction reprise(base);
+        base.Execute("ALTER TABLE Genre ADD COLUMN Neuf TEXT DEFAULT 'n'");
+        QCOMPARE(lire("Neuf"), "n");
+    }
+    QVERIFY(refus([&] { lire("Neuf"); }).has_value());
 }
 
 QTEST_GUILESS_MAIN(tst_recordset)
