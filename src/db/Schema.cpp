@@ -14,84 +14,14 @@
 #include <SQLiteCpp/Exception.h>
 #include <array>
 #include <functional>
-#include <vector>
 
 namespace {
 
+using Schema::Champ;
+using Schema::Table;
+using Schema::Type;
+
 constexpr int VersionSchema = 1;
-
-enum class Type { Cle, Entier, Booleen, Montant, Texte, Nom };
-
-struct Champ
-{
-    const char *nom;
-    Type type;
-};
-
-struct Table
-{
-    const char *nom;
-    std::vector<Champ> champs;
-};
-
-const std::vector<Table> &tables()
-{
-    using enum Type;
-    static const std::vector<Table> toutes{
-        {"Album",
-            {{"Num", Cle}, {"NAlbum", Entier}, {"NumSerie", Entier}, {"NGenre", Entier}, {"NEdit", Entier},
-                {"NDessin", Entier}, {"NScen", Entier}, {"NColor", Entier}, {"QualBD", Entier},
-                {"EtatBD", Entier}, {"NbPage", Texte}, {"ISBN", Texte}, {"ISSN", Texte}, {"Histoire", Texte},
-                {"Commentaire", Texte}, {"NPays", Entier}, {"DepotL", Texte}, {"Dateparu", Texte},
-                {"NCouverture", Entier}, {"DPret", Texte}, {"NPret", Entier}, {"DA", Texte},
-                {"PrixA", Montant}, {"Broche", Booleen}, {"Couleur", Entier}, {"Integrale", Booleen},
-                {"SerieLim", Booleen}, {"EDitOrig", Booleen}, {"HSerie", Booleen}, {"Coffret", Booleen}}},
-        {"LAlbums",
-            {{"NAlbum", Cle}, {"TAlbum", Nom}, {"Photo1", Texte}, {"Photo2", Texte}, {"Histoire", Texte},
-                {"dedi1", Texte}, {"dedi2", Texte}, {"LieuD", Texte}, {"DateD", Texte}, {"EtatD", Texte}}},
-        {"Serie",
-            {{"NSerie", Cle}, {"Nom", Nom}, {"NGenre", Entier}, {"NEditeur", Entier}, {"NoteG", Entier},
-                {"NoteD", Entier}, {"NoteS", Entier}, {"cote", Entier}, {"SiteWeb1", Texte},
-                {"SiteWeb2", Texte}, {"Commentaire", Texte}, {"Histoire", Texte}, {"Photo1", Texte},
-                {"Photo2", Texte}}},
-        {"Auteurs",
-            {{"NAuteur", Cle}, {"Nom", Nom}, {"Prenom", Nom}, {"SurNom", Nom}, {"DateNaiss", Texte},
-                {"LieuNaiss", Texte}, {"NPays", Entier}, {"web1", Texte}, {"web2", Texte}, {"Photo1", Texte},
-                {"Photo2", Texte}, {"Commentaire", Texte}, {"Dessin", Booleen}, {"Scena", Booleen},
-                {"Color", Booleen}}},
-        {"Editeur",
-            {{"NEdit", Cle}, {"Nom", Nom}, {"adresse1", Texte}, {"adresse2", Texte}, {"ville", Texte},
-                {"CP", Texte}, {"NPays", Entier}, {"Tel", Texte}, {"Site", Texte}, {"Photo1", Texte},
-                {"Photo2", Texte}}},
-        {"Genre", {{"NGenre", Cle}, {"Nom", Nom}}},
-        {"Coll", {{"NColl", Cle}, {"Nom", Nom}}},
-        {"Pays", {{"NPays", Cle}, {"Nom", Nom}}},
-        {"Pret", {{"NPret", Cle}, {"Nom", Nom}, {"Prenom", Nom}, {"Tel", Texte}}},
-        {"Librairie", {{"NLibrairie", Cle}, {"Nom", Nom}}},
-        {"ExLibris",
-            {{"NExLibris", Cle}, {"Nom", Nom}, {"NSerie", Entier}, {"NDessin", Entier},
-                {"NLibrairie", Entier}, {"TypeExlibris", Entier}, {"DAchat", Texte}, {"PrixA", Montant},
-                {"Comm", Texte}, {"Dedicace", Booleen}, {"Signe", Booleen}, {"Photo1", Texte},
-                {"Photo2", Texte}}},
-        {"PresseBD",
-            {{"NPressBD", Cle}, {"Nom", Nom}, {"NPresseBD", Entier}, {"NEdit", Entier}, {"Parution", Entier},
-                {"DepotLegale", Texte}, {"Reliure", Booleen}, {"HS", Booleen}, {"PrixA", Montant},
-                {"DAchat", Texte}, {"Comm", Texte}, {"Photo1", Texte}, {"Photo2", Texte}}},
-        {"Inter", {{"NInter", Cle}, {"Nom", Nom}, {"Prenom", Nom}}},
-        {"Metier", {{"NMetier", Cle}, {"Nom", Nom}}},
-        {"SerieAlbums", {{"NSerie", Entier}, {"NAlbum", Entier}, {"NumeroAlbum2", Texte}}},
-        {"GenreAlbums", {{"NGenre", Entier}, {"NAlbum", Entier}}},
-        {"EditeurAlbums", {{"NEdit", Entier}, {"NAlbum", Entier}}},
-        {"CollAlbums", {{"NColl", Entier}, {"NAlbum", Entier}}},
-        {"PaysAlbum", {{"NPays", Entier}, {"NAlbum", Entier}}},
-        {"AuteursAlbums",
-            {{"NAuteur", Entier}, {"NAlbum", Entier}, {"Dessin", Booleen}, {"Scena", Booleen},
-                {"Color", Booleen}}},
-        {"InterMetier", {{"NAlbum", Entier}, {"NInter", Entier}, {"NMetier", Entier}}},
-        {"CotesAlbum", {{"NAlbum", Entier}, {"Mois", Texte}, {"Cotes", Texte}}},
-    };
-    return toutes;
-}
 
 /// One index for each way in which a query enters a table; those that fill a list hold all that it shows.
 constexpr std::array Index{
@@ -200,17 +130,6 @@ QStringList complements()
     return instructions;
 }
 
-/// The reference catalogue has one table. Its texts are coded, so none of them is a name to the collation.
-const Table &tableDuCatalogue()
-{
-    using enum Type;
-    static const Table bd{"BD",
-        {{"Numero", Cle}, {"Titre", Texte}, {"Tome", Entier}, {"Serie", Texte}, {"Dateparu", Texte},
-            {"Genre", Texte}, {"Dessin", Texte}, {"Scena", Texte}, {"Editeur", Texte}, {"Couleur", Booleen},
-            {"Integrale", Booleen}, {"Carton", Texte}}};
-    return bd;
-}
-
 /// Makes a database file of a kind by the statements given, whole or not at all.
 void creerFichier(const QString &chemin, Entete::Nature nature, const QStringList &instructions)
 {
@@ -235,7 +154,7 @@ void creerFichier(const QString &chemin, Entete::Nature nature, const QStringLis
 
 const Table *chercher(const QString &nom)
 {
-    for (const Table &table : tables()) {
+    for (const Table &table : Schema::Definitions()) {
         if (nom.compare(QLatin1String(table.nom), Qt::CaseInsensitive) == 0)
             return &table;
     }
@@ -303,6 +222,76 @@ void mettreANiveau()
 
 }
 
+const std::vector<Schema::Table> &Schema::Definitions()
+{
+    using enum Type;
+    static const std::vector<Table> toutes{
+        {"Album",
+            {{"Num", Cle}, {"NAlbum", Entier}, {"NumSerie", Entier}, {"NGenre", Entier}, {"NEdit", Entier},
+                {"NDessin", Entier}, {"NScen", Entier}, {"NColor", Entier}, {"QualBD", Entier},
+                {"EtatBD", Entier}, {"NbPage", Texte}, {"ISBN", Texte}, {"ISSN", Texte}, {"Histoire", Texte},
+                {"Commentaire", Texte}, {"NPays", Entier}, {"DepotL", Texte}, {"Dateparu", Texte},
+                {"NCouverture", Entier}, {"DPret", Texte}, {"NPret", Entier}, {"DA", Texte},
+                {"PrixA", Montant}, {"Broche", Booleen}, {"Couleur", Entier}, {"Integrale", Booleen},
+                {"SerieLim", Booleen}, {"EDitOrig", Booleen}, {"HSerie", Booleen}, {"Coffret", Booleen}}},
+        {"LAlbums",
+            {{"NAlbum", Cle}, {"TAlbum", Nom}, {"Photo1", Texte}, {"Photo2", Texte}, {"Histoire", Texte},
+                {"dedi1", Texte}, {"dedi2", Texte}, {"LieuD", Texte}, {"DateD", Texte}, {"EtatD", Texte}}},
+        {"Serie",
+            {{"NSerie", Cle}, {"Nom", Nom}, {"NGenre", Entier}, {"NEditeur", Entier}, {"NoteG", Entier},
+                {"NoteD", Entier}, {"NoteS", Entier}, {"cote", Entier}, {"SiteWeb1", Texte},
+                {"SiteWeb2", Texte}, {"Commentaire", Texte}, {"Histoire", Texte}, {"Photo1", Texte},
+                {"Photo2", Texte}}},
+        {"Auteurs",
+            {{"NAuteur", Cle}, {"Nom", Nom}, {"Prenom", Nom}, {"SurNom", Nom}, {"DateNaiss", Texte},
+                {"LieuNaiss", Texte}, {"NPays", Entier}, {"web1", Texte}, {"web2", Texte}, {"Photo1", Texte},
+                {"Photo2", Texte}, {"Commentaire", Texte}, {"Dessin", Booleen}, {"Scena", Booleen},
+                {"Color", Booleen}}},
+        {"Editeur",
+            {{"NEdit", Cle}, {"Nom", Nom}, {"adresse1", Texte}, {"adresse2", Texte}, {"ville", Texte},
+                {"CP", Texte}, {"NPays", Entier}, {"Tel", Texte}, {"Site", Texte}, {"Photo1", Texte},
+                {"Photo2", Texte}}},
+        {"Genre", {{"NGenre", Cle}, {"Nom", Nom}}},
+        {"Coll", {{"NColl", Cle}, {"Nom", Nom}}},
+        {"Pays", {{"NPays", Cle}, {"Nom", Nom}}},
+        {"Pret", {{"NPret", Cle}, {"Nom", Nom}, {"Prenom", Nom}, {"Tel", Texte}}},
+        {"Librairie", {{"NLibrairie", Cle}, {"Nom", Nom}}},
+        {"ExLibris",
+            {{"NExLibris", Cle}, {"Nom", Nom}, {"NSerie", Entier}, {"NDessin", Entier},
+                {"NLibrairie", Entier}, {"TypeExlibris", Entier}, {"DAchat", Texte}, {"PrixA", Montant},
+                {"Comm", Texte}, {"Dedicace", Booleen}, {"Signe", Booleen}, {"Photo1", Texte},
+                {"Photo2", Texte}}},
+        {"PresseBD",
+            {{"NPressBD", Cle}, {"Nom", Nom}, {"NPresseBD", Entier}, {"NEdit", Entier}, {"Parution", Entier},
+                {"DepotLegale", Texte}, {"Reliure", Booleen}, {"HS", Booleen}, {"PrixA", Montant},
+                {"DAchat", Texte}, {"Comm", Texte}, {"Photo1", Texte}, {"Photo2", Texte}}},
+        {"Inter", {{"NInter", Cle}, {"Nom", Nom}, {"Prenom", Nom}}},
+        {"Metier", {{"NMetier", Cle}, {"Nom", Nom}}},
+        {"SerieAlbums", {{"NSerie", Entier}, {"NAlbum", Entier}, {"NumeroAlbum2", Texte}}},
+        {"GenreAlbums", {{"NGenre", Entier}, {"NAlbum", Entier}}},
+        {"EditeurAlbums", {{"NEdit", Entier}, {"NAlbum", Entier}}},
+        {"CollAlbums", {{"NColl", Entier}, {"NAlbum", Entier}}},
+        {"PaysAlbum", {{"NPays", Entier}, {"NAlbum", Entier}}},
+        {"AuteursAlbums",
+            {{"NAuteur", Entier}, {"NAlbum", Entier}, {"Dessin", Booleen}, {"Scena", Booleen},
+                {"Color", Booleen}}},
+        {"InterMetier", {{"NAlbum", Entier}, {"NInter", Entier}, {"NMetier", Entier}}},
+        {"CotesAlbum", {{"NAlbum", Entier}, {"Mois", Texte}, {"Cotes", Texte}}},
+    };
+    return toutes;
+}
+
+const Schema::Table &Schema::DefinitionDuCatalogue()
+{
+    // Its texts are coded, so none of them is a name to the collation.
+    using enum Type;
+    static const Table bd{"BD",
+        {{"Numero", Cle}, {"Titre", Texte}, {"Tome", Entier}, {"Serie", Texte}, {"Dateparu", Texte},
+            {"Genre", Texte}, {"Dessin", Texte}, {"Scena", Texte}, {"Editeur", Texte}, {"Couleur", Booleen},
+            {"Integrale", Booleen}, {"Carton", Texte}}};
+    return bd;
+}
+
 int Schema::Version()
 {
     return Comparaison::version() << 8 | VersionSchema;
@@ -311,7 +300,7 @@ int Schema::Version()
 QStringList Schema::Tables()
 {
     QStringList noms;
-    for (const Table &table : tables())
+    for (const Table &table : Definitions())
         noms << QLatin1String(table.nom);
     return noms;
 }
@@ -343,7 +332,7 @@ QVariantList Schema::Blanc(const QString &table)
 void Schema::CreerVierge(const QString &chemin)
 {
     QStringList instructions;
-    for (const Table &table : tables())
+    for (const Table &table : Definitions())
         instructions << creation(table);
     creerFichier(chemin, Entete::Nature::Collection, instructions + complements());
 }
@@ -351,7 +340,7 @@ void Schema::CreerVierge(const QString &chemin)
 void Schema::CreerCatalogue(const QString &chemin)
 {
     creerFichier(chemin, Entete::Nature::Catalogue,
-        {creation(tableDuCatalogue()),
+        {creation(DefinitionDuCatalogue()),
             QStringLiteral("CREATE INDEX IndexBDSerie ON BD(Serie DESC, Tome, Titre)")});
 }
 
