@@ -2,6 +2,7 @@
 
 #include "core/Dossier.h"
 #include "core/Error.h"
+#include "core/Outil.h"
 #include "core/Texte.h"
 
 #include <QBuffer>
@@ -10,7 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QProcess>
 #include <array>
 
 namespace {
@@ -63,14 +63,12 @@ QByteArray enSvg(const QString &chemin)
 {
     constexpr int DelaiMs = 15'000;
     QProcess convertisseur;
-    convertisseur.start(QCoreApplication::applicationDirPath() + QStringLiteral("/bulleo-wmf"), {chemin});
+    Outil::Lancer(convertisseur, QStringLiteral("bulleo-wmf"), {chemin});
     if (!convertisseur.waitForFinished(DelaiMs)) {
-        convertisseur.kill();
-        convertisseur.waitForFinished();
+        Outil::Arreter(convertisseur);
         return {};
     }
-    const bool reussi = convertisseur.exitStatus() == QProcess::NormalExit && convertisseur.exitCode() == 0;
-    return reussi ? convertisseur.readAllStandardOutput() : QByteArray();
+    return Outil::AReussi(convertisseur) ? convertisseur.readAllStandardOutput() : QByteArray();
 }
 
 /// The picture of a device, in the format of its content, or the one named.

@@ -1,0 +1,109 @@
+#include "db/conversion/Jet.h"
+
+#include "db/conversion/Echec.h"
+#include "db/conversion/Poignee.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+using Conversion::Code;
+
+namespace {
+
+constexpr qsizetype PositionMarque = 4;
+constexpr qsizetype PositionVersion = 0x14;
+constexpr qsizetype TailleEntete = 0x18;
+constexpr quint32 PremierAce = MDB_VER_ACCDB_2007;
+constexpr quint32 DernierAce = MDB_VER_ACCDB_2019;
+constexpr unsigned long PageDuCatalogue = 2;
+
+[[noreturn]] void refuser(Code code, const char *details)
+{
+    throw Echec(code, QString::fromUtf8(details));
+}
+
+/// Bytes of a page, by what the first bytes of a file say; 0 when it is no old file.
+qint64 taillePage(const QByteArray &entete)
+{
+    if (entete.size() < TailleEntete)
+        return 0;
+    const QByteArrayView marque = QByteArrayView(entete).sliced(PositionMarque);
+    const quint32 version = qFromLittleEndian<quint32>(entete.constData() + PositionVersion);
+    if (marque.startsWith(QByteArrayView("Standard Jet DB", 16)))
+        return version == MDB_VER_JET3 ? 2048 : version == MDB_VER_JET4 ? 4096 : 0;
+    if (marque.startsWith(QByteArrayView("Standard ACE DB", 16)))
+        return version >= PremierAce && version <= DernierAce ? 4096 : 0;
+    return 0;
+}
+
+/// Size of the file. Throws unless it is an old one, and whole as far as its length tells.
+qint64 reconnaitre(const QString &chemin)
+{
+    QFile fichier(chemin);
+    if (!QFileInfo(chemin).isFile() || !fichier.open(QIODevice::ReadOnly))
+        throw Echec(
+            Code::Etrangere, QStringLiteral("Le fichier ne peut pas être lu : ") + fichier.errorString());
+    const qint64 page = taillePage(fichier.read(TailleEntete));
+    if (page == 0)
+        refuser(Code::Etrangere, "Ce fichier n'est pas une ancienne base.");
+    if (fichier.size() % page != 0)
+        refuser(Code::Abimee, "Le fichier est coupé : sa longueur n'est pas un nombre entier de pages.");
+    return fichier.size();
+}
+
+/// What of the environment would change how the library finds and reads a file.
+void isoler()
+{
+    qputenv("MDBICONV", "UTF-8");
+    for (const char *variable : {"MDBPATH", "MDBOPTS", "MDB_JET3_CHARSET"})
+        qunsetenv(variable);
+}
+
+}
+
+Jet::Jet(const QString &chemin)
+    : m_poignee(std::make_unique<Poignee>())
+    , m_taille(reconnaitre(chemin))
+{
+    isoler();
+    m_poignee->mdb = mdb_open(QFile::encodeName(chemin).constData(), MDB_NOFLAGS);
+    if (!m_poignee->mdb)
+        refuser(Code::Abimee, "L'en-tête du fichier ne peut pas être lu.");
+    // Dates that were typed are texts; a true date becomes such a text.
+    mdb_set_date_fmt(m_poignee->mdb, "%d/%m/%Y");
+    mdb_set_shortdate_fmt(m_poignee->mdb, "%d/%m/%Y");
+    mdb_set_boolean_fmt_numbers(m_poignee->mdb);
+    lireCatalogue();
+}
+
+Jet::~Jet() = default;
+
+qsizetype Jet::rang(const QString &table) const
+{
+    const auto trouve = std::find_if(m_noms.begin(), m_noms.end(),
+        [&](const QString &nom) { return nom.compare(table, Qt::CaseInsensitive) == 0; });
+    return trouve == m_noms.end() ? -1 : trouve - m_noms.begin();
+}
+
+void Jet::lireCatalogue()
+{
+    MdbHandle *mdb = m_poignee->mdb;
+    // Pages that are encoded with a key of the header are decoded by the library. Any other cipher leaves pages
+    // that make no sense behind a sound header which has a key.
+    if (mdb_read_pg(mdb, PageDuCatalogue) <= 0 || mdb->pg_buf[0] != MDB_PAGE_TABLE) {
+        if (mdb->f->db_key != 0)
+            refuser(Code::Chiffree, "Le fichier est chiffré.");
+        refuser(Code::Abimee, "Le catalogue du fichier ne peut pas être lu.");
+    }
+    const long annoncees = mdb_pg_get_int32(mdb, mdb->fmt->tab_num_rows_offset);
+    if (!mdb_read_catalog(mdb, MDB_ANY) || annoncees != static_cast<long>(mdb->num_catalog))
+        refuser(Code::Abimee, "Le catalogue du fichier est incomplet.");
+    for (guint i = 0; i < mdb->catalog->len; ++i) {
+        auto *entree = static_cast<MdbCatalogEntry *>(g_ptr_array_index(mdb->catalog, i));
+        if (!mdb_is_user_table(entree))
+            continue;
+        m_noms << QString::fromUtf8(entree->object_name);
+        m_poignee->entrees.push_back(entree);
+    }
+}
