@@ -4,6 +4,7 @@
 #include "core/Error.h"
 #include "db/Base.h"
 #include "db/Module2.h"
+#include "db/Schema.h"
 
 #include <QCoreApplication>
 
@@ -19,15 +20,27 @@ QString chemin()
     return Dossier::courant().chemin(QStringLiteral("BDbase.bd"));
 }
 
+bool estTelQuel(const Base &base)
+{
+    const auto marques = base.OpenRecordset(QStringLiteral("PRAGMA user_version")).Int64(0);
+    return (marques & Schema::TextesTelsQuels) != 0;
+}
+
+std::optional<QString> decoder(const QString &code, bool telQuel)
+{
+    return telQuel ? code : Module2::Decoder(code);
+}
+
 /// Decodes the text fields of one row, and remembers when one of them could not be.
 struct Lecture
 {
     const Recordset &rs;
+    bool telQuel;
     bool lisible = true;
 
     QString operator()(const char *champ)
     {
-        const auto texte = Module2::Decoder(rs.Fields(QLatin1String(champ)).toString());
+        const auto texte = decoder(rs.Fields(QLatin1String(champ)).toString(), telQuel);
         lisible = lisible && texte.has_value();
         return texte.value_or(QString()).trimmed();
     }
@@ -39,11 +52,12 @@ Catalogue::Liste Catalogue::LireAlbums()
 {
     const Base base = ouvrir(chemin());
     Liste liste;
+    liste.telsQuels = estTelQuel(base);
     // Named columns, so that the walk stays on the index.
     for (auto rs = base.OpenRecordset(
              QStringLiteral("SELECT Numero, Titre, Tome From BD order by Serie desc, Tome asc"));
          !rs.AtEnd(); rs.MoveNext()) {
-        const auto titre = Module2::Decoder(rs.Fields(1).toString());
+        const auto titre = decoder(rs.Fields(1).toString(), liste.telsQuels);
         if (!titre) {
             ++liste.illisibles;
             continue;
@@ -68,7 +82,7 @@ std::optional<Catalogue::Reference> Catalogue::LireReference(int numero)
         QStringLiteral("SELECT * From BD  where Numero = ? order by Serie desc"), {numero});
     if (rs.AtEnd())
         return std::nullopt;
-    Lecture lire{rs};
+    Lecture lire{rs, estTelQuel(base)};
     Reference r;
     r.titre = lire("Titre");
     r.tome = rs.Fields(QStringLiteral("Tome")).toInt();

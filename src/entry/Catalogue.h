@@ -9,11 +9,13 @@
 namespace Catalogue {
 
 /// The albums by series, last series first: "title  (N° tome)". Rows whose texts cannot be decoded are left
-/// out and counted.
+/// out and counted. In a catalogue that was converted from an old one nobody knows the code: its texts are
+/// given as they stand.
 struct Liste
 {
     Entrees albums;
     int illisibles = 0;
+    bool telsQuels = false;
 };
 /// Throws Error when the file is missing or is no catalogue, or when none of its rows can be decoded.
 Liste LireAlbums();
