@@ -15,6 +15,6 @@ void Outil::Arreter(QProcess &processus)
 
 bool Outil::AReussi(const QProcess &processus)
 {
-    return processus.state() == QProcess::NotRunning && processus.error() == QProcess::UnknownError
+    return processus.state() == QProcess::NotRunning && processus.error() != QProcess::FailedToStart
         && processus.exitStatus() == QProcess::NormalExit && processus.exitCode() == 0;
 }

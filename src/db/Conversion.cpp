@@ -177,6 +177,12 @@ QString Conversion::Partiel(const QString &nouveau)
     return nouveau + QStringLiteral(".partiel");
 }
 
+void Conversion::RetirerPartiel(const QString &nouveau)
+{
+    QFile::remove(Partiel(nouveau));
+    QFile::remove(Partiel(nouveau) + QStringLiteral("-journal"));
+}
+
 Conversion::Rapport Conversion::Convertir(
     const QString &ancien, const QString &nouveau, const std::function<bool(int)> &suivre, int limiteMs)
 {
@@ -193,7 +199,7 @@ Conversion::Rapport Conversion::Convertir(
     suivreJusquAuBout(processus, rapport, suivre, limiteMs);
     if (rapport.erreur == Code::Aucun)
         return rapport;
-    QFile::remove(Partiel(nouveau));
+    RetirerPartiel(nouveau);
     // It may have been ended just when the new file had come into its place.
     if (!existait && rapport.erreur != Code::Existe)
         QFile::remove(nouveau);

@@ -66,8 +66,9 @@ bool lire(Rapport &rapport, const QByteArray &ligne);
 /// The word for a code in the line `erreur`.
 QString NomDuCode(Code code);
 
-/// Where the new file is made before it is whole.
+/// Where the new file is made before it is whole, and the removal of what a work cut short left there.
 QString Partiel(const QString &nouveau);
+void RetirerPartiel(const QString &nouveau);
 
 /// Converts `ancien` into a new file, in a process of its own; the caller waits. `suivre` is told the percentage,
 /// many times a second, and ends the work by answering false. A converter that exceeds the limit or falls over

@@ -47,7 +47,7 @@ Neuve::Neuve(const QString &chemin, Nature nature)
     , m_partiel(Conversion::Partiel(chemin))
     , m_nature(nature)
 {
-    QFile::remove(m_partiel);
+    Conversion::RetirerPartiel(m_chemin);
     nature == Nature::Collection ? Schema::CreerVierge(m_partiel) : Schema::CreerCatalogue(m_partiel);
     m_db = std::make_unique<SQLite::Database>(m_partiel.toStdString(), SQLite::OPEN_READWRITE);
     Collation::Enregistrer(m_db->getHandle());
@@ -59,7 +59,7 @@ Neuve::~Neuve()
 {
     m_ajout.reset();
     m_db.reset();
-    QFile::remove(m_partiel);
+    Conversion::RetirerPartiel(m_chemin);
 }
 
 void Neuve::commencer(const Schema::Table &table)

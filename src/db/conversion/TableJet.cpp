@@ -127,7 +127,13 @@ QString TableJet::cellule(std::size_t champ) const
         return texte(reinterpret_cast<const char *>(m_jet.m_poignee->mdb->pg_buf) + c->cur_value_start,
             static_cast<std::size_t>(c->cur_value_len));
     const std::vector<char> &tampon = m_tampons[champ];
-    return tampon.empty() || tampon[0] == '\0' ? QString() : QString::fromUtf8(tampon.data());
+    if (tampon.empty() || tampon[0] == '\0')
+        return {};
+    // The library gives all the figures that the type has, sure or not.
+    const bool flottant = c->col_type == MDB_FLOAT || c->col_type == MDB_DOUBLE;
+    return flottant
+        ? QString::number(std::strtod(tampon.data(), nullptr), 'g', c->col_type == MDB_FLOAT ? 7 : 15)
+        : QString::fromUtf8(tampon.data());
 }
 
 QString TableJet::texte(const char *octets, std::size_t taille) const

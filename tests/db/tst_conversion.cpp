@@ -1,0 +1,531 @@
+#include "core/Csv.h"
+#include "db/Base.h"
+#include "db/Collation.h"
+#include "db/Conversion.h"
+#include "db/Schema.h"
+#include "entry/Catalogue.h"
+#include "support/Bac.h"
+#include "support/EcrivainJet.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMutex>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTest>
+#include <SQLiteCpp/Database.h>
+#include <atomic>
+#include <thread>
+
+using Conversion::Code;
+using Conversion::Rapport;
+
+Q_DECLARE_METATYPE(Conversion::Code)
+
+class tst_conversion : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_dossier.isValid()); }
+    void cleanup();
+    void uneVraieBaseDonneSesCellules_data();
+    void uneVraieBaseDonneSesCellules();
+    void uneBaseEcriteIciDonneSesCellules_data();
+    void uneBaseEcriteIciDonneSesCellules();
+    void ceQuiNEstPasGardeEstDit();
+    void leCatalogueGardeSesTextes();
+    void unRefusNeLaisseRien_data();
+    void unRefusNeLaisseRien();
+    void lUtilisateurArreteLaConversion();
+    void uneLigneSeLitCommeElleFutDite_data();
+    void uneLigneSeLitCommeElleFutDite();
+    void desBitsFautifsNeTrompentPas();
+    void uneFinBrutaleNeLaisseRienAMoitie();
+
+private:
+    QString ancien() const { return m_dossier.filePath("ancien.mdb"); }
+    QString nouveau() const { return m_dossier.filePath("nouveau.mdb"); }
+    QStringList fichiers() const { return QDir(m_dossier.path()).entryList(QDir::Files | QDir::Hidden); }
+
+    QTemporaryDir m_dossier;
+    Bac m_bac;
+};
+
+namespace {
+
+using EcrivainJet::DuSchema;
+using EcrivainJet::Octets;
+using EcrivainJet::Rangee;
+using EcrivainJet::Table;
+
+QString materiel(const QString &nom)
+{
+    return qEnvironmentVariable("BULLEO_FIXTURES", FIXTURES) + u'/' + nom;
+}
+
+/// A cell as the comparison sees it: Null and empty are one, since the old reader cannot tell them apart.
+QString cellule(const QVariant &valeur)
+{
+    return valeur.typeId() == QMetaType::Double ? QString::number(valeur.toDouble(), 'f', 4)
+                                                : valeur.toString();
+}
+
+QString attendue(const QString &texte, Schema::Type type)
+{
+    if (texte == "\\N" || texte.isEmpty())
+        return {};
+    if (type == Schema::Type::Montant)
+        return cellule(texte.toDouble());
+    return type == Schema::Type::Booleen && texte == "1" ? "-1" : texte;
+}
+
+QString erreur(const Rapport &rapport)
+{
+    return Conversion::NomDuCode(rapport.erreur) + u' ' + rapport.details;
+}
+
+QList<QStringList> ecartes(const Rapport &rapport)
+{
+    QList<QStringList> lignes;
+    for (const Conversion::Ecarte &e : rapport.ecartes)
+        lignes << QStringList{e.sorte, e.table} + e.quoi;
+    return lignes;
+}
+
+/// The rows of a table, by identifier or as they came.
+QList<QStringList> rangees(const Base &base, const QString &table, const QStringList &champs)
+{
+    QList<QStringList> lignes;
+    for (auto rs = base.OpenRecordset(
+             QStringLiteral("SELECT %1 FROM %2 ORDER BY rowid").arg(champs.join(", "), table));
+         !rs.AtEnd(); rs.MoveNext()) {
+        QStringList ligne;
+        for (int i = 0; i < champs.size(); ++i)
+            ligne << cellule(rs.Fields(i));
+        lignes << ligne;
+    }
+    return lignes;
+}
+
+QList<QStringList> rangees(const QString &fichier, const QString &table, const QStringList &champs)
+{
+    return rangees(Base(fichier, Entete::Nature::Collection), table, champs);
+}
+
+QList<QStringList> attendues(const QString &csv, const Schema::Table &table, QStringList &champs)
+{
+    QList<QStringList> lignes;
+    Csv::Lire(csv, [&](const Csv::Rangee &r) {
+        champs = *r.entete;
+        QStringList ligne;
+        for (const Schema::Champ &champ : table.champs) {
+            if (champs.contains(QLatin1String(champ.nom)))
+                ligne << attendue(r[QLatin1String(champ.nom)], champ.type);
+        }
+        lignes << ligne;
+    });
+    if (table.champs.front().type == Schema::Type::Cle)
+        std::sort(lignes.begin(), lignes.end(),
+            [](const auto &a, const auto &b) { return a[0].toInt() < b[0].toInt(); });
+    return lignes;
+}
+
+/// A text that is long, and whose every part differs.
+QString longTexte(qsizetype longueur, char16_t premier)
+{
+    QString texte;
+    for (qsizetype i = 0; i < longueur; ++i)
+        texte += QChar(static_cast<char16_t>(premier + i % 89));
+    return texte;
+}
+
+Table album(const QList<QVariantList> &rangees)
+{
+    Table table = DuSchema("Album");
+    table.rangees = rangees;
+    return table;
+}
+
+Table titres(int nombre)
+{
+    Table table = DuSchema("LAlbums");
+    for (int i = 1; i <= nombre; ++i)
+        table.rangees << Rangee(table,
+            {{"NAlbum", i}, {"TAlbum", QString("L'Été n° %1").arg(i)},
+                {"Histoire", longTexte(i * 37 % 5000, u'!')}});
+    return table;
+}
+
+/// A collection of some albums, large enough for whatever happens while it is converted.
+QByteArray collection(int albums)
+{
+    Table fiches = DuSchema("Album");
+    Table liens = DuSchema("SerieAlbums");
+    for (int i = 1; i <= albums; ++i) {
+        fiches.rangees << Rangee(
+            fiches, {{"Num", i}, {"NAlbum", i % 7}, {"PrixA", i * 1234}, {"HSerie", i % 2}});
+        liens.rangees << Rangee(liens, {{"NSerie", i % 5}, {"NAlbum", i}});
+    }
+    return Octets({{fiches, titres(albums), liens}});
+}
+
+/// Opens as a collection does, in any thread.
+bool estSain(const QString &fichier)
+{
+    Entete::Verifier(fichier, Entete::Nature::Collection);
+    SQLite::Database db(fichier.toStdString());
+    Collation::Enregistrer(db.getHandle());
+    return db.execAndGet("PRAGMA integrity_check").getString() == "ok";
+}
+
+QString convertisseur()
+{
+    return QCoreApplication::applicationDirPath() + "/bulleo-convertir";
+}
+
+}
+
+void tst_conversion::cleanup()
+{
+    for (const QString &fichier : fichiers())
+        QFile::remove(m_dossier.filePath(fichier));
+}
+
+void tst_conversion::uneVraieBaseDonneSesCellules_data()
+{
+    QTest::addColumn<QString>("fichier");
+    QTest::addColumn<bool>("remplie");
+    QTest::newRow("Jet 4") << "bd-jet4.mdb" << true;
+    QTest::newRow("mot de passe") << "bd-password.mdb" << true;
+    QTest::newRow("ACE") << "bd-2007.accdb" << true;
+    QTest::newRow("vide") << "bd-empty.mdb" << false;
+}
+
+void tst_conversion::uneVraieBaseDonneSesCellules()
+{
+    QFETCH(QString, fichier);
+    QFETCH(bool, remplie);
+    if (!QFile::exists(materiel(fichier)))
+        QSKIP(qPrintable(fichier + " n'est pas là"));
+    const Rapport rapport = Conversion::Convertir(materiel(fichier), nouveau());
+    QVERIFY2(rapport.erreur == Code::Aucun, qPrintable(erreur(rapport)));
+    QCOMPARE(rapport.nature, "collection");
+    QCOMPARE(rapport.tables.size(), qsizetype(Schema::Definitions().size()));
+    const QList<QStringList> montant{{"montant", "Album", "52", "PrixA", "922337203685477.5807"}};
+    QCOMPARE(ecartes(rapport), remplie ? montant : QList<QStringList>());
+    QVERIFY(estSain(nouveau()));
+    for (const Schema::Table &table : Schema::Definitions()) {
+        QStringList champs = Schema::Champs(table.nom);
+        QList<QStringList> lignes;
+        if (remplie)
+            lignes = attendues(materiel(QString("expected/%1.csv").arg(table.nom)), table, champs);
+        QVERIFY2(lignes.isEmpty() != remplie, table.nom);
+        const QList<QStringList> lues = rangees(nouveau(), table.nom, champs);
+        QCOMPARE(lues.size(), lignes.size());
+        for (qsizetype i = 0; i < lues.size(); ++i)
+            QVERIFY2(lues[i] == lignes[i], qPrintable(QString(table.nom) + u' ' + lignes[i].join(u'|')));
+    }
+}
+
+void tst_conversion::uneBaseEcriteIciDonneSesCellules_data()
+{
+    QTest::addColumn<bool>("jet3");
+    QTest::addColumn<EcrivainJet::Code>("code");
+    QTest::newRow("Jet 4") << false << EcrivainJet::Code::Clair;
+    QTest::newRow("Jet 4, pages codees par cle") << false << EcrivainJet::Code::ParCle;
+    QTest::newRow("Jet 3") << true << EcrivainJet::Code::Clair;
+}
+
+void tst_conversion::uneBaseEcriteIciDonneSesCellules()
+{
+    QFETCH(bool, jet3);
+    QFETCH(EcrivainJet::Code, code);
+    const QList<QString> memos{longTexte(5, u'!'), longTexte(64, u'!'), longTexte(1990, u'!'),
+        longTexte(4070, u'!'), longTexte(70'000, u'!'), jet3 ? "Été" : longTexte(70'000, u'Ā'), " ", "",
+        jet3 ? "à" : "Bulle 😀 中 œ", {}};
+    Table fiches = DuSchema("Album");
+    // What the upgrade of old files adds is not there, and names are matched without regard to case.
+    fiches.champs.removeLast();
+    fiches.nom = "aLBUM";
+    fiches.champs[0].nom = "NUM";
+    fiches.champs[8].type = EcrivainJet::Type::Court;
+    Table liens = DuSchema("SerieAlbums");
+    liens.champs.removeLast();
+    QList<QStringList> prevues;
+    for (int i = 0; i < memos.size(); ++i) {
+        fiches.rangees << Rangee(fiches,
+            {{"NUM", i}, {"NAlbum", i}, {"QualBD", -i}, {"Histoire", memos[i]}, {"ISBN", " "},
+                {"DA", QVariant()},
+                {"PrixA", i == 1 ? qlonglong(9'007'199'254'740'000) : qlonglong(i) * -1001},
+                {"HSerie", i % 2}});
+        if (memos[i].isNull())
+            fiches.rangees.last()[13] = QVariant();
+        liens.rangees << Rangee(liens, {{"NSerie", 3}, {"NAlbum", i}});
+        const double prix = i == 1 ? 900'719'925'474.0 : i * -0.1001;
+        prevues << QStringList{QString::number(i), QString::number(-i), memos[i], " ", "", cellule(prix),
+            i % 2 ? "-1" : "0", "0"};
+    }
+    Bac::ecrire(ancien(), Octets({{fiches, liens}, code, jet3}));
+    const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
+    QVERIFY2(rapport.erreur == Code::Aucun, qPrintable(erreur(rapport)));
+    const QList<QStringList> lues = rangees(
+        nouveau(), "Album", {"Num", "QualBD", "Histoire", "ISBN", "DA", "PrixA", "HSerie", "Coffret"});
+    QCOMPARE(lues.size(), prevues.size());
+    for (qsizetype i = 0; i < lues.size(); ++i)
+        QVERIFY2(lues[i] == prevues[i], qPrintable(lues[i].join(u'|').left(300)));
+    QVERIFY(estSain(nouveau()));
+    const Base base(nouveau(), Entete::Nature::Collection);
+    const QString types = "SELECT group_concat(DISTINCT typeof(DA)) || count(Histoire) FROM Album";
+    QCOMPARE(base.OpenRecordset(types).Fields(0), "null8");
+    QCOMPARE(rangees(base, "SerieAlbums", {"NumeroAlbum2"}).value(2), QStringList("C"));
+}
+
+void tst_conversion::ceQuiNEstPasGardeEstDit()
+{
+    using EcrivainJet::Type;
+    Table fiches = DuSchema("Album");
+    fiches.champs[1].type = Type::Texte; // NAlbum
+    fiches.champs[3].type = Type::Double; // NGenre
+    fiches.champs << EcrivainJet::Champ{"Reliure", Type::Texte} << EcrivainJet::Champ{"Vignette", Type::Ole};
+    const auto ajouter = [&](const QMap<QString, QVariant> &v) { fiches.rangees << Rangee(fiches, v); };
+    ajouter({{"Num", 1}, {"NAlbum", "7 "}, {"NGenre", 3.0}, {"ISBN", "premier"}});
+    ajouter({{"Num", 1}, {"NAlbum", "2"}, {"NGenre", 0.5}, {"ISBN", "tab\tet\nligne"}});
+    ajouter({{"NAlbum", "sans numéro"}});
+    ajouter({{"Num", 2}, {"NAlbum", "douze"}, {"NGenre", 2.5}, {"PrixA", qlonglong(9'007'199'254'750'001)}});
+    ajouter({{"Num", 3}, {"NAlbum", " "}, {"NGenre", 1e12}, {"PrixA", qlonglong(-9'007'199'254'750'001)}});
+    Table inconnue{"Mes notes", {{"N", Type::Long}}, {{1}, {2}}};
+    Bac::ecrire(ancien(), Octets({{fiches, inconnue}}));
+
+    const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
+    QVERIFY2(rapport.erreur == Code::Aucun, qPrintable(erreur(rapport)));
+    QList<QStringList> dits = ecartes(rapport);
+    QCOMPARE(dits.removeIf([](const QStringList &d) { return d[0] == "tableManquante"; }), 21);
+    const QList<QStringList> attendus{{"champInconnu", "Album", "Reliure"},
+        {"champInconnu", "Album", "Vignette"}, {"tableInconnue", "Mes notes", "2"},
+        {"double", "Album", "Num=1", "NAlbum=2", "NGenre=0.5", "ISBN=tab\tet\nligne", "Broche=0",
+            "Integrale=0", "SerieLim=0", "EDitOrig=0", "HSerie=0", "Coffret=0"},
+        {"identifiant", "Album", "NAlbum=sans numéro", "Broche=0", "Integrale=0", "SerieLim=0", "EDitOrig=0",
+            "HSerie=0", "Coffret=0"},
+        {"nombre", "Album", "2", "NAlbum", "douze"}, {"nombre", "Album", "2", "NGenre", "2.5"},
+        {"montant", "Album", "2", "PrixA", "900719925475.0001"},
+        {"nombre", "Album", "3", "NGenre", "1000000000000"},
+        {"montant", "Album", "3", "PrixA", "-900719925475.0001"}};
+    for (qsizetype i = 0; i < std::min(dits.size(), attendus.size()); ++i)
+        QCOMPARE(dits[i], attendus[i]);
+    QCOMPARE(dits.size(), attendus.size());
+    const QList<QStringList> gardees{{"1", "7", "3", "premier"}, {"2", "", "", ""}, {"3", "", "", ""}};
+    QCOMPARE(rangees(nouveau(), "Album", {"Num", "NAlbum", "NGenre", "ISBN"}), gardees);
+}
+
+void tst_conversion::leCatalogueGardeSesTextes()
+{
+    Table bd = DuSchema("BD");
+    bd.rangees << Rangee(
+        bd, {{"Numero", 5}, {"Titre", "Xq zé"}, {"Tome", 7}, {"Serie", "Ww"}, {"Couleur", true}});
+    Bac::ecrire(ancien(), Octets({{bd}}));
+    QFile::remove(m_bac.chemin("BDbase.bd"));
+    const Rapport rapport = Conversion::Convertir(ancien(), m_bac.chemin("BDbase.bd"));
+    QVERIFY2(rapport.erreur == Code::Aucun, qPrintable(erreur(rapport)));
+    QCOMPARE(rapport.nature, "catalogue");
+    const Catalogue::Liste liste = Catalogue::LireAlbums();
+    QVERIFY(liste.telsQuels && liste.illisibles == 0);
+    QCOMPARE(liste.albums.texte(0), "Xq zé  (N° 7)");
+    const auto reference = Catalogue::LireReference(5);
+    QVERIFY(reference && reference->couleur);
+    QCOMPARE(reference->serie, "Ww");
+}
+
+void tst_conversion::unRefusNeLaisseRien_data()
+{
+    QTest::addColumn<QByteArray>("octets");
+    QTest::addColumn<Code>("code");
+    constexpr qsizetype Page = 4096;
+    const QByteArray saine = collection(40);
+    const auto changee = [&](qsizetype ou, const QByteArray &par) {
+        QByteArray octets = saine;
+        return octets.replace(ou, par.size(), par);
+    };
+    QTest::newRow("vide") << QByteArray() << Code::Etrangere;
+    QTest::newRow("texte") << QByteArray("Album;Serie\n").repeated(500) << Code::Etrangere;
+    QTest::newRow("nouvelle base") << Bac::lire(m_bac.collection()) << Code::Etrangere;
+    QTest::newRow("autre version") << changee(0x14, "\x09") << Code::Etrangere;
+    QTest::newRow("autres tables") << Octets({{DuSchema("Serie")}}) << Code::Etrangere;
+    QTest::newRow("coupee dans une page") << saine.chopped(700) << Code::Abimee;
+    QTest::newRow("coupee entre deux pages") << saine.first(8 * Page) << Code::Abimee;
+    QTest::newRow("catalogue illisible") << changee(2 * Page, QByteArray(Page, '\xA5')) << Code::Abimee;
+    QTest::newRow("chiffree") << Octets({{album({})}, EcrivainJet::Code::Inconnu}) << Code::Chiffree;
+    const qsizetype memo = saine.indexOf("LVAL") - 4;
+    QTest::newRow("texte long perdu") << changee(memo, QByteArray(Page, '\0')) << Code::Abimee;
+    // The rank of the row count in a definition page.
+    QTest::newRow("lignes de trop") << changee(4 * Page + 16, QByteArray("\x29", 1)) << Code::Abimee;
+    QTest::newRow("table dite vide") << changee(4 * Page + 16, QByteArray(1, '\0')) << Code::Abimee;
+    for (const char *nom : {"bd-truncated.mdb", "bd-garbage.mdb"}) {
+        if (QFile::exists(materiel(nom)))
+            QTest::newRow(nom) << Bac::lire(materiel(nom)) << Code::Abimee;
+    }
+}
+
+void tst_conversion::unRefusNeLaisseRien()
+{
+    QFETCH(QByteArray, octets);
+    Bac::ecrire(ancien(), octets);
+    const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
+    QTEST(rapport.erreur, "code");
+    QVERIFY(!rapport.details.isEmpty() && rapport.nature.isEmpty());
+    QCOMPARE(fichiers(), QStringList("ancien.mdb"));
+    QVERIFY(Bac::lire(ancien()) == octets);
+    QProcess processus;
+    processus.start(convertisseur(), {ancien(), nouveau()});
+    QVERIFY(processus.waitForFinished());
+    QVERIFY(processus.exitCode() != 0);
+}
+
+void tst_conversion::lUtilisateurArreteLaConversion()
+{
+    Bac::ecrire(ancien(), collection(3000));
+    int appels = 0;
+    const Rapport annule = Conversion::Convertir(ancien(), nouveau(), [&](int avance) {
+        ++appels;
+        return avance < 20;
+    });
+    QCOMPARE(annule.erreur, Code::Annulee);
+    QVERIFY(appels > 1 && annule.avance >= 20 && annule.avance < 100);
+    QCOMPARE(Conversion::Convertir(ancien(), nouveau(), {}, 1).erreur, Code::Abimee);
+    QCOMPARE(fichiers(), QStringList("ancien.mdb"));
+    const QString ailleurs = m_dossier.filePath("nulle part/nouveau.mdb");
+    QCOMPARE(Conversion::Convertir(ancien(), ailleurs).erreur, Code::Ecriture);
+    Bac::ecrire(nouveau(), "déjà là");
+    QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Existe);
+    QCOMPARE(Bac::lire(nouveau()), "déjà là");
+    QCOMPARE(Conversion::Convertir(ancien(), ancien()).erreur, Code::Existe);
+}
+
+void tst_conversion::uneLigneSeLitCommeElleFutDite_data()
+{
+    QTest::addColumn<QByteArray>("ligne");
+    QTest::addColumn<bool>("comprise");
+    QTest::newRow("parties echappees")
+        << Conversion::Ligne({"ecarte", "double", "A\\n", "t\tl\nr\r\\"}) << true;
+    QTest::newRow("erreur inconnue") << QByteArray("erreur\tautre\tx\n") << true;
+    QTest::newRow("avance sans nombre") << QByteArray("avance\tbeaucoup\n") << false;
+    QTest::newRow("table sans nombre") << QByteArray("table\tAlbum\n") << false;
+    QTest::newRow("autre mot") << QByteArray("warning: page 3\n") << false;
+    QTest::newRow("rien") << QByteArray() << false;
+}
+
+void tst_conversion::uneLigneSeLitCommeElleFutDite()
+{
+    QFETCH(QByteArray, ligne);
+    Rapport rapport;
+    QTEST(Conversion::lire(rapport, ligne), "comprise");
+    QCOMPARE(rapport.avance, 0);
+    QVERIFY(rapport.tables.isEmpty());
+    if (ligne.startsWith("ecarte"))
+        QCOMPARE(ecartes(rapport), (QList<QStringList>{{"double", "A\\n", "t\tl\nr\r\\"}}));
+    QCOMPARE(rapport.erreur, ligne.startsWith("erreur") ? Code::Abimee : Code::Aucun);
+}
+
+namespace {
+
+QByteArray abimer(QByteArray octets, QRandomGenerator hasard)
+{
+    for (quint32 bits = 1 + hasard.bounded(4U); bits > 0; --bits) {
+        qsizetype ou = hasard.bounded(static_cast<qint64>(octets.size()));
+        // Most of a page is room that nothing reads.
+        while (octets[ou] == '\0' && hasard.bounded(8) > 0)
+            ou = hasard.bounded(static_cast<qint64>(octets.size()));
+        octets[ou] = static_cast<char>(octets[ou] ^ 1 << hasard.bounded(8));
+    }
+    return octets;
+}
+
+/// The rows that the report accounts for; nothing when whole tables are missing, which it says.
+std::optional<qint64> compte(const Rapport &rapport)
+{
+    qint64 rangees = 0;
+    qsizetype manquantes = 0;
+    for (const Conversion::TableLue &table : rapport.tables)
+        rangees += table.rangees;
+    for (const Conversion::Ecarte &e : rapport.ecartes) {
+        manquantes += e.sorte == "tableManquante";
+        if (e.sorte == "double" || e.sorte == "identifiant")
+            ++rangees;
+    }
+    return manquantes == 19 ? std::optional(rangees) : std::nullopt;
+}
+
+}
+
+/// A damaged file is refused, or gives a sound collection in which no row was lost without a word.
+void tst_conversion::desBitsFautifsNeTrompentPas()
+{
+    constexpr int Variantes = 1000;
+    constexpr int LimiteMs = 30'000;
+    constexpr int Albums = 12;
+    const QByteArray saine = collection(Albums);
+    std::atomic<int> suivante = 0;
+    int reussies = 0;
+    int arretees = 0;
+    QMutex verrou;
+    QStringList fautes;
+    const auto travailler = [&](int atelier) {
+        const QString source = m_dossier.filePath(QString("variante%1.mdb").arg(atelier));
+        for (int n = suivante++; n < Variantes; n = suivante++) {
+            Bac::ecrire(source, abimer(saine, QRandomGenerator(static_cast<quint32>(n))));
+            const QString cible = m_dossier.filePath(QString("cible%1.mdb").arg(n));
+            const Rapport rapport = Conversion::Convertir(source, cible, {}, LimiteMs);
+            const QMutexLocker garde(&verrou);
+            arretees += rapport.details.contains("s'est arrêtée") || rapport.details.contains("ne finit pas");
+            reussies += rapport.erreur == Code::Aucun;
+            const bool attendu = rapport.erreur == Code::Aucun
+                ? estSain(cible) && compte(rapport).value_or(3 * Albums) == 3 * Albums
+                : !QFile::exists(cible);
+            if (!attendu || QFile::exists(Conversion::Partiel(cible)))
+                fautes << QString::number(n);
+            QFile::remove(cible);
+        }
+    };
+    std::thread second(travailler, 1);
+    travailler(0);
+    second.join();
+    qInfo("%d converted, %d stopped the converter", reussies, arretees);
+    QVERIFY2(fautes.isEmpty(), qPrintable(fautes.join(u' ')));
+    QVERIFY(reussies > 0 && reussies < Variantes);
+}
+
+void tst_conversion::uneFinBrutaleNeLaisseRienAMoitie()
+{
+    constexpr int Fins = 50;
+    const QByteArray octets = collection(1500);
+    Bac::ecrire(ancien(), octets);
+    QElapsedTimer duree;
+    duree.start();
+    QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Aucun);
+    const int entiere = static_cast<int>(duree.elapsed());
+    QRandomGenerator hasard(20261121);
+    int entieres = 0;
+    for (int i = 0; i < Fins; ++i) {
+        QFile::remove(nouveau());
+        QProcess processus;
+        processus.setStandardErrorFile(QProcess::nullDevice());
+        processus.start(convertisseur(), {ancien(), nouveau()});
+        processus.waitForFinished(hasard.bounded(entiere + entiere / 10));
+        processus.kill();
+        processus.waitForFinished();
+        QVERIFY(Bac::lire(ancien()) == octets);
+        if (!QFile::exists(nouveau()))
+            continue;
+        ++entieres;
+        QVERIFY(estSain(nouveau()));
+        QCOMPARE(rangees(nouveau(), "LAlbums", {"NAlbum"}).size(), 1500);
+    }
+    QVERIFY(entieres < Fins);
+    QFile::remove(nouveau());
+    // What a dead converter left behind is no hindrance.
+    QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Aucun);
+    QCOMPARE(fichiers(), QStringList({"ancien.mdb", "nouveau.mdb"}));
+}
+
+QTEST_GUILESS_MAIN(tst_conversion)
+#include "tst_conversion.moc"

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+/// Writes small files in the format of old, so that their conversion can be tried with content of our choice:
+/// header, catalogue, table definitions, rows, long texts, and no more than a reader of tables wants to see.
+namespace EcrivainJet {
+
+/// Types of a field, by their number in the file.
+enum class Type : quint8 {
+    Booleen = 1,
+    Court = 3,
+    Long = 4,
+    Monnaie = 5,
+    Double = 7,
+    Texte = 10,
+    Ole = 11,
+    Memo = 12,
+};
+
+struct Champ
+{
+    QString nom;
+    Type type;
+};
+
+/// A cell that is no valid QVariant is Null. An amount is given in ten-thousandths.
+struct Table
+{
+    QString nom;
+    QList<Champ> champs;
+    QList<QVariantList> rangees;
+};
+
+/// How the pages are coded: not, by a key of the header in the way of the format, or as only its owner knows.
+enum class Code { Clair, ParCle, Inconnu };
+
+struct Fichier
+{
+    QList<Table> tables;
+    Code code = Code::Clair;
+    bool jet3 = false; ///< the older one: smaller pages, texts in a code page (Windows-1252)
+};
+
+/// A table of the collection, or the catalogue, with the types of field that an old file gave it, and no rows.
+Table DuSchema(const QString &nom);
+/// Row of a table with these fields filled, the others Null.
+QVariantList Rangee(const Table &table, const QMap<QString, QVariant> &valeurs);
+
+/// Bytes of a file with these tables.
+QByteArray Octets(const Fichier &fichier);
+
+}
