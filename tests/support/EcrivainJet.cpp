@@ -2,6 +2,7 @@
 
 #include "db/Schema.h"
 
+#include <QByteArrayList>
 #include <QMap>
 #include <QtEndian>
 #include <array>
@@ -72,7 +73,7 @@ void brouiller(QByteArray &page, qsizetype debut, qsizetype longueur, quint32 cl
 class Rangeur
 {
 public:
-    Rangeur(QList<QByteArray> &pages, const Format &format, const QByteArray &proprietaire)
+    Rangeur(QByteArrayList &pages, const Format &format, const QByteArray &proprietaire)
         : m_pages(pages)
         , m_format(format)
         , m_proprietaire(proprietaire)
@@ -109,7 +110,7 @@ private:
         m_rang = 0;
     }
 
-    QList<QByteArray> &m_pages;
+    QByteArrayList &m_pages;
     const Format &m_format;
     QByteArray m_proprietaire;
     QList<qsizetype> m_numeros;
@@ -179,7 +180,7 @@ public:
             pages << ecrireRangees(tables[i], PremiereTable + i);
         ecrireDefinitions(tables, pages);
         chiffrer();
-        return std::accumulate(m_pages.begin(), m_pages.end(), QByteArray());
+        return m_pages.join();
     }
 
 private:
@@ -355,7 +356,7 @@ private:
 
     const EcrivainJet::Fichier &m_fichier;
     const Format &m_format;
-    QList<QByteArray> m_pages;
+    QByteArrayList m_pages;
     Rangeur m_memos;
 };
 
