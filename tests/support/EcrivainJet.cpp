@@ -133,6 +133,7 @@ qsizetype largeur(Type type)
         return 4;
     case Type::Monnaie:
     case Type::Double:
+    case Type::Date:
         return 8;
     case Type::Texte:
         return 510;
@@ -151,6 +152,7 @@ QByteArray fixe(Type type, const QVariant &valeur)
     case Type::Monnaie:
         return octets(valeur.toLongLong());
     case Type::Double:
+    case Type::Date:
         return octets(std::bit_cast<quint64>(valeur.toDouble()));
     default:
         return {};

@@ -16,6 +16,7 @@ enum class Type : quint8 {
     Long = 4,
     Monnaie = 5,
     Double = 7,
+    Date = 8, ///< days since 30 December 1899
     Texte = 10,
     Ole = 11,
     Memo = 12,
