@@ -1,7 +1,5 @@
 #include "support/EcrivainJet.h"
 
-#include "db/Schema.h"
-
 #include <QByteArrayList>
 #include <QMap>
 #include <QtEndian>
@@ -362,43 +360,6 @@ private:
     Rangeur m_memos;
 };
 
-Type typeDe(Schema::Type type, const QString &nom)
-{
-    switch (type) {
-    case Schema::Type::Cle:
-    case Schema::Type::Entier:
-        return Type::Long;
-    case Schema::Type::Booleen:
-        return Type::Booleen;
-    case Schema::Type::Montant:
-        return Type::Monnaie;
-    default:
-        return nom.startsWith("Comm") || nom == "Histoire" ? Type::Memo : Type::Texte;
-    }
-}
-
-}
-
-EcrivainJet::Table EcrivainJet::DuSchema(const QString &nom)
-{
-    QList<Schema::Table> tables(Schema::Definitions().begin(), Schema::Definitions().end());
-    tables << Schema::DefinitionDuCatalogue();
-    Table table{nom, {}, {}};
-    for (const Schema::Table &definie : std::as_const(tables)) {
-        for (const Schema::Champ &champ : definie.champs) {
-            if (nom == QLatin1String(definie.nom))
-                table.champs.append({champ.nom, typeDe(champ.type, champ.nom)});
-        }
-    }
-    return table;
-}
-
-QVariantList EcrivainJet::Rangee(const Table &table, const QMap<QString, QVariant> &valeurs)
-{
-    QVariantList rangee;
-    for (const Champ &champ : table.champs)
-        rangee << valeurs.value(champ.nom);
-    return rangee;
 }
 
 QByteArray EcrivainJet::Octets(const Fichier &fichier)

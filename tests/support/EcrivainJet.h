@@ -51,6 +51,10 @@ Table DuSchema(const QString &nom);
 /// Row of a table with these fields filled, the others Null.
 QVariantList Rangee(const Table &table, const QMap<QString, QVariant> &valeurs);
 
+/// A text whose parts all differ.
+QString LongTexte(qsizetype longueur, char16_t premier = u'!');
+/// Bytes of a collection of some albums, with titles, stories of many lengths, and links to series.
+QByteArray UneCollection(int albums);
 /// Bytes of a file with these tables.
 QByteArray Octets(const Fichier &fichier);
 

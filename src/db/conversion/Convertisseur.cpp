@@ -200,11 +200,14 @@ private:
     /// All that the row says, so that nothing is lost with it.
     QStringList contenu() const
     {
+        const auto &source = *m_paire.source;
         QStringList cellules;
         for (std::size_t i = 0; i < m_paire.champs.size(); ++i) {
-            const QString cellule
-                = m_paire.champs[i] ? m_paire.source->cellule(*m_paire.champs[i]) : QString();
-            if (!cellule.isEmpty())
+            const auto rang = m_paire.champs[i];
+            const QString cellule = rang ? source.cellule(*rang) : QString();
+            const bool pose
+                = rang && (source.champs()[*rang].sorte != TableJet::Sorte::Booleen || cellule != u'0');
+            if (pose && !cellule.isEmpty())
                 cellules << QLatin1String(champ(i).nom) + u'=' + cellule;
         }
         return cellules;
