@@ -3,6 +3,7 @@
 #include "appearance/Polices.h"
 #include "appearance/Textures.h"
 #include "archives/Restauration.h"
+#include "archives/Secours.h"
 #include "browse/Frmmain.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
@@ -10,9 +11,11 @@
 #include "core/Splash.h"
 #include "core/Traduction.h"
 #include "core/ui/Messages.h"
+#include "db/Reprise.h"
 #include "entry/Facile.h"
 #include "entry/FrmModif.h"
 #include "entry/FrmModif2.h"
+#include "entry/Import.h"
 #include "entry/Manuelle.h"
 #include "entry/Pop.h"
 #include "loans/Pret.h"
@@ -48,6 +51,7 @@ Bureau::Bureau(const Options &options)
     declarer<BDNet>(Nom::BDNet);
     declarer<Polices>(Nom::Polices);
     declarer<Pret>(Nom::Pret);
+    declarer<Import>(Nom::Import);
     declarer<Impression>(Nom::Impression);
     declarer<Recherche>(Nom::Recherche);
     declarer<Restauration>(Nom::Restauration);
@@ -155,6 +159,11 @@ void Bureau::brancherParticuliers()
     connect(
         &m_historique, &Historique::refaite, this,
         [this](const Etape &etape) { montrerEtape(etape, tr("Rétabli : %1")); }, Qt::QueuedConnection);
+    connect(
+        &Collection::courant(), &Collection::remplacee, fenetre,
+        [fenetre] { fenetre->montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris))); },
+        Qt::QueuedConnection);
+    connect(fenetre, &Frmmain::fichierDepose, this, &Bureau::recevoirFichier);
     connect(fenetre, &Frmmain::sortie, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
@@ -229,14 +238,45 @@ void Bureau::demarrer()
         QTimer::singleShot(0, qApp, [avis] { Messages::Avertir(QApplication::activeWindow(), avis); });
     };
     chargerTextes();
+    Collection::courant().sauvegardes.manquee = [this](const Error &e) {
+        QTimer::singleShot(0, this, [e] { Messages::Avertir(QApplication::activeWindow(), e.message()); });
+    };
+    Secours::Examiner(nullptr, Dossier::courant().finBrutale());
     auto *fenetre = forme<Frmmain>(Nom::Frmmain);
     brancherParticuliers();
     fenetre->charger();
     fenetre->show();
+    proposerReprise();
     if (m_options.capture.isEmpty())
         premierDemarrage();
     else
         QTimer::singleShot(AttenteCaptureMs, this, &Bureau::capturer);
+}
+
+/// A collection in the old format is offered to be converted.
+void Bureau::proposerReprise()
+{
+    const QString chemin = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
+    if (Reprise::EstAncien(chemin))
+        QTimer::singleShot(0, this, [this, chemin] { proposerFichier(chemin); });
+}
+
+void Bureau::proposerFichier(const QString &chemin)
+{
+    montrer(Nom::Restauration);
+    // After the form has listed the backups.
+    QTimer::singleShot(0, this, [this, chemin] { forme<Restauration>(Nom::Restauration)->proposer(chemin); });
+}
+
+/// A collection or a list of albums, dropped on the window.
+void Bureau::recevoirFichier(const QString &chemin)
+{
+    const QString suffixe = QFileInfo(chemin).suffix().toLower();
+    static const QStringList listes{QStringLiteral("csv"), QStringLiteral("tsv"), QStringLiteral("txt")};
+    if (!listes.contains(suffixe))
+        return proposerFichier(chemin);
+    montrer(Nom::Import);
+    QTimer::singleShot(0, this, [this, chemin] { forme<Import>(Nom::Import)->ouvrir(chemin); });
 }
 
 void Bureau::chargerTextes()

@@ -54,6 +54,9 @@ private:
     void chargerTextes();
     void choisirLangue(const QString &fichier);
     void annoncerLangue();
+    void proposerReprise();
+    void proposerFichier(const QString &chemin);
+    void recevoirFichier(const QString &chemin);
     void appliquerApparence();
     void premierDemarrage();
     void sauvegarderCopie();

@@ -4,13 +4,17 @@
 #include "core/Traduction.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
+#include "core/ui/Suivi.h"
 #include "core/ui/Theme.h"
 #include "core/ui/TitreGroupe.h"
+#include "db/Reprise.h"
 #include "db/Sauvegardes.h"
 
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMap>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -25,6 +29,43 @@ enum Colonne { ColonneDate, ColonneAlbums, ColonneTaille, ColonneFichier };
 constexpr int Chemin = Qt::UserRole;
 constexpr int EtatDuFichier = Qt::UserRole + 1;
 
+/// Why nothing was converted, for a person.
+QString raisonDe(const Conversion::Rapport &rapport)
+{
+    const auto dire = [](const char *texte) { return Restauration::tr(texte); };
+    switch (rapport.erreur) {
+    case Conversion::Code::Annulee:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "Annulé : rien n'a changé."));
+    case Conversion::Code::Chiffree:
+        return dire(QT_TRANSLATE_NOOP(
+            "Restauration", "Cette base est chiffrée : elle ne peut pas être lue. Rien n'a changé."));
+    case Conversion::Code::Abimee:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "Cette base est abîmée. Rien n'a changé.")) + u' '
+            + rapport.details;
+    case Conversion::Code::Absent:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "Le convertisseur manque : Bulleo est mal installé."));
+    default:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "La conversion a échoué. Rien n'a changé.")) + u' '
+            + rapport.details;
+    }
+}
+
+/// A kind of what the converter left out, for a person.
+QString motDe(const QString &sorte)
+{
+    static const QMap<QString, const char *> Mots{
+        {QStringLiteral("tableInconnue"), QT_TRANSLATE_NOOP("Restauration", "table inconnue")},
+        {QStringLiteral("tableManquante"), QT_TRANSLATE_NOOP("Restauration", "table absente, laissée vide")},
+        {QStringLiteral("champInconnu"), QT_TRANSLATE_NOOP("Restauration", "champ inconnu")},
+        {QStringLiteral("double"), QT_TRANSLATE_NOOP("Restauration", "numéro déjà pris, ligne laissée")},
+        {QStringLiteral("identifiant"), QT_TRANSLATE_NOOP("Restauration", "ligne sans numéro, laissée")},
+        {QStringLiteral("nombre"), QT_TRANSLATE_NOOP("Restauration", "pas un nombre, laissé vide")},
+        {QStringLiteral("montant"), QT_TRANSLATE_NOOP("Restauration", "montant trop grand, arrondi")},
+    };
+    const char *mot = Mots.value(sorte);
+    return mot ? Restauration::tr(mot) : sorte;
+}
+
 bool estUtilisable(Etat etat)
 {
     return etat == Etat::Saine || etat == Etat::Vierge || etat == Etat::Ancienne;
@@ -33,7 +74,7 @@ bool estUtilisable(Etat etat)
 }
 
 Restauration::Restauration()
-    : FormeOutil(QStringLiteral("Restauration"), TailleDessinee)
+    : FormeOutil(QStringLiteral("Restauration"), TailleDessinee, Mini | Progression)
 {
     construireListe();
     m_message = ajouterMessage();
@@ -62,12 +103,18 @@ void Restauration::construireListe()
     m_vide->setForegroundRole(QPalette::PlaceholderText);
     m_vide->setContentsMargins(Theme::Grand, Theme::Grand, Theme::Grand, Theme::Grand);
     (new QVBoxLayout(m_sauvegardes))->addWidget(m_vide);
+    m_rapport = nommer(new QPlainTextEdit(this), QStringLiteral("Rapport"));
+    m_rapport->setReadOnly(true);
+    m_rapport->setTabChangesFocus(true);
+    m_rapport->hide();
+    corps()->addWidget(m_rapport, 1);
 }
 
 void Restauration::charger()
 {
     m_sauvegardes->clear();
     m_message->clear();
+    m_rapport->hide();
     int rang = 0;
     for (const Sauvegardes::Sauvegarde &s : Sauvegardes::Lister()) {
         Examen examen;
@@ -148,7 +195,7 @@ void Restauration::restaurer()
         return;
     const QString chemin = cheminChoisi();
     if (static_cast<Etat>(ligne->data(0, EtatDuFichier).toInt()) == Etat::Ancienne)
-        return Q_EMIT conversionDemandee(chemin);
+        return convertir(chemin);
     const QString question = tr("Remplacer la base en service par celle du %1, avec %2 album(s) ?")
                                  .arg(ligne->text(ColonneDate), ligne->text(ColonneAlbums));
     if (!Messages::Demander(this, question))
@@ -158,6 +205,42 @@ void Restauration::restaurer()
         return m_message->setText(refus);
     charger();
     Messages::Informer(this, texte(Txt::RestaurationEffectuee));
+}
+
+void Restauration::convertir(const QString &chemin)
+{
+    if (!Messages::Demander(
+            this, tr("Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.")))
+        return;
+    Conversion::Rapport rapport;
+    {
+        Suivi suivi(progression(), annuler());
+        rapport = Reprise::Reprendre(chemin, [&](int pourcent) { return suivi.avancer(pourcent); });
+    }
+    if (rapport.erreur != Conversion::Code::Aucun)
+        return m_message->setText(raisonDe(rapport));
+    charger();
+    montrerRapport(rapport);
+    Messages::Informer(this, texte(Txt::RestaurationEffectuee));
+}
+
+/// What came over, table by table, and what the new file does not hold as it was.
+void Restauration::montrerRapport(const Conversion::Rapport &rapport)
+{
+    QStringList lignes;
+    for (const Conversion::TableLue &table : rapport.tables)
+        lignes << tr("%1 : %n ligne(s)", nullptr, static_cast<int>(table.rangees)).arg(table.nom);
+    if (!rapport.ecartes.isEmpty())
+        lignes << QString() << tr("Laissé de côté, ou changé :");
+    for (const Conversion::Ecarte &ecarte : rapport.ecartes)
+        lignes << QStringLiteral("%1 — %2 %3")
+                      .arg(motDe(ecarte.sorte), ecarte.table, ecarte.quoi.join(QStringLiteral(", ")));
+    m_rapport->setPlainText(lignes.join(u'\n'));
+    m_rapport->show();
+    if (rapport.nature == QLatin1String("catalogue"))
+        m_message->setText(
+            tr("C'était un catalogue de référence : ses textes sont repris tels quels, leur code"
+               " n'étant pas connu."));
 }
 
 void Restauration::Traduire()
@@ -170,6 +253,7 @@ void Restauration::Traduire()
     m_vide->setText(
         tr("Aucune sauvegarde pour l'instant : la première se fait d'elle-même, avant votre prochaine"
            " modification. Vous pouvez aussi choisir un fichier."));
+    m_rapport->setAccessibleName(tr("Rapport"));
     libeller(m_choisir, tr("Choisir un fichier…"));
     libeller(m_valider, tr("Restaurer"));
     expliquerChoix();

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "core/ui/FormeOutil.h"
+#include "db/Conversion.h"
 #include "db/Remplacement.h"
 
 class QLabel;
+class QPlainTextEdit;
 class QTreeWidget;
 class TitreGroupe;
 
@@ -20,10 +22,6 @@ public:
     /// Adds a file to the list and chooses it. Throws Error.
     void proposer(const QString &chemin);
 
-Q_SIGNALS:
-    /// An old collection is to be converted and put in place.
-    void conversionDemandee(const QString &chemin);
-
 protected:
     void Traduire() override;
 
@@ -34,11 +32,14 @@ private:
     void choisirFichier();
     void expliquerChoix();
     void restaurer();
+    void convertir(const QString &chemin);
+    void montrerRapport(const Conversion::Rapport &rapport);
     QString cheminChoisi() const;
 
     TitreGroupe *m_titreListe = nullptr;
     QTreeWidget *m_sauvegardes = nullptr;
     QLabel *m_vide = nullptr;
+    QPlainTextEdit *m_rapport = nullptr;
     QLabel *m_message = nullptr;
     QPushButton *m_choisir = nullptr;
     QPushButton *m_valider = nullptr;

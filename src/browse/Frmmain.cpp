@@ -11,12 +11,14 @@
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Aide.h"
+#include "core/ui/Depot.h"
 #include "core/ui/Fond.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Liens.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
+#include "db/Reprise.h"
 #include "db/Schema.h"
 
 #include <QAction>
@@ -63,6 +65,7 @@ Frmmain::Frmmain()
     construireCorps(page);
     m_pied = new Pied(this);
     page->addWidget(m_pied);
+    new Depot(this, [this](const QString &chemin) { Q_EMIT fichierDepose(chemin); });
     brancher();
     raccourcis();
     Frmmain::Traduire();
@@ -107,6 +110,7 @@ void Frmmain::brancher()
         edition.entree = entree;
         Q_EMIT menuDemande(edition, point);
     });
+    connect(m_fiches, &PileFiches::formeDemandee, this, &Frmmain::formeDemandee);
     connect(m_fiches, &PileFiches::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
     connect(m_fiches, &PileFiches::editionDemandee, this, &Frmmain::editionDemandee);
     connect(m_fiches, &PileFiches::menuDemande, this, &Frmmain::menuDemande);
@@ -166,6 +170,9 @@ void Frmmain::charger()
     // From the event loop, so that a collection that cannot be opened is told of like any other error, and
     // still before the window is first painted.
     QTimer::singleShot(0, this, [this] {
+        // One in the old format is not opened: it is offered to be converted.
+        if (Reprise::EstAncien(Dossier::courant().chemin(QStringLiteral("bd.mdb"))))
+            return;
         m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris)));
         m_ouverte = true;
         if (m_peinte)
@@ -316,7 +323,7 @@ void Frmmain::retablir()
 void Frmmain::oublier()
 {
     m_courante = {};
-    m_fiches->vider();
+    m_fiches->vider(m_ouverte && General::LireTotaux().albums == 0);
     Q_EMIT entreeMontree(m_courante);
 }
 
@@ -373,6 +380,9 @@ void Frmmain::actualiser(const Changements &changements)
         montrerVoisin(avant.tri);
     if (m_courante.id == 0)
         choisirCourante();
+    // The first entries of a collection that was empty.
+    if (m_courante.id == 0)
+        montrerPremiere();
     m_pied->poserTotaux();
 }
 

@@ -56,6 +56,8 @@ Q_SIGNALS:
     void suppressionDemandee(General::Entree entree);
     /// Another sheet is shown; its entry's number is 0 when there is none.
     void entreeMontree(General::Entree entree);
+    /// A file was dropped on the window.
+    void fichierDepose(const QString &chemin);
     void annulationDemandee();
     void retablissementDemande();
     /// Another kind of list is shown.

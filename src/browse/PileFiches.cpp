@@ -1,20 +1,15 @@
 #include "browse/PileFiches.h"
 
+#include "browse/Accueil.h"
 #include "browse/ChargerAlbums.h"
 #include "browse/FicheAlbum.h"
 #include "browse/FicheEntite.h"
-#include "core/ui/Nommer.h"
-#include "core/ui/Theme.h"
-
-#include <QLabel>
 
 PileFiches::PileFiches(QWidget *parent)
     : QStackedWidget(parent)
 {
-    m_accueil = nommer(new QLabel(this), QStringLiteral("Accueil"));
-    m_accueil->setAlignment(Qt::AlignCenter);
-    m_accueil->setForegroundRole(QPalette::PlaceholderText);
-    m_accueil->setFont(Theme::Taille(font(), 1.3));
+    m_accueil = new Accueil(this);
+    connect(m_accueil, &Accueil::formeDemandee, this, &PileFiches::formeDemandee);
     addWidget(m_accueil);
 }
 
@@ -53,8 +48,9 @@ bool PileFiches::montrerAlbum(int num)
     return true;
 }
 
-void PileFiches::vider()
+void PileFiches::vider(bool vierge)
 {
+    m_accueil->poserVierge(vierge);
     setCurrentWidget(m_accueil);
 }
 
@@ -108,5 +104,5 @@ void PileFiches::AppliquerPolices()
 
 void PileFiches::Traduire()
 {
-    m_accueil->setText(tr("Aucune fiche à montrer pour l'instant"));
+    m_accueil->Traduire();
 }

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "browse/Edition.h"
+#include "core/ui/Forme.h"
 
 #include <QStackedWidget>
 #include <map>
 
+class Accueil;
 class FicheAlbum;
 class FicheEntite;
 class FicheForme;
-class QLabel;
 
 /// The sheets of all kinds, one on top: each is made when it is first needed. What a sheet wishes, the pile
 /// announces.
@@ -21,8 +22,8 @@ public:
 
     /// Shows an entry's sheet; false when the entry is gone. Throws Error.
     bool montrer(General::Entree entree);
-    /// Shows that there is nothing to show.
-    void vider();
+    /// Shows that there is nothing to show, or how to begin a collection that is empty.
+    void vider(bool vierge);
     /// Writes what was typed into the texts of the sheet shown and still waits. Throws Error.
     void ecrireMemos();
     bool memosEnAttente() const;
@@ -33,6 +34,7 @@ public:
     void Traduire();
 
 Q_SIGNALS:
+    void formeDemandee(Forme::Nom forme);
     void entreeDemandee(General::Entree entree);
     void editionDemandee(const Edition &edition);
     void menuDemande(const Edition &edition, const QPoint &point);
@@ -46,6 +48,6 @@ private:
 
     FicheAlbum *m_album = nullptr;
     std::map<Champs::Feuille, FicheEntite *> m_entites;
-    QLabel *m_accueil = nullptr;
+    Accueil *m_accueil = nullptr;
     bool m_defile = false;
 };

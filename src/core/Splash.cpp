@@ -255,7 +255,9 @@ QWidget *Splash::construirePages()
     colonne->addWidget(m_titreGroupe);
 
     m_pages = new QStackedWidget(zone);
-    construireOutils(ouvrirPage(), QStringLiteral("Creation"), Creations);
+    QGridLayout *creation = ouvrirPage();
+    construireOutils(creation, QStringLiteral("Creation"), Creations);
+    construireImport(creation);
     construireTris(ouvrirPage());
     construireOutils(ouvrirPage(), QStringLiteral("Interf"), Interfaces);
     construireOutils(ouvrirPage(), QStringLiteral("Outils"), Outils);
@@ -334,6 +336,15 @@ void Splash::construireOutils(QGridLayout *page, const QString &nom, std::span<c
         else
             connect(bouton, &QToolButton::clicked, this, &Splash::copieDemandee);
     }
+}
+
+void Splash::construireImport(QGridLayout *page)
+{
+    auto *bouton = ajouter(page, QStringLiteral("Creation"), static_cast<int>(Creations.size()),
+        QStringLiteral("ouvrir"),
+        {nullptr, [] { return tr("Importer des albums"); },
+            [] { return tr("Créer beaucoup d'albums d'un coup, à partir d'un fichier CSV"); }, Nom::Import});
+    connect(bouton, &QToolButton::clicked, this, [this] { Q_EMIT formeDemandee(Nom::Import); });
 }
 
 void Splash::construireTris(QGridLayout *page)

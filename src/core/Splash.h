@@ -66,6 +66,7 @@ private:
     QLayout *construireBoutons();
     QGridLayout *ouvrirPage();
     void construireOutils(QGridLayout *page, const QString &nom, std::span<const Outil> outils);
+    void construireImport(QGridLayout *page);
     void construireTris(QGridLayout *page);
     void construireLiens(QGridLayout *page);
     QToolButton *ajouter(

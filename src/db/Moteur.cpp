@@ -106,6 +106,17 @@ void Moteur::Remplacer(const QString &neuf, const QString &cible)
             QString::fromStdString(erreur.message()));
 }
 
+void Moteur::Doubler(const QString &chemin, const QString &autre)
+{
+    std::error_code erreur;
+    std::filesystem::create_hard_link(
+        QFileInfo(chemin).filesystemFilePath(), QFileInfo(autre).filesystemFilePath(), erreur);
+    QFile fichier(chemin);
+    if (erreur && !fichier.copy(autre))
+        throw Error(QCoreApplication::translate("Moteur", "Ce fichier ne peut pas être mis de côté."), autre,
+            fichier.errorString());
+}
+
 QString Moteur::CheminLibre(const QString &chemin)
 {
     const QFileInfo fichier(chemin);

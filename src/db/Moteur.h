@@ -31,6 +31,10 @@ void Copier(SQLite::Database &source, const QString &cible);
 /// Puts a file in the place of another in one step. Throws Error.
 void Remplacer(const QString &neuf, const QString &cible);
 
+/// A second name for a file, so that it is never without one; where the disk knows no such thing, a copy. Throws
+/// Error.
+void Doubler(const QString &chemin, const QString &autre);
+
 /// A path that no file has: the one given, or with " (2)" and so on before its suffix.
 QString CheminLibre(const QString &chemin);
 

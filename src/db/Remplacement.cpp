@@ -14,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <SQLiteCpp/Exception.h>
-#include <filesystem>
 #include <optional>
 
 using Remplacement::Etat;
@@ -110,16 +109,9 @@ bool estSaine()
     }
 }
 
-/// A second name for the file, so that it is never without one; where the disk knows no such thing, a copy.
-void doubler(const QString &chemin, const QString &autre)
+bool estAncienne(const QString &chemin)
 {
-    std::error_code erreur;
-    std::filesystem::create_hard_link(
-        QFileInfo(chemin).filesystemFilePath(), QFileInfo(autre).filesystemFilePath(), erreur);
-    QFile fichier(chemin);
-    if (erreur && !fichier.copy(autre))
-        throw Error(dire(QT_TRANSLATE_NOOP("Restauration", "La base abîmée ne peut pas être mise de côté.")),
-            autre, fichier.errorString());
+    return QFileInfo::exists(chemin) && etatParEntete(chemin) == Etat::Ancienne;
 }
 
 /// Keeps what stands in the place of the collection.
@@ -127,8 +119,9 @@ void garder(const QString &collection)
 {
     const QString date
         = Collection::courant().sauvegardes.maintenant().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss"));
-    const QString deCote
-        = Moteur::CheminLibre(Dossier::courant().racine() + QStringLiteral("/bd abîmée %1.mdb").arg(date));
+    const QString deCote = Moteur::CheminLibre(Dossier::courant().racine()
+        + (estAncienne(collection) ? QStringLiteral("/bd-ancien.mdb")
+                                   : QStringLiteral("/bd abîmée %1.mdb").arg(date)));
     if (QFileInfo::exists(collection)) {
         if (estSaine()) {
             const Base base;
@@ -136,7 +129,7 @@ void garder(const QString &collection)
             if (!Moteur::EstVierge(db))
                 Sauvegardes::Faire(db);
         } else {
-            doubler(collection, deCote);
+            Moteur::Doubler(collection, deCote);
         }
     }
     // What a crash left beside the old file would be taken for the new one's.
@@ -151,7 +144,9 @@ Examen Remplacement::Examiner(const QString &chemin)
     Examen examen;
     examen.date = Sauvegardes::DateDe(chemin);
     examen.taille = QFileInfo(chemin).size();
-    if (Dossier::courant().estLeFichier(chemin, QStringLiteral("bd.mdb")))
+    if (estAncienne(chemin))
+        examen.etat = Etat::Ancienne;
+    else if (Dossier::courant().estLeFichier(chemin, QStringLiteral("bd.mdb")))
         examen.etat = Etat::Courante;
     else if (const auto parEntete = etatParEntete(chemin))
         examen.etat = *parEntete;

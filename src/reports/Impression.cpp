@@ -365,8 +365,6 @@ void Impression::montrerExemple()
 bool Impression::travailler(const std::function<bool(const Sorties::Avance &)> &travail)
 {
     dire({});
-    m_message->hide();
-    const auto remontrer = qScopeGuard([this] { m_message->show(); });
     Suivi suivi(progression(), annuler());
     return travail([&](int pourcent) { return suivi.avancer(pourcent); });
 }

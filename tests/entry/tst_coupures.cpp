@@ -1,6 +1,6 @@
 #include "db/Base.h"
 #include "db/Moteur.h"
-#include "db/Restauration.h"
+#include "db/Remplacement.h"
 #include "db/Sauvegardes.h"
 #include "db/Transaction.h"
 #include "db/Verification.h"
@@ -199,7 +199,7 @@ int travailler(const QString &travail, const QString &chemin, int tour)
             ImporterAlbums::Doublons::Prendre);
     while (travail == "restaurer") {
         for (const char *nom : {"/a.bd", "/b.bd"})
-            Restauration::Restaurer(chemin + nom);
+            Remplacement::Restaurer(chemin + nom);
     }
     return 0;
 }

@@ -22,16 +22,16 @@ FormeOutil::FormeOutil(const QString &nom, const QSize &taille, int elements)
 {
     setWindowIcon(Icones::Programme());
     resize(taille.boundedTo(screen()->availableSize()));
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
-    page->setSpacing(Theme::Moyen);
+    m_page = new QVBoxLayout(this);
+    m_page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
+    m_page->setSpacing(Theme::Moyen);
     m_titre = new QLabel(this);
     m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
     m_titre->setForegroundRole(QPalette::Link);
-    page->addWidget(m_titre);
+    m_page->addWidget(m_titre);
     m_corps = new QVBoxLayout;
     m_corps->setSpacing(Theme::Moyen);
-    page->addLayout(m_corps, 1);
+    m_page->addLayout(m_corps, 1);
 
     auto *pied = new QHBoxLayout;
     m_gauche = new QHBoxLayout;
@@ -39,7 +39,7 @@ FormeOutil::FormeOutil(const QString &nom, const QSize &taille, int elements)
     pied->addLayout(m_gauche, 1);
     m_boutons = new QHBoxLayout;
     pied->addLayout(m_boutons);
-    page->addLayout(pied);
+    m_page->addLayout(pied);
     if (elements & Progression) {
         m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
         m_progression->setTextVisible(false);
@@ -75,8 +75,9 @@ QLabel *FormeOutil::ajouterMessage()
 {
     auto *message = nommer(new QLabel(this), QStringLiteral("Message"));
     message->setWordWrap(true);
-    message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_gauche->insertWidget(0, message, 1);
+    // Room for one line, so that the form does not jump when there is something to say.
+    message->setMinimumHeight(message->fontMetrics().height());
+    m_page->insertWidget(m_page->count() - 1, message);
     return message;
 }
 

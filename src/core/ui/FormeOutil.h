@@ -25,7 +25,7 @@ protected:
     QVBoxLayout *corps() const { return m_corps; }
     /// A button of the form's own, at the right of the foot; the form is about the one with the accent.
     QPushButton *ajouterAuPied(const QString &nom, bool accent = false);
-    /// A line at the left of the foot, where the form answers.
+    /// A line above the foot, where the form answers.
     QLabel *ajouterMessage();
     /// The heading; the window bears it, too.
     void poserTitre(const QString &titre);
@@ -37,6 +37,7 @@ protected:
     void Traduire() override;
 
 private:
+    QVBoxLayout *m_page = nullptr;
     QVBoxLayout *m_corps = nullptr;
     QHBoxLayout *m_boutons = nullptr;
     QHBoxLayout *m_gauche = nullptr;

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/ui/FormeOutil.h"
+#include "entry/ImporterAlbums.h"
+
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QPlainTextEdit;
+class QTableWidget;
+class TitreGroupe;
+
+/// Albums from a file of separated values: which column holds what, how the first rows would come in, and what
+/// became of them all.
+class Import : public FormeOutil
+{
+    Q_OBJECT
+
+public:
+    Import();
+
+    /// Begins anew, without a file.
+    void charger();
+    /// Takes up a file. Throws Error.
+    void ouvrir(const QString &chemin);
+
+Q_SIGNALS:
+    void dite(const QString &message);
+
+protected:
+    void Traduire() override;
+
+private:
+    QWidget *construireCorrespondance();
+    QWidget *construireExemples();
+    void choisirFichier();
+    void proposerColonnes();
+    ImporterAlbums::Correspondance correspondance() const;
+    void montrerExemples();
+    void montrerRapport(const ImporterAlbums::Rapport &rapport);
+    void importer();
+
+    QString m_chemin;
+    ImporterAlbums::Apercu m_apercu;
+    QLabel *m_fichier = nullptr;
+    QPushButton *m_choisir = nullptr;
+    TitreGroupe *m_titreColonnes = nullptr;
+    TitreGroupe *m_titreExemples = nullptr;
+    std::array<QLabel *, ImporterAlbums::NombreDeChamps> m_libelles{};
+    std::array<QComboBox *, ImporterAlbums::NombreDeChamps> m_colonnes{};
+    QTableWidget *m_exemples = nullptr;
+    QComboBox *m_doublons = nullptr;
+    QLabel *m_libelleDoublons = nullptr;
+    QPlainTextEdit *m_rapport = nullptr;
+    QLabel *m_message = nullptr;
+    QPushButton *m_valider = nullptr;
+};
