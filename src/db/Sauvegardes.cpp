@@ -101,8 +101,7 @@ QString nommer(const QString &dossier)
 void elaguer(const QDateTime &maintenant)
 {
     const QString ici = dossier();
-    QList<Sauvegarde> miennes = lireListe(ici);
-    const QStringList perimees = Sauvegardes::ADetruire(miennes, maintenant);
+    const QStringList perimees = Sauvegardes::ADetruire(lireListe(ici), maintenant);
     if (perimees.isEmpty())
         return;
     for (const QString &chemin : perimees)
