@@ -55,6 +55,11 @@ std::shared_ptr<Connexion> Connexion::ouvrir(const QString &chemin, Entete::Natu
     }
 }
 
+bool Connexion::estOuverte(const QString &chemin)
+{
+    return !ouvertes()[chemin].expired();
+}
+
 Connexion::Connexion(const QString &chemin, Entete::Nature nature)
     : m_chemin(chemin)
     , m_annonce(nature == Entete::Nature::Collection)

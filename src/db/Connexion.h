@@ -19,6 +19,9 @@ public:
     /// The open connection to this file, or a new one. Throws Error.
     static std::shared_ptr<Connexion> ouvrir(const QString &chemin, Entete::Nature nature);
 
+    /// True while somebody holds a file open by its full, real path.
+    static bool estOuverte(const QString &chemin);
+
     Connexion(const QString &chemin, Entete::Nature nature);
     ~Connexion();
     Connexion(const Connexion &) = delete;

@@ -187,6 +187,8 @@ QString Remplacement::Restaurer(const QString &chemin)
     Moteur::Copier(*Moteur::Ouvrir(chemin), neuve);
     try {
         garder(collection);
+        // Who still has the old file open would go on writing into what is no longer there.
+        Q_ASSERT(!Connexion::estOuverte(collection));
         Moteur::Remplacer(neuve, collection);
     } catch (const Error &) {
         QFile::remove(neuve);

@@ -1,3 +1,4 @@
+#include "browse/General.h"
 #include "db/Historique.h"
 #include "db/Remplacement.h"
 #include "db/Sauvegardes.h"
@@ -134,7 +135,7 @@ void tst_restauration::laBaseRemplaceeEstGardee()
         QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
         QCOMPARE(titreEcrit(), "la nouvelle");
         QVERIFY(!histoire.peutAnnuler());
-        QVERIFY(ecoute.annonces().back().front().table.isEmpty());
+        QVERIFY(General::Concerne(ecoute.annonces().back(), General::Tri::Collections));
         QCOMPARE(fichiers(bac, "bd.mdb*"), QStringList("bd.mdb"));
         const QStringList deCote = fichiers(bac, "bd abîmée *.mdb");
         QCOMPARE(deCote.size(), saine ? 0 : tour); // none is overwritten
