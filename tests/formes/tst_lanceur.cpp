@@ -144,7 +144,7 @@ void tst_lanceur::laPoliceVautPourListesEtFiches()
     QVERIFY(exemple.italic() && exemple.pointSizeF() == 16);
     QVERIFY(!Seance::trouver<QWidget>("Liste")->font().italic());
     Seance::cliquer("Valider", "Polices");
-    QCOMPARE(s.bac.reglages.texte(Cle::FontSize), QStringLiteral("16"));
+    QCOMPARE(s.bac.reglages.nombre(Cle::FontSize), 16.0);
     QVERIFY(s.bac.reglages.booleen(Cle::FontItalic));
     QCOMPARE(s.bac.reglages.entier(Cle::Forecolor), 10 | 20 << 8 | 200 << 16);
     for (const char *nom : {"Liste", "Scena"}) {
@@ -156,7 +156,9 @@ void tst_lanceur::laPoliceVautPourListesEtFiches()
     Seance::cliquer("SansCouleur", "Polices");
     Seance::cliquer("Valider", "Polices");
     QVERIFY(Theme::EstSombre(QApplication::palette()));
-    QVERIFY(Seance::trouver<QWidget>("Liste")->palette().color(QPalette::Text).lightness() > 150);
+    QCOMPARE(s.bac.reglages.entier(Cle::Forecolor), 0);
+    QCOMPARE(Seance::trouver<QWidget>("Liste")->palette().color(QPalette::Text).name(),
+        QApplication::palette().color(QPalette::Text).name());
     s.bac.reglages.ecrire(Cle::Theme, 1);
     Theme::Relire();
     QVERIFY(!Theme::EstSombre(QApplication::palette()));
@@ -282,7 +284,7 @@ void tst_lanceur::uneCollectionVideMeneAuPremierAlbum()
     Seance::cliquer("Commencer(0)");
     QTRY_VERIFY(Seance::fenetre("Manuelle") && Seance::fenetre("Manuelle")->isVisible());
     Seance::ecrire("Titre", QStringLiteral("Le tout premier"), "Manuelle");
-    Seance::cliquer("Valider", "Manuelle");
+    Seance::cliquer("BtnCreer", "Manuelle");
     QTRY_COMPARE(Seance::texteDe("TAlbum"), QStringLiteral("Le tout premier"));
 }
 

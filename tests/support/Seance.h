@@ -3,6 +3,7 @@
 #include "Application.h"
 #include "Bureau.h"
 #include "core/ui/Messages.h"
+#include "core/ui/Theme.h"
 #include "support/Bac.h"
 
 #include <QAbstractButton>
@@ -18,6 +19,8 @@ struct Seance
     explicit Seance(bool dejaVu = true)
         : bac(QStringLiteral(EXEMPLE))
     {
+        static const bool habillee = (Theme::Appliquer(*qApp), true);
+        Q_UNUSED(habillee)
         if (dejaVu)
             bac.reglages.ecrire(Cle::FirstTime, 1);
     }
