@@ -299,8 +299,11 @@ void tst_conversion::unRefusNeLaisseRien_data()
     QTest::newRow("coupee entre deux pages") << saine.first(8 * Page) << Code::Abimee;
     QTest::newRow("catalogue illisible") << changee(2 * Page, QByteArray(Page, '\xA5')) << Code::Abimee;
     QTest::newRow("chiffree") << Octets({{DuSchema("Album")}, EcrivainJet::Code::Inconnu}) << Code::Chiffree;
-    const qsizetype memo = saine.indexOf("LVAL") - 4;
-    QTest::newRow("texte long perdu") << changee(memo, QByteArray(Page, '\0')) << Code::Abimee;
+    const qsizetype memo = saine.indexOf("LVAL");
+    QTest::newRow("texte long perdu") << changee(memo - 4, QByteArray(Page, '\0')) << Code::Abimee;
+    QTest::newRow("texte long d'une table") << changee(memo, QByteArray("\x03\0\0", 4)) << Code::Abimee;
+    QTest::newRow("page d'une autre table") << changee(7 * Page + 4, "\x05") << Code::Abimee;
+    QTest::newRow("catalogue incomplet") << changee(2 * Page + 16, "\x05") << Code::Abimee;
     // The rank of the row count in a definition page.
     QTest::newRow("lignes de trop") << changee(4 * Page + 16, QByteArray("\x29", 1)) << Code::Abimee;
     QTest::newRow("table dite vide") << changee(4 * Page + 16, QByteArray(1, '\0')) << Code::Abimee;
@@ -318,11 +321,11 @@ void tst_conversion::unRefusNeLaisseRien()
     const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
     QTEST(rapport.erreur, "code");
     QVERIFY(!rapport.details.isEmpty() && rapport.nature.isEmpty());
-    QCOMPARE(fichiers(), QStringList("l'été.mdb"));
-    QVERIFY(Bac::lire(ancien()) == octets);
     QProcess processus;
     Outil::Lancer(processus, "bulleo-convertir", {ancien(), nouveau()});
     QVERIFY(processus.waitForFinished() && processus.exitCode() != 0);
+    QCOMPARE(fichiers(), QStringList("l'été.mdb"));
+    QVERIFY(Bac::lire(ancien()) == octets);
 }
 
 void tst_conversion::lUtilisateurArreteLaConversion()

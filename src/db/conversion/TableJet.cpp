@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int PositionProprietaire = 4; // in a data page: the page of its table's definition, or "LVAL"
+constexpr int PositionProprietaire = 4; // in a page of rows: the table they belong to, or "LVAL"
 
 // A long text is kept behind 12 bytes: its length with two flags, then where it begins when it stands elsewhere.
 constexpr quint32 EnPlace = 0x80000000;
@@ -60,11 +60,10 @@ TableJet::TableJet(const Jet &jet, const QString &table)
     , m_nom(table)
     , m_table(mdb_read_table(jet.m_poignee->entrees.at(static_cast<std::size_t>(jet.rang(table)))))
 {
-    // The library reads a map that is not there, and stops at once when no row is announced.
+    // The library would read a map that is not there.
     if (!m_table || !m_table->usage_map || m_table->map_sz < 5 || !mdb_read_columns(m_table))
         abimee("sa définition ne peut pas être lue");
     m_annoncees = m_table->num_rows;
-    m_table->num_rows = 1;
     lierColonnes();
     mdb_rewind_table(m_table);
 }
@@ -98,7 +97,6 @@ void TableJet::lierColonnes()
 bool TableJet::suivante()
 {
     if (mdb_fetch_row(m_table)) {
-        verifierPage();
         ++m_lues;
         return true;
     }
@@ -106,14 +104,6 @@ bool TableJet::suivante()
         abimee(qUtf8Printable(
             QStringLiteral("elle annonce %1 lignes, %2 se lisent").arg(m_annoncees).arg(m_lues)));
     return false;
-}
-
-void TableJet::verifierPage() const
-{
-    MdbHandle *mdb = m_jet.m_poignee->mdb;
-    if (mdb->pg_buf[0] != MDB_PAGE_DATA
-        || mdb_pg_get_int32(mdb, PositionProprietaire) != static_cast<long>(m_table->entry->table_pg))
-        abimee("une page d'une autre table se trouve parmi les siennes");
 }
 
 QString TableJet::cellule(std::size_t champ) const

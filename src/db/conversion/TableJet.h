@@ -7,7 +7,7 @@
 struct S_MdbTableDef;
 
 /// A walk over the rows of one table of an old file. Damage that the library passes over in silence ends it: a
-/// row or page that cannot be read, a page of another table, a long text that is not whole. Throws Echec.
+/// row or page that cannot be read, a long text that is not whole. Throws Echec.
 class TableJet
 {
 public:
@@ -37,7 +37,6 @@ public:
 
 private:
     void lierColonnes();
-    void verifierPage() const;
     QString texte(const char *octets, std::size_t taille) const;
     QString memo(std::size_t champ) const;
     QByteArray memoAilleurs(quint32 taille, quint32 ou, bool enChaine) const;
