@@ -227,8 +227,7 @@ void tst_conversion::uneBaseEcriteIciDonneSesCellules()
     const QList<QStringList> lues = rangees(nouveau(), "Album",
         {"Num", "QualBD", "Histoire", "ISBN", "DA", "DPret", "PrixA", "HSerie", "Coffret"});
     QCOMPARE(difference(lues, prevues), "");
-    const QString types = "group_concat(DISTINCT typeof(DA)) || count(Histoire)";
-    QCOMPARE(rangees(nouveau(), "Album", {types})[0][0], "null8");
+    QCOMPARE(rangees(nouveau(), "Album", {"group_concat(DISTINCT typeof(DA))"})[0][0], "null");
     QCOMPARE(rangees(nouveau(), "SerieAlbums", {"NumeroAlbum2"})[2][0], "C");
 }
 
@@ -247,7 +246,6 @@ void tst_conversion::ceQuiNEstPasGardeEstDit()
     ajouter({{"Num", 3}, {"NAlbum", " "}, {"NGenre", 1e12}, {"PrixA", qlonglong(-9'007'199'254'750'001)}});
     Table inconnue{"Mes notes", {{"N", Type::Long}}, {{1}, {2}}};
     Bac::ecrire(ancien(), Octets({{fiches, inconnue}}));
-
     const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
     QCOMPARE(rapport.details, "");
     const QList<QStringList> attendus{{"champInconnu", "Album", "Reliure"},
@@ -390,7 +388,6 @@ bool rendCompte(const Rapport &rapport, qint64 attendues)
 void tst_conversion::desBitsFautifsNeTrompentPas()
 {
     constexpr int Variantes = 1000;
-    constexpr int Ateliers = 4;
     constexpr int Albums = 6;
     const QByteArray saine = UneCollection(Albums);
     std::atomic<int> suivante = 0;
@@ -414,7 +411,7 @@ void tst_conversion::desBitsFautifsNeTrompentPas()
         }
     };
     std::vector<std::jthread> ateliers;
-    for (int atelier = 0; atelier < Ateliers; ++atelier)
+    for (const int atelier : {0, 1, 2, 3})
         ateliers.emplace_back(travailler, atelier);
     ateliers.clear();
     QVERIFY2(fautes.isEmpty(), qPrintable(fautes.join(u' ')));
@@ -423,7 +420,6 @@ void tst_conversion::desBitsFautifsNeTrompentPas()
 
 void tst_conversion::uneFinBrutaleNeLaisseRienAMoitie()
 {
-    constexpr int Fins = 50;
     const QByteArray octets = UneCollection(600);
     Bac::ecrire(ancien(), octets);
     QElapsedTimer duree;
@@ -433,7 +429,7 @@ void tst_conversion::uneFinBrutaleNeLaisseRienAMoitie()
     QVERIFY(QFile::remove(nouveau()));
     QRandomGenerator hasard(7);
     int entamees = 0;
-    for (int i = 0; i < Fins; ++i, QFile::remove(nouveau())) {
+    for (int i = 0; i < 50; ++i, QFile::remove(nouveau())) {
         QProcess processus;
         processus.setStandardErrorFile(QProcess::nullDevice());
         Outil::Lancer(processus, "bulleo-convertir", {ancien(), nouveau()});

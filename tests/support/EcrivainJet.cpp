@@ -1,9 +1,10 @@
 #include "support/EcrivainJet.h"
 
 #include <QByteArrayList>
-#include <QMap>
 #include <QtEndian>
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <numeric>
 
 namespace {

@@ -2,8 +2,6 @@
 
 #include "db/Schema.h"
 
-#include <QMap>
-
 namespace {
 
 using EcrivainJet::Champ;

@@ -4,6 +4,7 @@
 #include "db/conversion/Neuve.h"
 
 #include <QFileInfo>
+#include <algorithm>
 #include <optional>
 
 namespace {

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
+#include <algorithm>
 
 using Conversion::Code;
 
@@ -101,9 +102,11 @@ void Jet::lireCatalogue()
         refuser(Code::Abimee, "Le catalogue du fichier est incomplet.");
     for (guint i = 0; i < mdb->catalog->len; ++i) {
         auto *entree = static_cast<MdbCatalogEntry *>(g_ptr_array_index(mdb->catalog, i));
-        if (!mdb_is_user_table(entree))
+        const QString nom = QString::fromUtf8(entree->object_name);
+        // The engine's own tables are not always marked as such; "~" begins what it has yet to delete.
+        if (!mdb_is_user_table(entree) || nom.startsWith(QLatin1String("MSys")) || nom.startsWith(u'~'))
             continue;
-        m_noms << QString::fromUtf8(entree->object_name);
+        m_noms << nom;
         m_poignee->entrees.push_back(entree);
     }
 }

@@ -5,6 +5,8 @@
 #include "db/conversion/TexteJet.h"
 
 #include <QtEndian>
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -58,20 +60,15 @@ bool estLuBrut(const MdbColumn *c)
 TableJet::TableJet(const Jet &jet, const QString &table)
     : m_jet(jet)
     , m_nom(table)
-    , m_table(mdb_read_table(jet.m_poignee->entrees.at(static_cast<std::size_t>(jet.rang(table)))))
+    , m_table(mdb_read_table(jet.m_poignee->entrees.at(static_cast<std::size_t>(jet.rang(table)))),
+          mdb_free_tabledef)
 {
     // The library would read a map that is not there.
-    if (!m_table || !m_table->usage_map || m_table->map_sz < 5 || !mdb_read_columns(m_table))
+    if (!m_table || !m_table->usage_map || m_table->map_sz < 5 || !mdb_read_columns(m_table.get()))
         abimee("sa définition ne peut pas être lue");
     m_annoncees = m_table->num_rows;
     lierColonnes();
-    mdb_rewind_table(m_table);
-}
-
-TableJet::~TableJet()
-{
-    if (m_table)
-        mdb_free_tabledef(m_table);
+    mdb_rewind_table(m_table.get());
 }
 
 void TableJet::abimee(const char *quoi) const
@@ -85,18 +82,18 @@ void TableJet::lierColonnes()
     const std::size_t nombre = m_table->columns->len;
     m_tampons.resize(nombre);
     for (std::size_t i = 0; i < nombre; ++i) {
-        MdbColumn *c = colonne(m_table, i);
+        MdbColumn *c = colonne(m_table.get(), i);
         m_champs.push_back({QString::fromUtf8(c->name), sorteDe(c->col_type)});
         if (estLuBrut(c) || m_champs.back().sorte == Sorte::Illisible)
             continue;
         m_tampons[i].resize(m_jet.m_poignee->mdb->bind_size);
-        mdb_bind_column(m_table, static_cast<int>(i) + 1, m_tampons[i].data(), nullptr);
+        mdb_bind_column(m_table.get(), static_cast<int>(i) + 1, m_tampons[i].data(), nullptr);
     }
 }
 
 bool TableJet::suivante()
 {
-    if (mdb_fetch_row(m_table)) {
+    if (mdb_fetch_row(m_table.get())) {
         ++m_lues;
         return true;
     }
@@ -108,7 +105,7 @@ bool TableJet::suivante()
 
 QString TableJet::cellule(std::size_t champ) const
 {
-    const MdbColumn *c = colonne(m_table, champ);
+    const MdbColumn *c = colonne(m_table.get(), champ);
     if (estLuBrut(c) && c->cur_value_start + c->cur_value_len > MDB_PGSIZE)
         abimee("un texte dépasse sa page");
     if (c->col_type == MDB_MEMO)
@@ -141,7 +138,7 @@ QString TableJet::texte(const char *octets, std::size_t taille) const
 
 QString TableJet::memo(std::size_t champ) const
 {
-    const MdbColumn *c = colonne(m_table, champ);
+    const MdbColumn *c = colonne(m_table.get(), champ);
     if (c->cur_value_len == 0)
         return {};
     const auto reste = static_cast<std::size_t>(c->cur_value_len);

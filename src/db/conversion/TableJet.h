@@ -2,6 +2,7 @@
 
 #include "db/conversion/Jet.h"
 
+#include <memory>
 #include <vector>
 
 struct S_MdbTableDef;
@@ -21,9 +22,6 @@ public:
     };
 
     TableJet(const Jet &jet, const QString &table);
-    ~TableJet();
-    TableJet(const TableJet &) = delete;
-    TableJet &operator=(const TableJet &) = delete;
 
     const std::vector<Champ> &champs() const { return m_champs; }
     /// How many rows the table says it has.
@@ -44,7 +42,7 @@ private:
 
     const Jet &m_jet;
     QString m_nom;
-    S_MdbTableDef *m_table;
+    std::unique_ptr<S_MdbTableDef, void (*)(S_MdbTableDef *)> m_table;
     std::vector<Champ> m_champs;
     std::vector<std::vector<char>> m_tampons; ///< where the library writes what is no text
     qint64 m_annoncees = 0;
