@@ -100,13 +100,15 @@ QString dire(const char *texte)
 
 /// Hears the converter out, unless the user or the limit ends it.
 void suivreJusquAuBout(
-    QProcess &processus, Rapport &rapport, const std::function<bool(int)> &suivre, int limiteMs)
+    QProcess &processus, Rapport &rapport, const std::function<bool(int)> &suivre, int silenceMs)
 {
     constexpr int IntervalleMs = 50;
-    const QDeadlineTimer limite(limiteMs);
+    QDeadlineTimer limite(silenceMs);
     const auto entendre = [&] {
-        while (processus.canReadLine())
+        while (processus.canReadLine()) {
             Conversion::lire(rapport, processus.readLine());
+            limite.setRemainingTime(silenceMs);
+        }
     };
     while (processus.state() != QProcess::NotRunning) {
         processus.waitForReadyRead(IntervalleMs);
@@ -185,7 +187,7 @@ void Conversion::RetirerPartiel(const QString &nouveau)
 }
 
 Conversion::Rapport Conversion::Convertir(
-    const QString &ancien, const QString &nouveau, const std::function<bool(int)> &suivre, int limiteMs)
+    const QString &ancien, const QString &nouveau, const std::function<bool(int)> &suivre, int silenceMs)
 {
     Rapport rapport;
     const bool existait = QFileInfo::exists(nouveau);
@@ -197,7 +199,7 @@ Conversion::Rapport Conversion::Convertir(
             dire(QT_TRANSLATE_NOOP("Conversion", "Le programme de conversion est introuvable.")));
         return rapport;
     }
-    suivreJusquAuBout(processus, rapport, suivre, limiteMs);
+    suivreJusquAuBout(processus, rapport, suivre, silenceMs);
     if (rapport.erreur == Code::Aucun)
         return rapport;
     RetirerPartiel(nouveau);

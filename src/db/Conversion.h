@@ -71,9 +71,10 @@ QString Partiel(const QString &nouveau);
 void RetirerPartiel(const QString &nouveau);
 
 /// Converts `ancien` into a new file, in a process of its own; the caller waits. `suivre` is told the percentage,
-/// many times a second, and ends the work by answering false. A converter that exceeds the limit or falls over
-/// counts as a damaged file. Unless all went well, nothing is left at `nouveau` that was not there before.
+/// many times a second, and ends the work by answering false. A converter that is silent for longer than the
+/// limit, or falls over, counts as a damaged file. Unless all went well, nothing is left at `nouveau` that was not
+/// there before.
 Rapport Convertir(const QString &ancien, const QString &nouveau, const std::function<bool(int)> &suivre = {},
-    int limiteMs = 600'000);
+    int silenceMs = 60'000);
 
 }

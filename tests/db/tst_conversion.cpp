@@ -331,7 +331,7 @@ void tst_conversion::lUtilisateurArreteLaConversion()
     Bac::ecrire(ancien(), UneCollection(2000));
     const auto suivre = [](int avance) { return avance < 20; };
     QCOMPARE(Conversion::Convertir(ancien(), nouveau(), suivre).erreur, Code::Annulee);
-    QCOMPARE(Conversion::Convertir(ancien(), nouveau(), {}, 1).erreur, Code::Abimee);
+    QCOMPARE(Conversion::Convertir(ancien(), nouveau(), {}, 0).erreur, Code::Abimee);
     QCOMPARE(fichiers(), QStringList("l'été.mdb"));
     const QString ailleurs = m_dossier.filePath("nulle part/nouveau.mdb");
     QCOMPARE(Conversion::Convertir(ancien(), ailleurs).erreur, Code::Ecriture);

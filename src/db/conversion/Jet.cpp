@@ -2,6 +2,7 @@
 
 #include "db/conversion/Echec.h"
 #include "db/conversion/Poignee.h"
+#include "db/conversion/TableJet.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -18,6 +19,9 @@ constexpr qsizetype TailleEntete = 0x18;
 constexpr quint32 PremierAce = MDB_VER_ACCDB_2007;
 constexpr quint32 DernierAce = MDB_VER_ACCDB_2019;
 constexpr unsigned long PageDuCatalogue = 2;
+constexpr qint64 PageDUnObjet = 0x00FF'FFFF; // in its identifier
+constexpr qint64 DuSysteme = 0x8000'0002; // in its flags
+const QString Catalogue = QStringLiteral("MSysObjects");
 
 [[noreturn]] void refuser(Code code, const char *details)
 {
@@ -87,26 +91,47 @@ qsizetype Jet::rang(const QString &table) const
     return trouve == m_noms.end() ? -1 : trouve - m_noms.begin();
 }
 
-void Jet::lireCatalogue()
+void Jet::noter(const QString &table, unsigned long page)
+{
+    MdbCatalogEntry &entree = m_poignee->entrees.emplace_back();
+    entree.mdb = m_poignee->mdb;
+    entree.object_type = MDB_TABLE;
+    entree.table_pg = page;
+    m_noms << table;
+}
+
+void Jet::verifierCatalogue() const
 {
     MdbHandle *mdb = m_poignee->mdb;
+    if (mdb_read_pg(mdb, PageDuCatalogue) > 0 && mdb->pg_buf[0] == MDB_PAGE_TABLE)
+        return;
     // Pages that are encoded with a key of the header are decoded by the library. Any other cipher leaves pages
     // that make no sense behind a sound header which has a key.
-    if (mdb_read_pg(mdb, PageDuCatalogue) <= 0 || mdb->pg_buf[0] != MDB_PAGE_TABLE) {
-        if (mdb->f->db_key != 0)
-            refuser(Code::Chiffree, "Le fichier est chiffré.");
-        refuser(Code::Abimee, "Le catalogue du fichier ne peut pas être lu.");
-    }
-    const long annoncees = mdb_pg_get_int32(mdb, mdb->fmt->tab_num_rows_offset);
-    if (!mdb_read_catalog(mdb, MDB_ANY) || annoncees != static_cast<long>(mdb->num_catalog))
-        refuser(Code::Abimee, "Le catalogue du fichier est incomplet.");
-    for (guint i = 0; i < mdb->catalog->len; ++i) {
-        auto *entree = static_cast<MdbCatalogEntry *>(g_ptr_array_index(mdb->catalog, i));
-        const QString nom = QString::fromUtf8(entree->object_name);
+    if (mdb->f->db_key != 0)
+        refuser(Code::Chiffree, "Le fichier est chiffré.");
+    refuser(Code::Abimee, "Le catalogue du fichier ne peut pas être lu.");
+}
+
+void Jet::lireCatalogue()
+{
+    verifierCatalogue();
+    // The library's own reading of the catalogue also takes in what else it holds of each table; that is of no use
+    // here, and never ends in some damaged files.
+    noter(Catalogue, PageDuCatalogue);
+    noterTables();
+    m_noms.removeFirst();
+    m_poignee->entrees.pop_front();
+}
+
+void Jet::noterTables()
+{
+    TableJet catalogue(*this, Catalogue);
+    while (catalogue.suivante()) {
+        const QString nom = catalogue.cellule("Name");
+        const qint64 marques = catalogue.cellule("Flags").toLongLong();
+        const bool table = catalogue.cellule("Type").toInt() == MDB_TABLE && (marques & DuSysteme) == 0;
         // The engine's own tables are not always marked as such; "~" begins what it has yet to delete.
-        if (!mdb_is_user_table(entree) || nom.startsWith(QLatin1String("MSys")) || nom.startsWith(u'~'))
-            continue;
-        m_noms << nom;
-        m_poignee->entrees.push_back(entree);
+        if (table && !nom.startsWith(QLatin1String("MSys")) && !nom.startsWith(u'~'))
+            noter(nom, static_cast<unsigned long>(catalogue.cellule("Id").toLongLong() & PageDUnObjet));
     }
 }

@@ -23,7 +23,10 @@ private:
 
     /// Place in the list, by name without regard to case; -1 when there is none.
     qsizetype rang(const QString &table) const;
+    void noter(const QString &table, unsigned long page);
+    void verifierCatalogue() const;
     void lireCatalogue();
+    void noterTables();
 
     struct Poignee;
     std::unique_ptr<Poignee> m_poignee;

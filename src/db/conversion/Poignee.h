@@ -3,14 +3,14 @@
 #include "db/conversion/Jet.h"
 
 // The library's own header includes this one where C++ cannot take it.
+#include <deque>
 #include <glib.h>
 #include <mdbtools.h>
-#include <vector>
 
 struct Jet::Poignee
 {
     MdbHandle *mdb = nullptr;
-    std::vector<MdbCatalogEntry *> entrees; ///< beside the names of the tables
+    std::deque<MdbCatalogEntry> entrees; ///< beside the names of the tables; a table read points to its own
 
     ~Poignee()
     {

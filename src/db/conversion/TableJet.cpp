@@ -60,7 +60,7 @@ bool estLuBrut(const MdbColumn *c)
 TableJet::TableJet(const Jet &jet, const QString &table)
     : m_jet(jet)
     , m_nom(table)
-    , m_table(mdb_read_table(jet.m_poignee->entrees.at(static_cast<std::size_t>(jet.rang(table)))),
+    , m_table(mdb_read_table(&jet.m_poignee->entrees.at(static_cast<std::size_t>(jet.rang(table)))),
           mdb_free_tabledef)
 {
     // The library would read a map that is not there.
@@ -121,6 +121,15 @@ QString TableJet::cellule(std::size_t champ) const
     return flottant
         ? QString::number(std::strtod(tampon.data(), nullptr), 'g', c->col_type == MDB_FLOAT ? 7 : 15)
         : QString::fromUtf8(tampon.data());
+}
+
+QString TableJet::cellule(const char *champ) const
+{
+    const auto trouve = std::find_if(
+        m_champs.begin(), m_champs.end(), [&](const Champ &c) { return c.nom == QLatin1String(champ); });
+    if (trouve == m_champs.end())
+        abimee("il lui manque un champ");
+    return cellule(static_cast<std::size_t>(trouve - m_champs.begin()));
 }
 
 QString TableJet::texte(const char *octets, std::size_t taille) const

@@ -32,6 +32,8 @@ public:
     /// A cell of the row: a text, or a number as a computer writes it. Null when it is Null, or an empty text,
     /// which the library cannot tell apart.
     QString cellule(std::size_t champ) const;
+    /// Of the field of this name; throws when the table lacks it.
+    QString cellule(const char *champ) const;
 
 private:
     void lierColonnes();
