@@ -1,6 +1,5 @@
 #include "browse/Frmmain.h"
 #include "core/ui/Legende.h"
-#include "reports/Graphique.h"
 #include "support/Seance.h"
 
 #include <QAbstractItemView>
@@ -105,7 +104,9 @@ QString nomDe(const QWidget *w)
 int manque(const QWidget *w)
 {
     if (const auto *label = qobject_cast<const QLabel *>(w)) {
-        if (label->text().isEmpty() || label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored)
+        // The value of a field is clipped to its caption, which ends in dots.
+        if (label->inherits("Legende") || label->text().isEmpty()
+            || label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored)
             return 0;
         if (label->wordWrap())
             return label->heightForWidth(label->width()) - label->height();
@@ -118,10 +119,14 @@ int manque(const QWidget *w)
     if (!outil || outil->text().isEmpty() || outil->toolButtonStyle() == Qt::ToolButtonIconOnly
         || outil->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored)
         return 0;
-    const int marges = 12;
-    const QRect place = outil->fontMetrics().boundingRect(
-        QRect(0, 0, outil->width() - marges, 400), Qt::TextWordWrap | Qt::AlignHCenter, outil->text());
-    return place.width() - (outil->width() - marges);
+    if (outil->toolButtonStyle() == Qt::ToolButtonTextBesideIcon)
+        return outil->iconSize().width() + 8 + outil->fontMetrics().horizontalAdvance(outil->text())
+            - outil->width();
+    const int place = outil->width() - 12;
+    return outil->fontMetrics()
+               .boundingRect(QRect(0, 0, place, 400), Qt::TextWordWrap | Qt::AlignHCenter, outil->text())
+               .width()
+        - place;
 }
 
 }
@@ -164,9 +169,9 @@ void tst_tenue::leClavierVaPartout()
         if (w->hasFocus() && w->grab().toImage() == sans)
             muets << nomDe(w);
     }
-    QCOMPARE(anonymes, QStringList());
-    QCOMPARE(hors, QStringList());
-    QCOMPARE(muets, QStringList());
+    QVERIFY2(anonymes.isEmpty(), qPrintable(anonymes.join(u'\n')));
+    QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
+    QVERIFY2(muets.isEmpty(), qPrintable(muets.join(u'\n')));
 }
 
 void tst_tenue::aucuneLegendeNEstCoupee_data()
@@ -182,6 +187,7 @@ void tst_tenue::aucuneLegendeNEstCoupee()
     Seance s;
     s.demarrer();
     Q_EMIT static_cast<Frmmain *>(Seance::fenetre("Frmmain"))->langueDemandee(langue);
+    Seance::fenetre("Frmmain")->resize(1280, 800);
     QStringList coupees;
     const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
     for (int i = 0; i < noms.keyCount(); ++i) {

@@ -39,6 +39,18 @@ void dessinerBouton(const QStyleOption &o, QPainter &p, bool plat)
     p.save();
     poserCrayon(p, trait, fond);
     p.drawRoundedRect(interieur(o.rect), Rayon, Rayon);
+    if (o.state.testFlag(QStyle::State_HasFocus)) {
+        // On a coloured ground the blue frame would be lost.
+        const bool surCouleur = choisi || fond.lightness() < 150;
+        const QColor cadre = surCouleur && !plat ? o.palette.color(QPalette::ButtonText)
+            : choisi                             ? o.palette.color(QPalette::HighlightedText)
+                                                 : Theme::Bleu(o.palette);
+        p.setPen(QPen(cadre, 1.5));
+        p.setBrush(Qt::NoBrush);
+        const qreal retrait = surCouleur ? 2.5 : 0.5;
+        p.drawRoundedRect(
+            interieur(o.rect).adjusted(retrait, retrait, -retrait, -retrait), Rayon - 1, Rayon - 1);
+    }
     p.restore();
 }
 
@@ -74,9 +86,12 @@ void dessinerCadre(const QStyleOption &o, QPainter &p)
 
 void dessinerFocus(const QStyleOption &o, QPainter &p)
 {
+    const auto *focus = qstyleoption_cast<const QStyleOptionFocusRect *>(&o);
+    const bool surBleu = focus && focus->backgroundColor == o.palette.color(QPalette::Highlight);
+    const QColor cadre = surBleu ? o.palette.color(QPalette::HighlightedText) : Theme::Bleu(o.palette);
     p.save();
-    poserCrayon(p, Theme::Bleu(o.palette), {});
-    p.setPen(QPen(Theme::Bleu(o.palette), 1.5));
+    poserCrayon(p, cadre, {});
+    p.setPen(QPen(cadre, 1.5));
     p.drawRoundedRect(interieur(o.rect), Rayon, Rayon);
     p.restore();
 }
