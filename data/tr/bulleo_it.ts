@@ -9,6 +9,37 @@
     </message>
 </context>
 <context>
+    <name>Accueil</name>
+    <message>
+        <source>Bienvenue dans votre bibliothèque</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Votre collection est encore vide. Par quoi voulez-vous commencer ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choisissez une ligne de la liste pour voir sa fiche.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saisir un premier album</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Le prendre dans le catalogue fourni</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importer un fichier CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reprendre une ancienne base (bd.mdb)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Acquisition</name>
     <message>
         <source>aucun scanner</source>
@@ -85,6 +116,13 @@
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
         <translation>«%1» esiste già. Sostituirlo?</translation>
+    </message>
+</context>
+<context>
+    <name>Aide</name>
+    <message>
+        <source>L&apos;aide ne peut pas être ouverte.</source>
+        <translation type="unfinished">Impossibile aprire la guida.</translation>
     </message>
 </context>
 <context>
@@ -241,6 +279,10 @@
         <source>Ce fichier existe déjà.</source>
         <translation>Questo file esiste già.</translation>
     </message>
+    <message>
+        <source>Ce fichier ne peut pas être remplacé.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Bureau</name>
@@ -269,6 +311,25 @@
     </message>
 </context>
 <context>
+    <name>Conversion</name>
+    <message>
+        <source>La conversion a été annulée.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La conversion ne finit pas : le fichier est abîmé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La conversion s&apos;est arrêtée en chemin : le fichier est abîmé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Le programme de conversion est introuvable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Couvertures</name>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
@@ -280,6 +341,10 @@
     <message>
         <source>Ce fichier ne peut pas être lu.</source>
         <translation>Impossibile leggere questo file.</translation>
+    </message>
+    <message>
+        <source>Ligne %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -398,6 +463,13 @@
     </message>
 </context>
 <context>
+    <name>FormeOutil</name>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Annulla</translation>
+    </message>
+</context>
+<context>
     <name>FormulaireAlbum</name>
     <message>
         <source>Couverture ...</source>
@@ -442,10 +514,6 @@
         <translation>Il titolo è stato troncato a 50 caratteri.</translation>
     </message>
     <message>
-        <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation>Impossibile aprire la guida.</translation>
-    </message>
-    <message>
         <source>Version %1</source>
         <translation>Versione %1</translation>
     </message>
@@ -488,10 +556,190 @@
     </message>
 </context>
 <context>
+    <name>Import</name>
+    <message>
+        <source>Choisir un fichier de valeurs séparées</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 : %n ligne(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dites quelle colonne est celle du titre.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annulé : rien n&apos;a été importé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n album(s) créé(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n déjà présent(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refusé(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ligne %1 : %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ligne %1 : cet album est déjà dans la collection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importer des albums</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choisir un fichier…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quelle colonne pour quoi ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Les premières lignes, telles qu&apos;elles entreront</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Un album de même titre, série et tome :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>le sauter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>le créer quand même</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rapport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Importation</name>
     <message>
         <source>La page ne peut pas être enregistrée.</source>
         <translation>Impossibile salvare la pagina.</translation>
+    </message>
+</context>
+<context>
+    <name>ImporterAlbums</name>
+    <message>
+        <source>%1 : « %2 » n&apos;est ni oui ni non.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importation de « %1 »</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Impression</name>
+    <message>
+        <source>Éditer la liste au format PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exporter la liste au format CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La liste affichée</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cochez au moins une colonne.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ligne(s) en tout</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Annulé : rien n&apos;a été écrit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Liste enregistrée : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impression annulée.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La liste est partie à l&apos;impression.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Que voulez-vous lister ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ce qui sortira</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vers un fichier ou sur papier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aucune</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toute la collection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La fiche affichée</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aperçu avant impression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imprimer…</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -521,6 +769,17 @@
     </message>
 </context>
 <context>
+    <name>Listage</name>
+    <message>
+        <source>Champ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Valeur</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ListeEntrees</name>
     <message>
         <source>Titre</source>
@@ -532,6 +791,13 @@
     <message>
         <source>« %1 » n&apos;existe plus.</source>
         <translation>«%1» non esiste più.</translation>
+    </message>
+</context>
+<context>
+    <name>Moteur</name>
+    <message>
+        <source>Ce fichier ne peut pas être mis de côté.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -582,10 +848,34 @@
     </message>
 </context>
 <context>
-    <name>PileFiches</name>
+    <name>Polices</name>
     <message>
-        <source>Aucune fiche à montrer pour l&apos;instant</source>
-        <translation>Per ora nessuna scheda da mostrare</translation>
+        <source>police</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couleur du thème</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fenêtres :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fenêtres claires ou sombres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comme le bureau</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>claires</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sombres</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -667,6 +957,195 @@
     </message>
 </context>
 <context>
+    <name>Repartition</name>
+    <message>
+        <source>Inconnu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Autres (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Valeur par année d&apos;achat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payé</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coté</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Albums par genre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Albums par éditeur</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Albums par décennie de parution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Croissance de la collection, par date d&apos;achat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Achetés dans l&apos;année</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>En tout</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Restauration</name>
+    <message>
+        <source>Annulé : rien n&apos;a changé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cette base est chiffrée : elle ne peut pas être lue. Rien n&apos;a changé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cette base est abîmée. Rien n&apos;a changé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Le convertisseur manque : Bulleo est mal installé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La conversion a échoué. Rien n&apos;a changé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>table inconnue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>table absente, laissée vide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>champ inconnu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>numéro déjà pris, ligne laissée</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ligne sans numéro, laissée</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pas un nombre, laissé vide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>montant trop grand, arrondi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Une ancienne base : elle sera convertie, son fichier reste comme il est.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La base en service est gardée parmi les sauvegardes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remplacer la base en service par celle du %1, avec %2 album(s) ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 : %n ligne(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Laissé de côté, ou changé :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&apos;était un catalogue de référence : ses textes sont repris tels quels, leur code n&apos;étant pas connu.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sauvegardes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Octets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fichier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aucune sauvegarde pour l&apos;instant : la première se fait d&apos;elle-même, avant votre prochaine modification. Vous pouvez aussi choisir un fichier.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rapport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choisir un fichier…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restaurer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Une table manque :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&apos;est la base en service.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cette base est d&apos;une ancienne version : elle est à convertir d&apos;abord.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&apos;est un catalogue de référence, pas une base.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cette base est abîmée.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
+        <translation type="unfinished">Questo file non è una base dati di Bulleo.</translation>
+    </message>
+</context>
+<context>
     <name>Saisie</name>
     <message>
         <source>Donnez au moins un titre.</source>
@@ -678,10 +1157,43 @@
     </message>
 </context>
 <context>
+    <name>Sauvegardes</name>
+    <message>
+        <source>La liste des copies de sauvegarde ne peut pas être écrite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Scan</name>
     <message>
         <source>L&apos;image ne peut pas être enregistrée.</source>
         <translation>Impossibile salvare l&apos;immagine.</translation>
+    </message>
+</context>
+<context>
+    <name>Secours</name>
+    <message>
+        <source>Votre base est abîmée.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Sorties</name>
+    <message>
+        <source>La liste ne peut pas être imprimée.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La liste ne peut pas être écrite.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -693,6 +1205,14 @@
     <message>
         <source>Pas encore disponible</source>
         <translation>Non ancora disponibile</translation>
+    </message>
+    <message>
+        <source>Importer des albums</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -713,12 +1233,32 @@
         <translation>La pagina è scritta, ma nessun programma la apre: %1</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
         <source>Recalculer</source>
         <translation>Ricalcola</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Genres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Éditeurs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Décennies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Croissance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Valeur</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -734,6 +1274,21 @@
     <message>
         <source>Le fichier est trop gros.</source>
         <translation>Il file è troppo grande.</translation>
+    </message>
+</context>
+<context>
+    <name>Textures</name>
+    <message>
+        <source>Aucune texture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ce fichier n&apos;est pas une image JPEG lisible.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Répéter l&apos;image au lieu de l&apos;étirer</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -772,6 +1327,14 @@
     <message>
         <source>Filtrer la liste (Ctrl+F)</source>
         <translation>Filtra l&apos;elenco (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>%1 — montrer toute la liste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ces albums ne sont plus là.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
