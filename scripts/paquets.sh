@@ -6,6 +6,7 @@ PAQUETS_CONSTRUIRE="g++ cmake ninja-build ccache pkg-config
 PAQUETS_MONTRER="xvfb xauth"
 PAQUETS_ESSAYER="sqlite3 util-linux git"
 PAQUETS_FUZZ="clang"
+PAQUETS_PHOTOGRAPHIER="imagemagick"
 PAQUETS_MESURER="libbenchmark-dev xvfb xauth"
 
 # Installs those of the packages named that are missing; says nothing when there are none.

@@ -36,6 +36,8 @@ using Nom = Forme::Nom;
 namespace {
 
 constexpr int AttenteCaptureMs = 700;
+/// A page takes its time to be drawn.
+constexpr int AttentePageMs = 2500;
 
 }
 
@@ -363,12 +365,30 @@ void Bureau::capturer()
         QTextStream(stderr) << m_options.forme << QStringLiteral(" ?\n");
         return QCoreApplication::exit(2);
     }
-    if (nom != Nom::Frmmain)
-        montrer(nom);
     // Whatever happens to the entry, the picture ends the program.
-    QTimer::singleShot(AttenteCaptureMs, this, [this, nom] { enregistrerCapture(ouvrir(nom)); });
+    const bool page = nom == Nom::BDNet || nom == Nom::Stats;
+    QTimer::singleShot(
+        page ? AttentePageMs : AttenteCaptureMs, this, [this, nom] { enregistrerCapture(ouvrir(nom)); });
     if (m_options.entree)
         capturerEntree(*forme<Frmmain>(Nom::Frmmain), *m_options.entree);
+    montrerPourCapture(nom);
+}
+
+/// A form by itself; those that edit a field on one of the sheet shown.
+void Bureau::montrerPourCapture(Nom nom)
+{
+    if (nom != Nom::FrmModif && nom != Nom::FrmModif2)
+        return nom == Nom::Frmmain ? void() : montrer(nom);
+    Edition edition;
+    edition.entree = forme<Frmmain>(Nom::Frmmain)->courante();
+    edition.champ = nom == Nom::FrmModif ? QStringLiteral("Scena") : QStringLiteral("PrixA");
+    const Champs::Champ *champ = Ecriture::ChampDe(edition);
+    const auto valeurs = champ ? Fiche::Lire(champ->feuille, edition.entree.id) : std::nullopt;
+    if (!valeurs)
+        return;
+    edition.affichee = valeurs->at(edition.champ).affichee;
+    edition.stockee = valeurs->at(edition.champ).stockee;
+    editer(edition);
 }
 
 void Bureau::capturerEntree(Frmmain &fenetre, int id)

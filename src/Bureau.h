@@ -61,6 +61,7 @@ private:
     void premierDemarrage();
     void sauvegarderCopie();
     void capturer();
+    void montrerPourCapture(Forme::Nom nom);
     void capturerEntree(Frmmain &fenetre, int id);
     void enregistrerCapture(QWidget *fenetre);
 

@@ -12,31 +12,31 @@
     <name>Accueil</name>
     <message>
         <source>Bienvenue dans votre bibliothèque</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen in Ihrer Bibliothek</translation>
     </message>
     <message>
         <source>Votre collection est encore vide. Par quoi voulez-vous commencer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Sammlung ist noch leer. Womit möchten Sie anfangen?</translation>
     </message>
     <message>
         <source>Choisissez une ligne de la liste pour voir sa fiche.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Zeile der Liste aus, um ihre Karte zu sehen.</translation>
     </message>
     <message>
         <source>Saisir un premier album</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein erstes Album eingeben</translation>
     </message>
     <message>
         <source>Le prendre dans le catalogue fourni</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dem mitgelieferten Katalog nehmen</translation>
     </message>
     <message>
         <source>Importer un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine CSV-Datei importieren</translation>
     </message>
     <message>
         <source>Reprendre une ancienne base (bd.mdb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alte Datenbank übernehmen (bd.mdb)</translation>
     </message>
 </context>
 <context>
@@ -122,7 +122,7 @@
     <name>Aide</name>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation type="unfinished">Die Hilfe kann nicht geöffnet werden.</translation>
+        <translation>Die Hilfe kann nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Ce fichier ne peut pas être remplacé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei kann nicht ersetzt werden.</translation>
     </message>
 </context>
 <context>
@@ -314,19 +314,19 @@
     <name>Conversion</name>
     <message>
         <source>La conversion a été annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Umwandlung wurde abgebrochen.</translation>
     </message>
     <message>
         <source>La conversion ne finit pas : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Umwandlung endet nicht: Die Datei ist beschädigt.</translation>
     </message>
     <message>
         <source>La conversion s&apos;est arrêtée en chemin : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Umwandlung ist unterwegs stehen geblieben: Die Datei ist beschädigt.</translation>
     </message>
     <message>
         <source>Le programme de conversion est introuvable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Umwandlungsprogramm wurde nicht gefunden.</translation>
     </message>
 </context>
 <context>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Ligne %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1</translation>
     </message>
 </context>
 <context>
@@ -466,7 +466,7 @@
     <name>FormeOutil</name>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -559,91 +559,91 @@
     <name>Import</name>
     <message>
         <source>Choisir un fichier de valeurs séparées</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei mit getrennten Werten auswählen</translation>
     </message>
     <message>
         <source>Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine CSV-Datei mit den Namen der Spalten in der ersten Zeile. Legen Sie sie hier ab oder wählen Sie sie aus.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n Zeile</numerusform>
+            <numerusform>%1: %n Zeilen</numerusform>
         </translation>
     </message>
     <message>
         <source>Dites quelle colonne est celle du titre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie an, welche Spalte die des Titels ist.</translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été importé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen: Es wurde nichts importiert.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) créé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Album angelegt</numerusform>
+            <numerusform>%n Alben angelegt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n déjà présent(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n schon vorhanden</numerusform>
+            <numerusform>%n schon vorhanden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n refusé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n abgelehnt</numerusform>
+            <numerusform>%n abgelehnt</numerusform>
         </translation>
     </message>
     <message>
         <source>Ligne %1 : %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>Ligne %1 : cet album est déjà dans la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: Dieses Album ist schon in der Sammlung</translation>
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Alben importieren</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei auswählen…</translation>
     </message>
     <message>
         <source>Quelle colonne pour quoi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Spalte wofür?</translation>
     </message>
     <message>
         <source>Les premières lignes, telles qu&apos;elles entreront</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten Zeilen, so wie sie eingehen werden</translation>
     </message>
     <message>
         <source>Un album de même titre, série et tome :</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Album mit gleichem Titel, gleicher Serie und gleichem Band:</translation>
     </message>
     <message>
         <source>le sauter</source>
-        <translation type="unfinished"></translation>
+        <translation>überspringen</translation>
     </message>
     <message>
         <source>le créer quand même</source>
-        <translation type="unfinished"></translation>
+        <translation>trotzdem anlegen</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht</translation>
     </message>
     <message>
         <source>Importer</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
 </context>
 <context>
@@ -657,89 +657,89 @@
     <name>ImporterAlbums</name>
     <message>
         <source>%1 : « %2 » n&apos;est ni oui ni non.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: „%2“ ist weder Ja noch Nein.</translation>
     </message>
     <message>
         <source>Importation de « %1 »</source>
-        <translation type="unfinished"></translation>
+        <translation>Import von „%1“</translation>
     </message>
 </context>
 <context>
     <name>Impression</name>
     <message>
         <source>Éditer la liste au format PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste im PDF-Format ausgeben</translation>
     </message>
     <message>
         <source>Exporter la liste au format CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste im CSV-Format exportieren</translation>
     </message>
     <message>
         <source>La liste affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>Die angezeigte Liste</translation>
     </message>
     <message>
         <source>Cochez au moins une colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreuzen Sie mindestens eine Spalte an.</translation>
     </message>
     <message numerus="yes">
         <source>%n ligne(s) en tout</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile insgesamt</numerusform>
+            <numerusform>%n Zeilen insgesamt</numerusform>
         </translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été écrit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen: Es wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>Liste enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste gespeichert: %1</translation>
     </message>
     <message>
         <source>Impression annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken abgebrochen.</translation>
     </message>
     <message>
         <source>La liste est partie à l&apos;impression.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste ist an den Drucker gegangen.</translation>
     </message>
     <message>
         <source>Que voulez-vous lister ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was möchten Sie auflisten?</translation>
     </message>
     <message>
         <source>Ce qui sortira</source>
-        <translation type="unfinished"></translation>
+        <translation>Was herauskommt</translation>
     </message>
     <message>
         <source>Vers un fichier ou sur papier</source>
-        <translation type="unfinished"></translation>
+        <translation>In eine Datei oder auf Papier</translation>
     </message>
     <message>
         <source>Toutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Aucune</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Toute la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ganze Sammlung</translation>
     </message>
     <message>
         <source>La fiche affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>Die angezeigte Karte</translation>
     </message>
     <message>
         <source>Aperçu avant impression</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckvorschau</translation>
     </message>
     <message>
         <source>Imprimer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken…</translation>
     </message>
 </context>
 <context>
@@ -772,11 +772,11 @@
     <name>Listage</name>
     <message>
         <source>Champ</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@
     <name>Moteur</name>
     <message>
         <source>Ce fichier ne peut pas être mis de côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei kann nicht beiseitegelegt werden.</translation>
     </message>
 </context>
 <context>
@@ -851,31 +851,31 @@
     <name>Polices</name>
     <message>
         <source>police</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftart</translation>
     </message>
     <message>
         <source>Couleur du thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Themenfarbe</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>Helle oder dunkle Fenster</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished"></translation>
+        <translation>wie der Desktop</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished"></translation>
+        <translation>hell</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>dunkel</translation>
     </message>
 </context>
 <context>
@@ -960,189 +960,189 @@
     <name>Repartition</name>
     <message>
         <source>Inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>Autres (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere (%1)</translation>
     </message>
     <message>
         <source>Valeur par année d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert nach Kaufjahr</translation>
     </message>
     <message>
         <source>Payé</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezahlt</translation>
     </message>
     <message>
         <source>Coté</source>
-        <translation type="unfinished"></translation>
+        <translation>Sammlerpreis</translation>
     </message>
     <message>
         <source>Albums par genre</source>
-        <translation type="unfinished"></translation>
+        <translation>Alben nach Genre</translation>
     </message>
     <message>
         <source>Albums par éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Alben nach Verlag</translation>
     </message>
     <message>
         <source>Albums par décennie de parution</source>
-        <translation type="unfinished"></translation>
+        <translation>Alben nach Erscheinungsjahrzehnt</translation>
     </message>
     <message>
         <source>Croissance de la collection, par date d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Wachstum der Sammlung nach Kaufdatum</translation>
     </message>
     <message>
         <source>Achetés dans l&apos;année</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Jahr gekauft</translation>
     </message>
     <message>
         <source>En tout</source>
-        <translation type="unfinished"></translation>
+        <translation>Insgesamt</translation>
     </message>
 </context>
 <context>
     <name>Restauration</name>
     <message>
         <source>Annulé : rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen: Es hat sich nichts geändert.</translation>
     </message>
     <message>
         <source>Cette base est chiffrée : elle ne peut pas être lue. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datenbank ist verschlüsselt: Sie kann nicht gelesen werden. Es hat sich nichts geändert.</translation>
     </message>
     <message>
         <source>Cette base est abîmée. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datenbank ist beschädigt. Es hat sich nichts geändert.</translation>
     </message>
     <message>
         <source>Le convertisseur manque : Bulleo est mal installé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Konverter fehlt: Bulleo ist nicht richtig installiert.</translation>
     </message>
     <message>
         <source>La conversion a échoué. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Umwandlung ist fehlgeschlagen. Es hat sich nichts geändert.</translation>
     </message>
     <message>
         <source>table inconnue</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannte Tabelle</translation>
     </message>
     <message>
         <source>table absente, laissée vide</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlende Tabelle, leer gelassen</translation>
     </message>
     <message>
         <source>champ inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekanntes Feld</translation>
     </message>
     <message>
         <source>numéro déjà pris, ligne laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer schon vergeben, Zeile ausgelassen</translation>
     </message>
     <message>
         <source>ligne sans numéro, laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile ohne Nummer, ausgelassen</translation>
     </message>
     <message>
         <source>pas un nombre, laissé vide</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Zahl, leer gelassen</translation>
     </message>
     <message>
         <source>montant trop grand, arrondi</source>
-        <translation type="unfinished"></translation>
+        <translation>Betrag zu groß, gerundet</translation>
     </message>
     <message>
         <source>Une ancienne base : elle sera convertie, son fichier reste comme il est.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine alte Datenbank: Sie wird umgewandelt, ihre Datei bleibt, wie sie ist.</translation>
     </message>
     <message>
         <source>La base en service est gardée parmi les sauvegardes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aktuelle Datenbank wird unter den Sicherungen aufbewahrt.</translation>
     </message>
     <message>
         <source>Remplacer la base en service par celle du %1, avec %2 album(s) ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aktuelle Datenbank durch die vom %1 mit %2 Album/Alben ersetzen?</translation>
     </message>
     <message>
         <source>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese alte Datenbank umwandeln und in Gebrauch nehmen? Ihre Datei bleibt erhalten.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n Zeile</numerusform>
+            <numerusform>%1: %n Zeilen</numerusform>
         </translation>
     </message>
     <message>
         <source>Laissé de côté, ou changé :</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen oder geändert:</translation>
     </message>
     <message>
         <source>C&apos;était un catalogue de référence : ses textes sont repris tels quels, leur code n&apos;étant pas connu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es war ein Referenzkatalog: Seine Texte wurden unverändert übernommen, da ihr Code nicht bekannt ist.</translation>
     </message>
     <message>
         <source>Sauvegardes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherungen</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Octets</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Fichier</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Aucune sauvegarde pour l&apos;instant : la première se fait d&apos;elle-même, avant votre prochaine modification. Vous pouvez aussi choisir un fichier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Sicherung: Die erste entsteht von selbst, vor Ihrer nächsten Änderung. Sie können auch eine Datei auswählen.</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei auswählen…</translation>
     </message>
     <message>
         <source>Restaurer</source>
-        <translation type="unfinished"></translation>
+        <translation>Einspielen</translation>
     </message>
     <message>
         <source>Une table manque :</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Tabelle fehlt:</translation>
     </message>
     <message>
         <source>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Schreibvorgang blieb darin unvollendet: Öffnen Sie sie zuerst an ihrem eigenen Ort.</translation>
     </message>
     <message>
         <source>C&apos;est la base en service.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist die aktuelle Datenbank.</translation>
     </message>
     <message>
         <source>Cette base est d&apos;une ancienne version : elle est à convertir d&apos;abord.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datenbank stammt aus einer älteren Version: Sie muss zuerst umgewandelt werden.</translation>
     </message>
     <message>
         <source>C&apos;est un catalogue de référence, pas une base.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Referenzkatalog, keine Datenbank.</translation>
     </message>
     <message>
         <source>Cette base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datenbank ist beschädigt.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
-        <translation type="unfinished">Diese Datei ist keine Datenbank von Bulleo.</translation>
+        <translation>Diese Datei ist keine Datenbank von Bulleo.</translation>
     </message>
 </context>
 <context>
@@ -1160,7 +1160,7 @@
     <name>Sauvegardes</name>
     <message>
         <source>La liste des copies de sauvegarde ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste der Sicherungen kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -1174,26 +1174,26 @@
     <name>Secours</name>
     <message>
         <source>Votre base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Datenbank ist beschädigt.</translation>
     </message>
     <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Sicherung, die unbeschädigt ist.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Sicherung vom %1 einspielen? Die beschädigte Datei wird daneben aufbewahrt.</translation>
     </message>
 </context>
 <context>
     <name>Sorties</name>
     <message>
         <source>La liste ne peut pas être imprimée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste kann nicht gedruckt werden.</translation>
     </message>
     <message>
         <source>La liste ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -1208,11 +1208,11 @@
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Alben importieren</translation>
     </message>
     <message>
         <source>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Viele Alben auf einmal aus einer CSV-Datei anlegen</translation>
     </message>
 </context>
 <context>
@@ -1238,27 +1238,27 @@
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite</translation>
     </message>
     <message>
         <source>Genres</source>
-        <translation type="unfinished"></translation>
+        <translation>Genres</translation>
     </message>
     <message>
         <source>Éditeurs</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlage</translation>
     </message>
     <message>
         <source>Décennies</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahrzehnte</translation>
     </message>
     <message>
         <source>Croissance</source>
-        <translation type="unfinished"></translation>
+        <translation>Wachstum</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
@@ -1280,15 +1280,15 @@
     <name>Textures</name>
     <message>
         <source>Aucune texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Textur</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image JPEG lisible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist kein lesbares JPEG-Bild.</translation>
     </message>
     <message>
         <source>Répéter l&apos;image au lieu de l&apos;étirer</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wiederholen statt dehnen</translation>
     </message>
 </context>
 <context>
@@ -1330,11 +1330,11 @@
     </message>
     <message>
         <source>%1 — montrer toute la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – ganze Liste zeigen</translation>
     </message>
     <message>
         <source>Ces albums ne sont plus là.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Alben sind nicht mehr da.</translation>
     </message>
 </context>
 </TS>

@@ -12,31 +12,31 @@
     <name>Accueil</name>
     <message>
         <source>Bienvenue dans votre bibliothèque</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcome to your library</translation>
     </message>
     <message>
         <source>Votre collection est encore vide. Par quoi voulez-vous commencer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Your collection is still empty. What do you want to begin with?</translation>
     </message>
     <message>
         <source>Choisissez une ligne de la liste pour voir sa fiche.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a line of the list to see its sheet.</translation>
     </message>
     <message>
         <source>Saisir un premier album</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter a first album</translation>
     </message>
     <message>
         <source>Le prendre dans le catalogue fourni</source>
-        <translation type="unfinished"></translation>
+        <translation>Take it from the catalogue supplied</translation>
     </message>
     <message>
         <source>Importer un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Import a CSV file</translation>
     </message>
     <message>
         <source>Reprendre une ancienne base (bd.mdb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bring in an old database (bd.mdb)</translation>
     </message>
 </context>
 <context>
@@ -122,7 +122,7 @@
     <name>Aide</name>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation type="unfinished">The help cannot be opened.</translation>
+        <translation>The help cannot be opened.</translation>
     </message>
 </context>
 <context>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Ce fichier ne peut pas être remplacé.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file cannot be replaced.</translation>
     </message>
 </context>
 <context>
@@ -314,19 +314,19 @@
     <name>Conversion</name>
     <message>
         <source>La conversion a été annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>The conversion was cancelled.</translation>
     </message>
     <message>
         <source>La conversion ne finit pas : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>The conversion does not end: the file is damaged.</translation>
     </message>
     <message>
         <source>La conversion s&apos;est arrêtée en chemin : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>The conversion stopped on the way: the file is damaged.</translation>
     </message>
     <message>
         <source>Le programme de conversion est introuvable.</source>
-        <translation type="unfinished"></translation>
+        <translation>The conversion program cannot be found.</translation>
     </message>
 </context>
 <context>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Ligne %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Line %1</translation>
     </message>
 </context>
 <context>
@@ -466,7 +466,7 @@
     <name>FormeOutil</name>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Cancel</translation>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -559,91 +559,91 @@
     <name>Import</name>
     <message>
         <source>Choisir un fichier de valeurs séparées</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a file of separated values</translation>
     </message>
     <message>
         <source>Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.</source>
-        <translation type="unfinished"></translation>
+        <translation>A CSV file, with the names of the columns on the first line. Drop it here, or choose it.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n line</numerusform>
+            <numerusform>%1: %n lines</numerusform>
         </translation>
     </message>
     <message>
         <source>Dites quelle colonne est celle du titre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Say which column is that of the title.</translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été importé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelled: nothing was imported.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) créé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album created</numerusform>
+            <numerusform>%n albums created</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n déjà présent(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n already present</numerusform>
+            <numerusform>%n already present</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n refusé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n refused</numerusform>
+            <numerusform>%n refused</numerusform>
         </translation>
     </message>
     <message>
         <source>Ligne %1 : %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Line %1: %2</translation>
     </message>
     <message>
         <source>Ligne %1 : cet album est déjà dans la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Line %1: this album is already in the collection</translation>
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Import albums</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a file…</translation>
     </message>
     <message>
         <source>Quelle colonne pour quoi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Which column for what?</translation>
     </message>
     <message>
         <source>Les premières lignes, telles qu&apos;elles entreront</source>
-        <translation type="unfinished"></translation>
+        <translation>The first lines, as they will come in</translation>
     </message>
     <message>
         <source>Un album de même titre, série et tome :</source>
-        <translation type="unfinished"></translation>
+        <translation>An album of the same title, series and volume:</translation>
     </message>
     <message>
         <source>le sauter</source>
-        <translation type="unfinished"></translation>
+        <translation>skip it</translation>
     </message>
     <message>
         <source>le créer quand même</source>
-        <translation type="unfinished"></translation>
+        <translation>create it anyway</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Report</translation>
     </message>
     <message>
         <source>Importer</source>
-        <translation type="unfinished"></translation>
+        <translation>Import</translation>
     </message>
 </context>
 <context>
@@ -657,89 +657,89 @@
     <name>ImporterAlbums</name>
     <message>
         <source>%1 : « %2 » n&apos;est ni oui ni non.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: “%2” is neither yes nor no.</translation>
     </message>
     <message>
         <source>Importation de « %1 »</source>
-        <translation type="unfinished"></translation>
+        <translation>Import of “%1”</translation>
     </message>
 </context>
 <context>
     <name>Impression</name>
     <message>
         <source>Éditer la liste au format PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Output the list in PDF format</translation>
     </message>
     <message>
         <source>Exporter la liste au format CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Export the list in CSV format</translation>
     </message>
     <message>
         <source>La liste affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>The list shown</translation>
     </message>
     <message>
         <source>Cochez au moins une colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tick at least one column.</translation>
     </message>
     <message numerus="yes">
         <source>%n ligne(s) en tout</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n line in all</numerusform>
+            <numerusform>%n lines in all</numerusform>
         </translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été écrit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelled: nothing was written.</translation>
     </message>
     <message>
         <source>Liste enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>List saved: %1</translation>
     </message>
     <message>
         <source>Impression annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Printing cancelled.</translation>
     </message>
     <message>
         <source>La liste est partie à l&apos;impression.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list has gone to the printer.</translation>
     </message>
     <message>
         <source>Que voulez-vous lister ?</source>
-        <translation type="unfinished"></translation>
+        <translation>What do you want to list?</translation>
     </message>
     <message>
         <source>Ce qui sortira</source>
-        <translation type="unfinished"></translation>
+        <translation>What will come out</translation>
     </message>
     <message>
         <source>Vers un fichier ou sur papier</source>
-        <translation type="unfinished"></translation>
+        <translation>To a file or on paper</translation>
     </message>
     <message>
         <source>Toutes</source>
-        <translation type="unfinished"></translation>
+        <translation>All</translation>
     </message>
     <message>
         <source>Aucune</source>
-        <translation type="unfinished"></translation>
+        <translation>None</translation>
     </message>
     <message>
         <source>Toute la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>The whole collection</translation>
     </message>
     <message>
         <source>La fiche affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>The sheet shown</translation>
     </message>
     <message>
         <source>Aperçu avant impression</source>
-        <translation type="unfinished"></translation>
+        <translation>Print preview</translation>
     </message>
     <message>
         <source>Imprimer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Print…</translation>
     </message>
 </context>
 <context>
@@ -772,11 +772,11 @@
     <name>Listage</name>
     <message>
         <source>Champ</source>
-        <translation type="unfinished"></translation>
+        <translation>Field</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Value</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@
     <name>Moteur</name>
     <message>
         <source>Ce fichier ne peut pas être mis de côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file cannot be put aside.</translation>
     </message>
 </context>
 <context>
@@ -851,31 +851,31 @@
     <name>Polices</name>
     <message>
         <source>police</source>
-        <translation type="unfinished"></translation>
+        <translation>font</translation>
     </message>
     <message>
         <source>Couleur du thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Theme colour</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>Light or dark windows</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished"></translation>
+        <translation>like the desktop</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished"></translation>
+        <translation>light</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>dark</translation>
     </message>
 </context>
 <context>
@@ -960,189 +960,189 @@
     <name>Repartition</name>
     <message>
         <source>Inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown</translation>
     </message>
     <message>
         <source>Autres (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Others (%1)</translation>
     </message>
     <message>
         <source>Valeur par année d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Value by year of purchase</translation>
     </message>
     <message>
         <source>Payé</source>
-        <translation type="unfinished"></translation>
+        <translation>Paid</translation>
     </message>
     <message>
         <source>Coté</source>
-        <translation type="unfinished"></translation>
+        <translation>Quoted</translation>
     </message>
     <message>
         <source>Albums par genre</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums by genre</translation>
     </message>
     <message>
         <source>Albums par éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums by publisher</translation>
     </message>
     <message>
         <source>Albums par décennie de parution</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums by decade of publication</translation>
     </message>
     <message>
         <source>Croissance de la collection, par date d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Growth of the collection, by date of purchase</translation>
     </message>
     <message>
         <source>Achetés dans l&apos;année</source>
-        <translation type="unfinished"></translation>
+        <translation>Bought in the year</translation>
     </message>
     <message>
         <source>En tout</source>
-        <translation type="unfinished"></translation>
+        <translation>In all</translation>
     </message>
 </context>
 <context>
     <name>Restauration</name>
     <message>
         <source>Annulé : rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelled: nothing has changed.</translation>
     </message>
     <message>
         <source>Cette base est chiffrée : elle ne peut pas être lue. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>This database is encrypted: it cannot be read. Nothing has changed.</translation>
     </message>
     <message>
         <source>Cette base est abîmée. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>This database is damaged. Nothing has changed.</translation>
     </message>
     <message>
         <source>Le convertisseur manque : Bulleo est mal installé.</source>
-        <translation type="unfinished"></translation>
+        <translation>The converter is missing: Bulleo is not installed properly.</translation>
     </message>
     <message>
         <source>La conversion a échoué. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>The conversion failed. Nothing has changed.</translation>
     </message>
     <message>
         <source>table inconnue</source>
-        <translation type="unfinished"></translation>
+        <translation>unknown table</translation>
     </message>
     <message>
         <source>table absente, laissée vide</source>
-        <translation type="unfinished"></translation>
+        <translation>missing table, left empty</translation>
     </message>
     <message>
         <source>champ inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>unknown field</translation>
     </message>
     <message>
         <source>numéro déjà pris, ligne laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>number already taken, row left out</translation>
     </message>
     <message>
         <source>ligne sans numéro, laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>row without a number, left out</translation>
     </message>
     <message>
         <source>pas un nombre, laissé vide</source>
-        <translation type="unfinished"></translation>
+        <translation>not a number, left empty</translation>
     </message>
     <message>
         <source>montant trop grand, arrondi</source>
-        <translation type="unfinished"></translation>
+        <translation>amount too large, rounded</translation>
     </message>
     <message>
         <source>Une ancienne base : elle sera convertie, son fichier reste comme il est.</source>
-        <translation type="unfinished"></translation>
+        <translation>An old database: it will be converted, its file stays as it is.</translation>
     </message>
     <message>
         <source>La base en service est gardée parmi les sauvegardes.</source>
-        <translation type="unfinished"></translation>
+        <translation>The current database is kept among the backups.</translation>
     </message>
     <message>
         <source>Remplacer la base en service par celle du %1, avec %2 album(s) ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Replace the current database with the one of %1, with %2 album(s)?</translation>
     </message>
     <message>
         <source>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Convert this old database and put it to use? Its file is kept.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n row</numerusform>
+            <numerusform>%1: %n rows</numerusform>
         </translation>
     </message>
     <message>
         <source>Laissé de côté, ou changé :</source>
-        <translation type="unfinished"></translation>
+        <translation>Left out, or changed:</translation>
     </message>
     <message>
         <source>C&apos;était un catalogue de référence : ses textes sont repris tels quels, leur code n&apos;étant pas connu.</source>
-        <translation type="unfinished"></translation>
+        <translation>It was a reference catalogue: its texts are taken over as they are, since their code is not known.</translation>
     </message>
     <message>
         <source>Sauvegardes</source>
-        <translation type="unfinished"></translation>
+        <translation>Backups</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Octets</source>
-        <translation type="unfinished"></translation>
+        <translation>Size</translation>
     </message>
     <message>
         <source>Fichier</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Aucune sauvegarde pour l&apos;instant : la première se fait d&apos;elle-même, avant votre prochaine modification. Vous pouvez aussi choisir un fichier.</source>
-        <translation type="unfinished"></translation>
+        <translation>No backup for now: the first one is made by itself, before your next change. You can also choose a file.</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Report</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a file…</translation>
     </message>
     <message>
         <source>Restaurer</source>
-        <translation type="unfinished"></translation>
+        <translation>Restore</translation>
     </message>
     <message>
         <source>Une table manque :</source>
-        <translation type="unfinished"></translation>
+        <translation>A table is missing:</translation>
     </message>
     <message>
         <source>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</source>
-        <translation type="unfinished"></translation>
+        <translation>A write to it was left unfinished: first open it in its own place.</translation>
     </message>
     <message>
         <source>C&apos;est la base en service.</source>
-        <translation type="unfinished"></translation>
+        <translation>This is the current database.</translation>
     </message>
     <message>
         <source>Cette base est d&apos;une ancienne version : elle est à convertir d&apos;abord.</source>
-        <translation type="unfinished"></translation>
+        <translation>This database is of an older version: it must be converted first.</translation>
     </message>
     <message>
         <source>C&apos;est un catalogue de référence, pas une base.</source>
-        <translation type="unfinished"></translation>
+        <translation>This is a reference catalogue, not a database.</translation>
     </message>
     <message>
         <source>Cette base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>This database is damaged.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
-        <translation type="unfinished">This file is not a Bulleo database.</translation>
+        <translation>This file is not a Bulleo database.</translation>
     </message>
 </context>
 <context>
@@ -1160,7 +1160,7 @@
     <name>Sauvegardes</name>
     <message>
         <source>La liste des copies de sauvegarde ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list of the backups cannot be written.</translation>
     </message>
 </context>
 <context>
@@ -1174,26 +1174,26 @@
     <name>Secours</name>
     <message>
         <source>Votre base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Your database is damaged.</translation>
     </message>
     <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no backup that is sound.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to go back to the backup of %1? The damaged file is kept beside it.</translation>
     </message>
 </context>
 <context>
     <name>Sorties</name>
     <message>
         <source>La liste ne peut pas être imprimée.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list cannot be printed.</translation>
     </message>
     <message>
         <source>La liste ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list cannot be written.</translation>
     </message>
 </context>
 <context>
@@ -1208,11 +1208,11 @@
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Import albums</translation>
     </message>
     <message>
         <source>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Create many albums at once, from a CSV file</translation>
     </message>
 </context>
 <context>
@@ -1238,27 +1238,27 @@
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Page</translation>
     </message>
     <message>
         <source>Genres</source>
-        <translation type="unfinished"></translation>
+        <translation>Genres</translation>
     </message>
     <message>
         <source>Éditeurs</source>
-        <translation type="unfinished"></translation>
+        <translation>Publishers</translation>
     </message>
     <message>
         <source>Décennies</source>
-        <translation type="unfinished"></translation>
+        <translation>Decades</translation>
     </message>
     <message>
         <source>Croissance</source>
-        <translation type="unfinished"></translation>
+        <translation>Growth</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Value</translation>
     </message>
 </context>
 <context>
@@ -1280,15 +1280,15 @@
     <name>Textures</name>
     <message>
         <source>Aucune texture</source>
-        <translation type="unfinished"></translation>
+        <translation>No texture</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image JPEG lisible.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file is not a readable JPEG picture.</translation>
     </message>
     <message>
         <source>Répéter l&apos;image au lieu de l&apos;étirer</source>
-        <translation type="unfinished"></translation>
+        <translation>Repeat the picture instead of stretching it</translation>
     </message>
 </context>
 <context>
@@ -1330,11 +1330,11 @@
     </message>
     <message>
         <source>%1 — montrer toute la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — show the whole list</translation>
     </message>
     <message>
         <source>Ces albums ne sont plus là.</source>
-        <translation type="unfinished"></translation>
+        <translation>These albums are no longer there.</translation>
     </message>
 </context>
 </TS>

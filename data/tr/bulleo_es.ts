@@ -12,31 +12,31 @@
     <name>Accueil</name>
     <message>
         <source>Bienvenue dans votre bibliothèque</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenido a su biblioteca</translation>
     </message>
     <message>
         <source>Votre collection est encore vide. Par quoi voulez-vous commencer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Su colección todavía está vacía. ¿Por dónde quiere empezar?</translation>
     </message>
     <message>
         <source>Choisissez une ligne de la liste pour voir sa fiche.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una línea de la lista para ver su ficha.</translation>
     </message>
     <message>
         <source>Saisir un premier album</source>
-        <translation type="unfinished"></translation>
+        <translation>Introducir un primer álbum</translation>
     </message>
     <message>
         <source>Le prendre dans le catalogue fourni</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomarlo del catálogo incluido</translation>
     </message>
     <message>
         <source>Importer un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar un archivo CSV</translation>
     </message>
     <message>
         <source>Reprendre une ancienne base (bd.mdb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar una base de datos antigua (bd.mdb)</translation>
     </message>
 </context>
 <context>
@@ -122,7 +122,7 @@
     <name>Aide</name>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation type="unfinished">La ayuda no se puede abrir.</translation>
+        <translation>La ayuda no se puede abrir.</translation>
     </message>
 </context>
 <context>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Ce fichier ne peut pas être remplacé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no se puede reemplazar.</translation>
     </message>
 </context>
 <context>
@@ -314,19 +314,19 @@
     <name>Conversion</name>
     <message>
         <source>La conversion a été annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha cancelado la conversión.</translation>
     </message>
     <message>
         <source>La conversion ne finit pas : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversión no termina: el archivo está dañado.</translation>
     </message>
     <message>
         <source>La conversion s&apos;est arrêtée en chemin : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversión se ha detenido a medio camino: el archivo está dañado.</translation>
     </message>
     <message>
         <source>Le programme de conversion est introuvable.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el programa de conversión.</translation>
     </message>
 </context>
 <context>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Ligne %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1</translation>
     </message>
 </context>
 <context>
@@ -466,7 +466,7 @@
     <name>FormeOutil</name>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -559,91 +559,91 @@
     <name>Import</name>
     <message>
         <source>Choisir un fichier de valeurs séparées</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un archivo de valores separados</translation>
     </message>
     <message>
         <source>Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo CSV, con los nombres de las columnas en la primera línea. Suéltelo aquí o elíjalo.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n línea</numerusform>
+            <numerusform>%1: %n líneas</numerusform>
         </translation>
     </message>
     <message>
         <source>Dites quelle colonne est celle du titre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique qué columna es la del título.</translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été importé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado: no se ha importado nada.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) créé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n álbum creado</numerusform>
+            <numerusform>%n álbumes creados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n déjà présent(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ya presente</numerusform>
+            <numerusform>%n ya presentes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n refusé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rechazado</numerusform>
+            <numerusform>%n rechazados</numerusform>
         </translation>
     </message>
     <message>
         <source>Ligne %1 : %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: %2</translation>
     </message>
     <message>
         <source>Ligne %1 : cet album est déjà dans la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: este álbum ya está en la colección</translation>
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar álbumes</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un archivo…</translation>
     </message>
     <message>
         <source>Quelle colonne pour quoi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué columna para qué?</translation>
     </message>
     <message>
         <source>Les premières lignes, telles qu&apos;elles entreront</source>
-        <translation type="unfinished"></translation>
+        <translation>Las primeras líneas, tal como entrarán</translation>
     </message>
     <message>
         <source>Un album de même titre, série et tome :</source>
-        <translation type="unfinished"></translation>
+        <translation>Un álbum del mismo título, serie y tomo:</translation>
     </message>
     <message>
         <source>le sauter</source>
-        <translation type="unfinished"></translation>
+        <translation>omitirlo</translation>
     </message>
     <message>
         <source>le créer quand même</source>
-        <translation type="unfinished"></translation>
+        <translation>crearlo de todos modos</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe</translation>
     </message>
     <message>
         <source>Importer</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
 </context>
 <context>
@@ -657,89 +657,89 @@
     <name>ImporterAlbums</name>
     <message>
         <source>%1 : « %2 » n&apos;est ni oui ni non.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: «%2» no es ni sí ni no.</translation>
     </message>
     <message>
         <source>Importation de « %1 »</source>
-        <translation type="unfinished"></translation>
+        <translation>Importación de «%1»</translation>
     </message>
 </context>
 <context>
     <name>Impression</name>
     <message>
         <source>Éditer la liste au format PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Generar la lista en formato PDF</translation>
     </message>
     <message>
         <source>Exporter la liste au format CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la lista en formato CSV</translation>
     </message>
     <message>
         <source>La liste affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista mostrada</translation>
     </message>
     <message>
         <source>Cochez au moins une colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque al menos una columna.</translation>
     </message>
     <message numerus="yes">
         <source>%n ligne(s) en tout</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n línea en total</numerusform>
+            <numerusform>%n líneas en total</numerusform>
         </translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été écrit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado: no se ha escrito nada.</translation>
     </message>
     <message>
         <source>Liste enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista guardada: %1</translation>
     </message>
     <message>
         <source>Impression annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresión cancelada.</translation>
     </message>
     <message>
         <source>La liste est partie à l&apos;impression.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista se ha enviado a la impresora.</translation>
     </message>
     <message>
         <source>Que voulez-vous lister ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué quiere listar?</translation>
     </message>
     <message>
         <source>Ce qui sortira</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que saldrá</translation>
     </message>
     <message>
         <source>Vers un fichier ou sur papier</source>
-        <translation type="unfinished"></translation>
+        <translation>A un archivo o en papel</translation>
     </message>
     <message>
         <source>Toutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas</translation>
     </message>
     <message>
         <source>Aucune</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna</translation>
     </message>
     <message>
         <source>Toute la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Toda la colección</translation>
     </message>
     <message>
         <source>La fiche affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>La ficha mostrada</translation>
     </message>
     <message>
         <source>Aperçu avant impression</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa de impresión</translation>
     </message>
     <message>
         <source>Imprimer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir…</translation>
     </message>
 </context>
 <context>
@@ -772,11 +772,11 @@
     <name>Listage</name>
     <message>
         <source>Champ</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@
     <name>Moteur</name>
     <message>
         <source>Ce fichier ne peut pas être mis de côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no se puede apartar.</translation>
     </message>
 </context>
 <context>
@@ -851,31 +851,31 @@
     <name>Polices</name>
     <message>
         <source>police</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de letra</translation>
     </message>
     <message>
         <source>Couleur du thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del tema</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventanas:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventanas claras u oscuras</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished"></translation>
+        <translation>como el escritorio</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished"></translation>
+        <translation>claras</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>oscuras</translation>
     </message>
 </context>
 <context>
@@ -960,189 +960,189 @@
     <name>Repartition</name>
     <message>
         <source>Inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconocido</translation>
     </message>
     <message>
         <source>Autres (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras (%1)</translation>
     </message>
     <message>
         <source>Valeur par année d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor por año de compra</translation>
     </message>
     <message>
         <source>Payé</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagado</translation>
     </message>
     <message>
         <source>Coté</source>
-        <translation type="unfinished"></translation>
+        <translation>Cotizado</translation>
     </message>
     <message>
         <source>Albums par genre</source>
-        <translation type="unfinished"></translation>
+        <translation>Álbumes por género</translation>
     </message>
     <message>
         <source>Albums par éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Álbumes por editorial</translation>
     </message>
     <message>
         <source>Albums par décennie de parution</source>
-        <translation type="unfinished"></translation>
+        <translation>Álbumes por década de publicación</translation>
     </message>
     <message>
         <source>Croissance de la collection, par date d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Crecimiento de la colección, por fecha de compra</translation>
     </message>
     <message>
         <source>Achetés dans l&apos;année</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprados en el año</translation>
     </message>
     <message>
         <source>En tout</source>
-        <translation type="unfinished"></translation>
+        <translation>En total</translation>
     </message>
 </context>
 <context>
     <name>Restauration</name>
     <message>
         <source>Annulé : rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado: no ha cambiado nada.</translation>
     </message>
     <message>
         <source>Cette base est chiffrée : elle ne peut pas être lue. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta base de datos está cifrada: no se puede leer. No ha cambiado nada.</translation>
     </message>
     <message>
         <source>Cette base est abîmée. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta base de datos está dañada. No ha cambiado nada.</translation>
     </message>
     <message>
         <source>Le convertisseur manque : Bulleo est mal installé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el convertidor: Bulleo está mal instalado.</translation>
     </message>
     <message>
         <source>La conversion a échoué. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversión ha fallado. No ha cambiado nada.</translation>
     </message>
     <message>
         <source>table inconnue</source>
-        <translation type="unfinished"></translation>
+        <translation>tabla desconocida</translation>
     </message>
     <message>
         <source>table absente, laissée vide</source>
-        <translation type="unfinished"></translation>
+        <translation>tabla ausente, dejada vacía</translation>
     </message>
     <message>
         <source>champ inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>campo desconocido</translation>
     </message>
     <message>
         <source>numéro déjà pris, ligne laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>número ya ocupado, fila omitida</translation>
     </message>
     <message>
         <source>ligne sans numéro, laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>fila sin número, omitida</translation>
     </message>
     <message>
         <source>pas un nombre, laissé vide</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un número, dejado vacío</translation>
     </message>
     <message>
         <source>montant trop grand, arrondi</source>
-        <translation type="unfinished"></translation>
+        <translation>importe demasiado grande, redondeado</translation>
     </message>
     <message>
         <source>Une ancienne base : elle sera convertie, son fichier reste comme il est.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una base de datos antigua: se convertirá; su archivo se queda como está.</translation>
     </message>
     <message>
         <source>La base en service est gardée parmi les sauvegardes.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos actual se guarda entre las copias de seguridad.</translation>
     </message>
     <message>
         <source>Remplacer la base en service par celle du %1, avec %2 album(s) ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Reemplazar la base de datos actual por la del %1, con %2 álbum(es)?</translation>
     </message>
     <message>
         <source>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Convertir esta base de datos antigua y ponerla en uso? Su archivo se conserva.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n fila</numerusform>
+            <numerusform>%1: %n filas</numerusform>
         </translation>
     </message>
     <message>
         <source>Laissé de côté, ou changé :</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejado de lado o cambiado:</translation>
     </message>
     <message>
         <source>C&apos;était un catalogue de référence : ses textes sont repris tels quels, leur code n&apos;étant pas connu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Era un catálogo de referencia: sus textos se recogen tal cual, porque no se conoce su código.</translation>
     </message>
     <message>
         <source>Sauvegardes</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias de seguridad</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Octets</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Fichier</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Aucune sauvegarde pour l&apos;instant : la première se fait d&apos;elle-même, avant votre prochaine modification. Vous pouvez aussi choisir un fichier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay copias de seguridad: la primera se hace por sí sola, antes de su próximo cambio. También puede elegir un archivo.</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un archivo…</translation>
     </message>
     <message>
         <source>Restaurer</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar</translation>
     </message>
     <message>
         <source>Une table manque :</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta una tabla:</translation>
     </message>
     <message>
         <source>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una escritura quedó en ella sin terminar: ábrala primero en su propio lugar.</translation>
     </message>
     <message>
         <source>C&apos;est la base en service.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es la base de datos actual.</translation>
     </message>
     <message>
         <source>Cette base est d&apos;une ancienne version : elle est à convertir d&apos;abord.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta base de datos es de una versión antigua: primero hay que convertirla.</translation>
     </message>
     <message>
         <source>C&apos;est un catalogue de référence, pas une base.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es un catálogo de referencia, no una base de datos.</translation>
     </message>
     <message>
         <source>Cette base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta base de datos está dañada.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
-        <translation type="unfinished">Este archivo no es una base de datos de Bulleo.</translation>
+        <translation>Este archivo no es una base de datos de Bulleo.</translation>
     </message>
 </context>
 <context>
@@ -1160,7 +1160,7 @@
     <name>Sauvegardes</name>
     <message>
         <source>La liste des copies de sauvegarde ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir la lista de las copias de seguridad.</translation>
     </message>
 </context>
 <context>
@@ -1174,26 +1174,26 @@
     <name>Secours</name>
     <message>
         <source>Votre base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su base de datos está dañada.</translation>
     </message>
     <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna copia de seguridad en buen estado.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quiere volver a la copia de seguridad del %1? El archivo dañado se conserva al lado.</translation>
     </message>
 </context>
 <context>
     <name>Sorties</name>
     <message>
         <source>La liste ne peut pas être imprimée.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede imprimir la lista.</translation>
     </message>
     <message>
         <source>La liste ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir la lista.</translation>
     </message>
 </context>
 <context>
@@ -1208,11 +1208,11 @@
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar álbumes</translation>
     </message>
     <message>
         <source>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear muchos álbumes de una vez, a partir de un archivo CSV</translation>
     </message>
 </context>
 <context>
@@ -1238,27 +1238,27 @@
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Página</translation>
     </message>
     <message>
         <source>Genres</source>
-        <translation type="unfinished"></translation>
+        <translation>Géneros</translation>
     </message>
     <message>
         <source>Éditeurs</source>
-        <translation type="unfinished"></translation>
+        <translation>Editoriales</translation>
     </message>
     <message>
         <source>Décennies</source>
-        <translation type="unfinished"></translation>
+        <translation>Décadas</translation>
     </message>
     <message>
         <source>Croissance</source>
-        <translation type="unfinished"></translation>
+        <translation>Crecimiento</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
 </context>
 <context>
@@ -1280,15 +1280,15 @@
     <name>Textures</name>
     <message>
         <source>Aucune texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna textura</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image JPEG lisible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no es una imagen JPEG legible.</translation>
     </message>
     <message>
         <source>Répéter l&apos;image au lieu de l&apos;étirer</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir la imagen en vez de estirarla</translation>
     </message>
 </context>
 <context>
@@ -1330,11 +1330,11 @@
     </message>
     <message>
         <source>%1 — montrer toute la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — mostrar toda la lista</translation>
     </message>
     <message>
         <source>Ces albums ne sont plus là.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos álbumes ya no están.</translation>
     </message>
 </context>
 </TS>

@@ -12,31 +12,31 @@
     <name>Accueil</name>
     <message>
         <source>Bienvenue dans votre bibliothèque</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenue dans votre bibliothèque</translation>
     </message>
     <message>
         <source>Votre collection est encore vide. Par quoi voulez-vous commencer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre collection est encore vide. Par quoi voulez-vous commencer ?</translation>
     </message>
     <message>
         <source>Choisissez une ligne de la liste pour voir sa fiche.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une ligne de la liste pour voir sa fiche.</translation>
     </message>
     <message>
         <source>Saisir un premier album</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir un premier album</translation>
     </message>
     <message>
         <source>Le prendre dans le catalogue fourni</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prendre dans le catalogue fourni</translation>
     </message>
     <message>
         <source>Importer un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un fichier CSV</translation>
     </message>
     <message>
         <source>Reprendre une ancienne base (bd.mdb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre une ancienne base (bd.mdb)</translation>
     </message>
 </context>
 <context>
@@ -122,7 +122,7 @@
     <name>Aide</name>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation type="unfinished">L&apos;aide ne peut pas être ouverte.</translation>
+        <translation>L&apos;aide ne peut pas être ouverte.</translation>
     </message>
 </context>
 <context>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Ce fichier ne peut pas être remplacé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne peut pas être remplacé.</translation>
     </message>
 </context>
 <context>
@@ -314,19 +314,19 @@
     <name>Conversion</name>
     <message>
         <source>La conversion a été annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversion a été annulée.</translation>
     </message>
     <message>
         <source>La conversion ne finit pas : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversion ne finit pas : le fichier est abîmé.</translation>
     </message>
     <message>
         <source>La conversion s&apos;est arrêtée en chemin : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversion s&apos;est arrêtée en chemin : le fichier est abîmé.</translation>
     </message>
     <message>
         <source>Le programme de conversion est introuvable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme de conversion est introuvable.</translation>
     </message>
 </context>
 <context>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Ligne %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1</translation>
     </message>
 </context>
 <context>
@@ -466,7 +466,7 @@
     <name>FormeOutil</name>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -559,91 +559,91 @@
     <name>Import</name>
     <message>
         <source>Choisir un fichier de valeurs séparées</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier de valeurs séparées</translation>
     </message>
     <message>
         <source>Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %n ligne</numerusform>
+            <numerusform>%1 : %n lignes</numerusform>
         </translation>
     </message>
     <message>
         <source>Dites quelle colonne est celle du titre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dites quelle colonne est celle du titre.</translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été importé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : rien n&apos;a été importé.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) créé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album créé</numerusform>
+            <numerusform>%n albums créés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n déjà présent(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n déjà présent</numerusform>
+            <numerusform>%n déjà présents</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n refusé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n refusé</numerusform>
+            <numerusform>%n refusés</numerusform>
         </translation>
     </message>
     <message>
         <source>Ligne %1 : %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
     <message>
         <source>Ligne %1 : cet album est déjà dans la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : cet album est déjà dans la collection</translation>
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des albums</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier…</translation>
     </message>
     <message>
         <source>Quelle colonne pour quoi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle colonne pour quoi ?</translation>
     </message>
     <message>
         <source>Les premières lignes, telles qu&apos;elles entreront</source>
-        <translation type="unfinished"></translation>
+        <translation>Les premières lignes, telles qu&apos;elles entreront</translation>
     </message>
     <message>
         <source>Un album de même titre, série et tome :</source>
-        <translation type="unfinished"></translation>
+        <translation>Un album de même titre, série et tome :</translation>
     </message>
     <message>
         <source>le sauter</source>
-        <translation type="unfinished"></translation>
+        <translation>le sauter</translation>
     </message>
     <message>
         <source>le créer quand même</source>
-        <translation type="unfinished"></translation>
+        <translation>le créer quand même</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>Importer</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
 </context>
 <context>
@@ -657,89 +657,89 @@
     <name>ImporterAlbums</name>
     <message>
         <source>%1 : « %2 » n&apos;est ni oui ni non.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : « %2 » n&apos;est ni oui ni non.</translation>
     </message>
     <message>
         <source>Importation de « %1 »</source>
-        <translation type="unfinished"></translation>
+        <translation>Importation de « %1 »</translation>
     </message>
 </context>
 <context>
     <name>Impression</name>
     <message>
         <source>Éditer la liste au format PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditer la liste au format PDF</translation>
     </message>
     <message>
         <source>Exporter la liste au format CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter la liste au format CSV</translation>
     </message>
     <message>
         <source>La liste affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste affichée</translation>
     </message>
     <message>
         <source>Cochez au moins une colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez au moins une colonne.</translation>
     </message>
     <message numerus="yes">
         <source>%n ligne(s) en tout</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne en tout</numerusform>
+            <numerusform>%n lignes en tout</numerusform>
         </translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été écrit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Liste enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste enregistrée : %1</translation>
     </message>
     <message>
         <source>Impression annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression annulée.</translation>
     </message>
     <message>
         <source>La liste est partie à l&apos;impression.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste est partie à l&apos;impression.</translation>
     </message>
     <message>
         <source>Que voulez-vous lister ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Que voulez-vous lister ?</translation>
     </message>
     <message>
         <source>Ce qui sortira</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui sortira</translation>
     </message>
     <message>
         <source>Vers un fichier ou sur papier</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers un fichier ou sur papier</translation>
     </message>
     <message>
         <source>Toutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes</translation>
     </message>
     <message>
         <source>Aucune</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Toute la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Toute la collection</translation>
     </message>
     <message>
         <source>La fiche affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>La fiche affichée</translation>
     </message>
     <message>
         <source>Aperçu avant impression</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu avant impression</translation>
     </message>
     <message>
         <source>Imprimer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer…</translation>
     </message>
 </context>
 <context>
@@ -772,11 +772,11 @@
     <name>Listage</name>
     <message>
         <source>Champ</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@
     <name>Moteur</name>
     <message>
         <source>Ce fichier ne peut pas être mis de côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne peut pas être mis de côté.</translation>
     </message>
 </context>
 <context>
@@ -851,31 +851,31 @@
     <name>Polices</name>
     <message>
         <source>police</source>
-        <translation type="unfinished"></translation>
+        <translation>police</translation>
     </message>
     <message>
         <source>Couleur du thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du thème</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtres :</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtres claires ou sombres</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished"></translation>
+        <translation>comme le bureau</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished"></translation>
+        <translation>claires</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>sombres</translation>
     </message>
 </context>
 <context>
@@ -960,189 +960,189 @@
     <name>Repartition</name>
     <message>
         <source>Inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>Inconnu</translation>
     </message>
     <message>
         <source>Autres (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres (%1)</translation>
     </message>
     <message>
         <source>Valeur par année d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur par année d&apos;achat</translation>
     </message>
     <message>
         <source>Payé</source>
-        <translation type="unfinished"></translation>
+        <translation>Payé</translation>
     </message>
     <message>
         <source>Coté</source>
-        <translation type="unfinished"></translation>
+        <translation>Coté</translation>
     </message>
     <message>
         <source>Albums par genre</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums par genre</translation>
     </message>
     <message>
         <source>Albums par éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums par éditeur</translation>
     </message>
     <message>
         <source>Albums par décennie de parution</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums par décennie de parution</translation>
     </message>
     <message>
         <source>Croissance de la collection, par date d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Croissance de la collection, par date d&apos;achat</translation>
     </message>
     <message>
         <source>Achetés dans l&apos;année</source>
-        <translation type="unfinished"></translation>
+        <translation>Achetés dans l&apos;année</translation>
     </message>
     <message>
         <source>En tout</source>
-        <translation type="unfinished"></translation>
+        <translation>En tout</translation>
     </message>
 </context>
 <context>
     <name>Restauration</name>
     <message>
         <source>Annulé : rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : rien n&apos;a changé.</translation>
     </message>
     <message>
         <source>Cette base est chiffrée : elle ne peut pas être lue. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette base est chiffrée : elle ne peut pas être lue. Rien n&apos;a changé.</translation>
     </message>
     <message>
         <source>Cette base est abîmée. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette base est abîmée. Rien n&apos;a changé.</translation>
     </message>
     <message>
         <source>Le convertisseur manque : Bulleo est mal installé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le convertisseur manque : Bulleo est mal installé.</translation>
     </message>
     <message>
         <source>La conversion a échoué. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversion a échoué. Rien n&apos;a changé.</translation>
     </message>
     <message>
         <source>table inconnue</source>
-        <translation type="unfinished"></translation>
+        <translation>table inconnue</translation>
     </message>
     <message>
         <source>table absente, laissée vide</source>
-        <translation type="unfinished"></translation>
+        <translation>table absente, laissée vide</translation>
     </message>
     <message>
         <source>champ inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>champ inconnu</translation>
     </message>
     <message>
         <source>numéro déjà pris, ligne laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>numéro déjà pris, ligne laissée</translation>
     </message>
     <message>
         <source>ligne sans numéro, laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne sans numéro, laissée</translation>
     </message>
     <message>
         <source>pas un nombre, laissé vide</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un nombre, laissé vide</translation>
     </message>
     <message>
         <source>montant trop grand, arrondi</source>
-        <translation type="unfinished"></translation>
+        <translation>montant trop grand, arrondi</translation>
     </message>
     <message>
         <source>Une ancienne base : elle sera convertie, son fichier reste comme il est.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ancienne base : elle sera convertie, son fichier reste comme il est.</translation>
     </message>
     <message>
         <source>La base en service est gardée parmi les sauvegardes.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base en service est gardée parmi les sauvegardes.</translation>
     </message>
     <message>
         <source>Remplacer la base en service par celle du %1, avec %2 album(s) ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer la base en service par celle du %1, avec %2 album(s) ?</translation>
     </message>
     <message>
         <source>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %n ligne</numerusform>
+            <numerusform>%1 : %n lignes</numerusform>
         </translation>
     </message>
     <message>
         <source>Laissé de côté, ou changé :</source>
-        <translation type="unfinished"></translation>
+        <translation>Laissé de côté, ou changé :</translation>
     </message>
     <message>
         <source>C&apos;était un catalogue de référence : ses textes sont repris tels quels, leur code n&apos;étant pas connu.</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;était un catalogue de référence : ses textes sont repris tels quels, leur code n&apos;étant pas connu.</translation>
     </message>
     <message>
         <source>Sauvegardes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegardes</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Octets</source>
-        <translation type="unfinished"></translation>
+        <translation>Octets</translation>
     </message>
     <message>
         <source>Fichier</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Aucune sauvegarde pour l&apos;instant : la première se fait d&apos;elle-même, avant votre prochaine modification. Vous pouvez aussi choisir un fichier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sauvegarde pour l&apos;instant : la première se fait d&apos;elle-même, avant votre prochaine modification. Vous pouvez aussi choisir un fichier.</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier…</translation>
     </message>
     <message>
         <source>Restaurer</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer</translation>
     </message>
     <message>
         <source>Une table manque :</source>
-        <translation type="unfinished"></translation>
+        <translation>Une table manque :</translation>
     </message>
     <message>
         <source>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</translation>
     </message>
     <message>
         <source>C&apos;est la base en service.</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;est la base en service.</translation>
     </message>
     <message>
         <source>Cette base est d&apos;une ancienne version : elle est à convertir d&apos;abord.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette base est d&apos;une ancienne version : elle est à convertir d&apos;abord.</translation>
     </message>
     <message>
         <source>C&apos;est un catalogue de référence, pas une base.</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;est un catalogue de référence, pas une base.</translation>
     </message>
     <message>
         <source>Cette base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette base est abîmée.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
-        <translation type="unfinished">Ce fichier n&apos;est pas une base de Bulleo.</translation>
+        <translation>Ce fichier n&apos;est pas une base de Bulleo.</translation>
     </message>
 </context>
 <context>
@@ -1160,7 +1160,7 @@
     <name>Sauvegardes</name>
     <message>
         <source>La liste des copies de sauvegarde ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste des copies de sauvegarde ne peut pas être écrite.</translation>
     </message>
 </context>
 <context>
@@ -1174,26 +1174,26 @@
     <name>Secours</name>
     <message>
         <source>Votre base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre base est abîmée.</translation>
     </message>
     <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a aucune sauvegarde qui soit saine.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</translation>
     </message>
 </context>
 <context>
     <name>Sorties</name>
     <message>
         <source>La liste ne peut pas être imprimée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste ne peut pas être imprimée.</translation>
     </message>
     <message>
         <source>La liste ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste ne peut pas être écrite.</translation>
     </message>
 </context>
 <context>
@@ -1208,11 +1208,11 @@
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des albums</translation>
     </message>
     <message>
         <source>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</translation>
     </message>
 </context>
 <context>
@@ -1238,27 +1238,27 @@
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Page</translation>
     </message>
     <message>
         <source>Genres</source>
-        <translation type="unfinished"></translation>
+        <translation>Genres</translation>
     </message>
     <message>
         <source>Éditeurs</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeurs</translation>
     </message>
     <message>
         <source>Décennies</source>
-        <translation type="unfinished"></translation>
+        <translation>Décennies</translation>
     </message>
     <message>
         <source>Croissance</source>
-        <translation type="unfinished"></translation>
+        <translation>Croissance</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
 </context>
 <context>
@@ -1280,15 +1280,15 @@
     <name>Textures</name>
     <message>
         <source>Aucune texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune texture</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image JPEG lisible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n&apos;est pas une image JPEG lisible.</translation>
     </message>
     <message>
         <source>Répéter l&apos;image au lieu de l&apos;étirer</source>
-        <translation type="unfinished"></translation>
+        <translation>Répéter l&apos;image au lieu de l&apos;étirer</translation>
     </message>
 </context>
 <context>
@@ -1330,11 +1330,11 @@
     </message>
     <message>
         <source>%1 — montrer toute la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — montrer toute la liste</translation>
     </message>
     <message>
         <source>Ces albums ne sont plus là.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces albums ne sont plus là.</translation>
     </message>
 </context>
 </TS>

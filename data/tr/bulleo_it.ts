@@ -12,31 +12,31 @@
     <name>Accueil</name>
     <message>
         <source>Bienvenue dans votre bibliothèque</source>
-        <translation type="unfinished"></translation>
+        <translation>Benvenuti nella vostra biblioteca</translation>
     </message>
     <message>
         <source>Votre collection est encore vide. Par quoi voulez-vous commencer ?</source>
-        <translation type="unfinished"></translation>
+        <translation>La vostra collezione è ancora vuota. Da dove volete cominciare?</translation>
     </message>
     <message>
         <source>Choisissez une ligne de la liste pour voir sa fiche.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliete una riga dell&apos;elenco per vederne la scheda.</translation>
     </message>
     <message>
         <source>Saisir un premier album</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci un primo album</translation>
     </message>
     <message>
         <source>Le prendre dans le catalogue fourni</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendilo dal catalogo fornito</translation>
     </message>
     <message>
         <source>Importer un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa un file CSV</translation>
     </message>
     <message>
         <source>Reprendre une ancienne base (bd.mdb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Riprendi una vecchia base dati (bd.mdb)</translation>
     </message>
 </context>
 <context>
@@ -122,7 +122,7 @@
     <name>Aide</name>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
-        <translation type="unfinished">Impossibile aprire la guida.</translation>
+        <translation>Impossibile aprire la guida.</translation>
     </message>
 </context>
 <context>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Ce fichier ne peut pas être remplacé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile sostituire questo file.</translation>
     </message>
 </context>
 <context>
@@ -314,19 +314,19 @@
     <name>Conversion</name>
     <message>
         <source>La conversion a été annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversione è stata annullata.</translation>
     </message>
     <message>
         <source>La conversion ne finit pas : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversione non finisce: il file è danneggiato.</translation>
     </message>
     <message>
         <source>La conversion s&apos;est arrêtée en chemin : le fichier est abîmé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversione si è fermata a metà: il file è danneggiato.</translation>
     </message>
     <message>
         <source>Le programme de conversion est introuvable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il programma di conversione non è stato trovato.</translation>
     </message>
 </context>
 <context>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Ligne %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga %1</translation>
     </message>
 </context>
 <context>
@@ -466,7 +466,7 @@
     <name>FormeOutil</name>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Annulla</translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -559,91 +559,91 @@
     <name>Import</name>
     <message>
         <source>Choisir un fichier de valeurs séparées</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un file di valori separati</translation>
     </message>
     <message>
         <source>Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un file CSV, con i nomi delle colonne nella prima riga. Trascinatelo qui oppure sceglietelo.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n riga</numerusform>
+            <numerusform>%1: %n righe</numerusform>
         </translation>
     </message>
     <message>
         <source>Dites quelle colonne est celle du titre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicate qual è la colonna del titolo.</translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été importé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullato: non è stato importato nulla.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) créé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album creato</numerusform>
+            <numerusform>%n album creati</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n déjà présent(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n già presente</numerusform>
+            <numerusform>%n già presenti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n refusé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rifiutato</numerusform>
+            <numerusform>%n rifiutati</numerusform>
         </translation>
     </message>
     <message>
         <source>Ligne %1 : %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga %1: %2</translation>
     </message>
     <message>
         <source>Ligne %1 : cet album est déjà dans la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga %1: questo album è già nella collezione</translation>
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa album</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un file…</translation>
     </message>
     <message>
         <source>Quelle colonne pour quoi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quale colonna per cosa?</translation>
     </message>
     <message>
         <source>Les premières lignes, telles qu&apos;elles entreront</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prime righe, così come entreranno</translation>
     </message>
     <message>
         <source>Un album de même titre, série et tome :</source>
-        <translation type="unfinished"></translation>
+        <translation>Un album con lo stesso titolo, serie e volume:</translation>
     </message>
     <message>
         <source>le sauter</source>
-        <translation type="unfinished"></translation>
+        <translation>saltalo</translation>
     </message>
     <message>
         <source>le créer quand même</source>
-        <translation type="unfinished"></translation>
+        <translation>crealo comunque</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Resoconto</translation>
     </message>
     <message>
         <source>Importer</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa</translation>
     </message>
 </context>
 <context>
@@ -657,89 +657,89 @@
     <name>ImporterAlbums</name>
     <message>
         <source>%1 : « %2 » n&apos;est ni oui ni non.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: «%2» non è né sì né no.</translation>
     </message>
     <message>
         <source>Importation de « %1 »</source>
-        <translation type="unfinished"></translation>
+        <translation>Importazione di «%1»</translation>
     </message>
 </context>
 <context>
     <name>Impression</name>
     <message>
         <source>Éditer la liste au format PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Genera l&apos;elenco in formato PDF</translation>
     </message>
     <message>
         <source>Exporter la liste au format CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta l&apos;elenco in formato CSV</translation>
     </message>
     <message>
         <source>La liste affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;elenco mostrato</translation>
     </message>
     <message>
         <source>Cochez au moins une colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionate almeno una colonna.</translation>
     </message>
     <message numerus="yes">
         <source>%n ligne(s) en tout</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riga in tutto</numerusform>
+            <numerusform>%n righe in tutto</numerusform>
         </translation>
     </message>
     <message>
         <source>Annulé : rien n&apos;a été écrit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullato: non è stato scritto nulla.</translation>
     </message>
     <message>
         <source>Liste enregistrée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Elenco salvato: %1</translation>
     </message>
     <message>
         <source>Impression annulée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa annullata.</translation>
     </message>
     <message>
         <source>La liste est partie à l&apos;impression.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;elenco è stato inviato alla stampante.</translation>
     </message>
     <message>
         <source>Que voulez-vous lister ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa volete elencare?</translation>
     </message>
     <message>
         <source>Ce qui sortira</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa uscirà</translation>
     </message>
     <message>
         <source>Vers un fichier ou sur papier</source>
-        <translation type="unfinished"></translation>
+        <translation>In un file o su carta</translation>
     </message>
     <message>
         <source>Toutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte</translation>
     </message>
     <message>
         <source>Aucune</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna</translation>
     </message>
     <message>
         <source>Toute la collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutta la collezione</translation>
     </message>
     <message>
         <source>La fiche affichée</source>
-        <translation type="unfinished"></translation>
+        <translation>La scheda mostrata</translation>
     </message>
     <message>
         <source>Aperçu avant impression</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima di stampa</translation>
     </message>
     <message>
         <source>Imprimer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa…</translation>
     </message>
 </context>
 <context>
@@ -772,11 +772,11 @@
     <name>Listage</name>
     <message>
         <source>Champ</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@
     <name>Moteur</name>
     <message>
         <source>Ce fichier ne peut pas être mis de côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile mettere da parte questo file.</translation>
     </message>
 </context>
 <context>
@@ -851,31 +851,31 @@
     <name>Polices</name>
     <message>
         <source>police</source>
-        <translation type="unfinished"></translation>
+        <translation>carattere</translation>
     </message>
     <message>
         <source>Couleur du thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore del tema</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestre:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestre chiare o scure</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished"></translation>
+        <translation>come il desktop</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished"></translation>
+        <translation>chiare</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished"></translation>
+        <translation>scure</translation>
     </message>
 </context>
 <context>
@@ -960,189 +960,189 @@
     <name>Repartition</name>
     <message>
         <source>Inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>Sconosciuto</translation>
     </message>
     <message>
         <source>Autres (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Altri (%1)</translation>
     </message>
     <message>
         <source>Valeur par année d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore per anno d&apos;acquisto</translation>
     </message>
     <message>
         <source>Payé</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagato</translation>
     </message>
     <message>
         <source>Coté</source>
-        <translation type="unfinished"></translation>
+        <translation>Quotato</translation>
     </message>
     <message>
         <source>Albums par genre</source>
-        <translation type="unfinished"></translation>
+        <translation>Album per genere</translation>
     </message>
     <message>
         <source>Albums par éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Album per editore</translation>
     </message>
     <message>
         <source>Albums par décennie de parution</source>
-        <translation type="unfinished"></translation>
+        <translation>Album per decennio di uscita</translation>
     </message>
     <message>
         <source>Croissance de la collection, par date d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Crescita della collezione, per data d&apos;acquisto</translation>
     </message>
     <message>
         <source>Achetés dans l&apos;année</source>
-        <translation type="unfinished"></translation>
+        <translation>Acquistati nell&apos;anno</translation>
     </message>
     <message>
         <source>En tout</source>
-        <translation type="unfinished"></translation>
+        <translation>In tutto</translation>
     </message>
 </context>
 <context>
     <name>Restauration</name>
     <message>
         <source>Annulé : rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullato: non è cambiato nulla.</translation>
     </message>
     <message>
         <source>Cette base est chiffrée : elle ne peut pas être lue. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa base dati è cifrata: non può essere letta. Non è cambiato nulla.</translation>
     </message>
     <message>
         <source>Cette base est abîmée. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa base dati è danneggiata. Non è cambiato nulla.</translation>
     </message>
     <message>
         <source>Le convertisseur manque : Bulleo est mal installé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca il convertitore: Bulleo è installato male.</translation>
     </message>
     <message>
         <source>La conversion a échoué. Rien n&apos;a changé.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversione non è riuscita. Non è cambiato nulla.</translation>
     </message>
     <message>
         <source>table inconnue</source>
-        <translation type="unfinished"></translation>
+        <translation>tabella sconosciuta</translation>
     </message>
     <message>
         <source>table absente, laissée vide</source>
-        <translation type="unfinished"></translation>
+        <translation>tabella assente, lasciata vuota</translation>
     </message>
     <message>
         <source>champ inconnu</source>
-        <translation type="unfinished"></translation>
+        <translation>campo sconosciuto</translation>
     </message>
     <message>
         <source>numéro déjà pris, ligne laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>numero già preso, riga tralasciata</translation>
     </message>
     <message>
         <source>ligne sans numéro, laissée</source>
-        <translation type="unfinished"></translation>
+        <translation>riga senza numero, tralasciata</translation>
     </message>
     <message>
         <source>pas un nombre, laissé vide</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un numero, lasciato vuoto</translation>
     </message>
     <message>
         <source>montant trop grand, arrondi</source>
-        <translation type="unfinished"></translation>
+        <translation>importo troppo grande, arrotondato</translation>
     </message>
     <message>
         <source>Une ancienne base : elle sera convertie, son fichier reste comme il est.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una vecchia base dati: sarà convertita, il suo file resta com&apos;è.</translation>
     </message>
     <message>
         <source>La base en service est gardée parmi les sauvegardes.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base dati attuale viene conservata fra i salvataggi.</translation>
     </message>
     <message>
         <source>Remplacer la base en service par celle du %1, avec %2 album(s) ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sostituire la base dati attuale con quella del %1, con %2 album?</translation>
     </message>
     <message>
         <source>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertire questa vecchia base dati e metterla in uso? Il suo file viene conservato.</translation>
     </message>
     <message numerus="yes">
         <source>%1 : %n ligne(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n riga</numerusform>
+            <numerusform>%1: %n righe</numerusform>
         </translation>
     </message>
     <message>
         <source>Laissé de côté, ou changé :</source>
-        <translation type="unfinished"></translation>
+        <translation>Tralasciato o cambiato:</translation>
     </message>
     <message>
         <source>C&apos;était un catalogue de référence : ses textes sont repris tels quels, leur code n&apos;étant pas connu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Era un catalogo di riferimento: i suoi testi sono ripresi tali e quali, perché il loro codice non è noto.</translation>
     </message>
     <message>
         <source>Sauvegardes</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvataggi</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Octets</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione</translation>
     </message>
     <message>
         <source>Fichier</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Aucune sauvegarde pour l&apos;instant : la première se fait d&apos;elle-même, avant votre prochaine modification. Vous pouvez aussi choisir un fichier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per ora nessun salvataggio: il primo si fa da sé, prima della vostra prossima modifica. Potete anche scegliere un file.</translation>
     </message>
     <message>
         <source>Rapport</source>
-        <translation type="unfinished"></translation>
+        <translation>Resoconto</translation>
     </message>
     <message>
         <source>Choisir un fichier…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un file…</translation>
     </message>
     <message>
         <source>Restaurer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Une table manque :</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca una tabella:</translation>
     </message>
     <message>
         <source>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una scrittura vi è rimasta incompiuta: apritela prima al suo posto.</translation>
     </message>
     <message>
         <source>C&apos;est la base en service.</source>
-        <translation type="unfinished"></translation>
+        <translation>È la base dati attuale.</translation>
     </message>
     <message>
         <source>Cette base est d&apos;une ancienne version : elle est à convertir d&apos;abord.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa base dati è di una vecchia versione: prima va convertita.</translation>
     </message>
     <message>
         <source>C&apos;est un catalogue de référence, pas une base.</source>
-        <translation type="unfinished"></translation>
+        <translation>È un catalogo di riferimento, non una base dati.</translation>
     </message>
     <message>
         <source>Cette base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa base dati è danneggiata.</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
-        <translation type="unfinished">Questo file non è una base dati di Bulleo.</translation>
+        <translation>Questo file non è una base dati di Bulleo.</translation>
     </message>
 </context>
 <context>
@@ -1160,7 +1160,7 @@
     <name>Sauvegardes</name>
     <message>
         <source>La liste des copies de sauvegarde ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere l&apos;elenco dei salvataggi.</translation>
     </message>
 </context>
 <context>
@@ -1174,26 +1174,26 @@
     <name>Secours</name>
     <message>
         <source>Votre base est abîmée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vostra base dati è danneggiata.</translation>
     </message>
     <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è alcun salvataggio integro.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Volete riprendere il salvataggio del %1? Il file danneggiato viene conservato accanto.</translation>
     </message>
 </context>
 <context>
     <name>Sorties</name>
     <message>
         <source>La liste ne peut pas être imprimée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile stampare l&apos;elenco.</translation>
     </message>
     <message>
         <source>La liste ne peut pas être écrite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere l&apos;elenco.</translation>
     </message>
 </context>
 <context>
@@ -1208,11 +1208,11 @@
     </message>
     <message>
         <source>Importer des albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa album</translation>
     </message>
     <message>
         <source>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea molti album in una volta, a partire da un file CSV</translation>
     </message>
 </context>
 <context>
@@ -1238,27 +1238,27 @@
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina</translation>
     </message>
     <message>
         <source>Genres</source>
-        <translation type="unfinished"></translation>
+        <translation>Generi</translation>
     </message>
     <message>
         <source>Éditeurs</source>
-        <translation type="unfinished"></translation>
+        <translation>Editori</translation>
     </message>
     <message>
         <source>Décennies</source>
-        <translation type="unfinished"></translation>
+        <translation>Decenni</translation>
     </message>
     <message>
         <source>Croissance</source>
-        <translation type="unfinished"></translation>
+        <translation>Crescita</translation>
     </message>
     <message>
         <source>Valeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
 </context>
 <context>
@@ -1280,15 +1280,15 @@
     <name>Textures</name>
     <message>
         <source>Aucune texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna trama</translation>
     </message>
     <message>
         <source>Ce fichier n&apos;est pas une image JPEG lisible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non è un&apos;immagine JPEG leggibile.</translation>
     </message>
     <message>
         <source>Répéter l&apos;image au lieu de l&apos;étirer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripeti l&apos;immagine invece di allungarla</translation>
     </message>
 </context>
 <context>
@@ -1330,11 +1330,11 @@
     </message>
     <message>
         <source>%1 — montrer toute la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — mostra tutto l&apos;elenco</translation>
     </message>
     <message>
         <source>Ces albums ne sont plus là.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questi album non ci sono più.</translation>
     </message>
 </context>
 </TS>

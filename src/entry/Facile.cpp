@@ -73,6 +73,9 @@ void Facile::charger()
     Catalogue::Liste liste = Catalogue::LireAlbums();
     if (liste.illisibles > 0)
         dire(tr("%n album(s) du catalogue ne peuvent pas être décodés.", nullptr, liste.illisibles));
+    if (liste.telsQuels)
+        dire(tr(
+            "Ce catalogue vient d'un ancien programme : ses textes sont codés, et personne n'en a la clé."));
     m_modele.remplir(General::Tri::Albums, std::move(liste.albums));
     m_nombre->setText(texte(Txt::AlbumsNombre) + u' ' + QString::number(m_modele.rowCount()));
     m_filtre->setFocus();

@@ -1,8 +1,12 @@
 #include "support/Bac.h"
 #include "support/Refus.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTest>
+#include <QXmlStreamReader>
 
 class tst_traduction : public QObject
 {
@@ -19,6 +23,11 @@ private Q_SLOTS:
     void leChoixSurvitAuRedemarrage();
     void chaqueLangueLivreeEstComplete_data();
     void chaqueLangueLivreeEstComplete();
+    void chaqueCatalogueEstComplet_data() { catalogues(); }
+    void chaqueCatalogueEstComplet();
+
+private:
+    static void catalogues();
 };
 
 namespace {
@@ -177,6 +186,51 @@ void tst_traduction::chaqueLangueLivreeEstComplete()
     }
     if (langue == QLocale::French)
         QCOMPARE(textes, francais);
+}
+
+void tst_traduction::catalogues()
+{
+    QTest::addColumn<QString>("catalogue");
+    const QDir dossier(QStringLiteral(CATALOGUES));
+    for (const QString &nom : dossier.entryList({QStringLiteral("*.ts")}))
+        QTest::newRow(qPrintable(nom)) << dossier.filePath(nom);
+}
+
+/// Every text that the program takes from a catalogue is there, with the places for its values.
+void tst_traduction::chaqueCatalogueEstComplet()
+{
+    QFETCH(QString, catalogue);
+    static const QRegularExpression place(QStringLiteral("%[0-9n]"));
+    const auto placesDe = [](const QString &texte) {
+        QSet<QString> places;
+        for (auto i = place.globalMatch(texte); i.hasNext();)
+            places << i.next().captured();
+        return places;
+    };
+    QFile fichier(catalogue);
+    QVERIFY(fichier.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&fichier);
+    QString source;
+    QStringList fautes;
+    int textes = 0;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("source"))
+            source = xml.readElementText();
+        if (xml.name() != QLatin1String("translation"))
+            continue;
+        const auto genre = xml.attributes().value(QLatin1String("type"));
+        if (genre == QLatin1String("vanished") || genre == QLatin1String("obsolete"))
+            continue;
+        ++textes;
+        const QString texte = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        if (!genre.isEmpty() || texte.trimmed().isEmpty() || placesDe(texte) != placesDe(source))
+            fautes << source;
+    }
+    QVERIFY(!xml.hasError());
+    QVERIFY(textes > 200);
+    QVERIFY2(fautes.isEmpty(), qPrintable(fautes.join(u'\n')));
 }
 
 QTEST_GUILESS_MAIN(tst_traduction)

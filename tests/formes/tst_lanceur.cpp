@@ -14,7 +14,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-/// The launcher's buttons, and what the forms of appearance and of the archives do.
+/// The launcher's buttons, the forms of appearance, the help, and how an empty collection begins.
 class tst_lanceur : public QObject
 {
     Q_OBJECT
@@ -25,8 +25,6 @@ private Q_SLOTS:
     void lesCopiesEtLesListes();
     void laPoliceVautPourListesEtFiches();
     void uneTextureSeChoisitEtSAjoute();
-    void uneSauvegardeSeReprend();
-    void unFichierDAlbumsEntre();
     void f1OuvreLaPageDeLaForme();
     void uneCollectionVideMeneAuPremierAlbum();
 
@@ -197,59 +195,6 @@ void tst_lanceur::uneTextureSeChoisitEtSAjoute()
     liste->setCurrentRow(0);
     Seance::cliquer("Valider", "Textures");
     QCOMPARE(Fonds::CheminChoisi(), QString());
-}
-
-void tst_lanceur::uneSauvegardeSeReprend()
-{
-    Seance s;
-    s.demarrer();
-    const QStringList avant = Bac::toutLire();
-    Bac::executer(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
-    QTest::qWait(50);
-    ouvrir("Menu(3)", "Outils(5)", "Restauration");
-    auto *liste = Seance::trouver<QTreeWidget>("Sauvegardes", "Restauration");
-    QTRY_COMPARE(liste->topLevelItemCount(), 1);
-    Seance::cliquer("Valider", "Restauration");
-    QVERIFY(Bac::toutLire() != avant);
-    s.boites.reponses.enqueue(true);
-    Seance::cliquer("Valider", "Restauration");
-    QCOMPARE(Bac::toutLire(), avant);
-    QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
-    QTRY_COMPARE(liste->topLevelItemCount(), 2);
-    auto *albums = Seance::trouver<QAbstractItemView>("Liste");
-    QTRY_COMPARE(albums->model()
-                     ->match(albums->model()->index(0, 0), Qt::DisplayRole, QStringLiteral("Changé"))
-                     .size(),
-        0);
-    QVERIFY(!Seance::trouver<QWidget>("Defaire")->isEnabled());
-
-    Bac::ecrire(s.bac.chemin(QStringLiteral("autre.mdb")), "un texte");
-    s.boites.fichiers.enqueue(s.bac.chemin(QStringLiteral("autre.mdb")));
-    Seance::cliquer("Choisir", "Restauration");
-    QCOMPARE(liste->topLevelItemCount(), 2);
-    QVERIFY(Seance::trouver<QLabel>("Message", "Restauration")->text().contains(QStringLiteral("Bulleo")));
-}
-
-void tst_lanceur::unFichierDAlbumsEntre()
-{
-    Seance s;
-    s.demarrer();
-    const QString csv = s.bac.chemin(QStringLiteral("albums.csv"));
-    Bac::ecrire(csv,
-        "Titre;Tome;S\xC3\xA9rie\nUn \xC3\xA9"
-        "chappé;1;Neuve\nDeux;x;Neuve\nTrois;3;Neuve\n");
-    Q_EMIT static_cast<Frmmain *>(Seance::fenetre("Frmmain"))->fichierDepose(csv);
-    QTRY_VERIFY(Seance::fenetre("Import"));
-    QTRY_COMPARE(
-        Seance::trouver<QComboBox>("Correspondance(2)", "Import")->currentText(), QStringLiteral("Série"));
-    Seance::cliquer("Valider", "Import");
-    QCOMPARE(
-        Bac::valeur(QStringLiteral("SELECT count(*) FROM SerieAlbums NATURAL JOIN Serie WHERE Nom = 'Neuve'"))
-            .toInt(),
-        2);
-    QTRY_VERIFY(Seance::trouver<QWidget>("Defaire")->isEnabled());
-    Seance::cliquer("Defaire");
-    QCOMPARE(Bac::valeur(QStringLiteral("SELECT count(*) FROM Serie WHERE Nom = 'Neuve'")).toInt(), 0);
 }
 
 void tst_lanceur::f1OuvreLaPageDeLaForme()
