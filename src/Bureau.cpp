@@ -255,12 +255,14 @@ void Bureau::demarrer()
         QTimer::singleShot(AttenteCaptureMs, this, &Bureau::capturer);
 }
 
-/// A collection in the old format is offered to be converted.
+/// A collection or a catalogue in the old format is offered to be converted.
 void Bureau::proposerReprise()
 {
-    const QString chemin = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
-    if (Reprise::EstAncien(chemin))
-        QTimer::singleShot(0, this, [this, chemin] { proposerFichier(chemin); });
+    for (const auto &nom : {QStringLiteral("BDbase.bd"), QStringLiteral("bd.mdb")}) {
+        const QString chemin = Dossier::courant().chemin(nom);
+        if (Reprise::EstAncien(chemin))
+            QTimer::singleShot(0, this, [this, chemin] { proposerFichier(chemin); });
+    }
 }
 
 void Bureau::proposerFichier(const QString &chemin)

@@ -52,20 +52,11 @@ void retrouver(QTreeView *liste, int id, int rang)
 }
 
 Pret::Pret()
-    : Forme(QStringLiteral("Pret"))
+    : FormeOutil(QStringLiteral("Pret"), TailleDessinee)
 {
-    setWindowIcon(Icones::Programme());
-    resize(TailleDessinee);
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
-    page->setSpacing(Theme::Moyen);
-    m_titre = new QLabel(this);
-    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
-    m_titre->setForegroundRole(QPalette::Link);
-    page->addWidget(m_titre);
-
-    construireListes(page);
-    construireBoutons(page);
+    construireListes(corps());
+    m_preter = ajouterAuPied(QStringLiteral("Preter"), true);
+    m_del = ajouterAuPied(QStringLiteral("Del"));
     brancher();
     Pret::Traduire();
 }
@@ -99,23 +90,6 @@ void Pret::construireListes(QBoxLayout *page)
     page->addLayout(listes, 1);
 }
 
-void Pret::construireBoutons(QBoxLayout *page)
-{
-    auto *boutons = new QHBoxLayout;
-    m_preter = nommer(new QPushButton(this), QStringLiteral("Preter"));
-    m_del = nommer(new QPushButton(this), QStringLiteral("Del"));
-    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
-    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
-    for (QPushButton *bouton : {m_preter, m_del, m_mini, m_quit}) {
-        bouton->setMinimumSize(96, 32);
-        boutons->addWidget(bouton);
-        if (bouton == m_del)
-            boutons->addStretch(1);
-    }
-    page->addLayout(boutons);
-    Theme::Accentuer(m_preter);
-}
-
 void Pret::brancher()
 {
     connect(m_lPers->selectionModel(), &QItemSelectionModel::currentChanged, this, &Pret::choisirPersonne);
@@ -128,8 +102,6 @@ void Pret::brancher()
     connect(m_tous, &QPushButton::clicked, this, [this] { m_lPers->setCurrentIndex({}); });
     connect(m_preter, &QPushButton::clicked, this, &Pret::preter);
     connect(m_del, &QPushButton::clicked, this, &Pret::supprimer);
-    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
-    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
 }
 
 QTreeView *Pret::construireListe(const QString &nom, QStandardItemModel &modele)
@@ -263,8 +235,8 @@ void Pret::preter()
 
 void Pret::Traduire()
 {
-    setWindowTitle(texte(Txt::GestionDesPrets) + QStringLiteral(" - ") + titre());
-    m_titre->setText(texte(Txt::GestionDesPrets));
+    FormeOutil::Traduire();
+    poserTitre(texte(Txt::GestionDesPrets));
     m_titres[0]->setText(texte(Txt::ListeDesPersonnes));
     m_titres[1]->setText(texte(Txt::ListeDesPrets));
     m_lPers->setAccessibleName(texte(Txt::ListeDesPersonnes));
@@ -274,8 +246,6 @@ void Pret::Traduire()
     m_lPret->header()->setStretchLastSection(false);
     m_lPret->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     libeller(m_tous, tr("Tous les prêts"));
-    libeller(m_mini, texte(Txt::Minimiser));
-    libeller(m_quit, texte(Txt::Fermer));
     poserCible(m_del->property("tag").toString());
     poserCourante(m_courante);
     // The days and the count are words of the language, too.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "browse/Edition.h"
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 #include "loans/Prets.h"
 
 #include <QStandardItemModel>
@@ -13,7 +13,7 @@ class QTreeView;
 
 /// Who has which albums: the borrowers, what the chosen one has (or all that is lent), how to end and begin a
 /// loan.
-class Pret : public Forme
+class Pret : public FormeOutil
 {
     Q_OBJECT
 
@@ -35,7 +35,6 @@ protected:
 
 private:
     void construireListes(QBoxLayout *page);
-    void construireBoutons(QBoxLayout *page);
     void brancher();
     QTreeView *construireListe(const QString &nom, QStandardItemModel &modele);
     void remplirPersonnes();
@@ -50,7 +49,6 @@ private:
 
     QStandardItemModel m_personnes;
     QStandardItemModel m_prets;
-    QLabel *m_titre = nullptr;
     QLabel *m_titres[2] = {};
     QLabel *m_nombre = nullptr;
     QTreeView *m_lPers = nullptr;
@@ -58,7 +56,5 @@ private:
     QPushButton *m_tous = nullptr;
     QPushButton *m_preter = nullptr;
     QPushButton *m_del = nullptr;
-    QPushButton *m_mini = nullptr;
-    QPushButton *m_quit = nullptr;
     General::Entree m_courante;
 };
