@@ -249,7 +249,7 @@ void Restauration::Traduire()
     poserTitre(texte(Txt::Restauration));
     m_titreListe->setText(tr("Sauvegardes"));
     m_sauvegardes->setAccessibleName(tr("Sauvegardes"));
-    m_sauvegardes->setHeaderLabels({tr("Date"), texte(Txt::AlbumsDeBD), tr("Octets"), tr("Fichier")});
+    m_sauvegardes->setHeaderLabels({tr("Date"), texte(Txt::AlbumsDeBD), texte(Txt::Taille), tr("Fichier")});
     m_vide->setText(
         tr("Aucune sauvegarde pour l'instant : la première se fait d'elle-même, avant votre prochaine"
            " modification. Vous pouvez aussi choisir un fichier."));
