@@ -23,7 +23,7 @@ illustrer() {
 
 illustrer frmmain Frmmain --entree "N 60"
 illustrer fiche-album Frmmain --entree "N 12"
-for forme in Splash Manuelle Facile BDNet Recherche Pret Acquisition Stats Impression Polices Textures Restauration \
+for forme in Splash Manuelle Facile Recherche Pret Acquisition Stats Impression Polices Textures Restauration \
     Import; do
     illustrer "${forme,,}" "$forme"
 done

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace {
 
@@ -66,8 +67,6 @@ QPushButton *FormeOutil::ajouterAuPied(const QString &nom, bool accent)
     // The form's own buttons stand before those of the frame.
     const bool propre = m_quit != nullptr;
     m_boutons->insertWidget(propre ? m_boutons->count() - (m_mini ? 2 : 1) : m_boutons->count(), bouton);
-    if (propre)
-        setTabOrder(bouton, m_mini ? m_mini : m_quit);
     return bouton;
 }
 
@@ -79,6 +78,20 @@ QLabel *FormeOutil::ajouterMessage()
     message->setMinimumHeight(message->fontMetrics().height());
     m_page->insertWidget(m_page->count() - 1, message);
     return message;
+}
+
+/// The foot was made before what stands above it: the keyboard comes to it last.
+void FormeOutil::showEvent(QShowEvent *evenement)
+{
+    Forme::showEvent(evenement);
+    if (std::exchange(m_ordonnee, true))
+        return;
+    if (m_annuler)
+        setTabOrder(previousInFocusChain(), m_annuler);
+    for (int i = 0; i < m_boutons->count(); ++i)
+        setTabOrder(previousInFocusChain(), m_boutons->itemAt(i)->widget());
+    if (!focusWidget())
+        focusNextPrevChild(true);
 }
 
 void FormeOutil::poserTitre(const QString &texte)

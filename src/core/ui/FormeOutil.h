@@ -35,6 +35,7 @@ protected:
 
     /// The captions of the foot; forms go on from here.
     void Traduire() override;
+    void showEvent(QShowEvent *evenement) override;
 
 private:
     QVBoxLayout *m_page = nullptr;
@@ -46,4 +47,5 @@ private:
     QPushButton *m_annuler = nullptr;
     QPushButton *m_mini = nullptr;
     QPushButton *m_quit = nullptr;
+    bool m_ordonnee = false;
 };

@@ -75,6 +75,21 @@ void dessinerCase(const QStyleOption &o, QPainter &p)
     p.restore();
 }
 
+void dessinerRond(const QStyleOption &o, QPainter &p)
+{
+    const bool actif = o.state.testFlag(QStyle::State_Enabled);
+    p.save();
+    poserCrayon(p, actif ? Theme::Discret(o.palette) : Theme::Trait(o.palette), Theme::Carte(o.palette));
+    const QRectF r = interieur(o.rect);
+    p.drawEllipse(r);
+    if (o.state.testFlag(QStyle::State_On)) {
+        const qreal retrait = r.width() * 0.27;
+        poserCrayon(p, {}, actif ? Theme::Bleu(o.palette) : Theme::Discret(o.palette));
+        p.drawEllipse(r.adjusted(retrait, retrait, -retrait, -retrait));
+    }
+    p.restore();
+}
+
 void dessinerCadre(const QStyleOption &o, QPainter &p)
 {
     const bool focus = o.state.testFlag(QStyle::State_HasFocus);
@@ -158,6 +173,8 @@ void Style::drawPrimitive(
         return dessinerBouton(estAccentue(widget) ? accentuer(*option) : *option, *painter, false);
     case PE_IndicatorCheckBox:
         return dessinerCase(*option, *painter);
+    case PE_IndicatorRadioButton:
+        return dessinerRond(*option, *painter);
     case PE_Frame:
     case PE_FrameLineEdit:
         return dessinerCadre(*option, *painter);
@@ -209,6 +226,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
         return 12;
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
         return 15;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
