@@ -94,6 +94,7 @@ void Page::mesurer(const std::vector<Sorties::Largeur> &mesures)
 {
     constexpr qsizetype PlusLongueLigne = 70;
     constexpr qsizetype PlusLongMot = 16;
+    constexpr qreal PlusAise = 1.4;
     const QFontMetricsF tetes(m_tete, &m_papier);
     const qreal lettre = m_metriques.averageCharWidth() * 1.12;
     std::vector<qreal> voulues;
@@ -109,10 +110,15 @@ void Page::mesurer(const std::vector<Sorties::Largeur> &mesures)
     }
     const qreal voulue = std::accumulate(voulues.begin(), voulues.end(), 0.0);
     const qreal moindre = std::accumulate(moindres.begin(), moindres.end(), 0.0);
-    const qreal part = voulue <= m_largeur ? 1
-        : voulue > moindre                 ? std::max(0.0, (m_largeur - moindre) / (voulue - moindre))
-                                           : 0;
-    const qreal serre = std::min(1.0, m_largeur / std::max(1.0, moindre));
+    if (voulue <= m_largeur) {
+        // Letters are wider than their average here and there: what is left over goes to all.
+        const qreal aise = std::min(PlusAise, m_largeur / voulue);
+        for (const qreal largeur : voulues)
+            m_colonnes.push_back(largeur * aise);
+        return;
+    }
+    const qreal part = std::max(0.0, (m_largeur - moindre) / std::max(1.0, voulue - moindre));
+    const qreal serre = std::min(1.0, m_largeur / moindre);
     for (std::size_t i = 0; i < voulues.size(); ++i)
         m_colonnes.push_back(
             part > 0 ? moindres[i] + (voulues[i] - moindres[i]) * part : moindres[i] * serre);

@@ -137,7 +137,8 @@ void tst_restauration::laBaseRemplaceeEstGardee()
         QVERIFY(!histoire.peutAnnuler());
         QVERIFY(General::Concerne(ecoute.annonces().back(), General::Tri::Collections));
         QCOMPARE(fichiers(bac, "bd.mdb*"), QStringList("bd.mdb"));
-        const QStringList deCote = fichiers(bac, "bd abîmée *.mdb");
+        const bool ancienne = octets == Access;
+        const QStringList deCote = fichiers(bac, ancienne ? "bd-ancien*.mdb" : "bd abîmée *.mdb");
         QCOMPARE(deCote.size(), saine ? 0 : tour); // none is overwritten
         for (const QString &nom : deCote)
             QVERIFY(Bac::lire(bac.chemin(nom)) == octets);

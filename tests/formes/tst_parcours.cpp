@@ -50,7 +50,6 @@ void tst_parcours::lePremierDemarrageMontreLeLanceur()
         QVERIFY(Seance::trouver<QWidget>("Frames(0)", "Splash")->isVisible());
         auto *boite = Seance::trouver<QCheckBox>("SphashAuto", "Splash");
         QVERIFY(!boite->isChecked());
-        QVERIFY(!Seance::trouver<QAbstractButton>("Outils(5)", "Splash")->isEnabled());
         QCOMPARE(s.bac.reglages.nombre(Cle::FirstTime), 1.0);
         boite->click();
         QVERIFY(s.bac.reglages.booleen(Cle::SplashAuto));
