@@ -243,7 +243,12 @@ void Bureau::demarrer()
     Collection::courant().sauvegardes.manquee = [this](const Error &e) {
         QTimer::singleShot(0, this, [e] { Messages::Avertir(QApplication::activeWindow(), e.message()); });
     };
-    Secours::Examiner(nullptr, Dossier::courant().finBrutale());
+    try {
+        Secours::Examiner(nullptr, Dossier::courant().finBrutale());
+    } catch (const Error &e) {
+        // The start goes on with what there is.
+        QTimer::singleShot(0, this, [e] { throw e; });
+    }
     auto *fenetre = forme<Frmmain>(Nom::Frmmain);
     brancherParticuliers();
     fenetre->charger();

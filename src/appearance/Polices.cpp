@@ -111,14 +111,17 @@ void Polices::construireExemple()
 
 void Polices::brancher()
 {
-    connect(m_police, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *ligne) {
-        if (ligne)
-            m_choisie.setFamily(ligne->text(0));
+    // The selection, not the current line: that comes with the focus alone.
+    connect(m_police, &QTreeWidget::itemSelectionChanged, this, [this] {
+        const auto lignes = m_police->selectedItems();
+        if (!lignes.isEmpty())
+            m_choisie.setFamily(lignes.first()->text(0));
         montrerExemple();
     });
-    connect(m_taille, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *ligne) {
-        if (ligne)
-            m_choisie.setPointSizeF(ligne->text(0).toDouble());
+    connect(m_taille, &QTreeWidget::itemSelectionChanged, this, [this] {
+        const auto lignes = m_taille->selectedItems();
+        if (!lignes.isEmpty())
+            m_choisie.setPointSizeF(lignes.first()->text(0).toDouble());
         montrerExemple();
     });
     connect(m_options[0], &QCheckBox::toggled, this, [this](bool gras) {
@@ -138,6 +141,7 @@ void Polices::charger()
 {
     const QFont police = Theme::PoliceChoisie();
     m_choisie = police;
+    m_taille->setCurrentItem(nullptr);
     for (int i = 0; i < m_taille->topLevelItemCount(); ++i) {
         QTreeWidgetItem *ligne = m_taille->topLevelItem(i);
         mettreEnGras(ligne, ligne->text(0).toInt() == static_cast<int>(police.pointSizeF()));

@@ -87,14 +87,18 @@ void Textures::charger()
     m_message->clear();
     m_apercu->setChecked(Reglages::courant().entier(Cle::Apercu) != 0);
     m_defilement->setChecked(Reglages::courant().booleen(Cle::Defilement));
-    const QString choisie = QFileInfo(Fonds::CheminChoisi()).fileName();
+    const QString choisie = Fonds::CheminChoisi();
     m_liste->clear();
     m_liste->setCurrentItem(ajouterLigne({}, tr("Aucune texture")));
     for (const QString &fichier : Fonds::Textures()) {
         QListWidgetItem *ligne = ajouterLigne(fichier, Fonds::NomDe(fichier));
-        if (fichier == choisie)
+        if (Fonds::CheminDe(fichier) == choisie)
             m_liste->setCurrentItem(ligne);
     }
+    // A picture that somebody keeps elsewhere.
+    if (!choisie.isEmpty() && m_liste->currentRow() == 0)
+        m_liste->setCurrentItem(ajouterLigne(choisie, Fonds::NomDe(QFileInfo(choisie).fileName())));
+    m_presente = m_liste->currentRow();
 }
 
 QListWidgetItem *Textures::ajouterLigne(const QString &fichier, const QString &nom)
@@ -142,8 +146,11 @@ void Textures::ajouterTexture()
 void Textures::valider()
 {
     Reglages::courant().ecrire(Cle::Defilement, m_defilement->isChecked());
-    if (const QListWidgetItem *ligne = m_liste->currentItem())
+    // One whose file is missing for now is kept until another is chosen.
+    const QListWidgetItem *ligne = m_liste->currentItem();
+    if (ligne && m_liste->currentRow() != m_presente)
         Fonds::Choisir(ligne->data(Fichier).toString());
+    m_presente = m_liste->currentRow();
     Q_EMIT apparenceChangee();
 }
 

@@ -37,6 +37,7 @@ private:
 
     TitreGroupe *m_titreListe = nullptr;
     QListWidget *m_liste = nullptr;
+    int m_presente = 0; ///< line of the background as it is
     QPushButton *m_suppl = nullptr;
     QCheckBox *m_apercu = nullptr;
     QCheckBox *m_defilement = nullptr;

@@ -19,17 +19,25 @@ QString dire(const char *texte)
     return QCoreApplication::translate("Secours", texte);
 }
 
-/// What is wrong with the collection; empty when nothing is, or when it is for others to tell.
-QString mal(bool finBrutale)
+/// What is wrong with the collection; without words when nothing is, or when that is for others to tell. One that
+/// does not open is told of by whoever opens it next, too.
+struct Mal
+{
+    QString mots;
+    bool ouvrable = false;
+};
+Mal examiner(bool finBrutale)
 {
     const QString chemin = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
     try {
         if (finBrutale)
-            return Verification::Verifier();
+            return {Verification::Verifier(), true};
         Entete::Verifier(chemin, Entete::Nature::Collection);
     } catch (const Error &e) {
-        if (e.sorte() == Error::Sorte::Abimee)
-            return e.message();
+        // A crash or a full disk may leave it empty, without its head, or not at all.
+        if (e.sorte() == Error::Sorte::Abimee || e.sorte() == Error::Sorte::Etrangere
+            || e.sorte() == Error::Sorte::Introuvable)
+            return {e.message()};
     }
     return {};
 }
@@ -38,11 +46,14 @@ QString mal(bool finBrutale)
 
 void Secours::Examiner(QWidget *parent, bool finBrutale)
 {
-    const QString mots = mal(finBrutale);
-    if (mots.isEmpty())
+    const Mal mal = examiner(finBrutale);
+    if (mal.mots.isEmpty())
         return;
-    const QString constat = dire(QT_TRANSLATE_NOOP("Secours", "Votre base est abîmée.")) + u'\n' + mots;
+    const QString constat
+        = dire(QT_TRANSLATE_NOOP("Secours", "Votre base est abîmée, ou n'est plus là.")) + u'\n' + mal.mots;
     const QString sauvegarde = Sauvegardes::DerniereSaine();
+    if (sauvegarde.isEmpty() && !mal.ouvrable)
+        return;
     if (sauvegarde.isEmpty())
         return Messages::Arreter(parent,
             constat + u'\n'

@@ -286,7 +286,9 @@ QString Fiche::LireNomsLies(const Source &source, int album)
 std::unordered_map<int, QString> Fiche::LireTousLesNomsLies(const Source &source)
 {
     const Base base;
-    const QString tous = QString::fromLatin1(source.liens).remove(QStringLiteral(" where NAlbum = ?"));
+    QString tous = QString::fromLatin1(source.liens).remove(QStringLiteral(" where NAlbum = ?"));
+    // A walk forward, instead of rows that could be edited.
+    tous.replace(QStringLiteral("SELECT *"), QStringLiteral("SELECT *, 0"));
     std::unordered_map<int, QString> noms;
     std::unordered_map<int, QString> parAlbum;
     for (auto liens = base.OpenRecordset(tous); !liens.AtEnd(); liens.MoveNext()) {

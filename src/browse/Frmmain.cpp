@@ -253,10 +253,18 @@ void Frmmain::montrerPremiere()
         oublier();
         return;
     }
-    const int premiere = liste->modele().entrees().id(0);
-    liste->choisir(premiere);
-    choisir({liste->modele().tri(), premiere});
+    choisirPremiere();
     liste->setFocus();
+}
+
+void Frmmain::choisirPremiere()
+{
+    ListeEntrees &modele = m_volet->liste()->modele();
+    const int premiere = modele.id(modele.index(0));
+    if (premiere == 0)
+        return;
+    m_volet->liste()->choisir(premiere);
+    choisir({modele.tri(), premiere});
 }
 
 void Frmmain::montrerEntree(Entree entree)
@@ -323,7 +331,7 @@ void Frmmain::retablir()
 void Frmmain::oublier()
 {
     m_courante = {};
-    m_fiches->vider(m_ouverte && General::LireTotaux().albums == 0);
+    m_fiches->vider(m_ouverte && General::EstVierge());
     Q_EMIT entreeMontree(m_courante);
 }
 
@@ -382,7 +390,7 @@ void Frmmain::actualiser(const Changements &changements)
         choisirCourante();
     // The first entries of a collection that was empty.
     if (m_courante.id == 0)
-        montrerPremiere();
+        choisirPremiere();
     m_pied->poserTotaux();
 }
 

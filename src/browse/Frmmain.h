@@ -85,6 +85,7 @@ private:
     void renommer(General::Tri tri, int id, const QString &libelle);
     void ajouter(General::Tri tri, const QString &libelle);
     void choisirCourante();
+    void choisirPremiere();
     void montrerVoisin(General::Tri tri);
     void quitterFiche();
     void annuler();

@@ -290,6 +290,14 @@ Totaux General::LireTotaux()
     return {albums.Int64(0), series.Int64(0), albums.Fields(1).toDouble()};
 }
 
+bool General::EstVierge()
+{
+    const Base base;
+    return std::all_of(Genres.begin(), Genres.end(), [&](const Genre &genre) {
+        return base.OpenRecordset(QStringLiteral("SELECT 1 From %1 limit 1").arg(TableDe(genre.tri))).AtEnd();
+    });
+}
+
 bool General::Concerne(const Changements &changements, Tri tri)
 {
     return touche(changements, {requetes(tri).table});

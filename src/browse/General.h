@@ -100,6 +100,9 @@ struct Totaux
 };
 Totaux LireTotaux();
 
+/// True when no list holds anything. Throws Error.
+bool EstVierge();
+
 /// True when changes may show in this list.
 bool Concerne(const Changements &changements, Tri tri);
 

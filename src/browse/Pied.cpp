@@ -64,8 +64,7 @@ void Pied::changerCouleur()
     const int courante = palette.color(QPalette::WindowText).red();
     int rouge = courante;
     while (rouge == courante)
-        while (rouge == courante)
-            rouge = QRandomGenerator::global()->bounded(Theme::EstSombre(this->palette()) ? 170 : 0, 256);
+        rouge = QRandomGenerator::global()->bounded(Theme::EstSombre(this->palette()) ? 170 : 0, 256);
     palette.setColor(QPalette::WindowText, QColor(rouge, 0, 0));
     m_anim->setPalette(palette);
 }

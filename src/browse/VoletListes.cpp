@@ -177,7 +177,6 @@ Liste VoletListes::montree() const
 
 void VoletListes::montrerSelection(const QString &libelle, const std::vector<int> &albums)
 {
-    montrer(Tri::Albums);
     m_filtre->clear();
     m_liste->restreindre(albums);
     m_selection->setText(libelle);

@@ -43,6 +43,8 @@ QString Fonds::NomDe(const QString &fichier)
 
 QString Fonds::CheminDe(const QString &fichier)
 {
+    if (QFileInfo(fichier).isAbsolute())
+        return fichier;
     return Dossier::courant().chemin(Rangement + u'/' + fichier);
 }
 
@@ -54,7 +56,8 @@ QString Fonds::Ajouter(const QString &chemin)
 void Fonds::Choisir(const QString &fichier)
 {
     Reglages::courant().ecrire(Cle::FondScreen, fichier.isEmpty() ? QString() : CheminDe(fichier));
-    Reglages::courant().ecrire(Cle::RepFondScreen, fichier.isEmpty() ? QString() : CheminDe({}));
+    Reglages::courant().ecrire(
+        Cle::RepFondScreen, fichier.isEmpty() ? QString() : QFileInfo(CheminDe(fichier)).path());
 }
 
 QString Fonds::Texture(int rang)

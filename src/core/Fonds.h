@@ -13,7 +13,7 @@ QString CheminChoisi();
 QStringList Textures();
 /// What a texture is called: its file name up to the first dot.
 QString NomDe(const QString &fichier);
-/// Full path of a texture.
+/// Full path of a texture; of a picture elsewhere that is what it goes by.
 QString CheminDe(const QString &fichier);
 /// Takes a picture into "Fond Ecran"; returns its file name there, which gets " (2)" and so on when another
 /// picture has it. Throws Error.

@@ -68,8 +68,6 @@ QWidget *Facile::construireCatalogue()
 void Facile::charger()
 {
     FormeCreation::charger();
-    if (m_modele.rowCount() > 0)
-        return;
     Catalogue::Liste liste = Catalogue::LireAlbums();
     if (liste.illisibles > 0)
         dire(tr("%n album(s) du catalogue ne peuvent pas être décodés.", nullptr, liste.illisibles));

@@ -184,12 +184,18 @@ void Import::proposerColonnes()
         m_colonnes[i]->setEnabled(!m_chemin.isEmpty());
     }
     m_doublons->setEnabled(!m_chemin.isEmpty());
+    m_importe = false;
+    nommerFichier();
+    montrerExemples();
+}
+
+void Import::nommerFichier()
+{
     m_fichier->setText(
         m_chemin.isEmpty() ? tr(
             "Un fichier CSV, avec le nom des colonnes à la première ligne. Déposez-le ici, ou choisissez-le.")
                            : tr("%1 : %n ligne(s)", nullptr, m_apercu.nombre)
                                  .arg(QFileInfo(m_chemin).fileName()));
-    montrerExemples();
 }
 
 Correspondance Import::correspondance() const
@@ -232,8 +238,8 @@ void Import::montrerExemples()
     }
     m_exemples->resizeColumnsToContents();
     const bool titre = c[static_cast<std::size_t>(Champ::Titre)] >= 0;
-    m_valider->setEnabled(titre && m_apercu.nombre > 0);
-    if (!m_chemin.isEmpty())
+    m_valider->setEnabled(titre && m_apercu.nombre > 0 && !m_importe);
+    if (!m_chemin.isEmpty() && !m_importe)
         m_message->setText(titre ? QString() : tr("Dites quelle colonne est celle du titre."));
 }
 
@@ -266,6 +272,7 @@ void Import::montrerRapport(const Rapport &rapport)
     m_rapport->setPlainText(lignes.join(u'\n'));
     m_rapport->setVisible(!lignes.isEmpty());
     // The same file once more would only make the same albums again.
+    m_importe = true;
     m_valider->setEnabled(false);
 }
 
@@ -287,5 +294,6 @@ void Import::Traduire()
     m_exemples->setAccessibleName(m_titreExemples->text());
     m_rapport->setAccessibleName(tr("Rapport"));
     libeller(m_valider, tr("Importer"));
-    proposerColonnes();
+    nommerFichier();
+    montrerExemples();
 }

@@ -35,6 +35,7 @@ private:
     QWidget *construireExemples();
     void choisirFichier();
     void proposerColonnes();
+    void nommerFichier();
     ImporterAlbums::Correspondance correspondance() const;
     void montrerExemples();
     void montrerRapport(const ImporterAlbums::Rapport &rapport);
@@ -42,6 +43,7 @@ private:
 
     QString m_chemin;
     ImporterAlbums::Apercu m_apercu;
+    bool m_importe = false; ///< this file has come in
     QLabel *m_fichier = nullptr;
     QPushButton *m_choisir = nullptr;
     TitreGroupe *m_titreColonnes = nullptr;

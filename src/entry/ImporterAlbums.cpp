@@ -106,9 +106,14 @@ std::optional<bool> lireBooleen(const QString &cellule)
     static const QStringList oui = QString::fromLatin1(Oui).split(u' ');
     static const QStringList non = QString::fromLatin1(Non).split(u' ');
     const QString mot = plier(cellule);
-    if (oui.contains(mot))
+    const auto dits = [&](std::initializer_list<Txt> textes) {
+        return std::any_of(textes.begin(), textes.end(), [&](Txt t) { return plier(texte(t)) == mot; });
+    };
+    // The words of our own lists, too.
+    if (oui.contains(mot) || dits({Txt::Oui, Txt::Couleur, Txt::Infographie}))
         return true;
-    return cellule.isEmpty() || non.contains(mot) ? std::optional(false) : std::nullopt;
+    return cellule.isEmpty() || non.contains(mot) || dits({Txt::Non, Txt::NoirEtBlanc}) ? std::optional(false)
+                                                                                        : std::nullopt;
 }
 
 /// An amount in whatever writing, with the signs that group its digits and its currency taken away. Of point and

@@ -97,7 +97,11 @@ void Graphique::poserAxes()
     auto *categories = new QBarCategoryAxis;
     for (int i = 0; i < nombre; ++i) {
         const Repartition::Part &part = m_donnees.parts[static_cast<std::size_t>(barreDe(i))];
-        categories->append(part.abrege.isEmpty() ? part.libelle : part.abrege);
+        QString libelle = part.abrege.isEmpty() ? part.libelle : part.abrege;
+        // The axis takes a name only once; an entry may bear that of those that belong nowhere.
+        while (categories->categories().contains(libelle))
+            libelle += QChar(0x200B);
+        categories->append(libelle);
     }
     if (m_donnees.periodes && nombre >= BarresNombreuses)
         categories->setLabelsAngle(Penchant);

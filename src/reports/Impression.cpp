@@ -1,5 +1,6 @@
 #include "reports/Impression.h"
 
+#include "core/Error.h"
 #include "core/Images.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
@@ -14,16 +15,19 @@
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QTableWidget>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -203,8 +207,27 @@ void Impression::charger()
 void Impression::poserCourante(Entree entree)
 {
     m_courante = entree;
-    if (isVisible())
-        charger();
+    proposerPortees();
+    if (isVisible() && portee() == Portee::Fiche)
+        montrerExemple();
+}
+
+/// The list of the main window may be another one by now.
+void Impression::relireListe()
+{
+    const Liste liste = m_liste ? m_liste() : Liste();
+    const bool memeSorte = liste.tri == m_montree.tri;
+    m_montree = liste;
+    proposerPortees();
+    if (portee() == Portee::Liste)
+        memeSorte ? montrerExemple() : changer();
+}
+
+bool Impression::event(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::WindowActivate && !m_cases.empty())
+        QMetaObject::invokeMethod(this, &Impression::relireListe, Qt::QueuedConnection);
+    return FormeOutil::event(evenement);
 }
 
 /// What there is to print: the sheet only when one is shown.
@@ -377,6 +400,8 @@ void Impression::ecrire(Sortie sortie)
     Reglages &reglages = Reglages::courant();
     const Tableau liste = tableau();
     const QString suffixe = QLatin1String(Extensions[rang]);
+    if (sortie == Sortie::Pdf && !accepterLargeur(liste))
+        return;
     QString dossier = reglages.texte(Cle::DossierListes);
     if (dossier.isEmpty() || !QFileInfo(dossier).isDir())
         dossier = QDir::homePath();
@@ -385,8 +410,14 @@ void Impression::ecrire(Sortie sortie)
         QStringLiteral("%1|*.%2").arg(suffixe.toUpper(), suffixe));
     if (chemin.isEmpty())
         return;
-    if (QFileInfo(chemin).suffix().isEmpty())
+    if (QFileInfo(chemin).suffix().compare(suffixe, Qt::CaseInsensitive) != 0) {
+        // The dialog asked about the name as it was typed.
         chemin += u'.' + suffixe;
+        if (QFileInfo::exists(chemin)
+            && !Messages::Demander(
+                this, tr("« %1 » existe déjà. Le remplacer ?").arg(QFileInfo(chemin).fileName())))
+            return;
+    }
     reglages.ecrire(Cle::DossierListes, QFileInfo(chemin).absolutePath());
     const bool entiere
         = travailler([&](const Sorties::Avance &avance) { return Ecritures[rang](chemin, liste, avance); });
@@ -398,38 +429,63 @@ void Impression::ecrire(Sortie sortie)
                           QFileInfo(chemin).fileName().toHtmlEscaped())));
 }
 
-void Impression::dessiner(QPrinter &imprimante)
+/// Paper has its width: with many columns there is no room for words.
+bool Impression::accepterLargeur(const Tableau &liste)
 {
-    const Tableau liste = tableau();
-    if (!travailler(
-            [&](const Sorties::Avance &avance) { return MiseEnPage::Dessiner(imprimante, liste, avance); }))
-        imprimante.abort();
+    constexpr int ColonnesLisibles = 16;
+    return std::ssize(liste.tetes) <= ColonnesLisibles
+        || Messages::Demander(this, tr("Avec autant de colonnes, une page se lit mal. Continuer ?"));
 }
 
 void Impression::imprimer()
 {
+    const Tableau liste = tableau();
+    if (!accepterLargeur(liste))
+        return;
     QPrinter imprimante(QPrinter::HighResolution);
-    imprimante.setDocName(tableau().titre);
-    imprimante.setPageOrientation(
-        MiseEnPage::EstLarge(tableau()) ? QPageLayout::Landscape : QPageLayout::Portrait);
+    preparer(imprimante, liste);
     QPrintDialog dialogue(&imprimante, this);
     if (dialogue.exec() != QDialog::Accepted)
         return;
-    dessiner(imprimante);
-    dire(imprimante.printerState() == QPrinter::Aborted ? tr("Impression annulée.")
-                                                        : tr("La liste est partie à l'impression."));
+    const bool entiere = travailler(
+        [&](const Sorties::Avance &avance) { return MiseEnPage::Dessiner(imprimante, liste, avance); });
+    if (!entiere)
+        imprimante.abort();
+    dire(entiere ? tr("La liste est partie à l'impression.") : tr("Impression annulée."));
 }
 
 void Impression::montrerApercu()
 {
+    const Tableau liste = tableau();
+    if (!accepterLargeur(liste))
+        return;
     QPrinter imprimante(QPrinter::ScreenResolution);
-    imprimante.setPageOrientation(
-        MiseEnPage::EstLarge(tableau()) ? QPageLayout::Landscape : QPageLayout::Portrait);
+    preparer(imprimante, liste);
     QPrintPreviewDialog dialogue(&imprimante, this);
     dialogue.setObjectName(QStringLiteral("DialogueApercu"));
     dialogue.resize(size());
-    connect(&dialogue, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter *p) { dessiner(*p); });
+    connect(&dialogue, &QPrintPreviewDialog::paintRequested, this, [&](QPrinter *papier) {
+        // The preview is in front, so the progress stands on it.
+        QProgressDialog suivi(texte(Txt::ChargementEnCours), tr("Annuler"), 0, 100, &dialogue);
+        suivi.setWindowModality(Qt::WindowModal);
+        try {
+            MiseEnPage::Dessiner(*papier, liste, [&](int pourcent) {
+                suivi.setValue(pourcent);
+                return !suivi.wasCanceled();
+            });
+        } catch (const Error &e) {
+            // The dialog is in the middle of its own work: told once that is over.
+            QTimer::singleShot(0, this, [e] { throw e; });
+        }
+    });
     dialogue.exec();
+}
+
+void Impression::preparer(QPrinter &imprimante, const Tableau &liste)
+{
+    imprimante.setDocName(liste.titre);
+    imprimante.setPageOrientation(
+        MiseEnPage::EstLarge(liste) ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
 void Impression::dire(const QString &message)

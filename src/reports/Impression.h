@@ -31,6 +31,7 @@ public:
 
 protected:
     void Traduire() override;
+    bool event(QEvent *evenement) override;
 
 private:
     enum class Portee { Collection, Liste, Fiche };
@@ -45,6 +46,7 @@ private:
     Portee portee() const;
     General::Tri tri() const;
     void proposerPortees();
+    void relireListe();
     void poserColonnes();
     void memoriser();
     QStringList memorisees(Champs::Feuille feuille) const;
@@ -57,7 +59,8 @@ private:
     void ecrire(Sortie sortie);
     void imprimer();
     void montrerApercu();
-    void dessiner(QPrinter &imprimante);
+    bool accepterLargeur(const Listage::Tableau &liste);
+    static void preparer(QPrinter &imprimante, const Listage::Tableau &liste);
     bool travailler(const std::function<bool(const Sorties::Avance &)> &travail);
     void dire(const QString &message);
 

@@ -136,7 +136,10 @@ QString requete(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre)
         const QString alias = !albums || !c.champ->colonne ? QString()
             : qstrcmp(c.champ->table, "LAlbums") == 0      ? QStringLiteral("l.")
                                                            : QStringLiteral("a.");
-        champs << alias + nom;
+        // The summary may stand in the list row alone.
+        champs << (albums && nom == QLatin1String("Histoire")
+                ? QStringLiteral("coalesce(nullif(trim(a.Histoire), ''), l.Histoire)")
+                : alias + nom);
     }
     QString sql = QStringLiteral("SELECT ") + champs.join(QStringLiteral(", "));
     if (!albums) {
@@ -244,9 +247,11 @@ Lignes lireFiche(General::Entree entree, QString &image)
     Lignes lignes;
     const Base base;
     const Feuille feuille = General::GenreDe(entree.tri).feuille;
-    const auto valeurs = Fiche::Lire(feuille, entree.id);
+    std::optional<Valeurs> valeurs = Fiche::Lire(feuille, entree.id);
     if (!valeurs)
         return lignes;
+    if (entree.tri == Tri::Albums)
+        valeurs = ChargerAlbums::AfficherAlbum(entree.id)->valeurs;
     ajouterChamps(lignes, feuille, *valeurs);
     if (const auto photo = valeurs->find(QStringLiteral("Photo1")); photo != valeurs->end())
         image = Images::Trouver(photo->second.stockee.toString());

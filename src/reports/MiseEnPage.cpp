@@ -162,7 +162,7 @@ void Page::ligne(const QString &texte, const QFont &police, const QColor &couleu
 /// The lines of a cell as its column breaks them. Most texts are one line and need no measuring.
 QStringList Page::lignes(const QString &texte, std::size_t colonne, const QFont &police) const
 {
-    const qreal largeur = m_colonnes[colonne] - m_ecart;
+    const qreal largeur = std::max(m_colonnes[colonne] - m_ecart, 3 * m_metriques.averageCharWidth());
     const QStringList paragraphes = texte.split(u'\n');
     if (paragraphes.size() == 1 && static_cast<qreal>(texte.size()) * m_metriques.maxWidth() / 2 < largeur)
         return paragraphes;

@@ -160,6 +160,9 @@ QString celluleCsv(const QString &cellule)
 QString rangeeCsv(const QStringList &cellules)
 {
     QString rangee;
+    // A line without anything would be none.
+    if (cellules.size() == 1 && cellules.front().isEmpty())
+        return QStringLiteral("\"\"\r\n");
     for (qsizetype i = 0; i < cellules.size(); ++i) {
         if (i > 0)
             rangee += u',';

@@ -1,10 +1,13 @@
 #include "browse/Frmmain.h"
+#include "core/ui/Suivi.h"
 #include "support/EcrivainJet.h"
 #include "support/Seance.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QTreeWidget>
 
 /// Backups put back, old collections taken up, damaged ones met at the start, albums from a file.
@@ -15,6 +18,7 @@ class tst_archives : public QObject
 private Q_SLOTS:
     void uneSauvegardeSeReprend();
     void unFichierDAlbumsEntre();
+    void unLongTravailNeLaissePasPasserLeClavier();
     void uneAncienneBaseSeReprendAuDepart();
     void uneAncienneBaseAbimeeResteLa();
     void uneBaseAbimeeRendLaDerniereSauvegarde();
@@ -92,6 +96,29 @@ void tst_archives::unFichierDAlbumsEntre()
     QTRY_VERIFY(Seance::trouver<QWidget>("Defaire")->isEnabled());
     Seance::cliquer("Defaire");
     QCOMPARE(Bac::valeur(QStringLiteral("SELECT count(*) FROM Serie WHERE Nom = 'Neuve'")).toInt(), 0);
+}
+
+void tst_archives::unLongTravailNeLaissePasPasserLeClavier()
+{
+    Seance s;
+    s.demarrer();
+    const auto titre = [] {
+        return Bac::valeur(QStringLiteral("SELECT TAlbum FROM LAlbums WHERE NAlbum = 1")).toString();
+    };
+    Bac::executer(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
+    QTRY_VERIFY(Seance::trouver<QWidget>("Defaire")->isEnabled());
+    Seance::fenetre("Frmmain")->activateWindow();
+    QTRY_VERIFY(Seance::fenetre("Frmmain")->isActiveWindow());
+    {
+        QProgressBar barre(Seance::fenetre("Frmmain"));
+        QPushButton annuler(Seance::fenetre("Frmmain"));
+        Suivi suivi(&barre, &annuler);
+        QTest::keyClick(Seance::fenetre("Frmmain"), Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(suivi.avancer(50));
+        QCOMPARE(titre(), QStringLiteral("Changé"));
+    }
+    QTest::keyClick(Seance::fenetre("Frmmain"), Qt::Key_Z, Qt::ControlModifier);
+    QTRY_VERIFY(titre() != QStringLiteral("Changé"));
 }
 
 void tst_archives::uneAncienneBaseSeReprendAuDepart()

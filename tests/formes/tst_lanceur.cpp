@@ -1,6 +1,7 @@
 #include "browse/Frmmain.h"
 #include "core/Fonds.h"
 #include "core/ui/Theme.h"
+#include "db/Schema.h"
 #include "support/Seance.h"
 
 #include <QAbstractButton>
@@ -220,8 +221,8 @@ void tst_lanceur::f1OuvreLaPageDeLaForme()
 void tst_lanceur::uneCollectionVideMeneAuPremierAlbum()
 {
     Seance s;
-    for (const char *table : {"Album", "LAlbums"})
-        Bac::executer(QStringLiteral("DELETE FROM ") + QLatin1String(table));
+    for (const QString &table : Schema::Tables())
+        Bac::executer(QStringLiteral("DELETE FROM ") + table);
     s.bureau = std::make_unique<Bureau>(Options());
     s.bureau->demarrer();
     QTRY_VERIFY(

@@ -15,7 +15,6 @@ bool estUneEntree(QEvent::Type type)
     case QEvent::MouseButtonDblClick:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-    case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
     case QEvent::Wheel:
     case QEvent::ContextMenu:
@@ -57,6 +56,9 @@ bool Suivi::avancer(int pourcent)
 
 bool Suivi::eventFilter(QObject *objet, QEvent *evenement)
 {
+    // A shortcut goes to an action, which is no widget.
+    if (evenement->type() == QEvent::Shortcut)
+        return true;
     if (!objet->isWidgetType() || objet == m_annuler || !estUneEntree(evenement->type()))
         return QObject::eventFilter(objet, evenement);
     if (evenement->type() == QEvent::Close)
