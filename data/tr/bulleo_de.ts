@@ -417,6 +417,10 @@
         <source>Choisir</source>
         <translation>Auswählen</translation>
     </message>
+    <message>
+        <source>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</source>
+        <translation>Dieser Katalog stammt aus einem älteren Programm: Seine Texte sind verschlüsselt, und niemand hat den Schlüssel.</translation>
+    </message>
 </context>
 <context>
     <name>Fiche</name>
@@ -740,6 +744,18 @@
     <message>
         <source>Imprimer…</source>
         <translation>Drucken…</translation>
+    </message>
+    <message>
+        <source>« %1 » existe déjà. Le remplacer ?</source>
+        <translation type="unfinished">„%1“ gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
+        <translation>Mit so vielen Spalten ist eine Seite schwer zu lesen. Fortfahren?</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1093,10 +1109,6 @@
         <translation>Datum</translation>
     </message>
     <message>
-        <source>Octets</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
         <source>Fichier</source>
         <translation>Datei</translation>
     </message>
@@ -1173,16 +1185,16 @@
 <context>
     <name>Secours</name>
     <message>
-        <source>Votre base est abîmée.</source>
-        <translation>Ihre Datenbank ist beschädigt.</translation>
-    </message>
-    <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
         <translation>Es gibt keine Sicherung, die unbeschädigt ist.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
         <translation>Möchten Sie die Sicherung vom %1 einspielen? Die beschädigte Datei wird daneben aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Votre base est abîmée, ou n&apos;est plus là.</source>
+        <translation>Ihre Datenbank ist beschädigt oder nicht mehr da.</translation>
     </message>
 </context>
 <context>

@@ -417,6 +417,10 @@
         <source>Choisir</source>
         <translation>Select</translation>
     </message>
+    <message>
+        <source>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</source>
+        <translation>This catalogue comes from an older program: its texts are coded, and nobody has the key.</translation>
+    </message>
 </context>
 <context>
     <name>Fiche</name>
@@ -740,6 +744,18 @@
     <message>
         <source>Imprimer…</source>
         <translation>Print…</translation>
+    </message>
+    <message>
+        <source>« %1 » existe déjà. Le remplacer ?</source>
+        <translation type="unfinished">“%1” already exists. Replace it?</translation>
+    </message>
+    <message>
+        <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
+        <translation>With so many columns a page is hard to read. Go on?</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Cancel</translation>
     </message>
 </context>
 <context>
@@ -1093,10 +1109,6 @@
         <translation>Date</translation>
     </message>
     <message>
-        <source>Octets</source>
-        <translation>Size</translation>
-    </message>
-    <message>
         <source>Fichier</source>
         <translation>File</translation>
     </message>
@@ -1173,16 +1185,16 @@
 <context>
     <name>Secours</name>
     <message>
-        <source>Votre base est abîmée.</source>
-        <translation>Your database is damaged.</translation>
-    </message>
-    <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
         <translation>There is no backup that is sound.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
         <translation>Do you want to go back to the backup of %1? The damaged file is kept beside it.</translation>
+    </message>
+    <message>
+        <source>Votre base est abîmée, ou n&apos;est plus là.</source>
+        <translation>Your database is damaged, or no longer there.</translation>
     </message>
 </context>
 <context>

@@ -417,6 +417,10 @@
         <source>Choisir</source>
         <translation>Seleccionar</translation>
     </message>
+    <message>
+        <source>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</source>
+        <translation>Este catálogo viene de un programa antiguo: sus textos están codificados y nadie tiene la clave.</translation>
+    </message>
 </context>
 <context>
     <name>Fiche</name>
@@ -740,6 +744,18 @@
     <message>
         <source>Imprimer…</source>
         <translation>Imprimir…</translation>
+    </message>
+    <message>
+        <source>« %1 » existe déjà. Le remplacer ?</source>
+        <translation type="unfinished">«%1» ya existe. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
+        <translation>Con tantas columnas, una página se lee mal. ¿Continuar?</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1093,10 +1109,6 @@
         <translation>Fecha</translation>
     </message>
     <message>
-        <source>Octets</source>
-        <translation>Tamaño</translation>
-    </message>
-    <message>
         <source>Fichier</source>
         <translation>Archivo</translation>
     </message>
@@ -1173,16 +1185,16 @@
 <context>
     <name>Secours</name>
     <message>
-        <source>Votre base est abîmée.</source>
-        <translation>Su base de datos está dañada.</translation>
-    </message>
-    <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
         <translation>No hay ninguna copia de seguridad en buen estado.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
         <translation>¿Quiere volver a la copia de seguridad del %1? El archivo dañado se conserva al lado.</translation>
+    </message>
+    <message>
+        <source>Votre base est abîmée, ou n&apos;est plus là.</source>
+        <translation>Su base está dañada o ya no está.</translation>
     </message>
 </context>
 <context>

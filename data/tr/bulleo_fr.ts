@@ -417,6 +417,10 @@
         <source>Choisir</source>
         <translation>Choisir</translation>
     </message>
+    <message>
+        <source>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</source>
+        <translation>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</translation>
+    </message>
 </context>
 <context>
     <name>Fiche</name>
@@ -740,6 +744,18 @@
     <message>
         <source>Imprimer…</source>
         <translation>Imprimer…</translation>
+    </message>
+    <message>
+        <source>« %1 » existe déjà. Le remplacer ?</source>
+        <translation type="unfinished">« %1 » existe déjà. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
+        <translation>Avec autant de colonnes, une page se lit mal. Continuer ?</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Annuler</translation>
     </message>
 </context>
 <context>
@@ -1093,10 +1109,6 @@
         <translation>Date</translation>
     </message>
     <message>
-        <source>Octets</source>
-        <translation>Octets</translation>
-    </message>
-    <message>
         <source>Fichier</source>
         <translation>Fichier</translation>
     </message>
@@ -1173,16 +1185,16 @@
 <context>
     <name>Secours</name>
     <message>
-        <source>Votre base est abîmée.</source>
-        <translation>Votre base est abîmée.</translation>
-    </message>
-    <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
         <translation>Il n&apos;y a aucune sauvegarde qui soit saine.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
         <translation>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</translation>
+    </message>
+    <message>
+        <source>Votre base est abîmée, ou n&apos;est plus là.</source>
+        <translation>Votre base est abîmée, ou n&apos;est plus là.</translation>
     </message>
 </context>
 <context>

@@ -417,6 +417,10 @@
         <source>Choisir</source>
         <translation>Seleziona</translation>
     </message>
+    <message>
+        <source>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</source>
+        <translation>Questo catalogo viene da un vecchio programma: i suoi testi sono codificati e nessuno ne ha la chiave.</translation>
+    </message>
 </context>
 <context>
     <name>Fiche</name>
@@ -740,6 +744,18 @@
     <message>
         <source>Imprimer…</source>
         <translation>Stampa…</translation>
+    </message>
+    <message>
+        <source>« %1 » existe déjà. Le remplacer ?</source>
+        <translation type="unfinished">«%1» esiste già. Sostituirlo?</translation>
+    </message>
+    <message>
+        <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
+        <translation>Con tante colonne una pagina si legge male. Continuare?</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Annulla</translation>
     </message>
 </context>
 <context>
@@ -1093,10 +1109,6 @@
         <translation>Data</translation>
     </message>
     <message>
-        <source>Octets</source>
-        <translation>Dimensione</translation>
-    </message>
-    <message>
         <source>Fichier</source>
         <translation>File</translation>
     </message>
@@ -1173,16 +1185,16 @@
 <context>
     <name>Secours</name>
     <message>
-        <source>Votre base est abîmée.</source>
-        <translation>La vostra base dati è danneggiata.</translation>
-    </message>
-    <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
         <translation>Non c&apos;è alcun salvataggio integro.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
         <translation>Volete riprendere il salvataggio del %1? Il file danneggiato viene conservato accanto.</translation>
+    </message>
+    <message>
+        <source>Votre base est abîmée, ou n&apos;est plus là.</source>
+        <translation>Il vostro database è danneggiato, o non c&apos;è più.</translation>
     </message>
 </context>
 <context>

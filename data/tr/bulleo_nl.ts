@@ -417,6 +417,10 @@
         <source>Choisir</source>
         <translation>Kiezen</translation>
     </message>
+    <message>
+        <source>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</source>
+        <translation>Deze catalogus komt uit een ouder programma: de teksten zijn gecodeerd en niemand heeft de sleutel.</translation>
+    </message>
 </context>
 <context>
     <name>Fiche</name>
@@ -740,6 +744,18 @@
     <message>
         <source>Imprimer…</source>
         <translation>Afdrukken…</translation>
+    </message>
+    <message>
+        <source>« %1 » existe déjà. Le remplacer ?</source>
+        <translation type="unfinished">‘%1’ bestaat al. Vervangen?</translation>
+    </message>
+    <message>
+        <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
+        <translation>Met zoveel kolommen is een pagina slecht leesbaar. Doorgaan?</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation type="unfinished">Annuleren</translation>
     </message>
 </context>
 <context>
@@ -1093,10 +1109,6 @@
         <translation>Datum</translation>
     </message>
     <message>
-        <source>Octets</source>
-        <translation>Grootte</translation>
-    </message>
-    <message>
         <source>Fichier</source>
         <translation>Bestand</translation>
     </message>
@@ -1173,16 +1185,16 @@
 <context>
     <name>Secours</name>
     <message>
-        <source>Votre base est abîmée.</source>
-        <translation>Uw database is beschadigd.</translation>
-    </message>
-    <message>
         <source>Il n&apos;y a aucune sauvegarde qui soit saine.</source>
         <translation>Er is geen reservekopie die nog gaaf is.</translation>
     </message>
     <message>
         <source>Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.</source>
         <translation>Wilt u de reservekopie van %1 terugzetten? Het beschadigde bestand wordt ernaast bewaard.</translation>
+    </message>
+    <message>
+        <source>Votre base est abîmée, ou n&apos;est plus là.</source>
+        <translation>Uw database is beschadigd, of is er niet meer.</translation>
     </message>
 </context>
 <context>
