@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
-        <translation type="unfinished">«%1» ya existe. ¿Reemplazarlo?</translation>
+        <translation>«%1» ya existe. ¿Reemplazarlo?</translation>
     </message>
     <message>
         <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
@@ -755,7 +755,7 @@
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>

@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>« %1 » existe déjà. Le remplacer ?</source>
-        <translation type="unfinished">« %1 » existe déjà. Le remplacer ?</translation>
+        <translation>« %1 » existe déjà. Le remplacer ?</translation>
     </message>
     <message>
         <source>Avec autant de colonnes, une page se lit mal. Continuer ?</source>
@@ -755,7 +755,7 @@
     </message>
     <message>
         <source>Annuler</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
