@@ -311,6 +311,17 @@
     </message>
 </context>
 <context>
+    <name>ChoixColonnes</name>
+    <message>
+        <source>Toutes</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Aucune</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
     <name>Conversion</name>
     <message>
         <source>La conversion a été annulée.</source>
@@ -720,14 +731,6 @@
     <message>
         <source>Vers un fichier ou sur papier</source>
         <translation>In eine Datei oder auf Papier</translation>
-    </message>
-    <message>
-        <source>Toutes</source>
-        <translation>Alle</translation>
-    </message>
-    <message>
-        <source>Aucune</source>
-        <translation>Keine</translation>
     </message>
     <message>
         <source>Toute la collection</source>

@@ -311,6 +311,17 @@
     </message>
 </context>
 <context>
+    <name>ChoixColonnes</name>
+    <message>
+        <source>Toutes</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Aucune</source>
+        <translation>Ninguna</translation>
+    </message>
+</context>
+<context>
     <name>Conversion</name>
     <message>
         <source>La conversion a été annulée.</source>
@@ -720,14 +731,6 @@
     <message>
         <source>Vers un fichier ou sur papier</source>
         <translation>A un archivo o en papel</translation>
-    </message>
-    <message>
-        <source>Toutes</source>
-        <translation>Todas</translation>
-    </message>
-    <message>
-        <source>Aucune</source>
-        <translation>Ninguna</translation>
     </message>
     <message>
         <source>Toute la collection</source>

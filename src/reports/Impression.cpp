@@ -10,9 +10,9 @@
 #include "core/ui/Suivi.h"
 #include "core/ui/Theme.h"
 #include "core/ui/TitreGroupe.h"
+#include "reports/ChoixColonnes.h"
 
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QDesktopServices>
 #include <QDir>
 #include <QEvent>
@@ -25,7 +25,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QTableWidget>
 #include <QTimer>
 #include <QUrl>
@@ -38,12 +37,11 @@ using Listage::Tableau;
 namespace {
 
 constexpr QSize TailleDessinee(980, 680);
-constexpr int LargeurColonnes = 270;
 constexpr int LignesDExemple = 30;
 constexpr int HauteurBouton = 32;
 constexpr int HauteurLigne = 24;
 /// In the order of the groups on the form.
-enum Groupe { GroupeColonnes, GroupePortee, GroupeExemple, GroupeSorties };
+enum Groupe { GroupePortee, GroupeExemple, GroupeSorties };
 
 QString libelleDeLaSortie(int rang)
 {
@@ -71,7 +69,9 @@ Impression::Impression()
         groupe = new TitreGroupe(this);
     auto *moities = new QHBoxLayout;
     moities->setSpacing(Theme::Grand);
-    moities->addWidget(construireColonnes());
+    m_colonnes = new ChoixColonnes(this);
+    connect(m_colonnes, &ChoixColonnes::change, this, &Impression::montrerExemple);
+    moities->addWidget(m_colonnes);
     auto *droite = new QVBoxLayout;
     droite->setSpacing(Theme::Moyen);
     droite->addWidget(construireChoix());
@@ -85,30 +85,6 @@ Impression::Impression()
     connect(m_message, &QLabel::linkActivated, this,
         [](const QString &lien) { QDesktopServices::openUrl(QUrl(lien)); });
     Impression::Traduire();
-}
-
-QWidget *Impression::construireColonnes()
-{
-    auto *zone = new QWidget(this);
-    zone->setFixedWidth(LargeurColonnes);
-    auto *colonne = new QVBoxLayout(zone);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->addWidget(m_groupes[GroupeColonnes]);
-    m_zoneColonnes = new QScrollArea(zone);
-    m_zoneColonnes->setWidgetResizable(true);
-    m_zoneColonnes->setFrameShape(QFrame::NoFrame);
-    m_zoneColonnes->setFocusPolicy(Qt::NoFocus);
-    colonne->addWidget(m_zoneColonnes, 1);
-    auto *boutons = new QHBoxLayout;
-    m_toutes = nommer(new QPushButton(zone), QStringLiteral("Toutes"));
-    m_aucune = nommer(new QPushButton(zone), QStringLiteral("Aucune"));
-    boutons->addWidget(m_toutes);
-    boutons->addWidget(m_aucune);
-    boutons->addStretch(1);
-    colonne->addLayout(boutons);
-    connect(m_toutes, &QPushButton::clicked, this, [this] { cocherToutes(true); });
-    connect(m_aucune, &QPushButton::clicked, this, [this] { cocherToutes(false); });
-    return zone;
 }
 
 QWidget *Impression::construireChoix()
@@ -225,7 +201,7 @@ void Impression::relireListe()
 
 bool Impression::event(QEvent *evenement)
 {
-    if (evenement->type() == QEvent::WindowActivate && !m_cases.empty())
+    if (evenement->type() == QEvent::WindowActivate && m_colonnes && m_colonnes->estPose())
         QMetaObject::invokeMethod(this, &Impression::relireListe, Qt::QueuedConnection);
     return FormeOutil::event(evenement);
 }
@@ -258,88 +234,11 @@ Tri Impression::tri() const
 void Impression::changer()
 {
     const bool fiche = portee() == Portee::Fiche;
-    poserColonnes();
-    for (QWidget *reglage : {static_cast<QWidget *>(m_zoneColonnes), static_cast<QWidget *>(m_toutes),
-             static_cast<QWidget *>(m_aucune)})
-        reglage->setEnabled(!fiche);
+    m_colonnes->proposer(tri());
+    m_colonnes->setEnabled(!fiche);
     for (QRadioButton *ordre : m_ordres)
         ordre->setEnabled(!fiche && tri() == Tri::Albums);
     montrerExemple();
-}
-
-/// The columns that were chosen last for this kind of sheet; those proposed when none ever was.
-QStringList Impression::memorisees(Champs::Feuille feuille) const
-{
-    const QString debut = QString::number(static_cast<int>(feuille)) + u'.';
-    QStringList noms;
-    for (const QString &mot : Reglages::courant().texte(Cle::ColonnesImp).split(u' ', Qt::SkipEmptyParts)) {
-        if (mot.startsWith(debut))
-            noms << mot.mid(debut.size());
-    }
-    return noms;
-}
-
-void Impression::poserColonnes()
-{
-    m_triDesColonnes = tri();
-    m_colonnes = Listage::ColonnesDe(m_triDesColonnes);
-    m_cases.clear();
-    const QStringList voulues = memorisees(GenreDe(m_triDesColonnes).feuille);
-    auto *zone = new QWidget;
-    auto *pile = new QVBoxLayout(zone);
-    pile->setContentsMargins(0, 0, Theme::Petit, 0);
-    pile->setSpacing(Theme::Fin);
-    for (const Listage::Colonne &colonne : m_colonnes) {
-        auto *choix
-            = nommer(new QCheckBox(zone), QStringLiteral("Colonnes"), static_cast<int>(m_cases.size()));
-        libeller(choix, Listage::LibelleDe(colonne));
-        QString nom = QLatin1String(colonne.champ->nom);
-        if (colonne.contraire)
-            nom += u'!';
-        choix->setProperty("colonne", nom);
-        choix->setChecked(voulues.isEmpty() ? colonne.dOffice : voulues.contains(nom));
-        connect(choix, &QCheckBox::clicked, this, [this] {
-            memoriser();
-            montrerExemple();
-        });
-        pile->addWidget(choix);
-        m_cases.push_back(choix);
-    }
-    pile->addStretch(1);
-    m_zoneColonnes->setWidget(zone);
-}
-
-void Impression::memoriser()
-{
-    const QString debut = QString::number(static_cast<int>(GenreDe(m_triDesColonnes).feuille)) + u'.';
-    QStringList mots;
-    for (const QString &mot : Reglages::courant().texte(Cle::ColonnesImp).split(u' ', Qt::SkipEmptyParts)) {
-        if (!mot.startsWith(debut))
-            mots << mot;
-    }
-    for (const QCheckBox *choix : m_cases) {
-        if (choix->isChecked())
-            mots << debut + choix->property("colonne").toString();
-    }
-    Reglages::courant().ecrire(Cle::ColonnesImp, mots.join(u' '));
-}
-
-void Impression::cocherToutes(bool cochees)
-{
-    for (QCheckBox *choix : m_cases)
-        choix->setChecked(cochees);
-    memoriser();
-    montrerExemple();
-}
-
-std::vector<Listage::Colonne> Impression::choisies() const
-{
-    std::vector<Listage::Colonne> colonnes;
-    for (std::size_t i = 0; i < m_cases.size(); ++i) {
-        if (m_cases[i]->isChecked())
-            colonnes.push_back(m_colonnes[i]);
-    }
-    return colonnes;
 }
 
 Tableau Impression::tableau() const
@@ -348,8 +247,8 @@ Tableau Impression::tableau() const
         return Listage::DeLaFiche(m_courante);
     const Ordre ordre = m_ordres[1]->isChecked() ? Ordre::Series : Ordre::Albums;
     if (portee() == Portee::Collection)
-        return Listage::DesEntrees(tri(), choisies(), ordre);
-    return Listage::DesEntrees(tri(), choisies(), ordre, m_montree.ids);
+        return Listage::DesEntrees(tri(), m_colonnes->choisies(), ordre);
+    return Listage::DesEntrees(tri(), m_colonnes->choisies(), ordre, m_montree.ids);
 }
 
 /// The first rows, as they would come out.
@@ -497,12 +396,10 @@ void Impression::Traduire()
 {
     FormeOutil::Traduire();
     poserTitre(texte(Txt::Impression));
-    m_groupes[GroupeColonnes]->setText(texte(Txt::SelectionDesInformations));
+    m_colonnes->Traduire();
     m_groupes[GroupePortee]->setText(tr("Que voulez-vous lister ?"));
     m_groupes[GroupeExemple]->setText(tr("Ce qui sortira"));
     m_groupes[GroupeSorties]->setText(tr("Vers un fichier ou sur papier"));
-    libeller(m_toutes, tr("Toutes"));
-    libeller(m_aucune, tr("Aucune"));
     libeller(m_portees[0], tr("Toute la collection"));
     libeller(m_portees[2], tr("La fiche affichée"));
     proposerPortees();

@@ -5,12 +5,11 @@
 
 #include <array>
 
-class QCheckBox;
+class ChoixColonnes;
 class QLabel;
 class QPrinter;
 class QPushButton;
 class QRadioButton;
-class QScrollArea;
 class QTableWidget;
 class TitreGroupe;
 
@@ -38,7 +37,6 @@ private:
     enum class Sortie { Html, Texte, Pdf, Csv };
     using Ecriture = std::function<bool(const QString &, const Listage::Tableau &, const Sorties::Avance &)>;
 
-    QWidget *construireColonnes();
     QWidget *construireChoix();
     QWidget *construireExemple();
     QWidget *construireSorties();
@@ -47,14 +45,9 @@ private:
     General::Tri tri() const;
     void proposerPortees();
     void relireListe();
-    void poserColonnes();
-    void memoriser();
-    QStringList memorisees(Champs::Feuille feuille) const;
-    std::vector<Listage::Colonne> choisies() const;
     Listage::Tableau tableau() const;
     void montrerExemple();
     void changer();
-    void cocherToutes(bool cochees);
 
     void ecrire(Sortie sortie);
     void imprimer();
@@ -67,14 +60,9 @@ private:
     std::function<General::Liste()> m_liste;
     General::Entree m_courante;
     General::Liste m_montree;
-    General::Tri m_triDesColonnes = General::Tri::Albums;
-    std::vector<Listage::Colonne> m_colonnes;
-    std::vector<QCheckBox *> m_cases;
 
-    std::array<TitreGroupe *, 4> m_groupes{};
-    QScrollArea *m_zoneColonnes = nullptr;
-    QPushButton *m_toutes = nullptr;
-    QPushButton *m_aucune = nullptr;
+    std::array<TitreGroupe *, 3> m_groupes{};
+    ChoixColonnes *m_colonnes = nullptr;
     std::array<QRadioButton *, 3> m_portees{};
     std::array<QRadioButton *, 2> m_ordres{};
     QTableWidget *m_exemple = nullptr;
