@@ -63,6 +63,9 @@ int main(int argc, char **argv)
         memoires.push_back(residentMio(programme.processId()));
         programme.kill();
         programme.waitForFinished();
+        // What was ended like this is checked at the next start, which is not what is measured.
+        if (const qsizetype rang = mots.indexOf(QStringLiteral("--dossier")); rang > 0)
+            QFile::remove(mots.value(rang + 1) + QStringLiteral("/.bulleo.lock"));
     }
     QTextStream(stdout) << QStringLiteral("%1 ms, %2 MiB\n")
                                .arg(mediane(durees), 0, 'f', 0)

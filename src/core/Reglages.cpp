@@ -44,6 +44,7 @@ constexpr std::array Table{
     Reglage{Cle::FontItalic, "Color", "FontItalic", Type::BooleenStrict, "Faux"},
     Reglage{Cle::Forecolor, "Color", "Forecolor", Type::Entier, "0"},
     Reglage{Cle::Theme, "Color", "Theme", Type::Entier, "0"},
+    Reglage{Cle::BureauSombre, "Color", "BureauSombre", Type::Booleen, "Faux"},
     Reglage{Cle::Height, "Redimension", "Height", Type::Nombre, "0"},
     Reglage{Cle::Width, "Redimension", "Width", Type::Nombre, "0"},
     Reglage{Cle::Volets, "Redimension", "Volets", Type::Texte, ""},

@@ -28,6 +28,7 @@ enum class Cle {
     FontItalic,
     Forecolor,
     Theme,
+    BureauSombre,
     Height,
     Width,
     Volets,

@@ -1,10 +1,16 @@
 #include "core/ui/Clarte.h"
 
+#include "core/Reglages.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QTimer>
+#include <utility>
 
 namespace {
 
@@ -13,8 +19,8 @@ const QString Objet = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString Interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString Section = QStringLiteral("org.freedesktop.appearance");
 const QString Choix = QStringLiteral("color-scheme");
-/// The program's start does not wait longer for an answer.
-constexpr int AttenteMs = 150;
+/// The desktop is asked when the first window is there.
+constexpr int AttenteMs = 500;
 constexpr unsigned PreferenceSombre = 1;
 
 /// The portal wraps its values once or twice, after its version.
@@ -36,24 +42,41 @@ bool paletteSombre()
 
 Clarte::Clarte(QObject *parent)
     : QObject(parent)
-    , m_sombre(paletteSombre())
+    , m_sombre(paletteSombre() || Reglages::courant().booleen(Cle::BureauSombre))
+{
+    // Finding the bus may take longer than all the rest of a start: until it has answered, last time's answer holds.
+    QTimer::singleShot(AttenteMs, this, &Clarte::demander);
+}
+
+void Clarte::demander()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    QDBusMessage demande = QDBusMessage::createMethodCall(Service, Objet, Interface, QStringLiteral("Read"));
-    demande << Section << Choix;
-    const QDBusMessage reponse = bus.call(demande, QDBus::Block, AttenteMs);
-    if (reponse.type() == QDBusMessage::ReplyMessage && !reponse.arguments().isEmpty())
-        m_sombre = nombreDe(reponse.arguments().constFirst()) == PreferenceSombre;
     bus.connect(Service, Objet, Interface, QStringLiteral("SettingChanged"), this,
         SLOT(recevoir(QString, QString, QDBusVariant)));
+    QDBusMessage demande = QDBusMessage::createMethodCall(Service, Objet, Interface, QStringLiteral("Read"));
+    demande << Section << Choix;
+    auto *attente = new QDBusPendingCallWatcher(bus.asyncCall(demande), this);
+    connect(attente, &QDBusPendingCallWatcher::finished, this, [this, attente] {
+        const QDBusPendingReply<QDBusVariant> reponse = *attente;
+        attente->deleteLater();
+        if (!reponse.isError())
+            noter(nombreDe(reponse.value().variant()) == PreferenceSombre);
+    });
+}
+
+void Clarte::noter(bool sombre)
+{
+    Reglages::courant().ecrire(Cle::BureauSombre, sombre);
+    if (sombre == std::exchange(m_sombre, sombre))
+        return;
+    Q_EMIT change();
 }
 
 void Clarte::recevoir(const QString &section, const QString &cle, const QDBusVariant &valeur)
 {
     if (section != Section || cle != Choix)
         return;
-    m_sombre = nombreDe(valeur.variant()) == PreferenceSombre;
-    Q_EMIT change();
+    noter(nombreDe(valeur.variant()) == PreferenceSombre);
 }

@@ -19,5 +19,8 @@ private Q_SLOTS:
     void recevoir(const QString &section, const QString &cle, const class QDBusVariant &valeur);
 
 private:
+    void demander();
+    void noter(bool sombre);
+
     bool m_sombre = false;
 };
