@@ -43,5 +43,5 @@ private:
 
     Repartition::Graphique m_donnees;
     QAbstractBarSeries *m_barres = nullptr;
-    int m_designee = -1; ///< the part that the keys stand on
+    int m_designee = -1; ///< where the keys stand
 };
