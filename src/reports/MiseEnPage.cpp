@@ -310,7 +310,7 @@ bool MiseEnPage::EcrirePdf(const QString &chemin, const Tableau &tableau, const 
     }
     if (!entier)
         return false;
-    if (fichier.error() != QFileDevice::NoError || !fichier.commit())
+    if (!fichier.flush() || fichier.error() != QFileDevice::NoError || !fichier.commit())
         echouer(fichier.errorString());
     return true;
 }

@@ -38,7 +38,8 @@ public:
     bool terminer()
     {
         vider();
-        if (!m_fichier.commit())
+        // The flush says why; the commit only that it failed.
+        if (!m_fichier.flush() || !m_fichier.commit())
             echouer();
         return true;
     }
@@ -46,9 +47,13 @@ public:
 private:
     void vider()
     {
-        if (m_fichier.write(m_attente) != m_attente.size())
-            echouer();
-        m_attente.clear();
+        // A disk that fills up takes a part first, and says why at the next.
+        while (!m_attente.isEmpty()) {
+            const qint64 ecrits = m_fichier.write(m_attente);
+            if (ecrits <= 0)
+                echouer();
+            m_attente.remove(0, ecrits);
+        }
     }
     [[noreturn]] void echouer() const
     {
