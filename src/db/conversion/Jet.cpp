@@ -103,12 +103,11 @@ void Jet::noter(const QString &table, unsigned long page)
 void Jet::verifierCatalogue() const
 {
     MdbHandle *mdb = m_poignee->mdb;
-    if (mdb_read_pg(mdb, PageDuCatalogue) > 0 && mdb->pg_buf[0] == MDB_PAGE_TABLE)
-        return;
-    // Pages that are encoded with a key of the header are decoded by the library. Any other cipher leaves pages
-    // that make no sense behind a sound header which has a key.
+    // A key in the header means coded pages. A password alone leaves them clear, and has no key.
     if (mdb->f->db_key != 0)
         refuser(Code::Chiffree, "Le fichier est chiffré.");
+    if (mdb_read_pg(mdb, PageDuCatalogue) > 0 && mdb->pg_buf[0] == MDB_PAGE_TABLE)
+        return;
     refuser(Code::Abimee, "Le catalogue du fichier ne peut pas être lu.");
 }
 
