@@ -1,6 +1,6 @@
 #include "Generateur.h"
 
-#include "core/Collection.h"
+#include "core/Annonces.h"
 #include "core/Dossier.h"
 #include "db/Base.h"
 #include "db/Connexion.h"
@@ -142,7 +142,7 @@ void remplirAlbums(const Base &base, Tirage &tirage, int albums)
 void generer(const QString &chemin, int albums, unsigned graine)
 {
     const Dossier dossier(chemin, Dossier::Livre());
-    const Collection collection;
+    const Annonces annonces;
     if (QFileInfo::exists(dossier.chemin(QStringLiteral("bd.mdb"))))
         return;
     dossier.preparer();

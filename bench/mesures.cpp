@@ -2,18 +2,18 @@
 // The collections are made on first use, in $BULLEO_BENCH, else in "bulleo-bench" of the temporary folder.
 
 #include "Generateur.h"
-#include "browse/ChargerAlbums.h"
-#include "browse/ChargerAuteurs.h"
-#include "browse/General.h"
-#include "browse/ListeEntrees.h"
-#include "core/Collection.h"
+#include "acts/Creer.h"
+#include "core/Annonces.h"
 #include "core/Dossier.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/Comparaison.h"
-#include "db/Creation.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
+#include "model/ChargerAlbums.h"
+#include "model/ChargerAuteurs.h"
+#include "model/General.h"
+#include "model/ListeEntrees.h"
 #include "pictures/Scan.h"
 #include "reports/Listage.h"
 #include "reports/Rechercher.h"
@@ -46,7 +46,7 @@ struct Terrain
     Dossier dossier;
     Reglages reglages;
     Traduction traduction;
-    Collection collection;
+    Annonces annonces;
 };
 
 /// The floor of every list: the same file, the same two columns by the covering index, nothing kept.
@@ -275,7 +275,7 @@ void creer(benchmark::State &etat)
     const Terrain terrain(static_cast<int>(etat.range(0)));
     const Copie copie(terrain);
     const Dossier dossier(copie.dossier.path(), Dossier::Livre());
-    Creation::Album album;
+    Creer::Album album;
     album.titre = QStringLiteral("Un album de plus");
     album.tome = 7;
     album.serie = General::LireTexte(General::Tri::Series, 1);
@@ -285,9 +285,9 @@ void creer(benchmark::State &etat)
     album.dessin = auteurs.texte(0);
     album.scena = auteurs.texte(1);
     album.color = auteurs.texte(2);
-    Creation::CreerAlbum(album); // the authors now have the roles that they lacked
+    Creer::CreerAlbum(album); // the authors now have the roles that they lacked
     for (auto _ : etat)
-        Creation::CreerAlbum(album);
+        Creer::CreerAlbum(album);
 }
 
 void tailles(benchmark::internal::Benchmark *mesure)

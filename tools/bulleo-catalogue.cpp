@@ -1,13 +1,13 @@
 // Makes a reference catalogue from a CSV file: bulleo-catalogue [--strict] SOURCE.csv BDbase.bd. An existing file is
 // replaced once the new one is whole. A bad row is reported with its line and left out; with --strict it stops all.
 
-#include "core/Collection.h"
+#include "core/Annonces.h"
 #include "core/Csv.h"
 #include "core/Error.h"
 #include "db/Base.h"
 #include "db/Module2.h"
-#include "db/Schema.h"
 #include "db/Transaction.h"
+#include "db/schema/Tables.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -136,7 +136,7 @@ void convertir(const QString &source, const QString &cible, bool strict)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    const Collection collection;
+    const Annonces annonces;
     QCommandLineParser lecteur;
     const QCommandLineOption strict(
         QStringLiteral("strict"), QStringLiteral("S'arrête à la première ligne fautive."));

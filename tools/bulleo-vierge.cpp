@@ -1,7 +1,7 @@
 // Makes the blank collection: bulleo-vierge FILE. An older one is replaced.
 
 #include "core/Error.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
 
 #include <QCoreApplication>
 #include <QFile>

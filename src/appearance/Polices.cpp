@@ -2,6 +2,7 @@
 
 #include "core/Reglages.h"
 #include "core/Traduction.h"
+#include "core/ui/Habillage.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
@@ -192,7 +193,7 @@ void Polices::valider()
     reglages.ecrire(Cle::FontSize, QString::number(m_choisie.pointSizeF()));
     reglages.ecrire(Cle::FontName, m_choisie.family());
     reglages.ecrire(Cle::Theme, m_theme->currentIndex());
-    Theme::Relire();
+    Habillage::Relire();
     Q_EMIT apparenceChangee();
     charger();
 }

@@ -7,8 +7,8 @@
 #include "core/ui/Suivi.h"
 #include "core/ui/Theme.h"
 #include "core/ui/TitreGroupe.h"
-#include "db/Reprise.h"
-#include "db/Sauvegardes.h"
+#include "db/files/Reprise.h"
+#include "db/files/Sauvegardes.h"
 
 #include <QFileInfo>
 #include <QHeaderView>

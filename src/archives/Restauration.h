@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/ui/FormeOutil.h"
-#include "db/Conversion.h"
-#include "db/Remplacement.h"
+#include "db/files/Conversion.h"
+#include "db/files/Remplacement.h"
 
 class QLabel;
 class QPlainTextEdit;

@@ -5,9 +5,9 @@
 #include "core/Traduction.h"
 #include "core/ui/Messages.h"
 #include "db/Entete.h"
-#include "db/Remplacement.h"
-#include "db/Sauvegardes.h"
-#include "db/Verification.h"
+#include "db/files/Remplacement.h"
+#include "db/files/Sauvegardes.h"
+#include "db/files/Verification.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "browse/PreparerInfosAlbum.h"
+#include "model/PreparerInfosAlbum.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "browse/ChargerAlbums.h"
 #include "browse/FicheForme.h"
+#include "model/ChargerAlbums.h"
 
 #include <QTimer>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "browse/ChargerAuteurs.h"
 #include "browse/FicheForme.h"
+#include "model/ChargerAuteurs.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "browse/FicheForme.h"
 
-#include "browse/PhotosFiche.h"
+#include "acts/Joindre.h"
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
 #include "core/ui/ChoixPlat.h"
@@ -135,10 +135,9 @@ void FicheForme::brancherCadre(const QString &champ, CadreImage *cadre)
 {
     cadre->poserModifiable();
     connect(cadre, &CadreImage::fichierDepose, this,
-        [this, champ, cadre](const QString &chemin) { PhotosFiche::Poser(editionDe(champ, cadre), chemin); });
-    connect(cadre, &CadreImage::imageCollee, this, [this, champ, cadre](const QImage &image) {
-        PhotosFiche::PoserImage(editionDe(champ, cadre), image);
-    });
+        [this, champ, cadre](const QString &chemin) { Joindre::Poser(editionDe(champ, cadre), chemin); });
+    connect(cadre, &CadreImage::imageCollee, this,
+        [this, champ, cadre](const QImage &image) { Joindre::PoserImage(editionDe(champ, cadre), image); });
     connect(cadre, &CadreImage::ouvertureDemandee, this,
         [this, champ, cadre] { Liens::OuvrirImage(editionDe(champ, cadre).affichee); });
     // A click on an empty frame fills it; one on a picture is only a look.
@@ -183,9 +182,9 @@ void FicheForme::contextMenuEvent(QContextMenuEvent *evenement)
 
 void FicheForme::ecrire(const QString &champ, const QString &saisie, int visite)
 {
-    Ecriture::Resultat resultat;
+    Ecrire::Resultat resultat;
     try {
-        resultat = Ecriture::Ecrire(editionDe(champ, this), saisie, visite);
+        resultat = Ecrire::EcrireSaisie(editionDe(champ, this), saisie, visite);
     } catch (...) {
         remontrer();
         throw;

@@ -1,7 +1,7 @@
 #include "browse/Frmmain.h"
 
+#include "acts/Renommer.h"
 #include "browse/Bandeau.h"
-#include "browse/Libelles.h"
 #include "browse/Pied.h"
 #include "browse/PileFiches.h"
 #include "browse/VoletListes.h"
@@ -18,8 +18,8 @@
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
-#include "db/Reprise.h"
-#include "db/Schema.h"
+#include "db/files/Reprise.h"
+#include "db/schema/Tables.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -349,11 +349,10 @@ void Frmmain::ajouterEntree(Tri tri)
 
 void Frmmain::ajouter(Tri tri, const QString &libelle)
 {
-    Libelles::Ajout ajout;
+    Renommer::Ajout ajout;
     {
-        const Collection::Intitule intitule(
-            texte(Txt::Ajouter) + QStringLiteral(": ") + libelle.simplified());
-        ajout = Libelles::Ajouter(tri, libelle);
+        const Annonces::Intitule intitule(texte(Txt::Ajouter) + QStringLiteral(": ") + libelle.simplified());
+        ajout = Renommer::AjouterEntree(tri, libelle);
     }
     if (ajout.id == 0)
         return;
@@ -368,9 +367,9 @@ void Frmmain::renommer(Tri tri, int id, const QString &libelle)
     if (id == 0)
         return ajouter(tri, libelle);
     const Entree entree{tri, id};
-    const Edition edition{entree, QLatin1String(Libelles::ChampDe(tri).nom), {}, {}, {}, {}, {}};
-    const Collection::Intitule intitule(Ecriture::TitreDe(edition, libelle), QVariant::fromValue(entree));
-    if (Libelles::Renommer(tri, id, libelle) == Libelles::Renommage::Coupe)
+    const Edition edition{entree, QLatin1String(Renommer::ChampDe(tri).nom), {}, {}, {}, {}, {}};
+    const Annonces::Intitule intitule(Ecrire::TitreDe(edition, libelle), QVariant::fromValue(entree));
+    if (Renommer::RenommerEntree(tri, id, libelle) == Renommer::Renommage::Coupe)
         dire(tr("Le titre a été coupé à 50 caractères."));
 }
 

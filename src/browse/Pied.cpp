@@ -1,9 +1,9 @@
 #include "browse/Pied.h"
 
-#include "browse/General.h"
 #include "core/Traduction.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
+#include "model/General.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,9 +1,9 @@
 #include "browse/PileFiches.h"
 
 #include "browse/Accueil.h"
-#include "browse/ChargerAlbums.h"
 #include "browse/FicheAlbum.h"
 #include "browse/FicheEntite.h"
+#include "model/ChargerAlbums.h"
 
 PileFiches::PileFiches(QWidget *parent)
     : QStackedWidget(parent)

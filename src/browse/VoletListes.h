@@ -1,6 +1,6 @@
 #pragma once
 
-#include "browse/General.h"
+#include "model/General.h"
 
 #include <QWidget>
 #include <array>

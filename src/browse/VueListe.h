@@ -1,6 +1,6 @@
 #pragma once
 
-#include "browse/ListeEntrees.h"
+#include "model/ListeEntrees.h"
 
 #include <QListView>
 #include <QTimer>

@@ -2,8 +2,8 @@
 
 #include "core/Error.h"
 #include "db/Base.h"
-#include "db/Schema.h"
 #include "db/Transaction.h"
+#include "db/schema/Tables.h"
 
 namespace {
 

@@ -2,10 +2,10 @@
 
 #include "core/Error.h"
 #include "db/Collation.h"
-#include "db/Moteur.h"
-#include "db/Sauvegardes.h"
-#include "db/Schema.h"
 #include "db/Valeur.h"
+#include "db/files/Moteur.h"
+#include "db/files/Sauvegardes.h"
+#include "db/schema/Tables.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -49,7 +49,7 @@ std::shared_ptr<Connexion> Connexion::ouvrir(const QString &chemin, Entete::Natu
             return connexion;
         } catch (const Error &e) {
             const bool enUsage = e.sorte() == Error::Sorte::EnUsage;
-            if (!enUsage || !Collection::courant().reessayer || !Collection::courant().reessayer(e))
+            if (!enUsage || !Annonces::courant().reessayer || !Annonces::courant().reessayer(e))
                 throw;
         }
     }
@@ -101,7 +101,7 @@ Connexion::~Connexion()
     m_instructions.clear();
     m_db.reset();
     if (m_annonce && !changements.empty())
-        Collection::courant().annoncer(changements);
+        Annonces::courant().annoncer(changements);
 }
 
 Instruction Connexion::preparer(const QString &sql, const QVariantList &valeurs)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Collection.h"
+#include "core/Annonces.h"
 
 struct sqlite3;
 class Base;

@@ -4,7 +4,7 @@
 #include "core/Error.h"
 #include "db/Base.h"
 #include "db/Module2.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
 
 #include <QCoreApplication>
 

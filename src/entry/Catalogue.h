@@ -1,6 +1,6 @@
 #pragma once
 
-#include "browse/Entrees.h"
+#include "model/Entrees.h"
 
 #include <QString>
 #include <optional>

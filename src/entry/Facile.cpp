@@ -96,7 +96,7 @@ void Facile::choisir(const QModelIndex &index)
     const auto reference = Catalogue::LireReference(m_modele.id(index));
     if (!reference)
         return;
-    Creation::Album album;
+    Creer::Album album;
     album.titre = reference->titre;
     album.serie = reference->serie;
     album.dateparu = reference->dateparu;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "browse/ListeEntrees.h"
 #include "entry/FormeCreation.h"
+#include "model/ListeEntrees.h"
 
 class QCheckBox;
 class QLineEdit;

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "acts/Saisie.h"
 #include "core/Txt.h"
 #include "core/ui/Forme.h"
-#include "entry/Saisie.h"
 
 class FormulaireAlbum;
 class QBoxLayout;

@@ -56,8 +56,8 @@ void FormeModification::Traduire()
 {
     libeller(m_valider, texte(Txt::Valider));
     libeller(m_quit, texte(Txt::Fermer));
-    m_champ->setText(Ecriture::LibelleDe(m_edition));
-    setWindowTitle(Ecriture::LibelleDe(m_edition) + QStringLiteral(" - ") + titre());
+    m_champ->setText(Ecrire::LibelleDe(m_edition));
+    setWindowTitle(Ecrire::LibelleDe(m_edition) + QStringLiteral(" - ") + titre());
 }
 
 void FormeModification::editer(const Edition &edition)

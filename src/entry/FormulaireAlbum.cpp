@@ -224,7 +224,7 @@ Saisie::Textes FormulaireAlbum::textes() const
     return t;
 }
 
-void FormulaireAlbum::poser(const Creation::Album &album, const QString &tome)
+void FormulaireAlbum::poser(const Creer::Album &album, const QString &tome)
 {
     m_titre->setText(album.titre);
     m_tome->setText(tome);

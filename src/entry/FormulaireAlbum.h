@@ -1,7 +1,7 @@
 #pragma once
 
+#include "acts/Saisie.h"
 #include "core/Txt.h"
-#include "entry/Saisie.h"
 
 #include <QWidget>
 #include <vector>
@@ -27,7 +27,7 @@ public:
     FormulaireAlbum(bool date, QWidget *parent);
 
     Saisie::Textes textes() const;
-    void poser(const Creation::Album &album, const QString &tome);
+    void poser(const Creer::Album &album, const QString &tome);
     void vider();
     void proposer(const Saisie::Choix &choix);
     /// Proposes a tome, unless the user typed one.

@@ -84,9 +84,9 @@ void FrmModif::Traduire()
 {
     FormeModification::Traduire();
     expliquer(m_menu, texte(Txt::Ajouter));
-    m_saisie->setAccessibleName(Ecriture::LibelleDe(edition()));
-    m_liste->setAccessibleName(Ecriture::LibelleDe(edition()));
-    m_date->setAccessibleName(Ecriture::LibelleDe(edition()));
+    m_saisie->setAccessibleName(Ecrire::LibelleDe(edition()));
+    m_liste->setAccessibleName(Ecrire::LibelleDe(edition()));
+    m_date->setAccessibleName(Ecrire::LibelleDe(edition()));
     m_date->setLocale(Traduction::courant().locale());
 }
 
@@ -94,7 +94,7 @@ void FrmModif::charger()
 {
     m_choisie = {0, edition().affichee};
     m_saisie->setText(edition().affichee);
-    RendreDateVisible(Modification::EstUneDate(edition()));
+    RendreDateVisible(Choisir::EstUneDate(edition()));
     m_depart = m_saisie->text();
     m_saisie->selectAll();
     m_saisie->setFocus();
@@ -115,7 +115,7 @@ void FrmModif::RendreDateVisible(bool visible)
 void FrmModif::remplir()
 {
     const QScopedValueRollback montre(m_montre, true);
-    General::Choix choix = Modification::LireChoix(edition());
+    General::Choix choix = Choisir::LireChoix(edition());
     m_modele.filtrer({});
     m_modele.remplir(General::Tri::Series, std::move(choix.entrees));
     const QModelIndex tenue = m_modele.index(choix.choisie);
@@ -170,7 +170,7 @@ bool FrmModif::estOffert(const QString &nom) const
 
 bool FrmModif::VerifierExist(const QString &nom) const
 {
-    return Modification::Chercher(edition(), nom) > 0;
+    return Choisir::Chercher(edition(), nom) > 0;
 }
 
 void FrmModif::ajouter()
@@ -185,7 +185,7 @@ void FrmModif::ajouter()
         Messages::Avertir(this, tr("La donnée existe déjà !"));
         return;
     }
-    const int id = Modification::Ajouter(edition(), nom);
+    const int id = Choisir::Ajouter(edition(), nom);
     remplir();
     m_liste->setCurrentIndex(m_modele.indexDe(id));
     m_liste->scrollTo(m_liste->currentIndex());
@@ -200,7 +200,7 @@ void FrmModif::valider()
         close();
         return;
     }
-    const QString refus = Modification::Valider(edition(), m_choisie);
+    const QString refus = Choisir::Valider(edition(), m_choisie);
     if (!refus.isEmpty()) {
         // What was picked may be gone: its text stays, to be found or made by the next try.
         m_choisie.id = 0;

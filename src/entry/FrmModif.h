@@ -1,8 +1,8 @@
 #pragma once
 
-#include "browse/ListeEntrees.h"
+#include "acts/Choisir.h"
 #include "entry/FormeModification.h"
-#include "entry/Modification.h"
+#include "model/ListeEntrees.h"
 
 class QCalendarWidget;
 class QLineEdit;
@@ -40,7 +40,7 @@ private:
     QToolButton *m_menu = nullptr;
     QListView *m_liste = nullptr;
     QCalendarWidget *m_date = nullptr;
-    Modification::Choisie m_choisie;
+    Choisir::Choisie m_choisie;
     QString m_depart; ///< what the form began with
     int m_tenue = 0; ///< the entry that the field holds
     bool m_montre = false; ///< the current entry or day is set by the form, not by the user

@@ -24,7 +24,7 @@ FrmModif2::FrmModif2()
 void FrmModif2::Traduire()
 {
     FormeModification::Traduire();
-    m_saisie->setAccessibleName(Ecriture::LibelleDe(edition()));
+    m_saisie->setAccessibleName(Ecrire::LibelleDe(edition()));
 }
 
 void FrmModif2::charger()
@@ -42,7 +42,7 @@ void FrmModif2::valider()
         close();
         return;
     }
-    const Ecriture::Resultat resultat = Ecriture::Ecrire(edition(), m_saisie->text());
+    const Ecrire::Resultat resultat = Ecrire::EcrireSaisie(edition(), m_saisie->text());
     if (!resultat.refus.isEmpty()) {
         refuser(resultat.refus);
         m_saisie->setFocus();

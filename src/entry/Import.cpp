@@ -19,7 +19,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-using namespace ImporterAlbums;
+using namespace Importer;
 
 namespace {
 
@@ -46,7 +46,7 @@ QString ouiNon(bool oui)
 }
 
 /// An album's parts as texts, in the order of the fields.
-QStringList cellulesDe(const Creation::Album &a)
+QStringList cellulesDe(const Creer::Album &a)
 {
     return {a.titre, a.tome > 0 ? QString::number(a.tome) : QString(), a.serie, a.dateparu, a.editeur,
         ouiNon(a.broche), ouiNon(a.couleur), ouiNon(a.integrale), a.genre, a.dessin, a.color, a.scena,
@@ -249,7 +249,7 @@ void Import::importer()
     Rapport rapport;
     {
         Suivi suivi(progression(), annuler());
-        rapport = Importer(
+        rapport = ImporterAlbums(
             m_chemin, correspondance(), doublons, [&](int pourcent) { return suivi.avancer(pourcent); });
     }
     montrerRapport(rapport);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "acts/Importer.h"
 #include "core/ui/FormeOutil.h"
-#include "entry/ImporterAlbums.h"
 
 class QComboBox;
 class QGridLayout;
@@ -36,20 +36,20 @@ private:
     void choisirFichier();
     void proposerColonnes();
     void nommerFichier();
-    ImporterAlbums::Correspondance correspondance() const;
+    Importer::Correspondance correspondance() const;
     void montrerExemples();
-    void montrerRapport(const ImporterAlbums::Rapport &rapport);
+    void montrerRapport(const Importer::Rapport &rapport);
     void importer();
 
     QString m_chemin;
-    ImporterAlbums::Apercu m_apercu;
+    Importer::Apercu m_apercu;
     bool m_importe = false; ///< this file has come in
     QLabel *m_fichier = nullptr;
     QPushButton *m_choisir = nullptr;
     TitreGroupe *m_titreColonnes = nullptr;
     TitreGroupe *m_titreExemples = nullptr;
-    std::array<QLabel *, ImporterAlbums::NombreDeChamps> m_libelles{};
-    std::array<QComboBox *, ImporterAlbums::NombreDeChamps> m_colonnes{};
+    std::array<QLabel *, Importer::NombreDeChamps> m_libelles{};
+    std::array<QComboBox *, Importer::NombreDeChamps> m_colonnes{};
     QTableWidget *m_exemples = nullptr;
     QComboBox *m_doublons = nullptr;
     QLabel *m_libelleDoublons = nullptr;

@@ -1,7 +1,8 @@
 #include "entry/Pop.h"
 
-#include "browse/AccordPourLaNote.h"
-#include "browse/PhotosFiche.h"
+#include "acts/Choisir.h"
+#include "acts/Joindre.h"
+#include "acts/Supprimer.h"
 #include "core/Images.h"
 #include "core/Texte.h"
 #include "core/Traduction.h"
@@ -10,8 +11,6 @@
 #include "core/ui/Langues.h"
 #include "core/ui/Liens.h"
 #include "core/ui/Messages.h"
-#include "entry/Modification.h"
-#include "entry/Suppression.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -53,7 +52,7 @@ QString pourMenu(const QString &texte)
 
 bool estDedicace(const Edition &edition)
 {
-    return Ecriture::NomDe(edition) == QLatin1String("Dedi");
+    return Ecrire::NomDe(edition) == QLatin1String("Dedi");
 }
 
 }
@@ -126,10 +125,10 @@ void Pop::remplirEntree()
 
 void Pop::remplirValeur()
 {
-    const Champ *champ = Ecriture::ChampDe(m_edition);
+    const Champ *champ = Ecrire::ChampDe(m_edition);
     const bool image = champ && champ->vue == Vue::Image;
     const bool dediImage = estDedicace(m_edition) && Images::EstUneImage(m_edition.affichee);
-    const QString libelle = QStringLiteral(": ") + Ecriture::LibelleDe(m_edition);
+    const QString libelle = QStringLiteral(": ") + Ecrire::LibelleDe(m_edition);
     if (champ && champ->vue == Vue::Lien && !Texte::EstVide(m_edition.affichee))
         commande("Visu", texte(Txt::VisiterLeSite), [this] { Liens::Ouvrir(m_edition.affichee); });
     if ((image || dediImage) && !Images::Trouver(m_edition.affichee).isEmpty())
@@ -139,8 +138,8 @@ void Pop::remplirValeur()
     const bool legende = !champ || champ->voie != Champs::Voie::Directe;
     if (legende && !dediImage)
         commande("modifier", texte(Txt::Modifier) + libelle, [this] { Q_EMIT editionDemandee(m_edition); });
-    if (Modification::PeutVider(m_edition) && !dediImage)
-        commande("supprimer", texte(Txt::Supprimer) + libelle, [this] { Modification::Vider(m_edition); });
+    if (Choisir::PeutVider(m_edition) && !dediImage)
+        commande("supprimer", texte(Txt::Supprimer) + libelle, [this] { Choisir::Vider(m_edition); });
 }
 
 void Pop::remplirImage()
@@ -152,17 +151,18 @@ void Pop::remplirImage()
         = dedicace ? Images::EstUneImage(m_edition.affichee) : !Texte::EstVide(m_edition.affichee);
     if (pleine)
         commande(dedicace ? "suppimagededi" : "Supphoto", texte(Txt::SupprimerLImage),
-            [this] { PhotosFiche::Oter(m_edition); });
+            [this] { Joindre::Oter(m_edition); });
 }
 
 void Pop::choisirImage(const Edition &edition)
 {
     QWidget *devant = QApplication::activeWindow();
-    if (!AccordPourLaNote(devant, edition))
+    const QString question = Joindre::QuestionSurLaNote(edition);
+    if (!question.isEmpty() && !Messages::Demander(devant, question))
         return;
     const QString chemin = ChoisirImage(devant);
     if (!chemin.isEmpty())
-        PhotosFiche::Poser(edition, chemin);
+        Joindre::Poser(edition, chemin);
 }
 
 void Pop::supprimer(General::Entree entree)
@@ -171,5 +171,5 @@ void Pop::supprimer(General::Entree entree)
     const QString question
         = texte(Txt::VoulezVousSupprimer) + QStringLiteral(" '") + nom + QStringLiteral("' ?");
     if (Messages::Demander(QApplication::activeWindow(), question))
-        Suppression::Supprimer(entree);
+        Supprimer::SupprimerEntree(entree);
 }

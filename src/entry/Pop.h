@@ -1,6 +1,6 @@
 #pragma once
 
-#include "browse/Edition.h"
+#include "acts/Ecrire.h"
 #include "core/ui/Forme.h"
 
 #include <QMenu>

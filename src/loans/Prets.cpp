@@ -1,12 +1,12 @@
 #include "loans/Prets.h"
 
-#include "browse/General.h"
-#include "core/Collection.h"
+#include "core/Annonces.h"
 #include "core/Dates.h"
 #include "core/Texte.h"
 #include "core/Traduction.h"
 #include "db/AccesBase.h"
 #include "db/Base.h"
+#include "model/General.h"
 
 #include <QCoreApplication>
 
@@ -59,7 +59,7 @@ std::vector<Prets::Pret> Prets::LirePrets(int emprunteur)
 void Prets::Rendre(int album)
 {
     const General::Entree entree{General::Tri::Albums, album};
-    const Collection::Intitule intitule(QCoreApplication::translate("Prets", "Retour") + QStringLiteral(": ")
+    const Annonces::Intitule intitule(QCoreApplication::translate("Prets", "Retour") + QStringLiteral(": ")
             + General::LireTexte(entree.tri, album),
         QVariant::fromValue(entree));
     const Base base;
@@ -75,6 +75,6 @@ void Prets::Rendre(int album)
 
 void Prets::SupprimerEmprunteur(int emprunteur)
 {
-    const Collection::Intitule intitule(texte(Txt::Supprimer) + QStringLiteral(": ") + nomDe(emprunteur));
+    const Annonces::Intitule intitule(texte(Txt::Supprimer) + QStringLiteral(": ") + nomDe(emprunteur));
     AccesBase::SupprimerLignes(QStringLiteral("Pret"), QStringLiteral("NPret"), emprunteur);
 }

@@ -1,7 +1,6 @@
 #include "pictures/Acquisition.h"
 
-#include "browse/AccordPourLaNote.h"
-#include "browse/PhotosFiche.h"
+#include "acts/Joindre.h"
 #include "core/Dossier.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
@@ -360,9 +359,10 @@ void Acquisition::utiliser(int rang)
     Edition edition;
     edition.entree = m_courante;
     edition.champ = QLatin1String(ChampsDImage[rang]);
-    if (!AccordPourLaNote(this, edition))
+    const QString question = Joindre::QuestionSurLaNote(edition);
+    if (!question.isEmpty() && !Messages::Demander(this, question))
         return;
-    PhotosFiche::PoserImage(edition, m_photo->image());
+    Joindre::PoserImage(edition, m_photo->image());
     dire(tr("C'est fait : %1").arg(m_utiliser[static_cast<std::size_t>(rang)]->text()));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "browse/General.h"
 #include "core/ui/Forme.h"
+#include "model/General.h"
 #include "pictures/Acquereur.h"
 
 class BoiteImage;

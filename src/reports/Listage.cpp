@@ -1,12 +1,12 @@
 #include "reports/Listage.h"
 
-#include "browse/ChargerAlbums.h"
-#include "browse/ChargerAuteurs.h"
-#include "browse/Fiche.h"
 #include "core/Images.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
+#include "model/ChargerAlbums.h"
+#include "model/ChargerAuteurs.h"
+#include "model/Fiche.h"
 
 #include <QCoreApplication>
 #include <memory>

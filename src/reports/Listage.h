@@ -1,7 +1,7 @@
 #pragma once
 
-#include "browse/Champs.h"
-#include "browse/General.h"
+#include "model/Champs.h"
+#include "model/General.h"
 
 #include <QStringList>
 #include <functional>

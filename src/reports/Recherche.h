@@ -1,7 +1,7 @@
 #pragma once
 
-#include "browse/ListeEntrees.h"
 #include "core/ui/FormeOutil.h"
+#include "model/ListeEntrees.h"
 #include "reports/Rechercher.h"
 
 class QCheckBox;

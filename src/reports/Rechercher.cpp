@@ -1,7 +1,7 @@
 #include "reports/Rechercher.h"
 
 #include "db/Base.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
 
 namespace {
 

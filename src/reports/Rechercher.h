@@ -1,6 +1,6 @@
 #pragma once
 
-#include "browse/General.h"
+#include "model/General.h"
 
 /// The search by name among the entries of one kind.
 namespace Rechercher {

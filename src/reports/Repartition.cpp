@@ -1,9 +1,9 @@
 #include "reports/Repartition.h"
 
-#include "browse/Fiche.h"
 #include "core/Dates.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
+#include "model/Fiche.h"
 
 #include <QCoreApplication>
 #include <algorithm>

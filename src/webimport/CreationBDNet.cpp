@@ -1,9 +1,9 @@
 #include "webimport/CreationBDNet.h"
 
-#include "browse/Fiche.h"
-#include "core/Collection.h"
+#include "acts/Creer.h"
+#include "core/Annonces.h"
 #include "core/Traduction.h"
-#include "db/Creation.h"
+#include "model/Fiche.h"
 
 #include <QCoreApplication>
 
@@ -32,7 +32,7 @@ std::optional<Refus> CreationBDNet::Verifier(const Saisie &saisie)
 int CreationBDNet::Creer(const Saisie &saisie)
 {
     const auto champ = [&](Champ rang) { return saisie.champs[rang].trimmed(); };
-    Creation::Album album;
+    Creer::Album album;
     album.titre = champ(Titre);
     album.tome = Fiche::Verifier(regle("NumBD"), champ(Tome))->toInt();
     album.serie = champ(Serie);
@@ -48,6 +48,6 @@ int CreationBDNet::Creer(const Saisie &saisie)
     album.histoire = saisie.histoire;
     album.photo1 = saisie.photos[0];
     album.photo2 = saisie.photos[1];
-    const Collection::Intitule intitule(texte(Txt::Creation) + QStringLiteral(": ") + album.titre);
-    return Creation::CreerAlbum(album);
+    const Annonces::Intitule intitule(texte(Txt::Creation) + QStringLiteral(": ") + album.titre);
+    return Creer::CreerAlbum(album);
 }

@@ -130,7 +130,7 @@ void tst_accesbase::oterUnRoleIgnoreLesErreurs()
     Bac::executer("INSERT INTO AuteursAlbums VALUES (1, 7, true, false, false), (2, 7, true, false, false)");
     Bac::executer("CREATE TRIGGER Refus BEFORE DELETE ON AuteursAlbums WHEN OLD.NAuteur = 2"
                   " BEGIN SELECT raise(ABORT, 'non'); END");
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     const auto annonces = ecoute.annonces().size();
     OterRole(7, Role::Dessin);
     QCOMPARE(Bac::valeur("SELECT count(*) FROM AuteursAlbums WHERE Dessin=true"), 2);

@@ -1,6 +1,6 @@
 #include "db/Base.h"
-#include "db/Schema.h"
 #include "db/Transaction.h"
+#include "db/schema/Tables.h"
 #include "support/Bac.h"
 #include "support/Refus.h"
 
@@ -107,11 +107,11 @@ void tst_base::unFichierTenuAilleursEstEnUsageJusquAuNouvelEssai()
     QVERIFY2(temps.elapsed() < 1500, qPrintable(QString::number(temps.elapsed())));
 
     int questions = 0;
-    bac.collectionCourante.reessayer = [&](const Error &) { return ++questions < 2; };
+    bac.annonces.reessayer = [&](const Error &) { return ++questions < 2; };
     QVERIFY(refus([] { Base(); }) == Error::Sorte::EnUsage);
     QCOMPARE(questions, 2);
 
-    bac.collectionCourante.reessayer = [&](const Error &) {
+    bac.annonces.reessayer = [&](const Error &) {
         teneur.closeWriteChannel();
         return ++questions < 10 && teneur.waitForFinished();
     };
@@ -275,7 +275,7 @@ int prendre(const QString &fichier, bool garder)
 
 int ecrireSansFin(const QString &fichier, qint64 debut)
 {
-    Collection collection;
+    Annonces annonces;
     QTextStream sortie(stdout);
     for (qint64 i = debut;; ++i) {
         const Base base(fichier, Entete::Nature::Collection);
@@ -300,7 +300,7 @@ int roleDAutre(const QStringList &arguments)
         return prendre(fichier, role == "tenir");
     if (role == "ecrire")
         return ecrireSansFin(fichier, arguments.value(3).toLongLong());
-    Collection collection;
+    Annonces annonces;
     return int(refus([&] { Base(fichier, Entete::Nature::Collection); }).value_or(Error::Sorte::Autre));
 }
 

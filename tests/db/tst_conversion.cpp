@@ -2,8 +2,8 @@
 #include "core/Outil.h"
 #include "db/Base.h"
 #include "db/Collation.h"
-#include "db/Conversion.h"
-#include "db/Schema.h"
+#include "db/files/Conversion.h"
+#include "db/schema/Tables.h"
 #include "entry/Catalogue.h"
 #include "support/Bac.h"
 #include "support/EcrivainJet.h"
@@ -61,7 +61,7 @@ constexpr qsizetype Page = 4096;
 
 QString materiel(const QString &nom)
 {
-    return qEnvironmentVariable("BULLEO_FIXTURES", FIXTURES) + u'/' + nom;
+    return qEnvironmentVariable("BULLEO_ANCIENNES", ANCIENNES) + u'/' + nom;
 }
 
 /// A cell as the comparison sees it: Null and empty are one, since the old reader cannot tell them apart.

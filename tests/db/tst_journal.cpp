@@ -64,7 +64,7 @@ Changements derniere(Ecoute &ecoute)
 void tst_journal::chaqueEcritureEstNoteeEtAnnonceeUneFois()
 {
     Bac bac;
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     {
         const Base base;
         base.Execute("INSERT INTO Pret VALUES (4, 'Écume', NULL, '')");
@@ -97,7 +97,7 @@ void tst_journal::uneAnnulationNEffaceQueSaPart()
     QFETCH(bool, interne);
     QFETCH(QString, reste);
     Bac bac;
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     {
         const Base base;
         const auto inserer = [&](int cle) { base.Execute("INSERT INTO Genre VALUES (?, '')", {cle}); };
@@ -138,7 +138,7 @@ void tst_journal::uneInstructionRefuseeNeLaissePasDeTrace()
     Bac bac;
     remplir();
     const QStringList avant = Bac::toutLire();
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     ecoute.annonces();
     {
         const Base base;
@@ -178,7 +178,7 @@ void tst_journal::annulerEtRefaireRendentLigneParLigne()
     Bac bac;
     remplir();
     const QStringList avant = Bac::toutLire();
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     {
         const Base base;
         for (const QString &acte : std::as_const(actes))
@@ -216,7 +216,7 @@ void tst_journal::annulerRefuseUneLigneChangeeDepuis()
     QFETCH(QString, entretemps);
     Bac bac;
     remplir();
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     {
         const Base base;
         base.Execute("UPDATE LAlbums SET TAlbum = 'neuf' WHERE NAlbum = 1");

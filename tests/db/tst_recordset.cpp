@@ -163,7 +163,7 @@ void tst_recordset::uneEditionSansChangementNEcritRien()
     Bac::executer(
         "INSERT INTO Album (Num, NAlbum, ISBN, ISSN, PrixA, Broche) VALUES (1, 12, ?, '', 12.34, true)",
         {"L'été"});
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     const auto annonces = ecoute.annonces().size();
     const QByteArray avant = Bac::lire(bac.collection());
     {

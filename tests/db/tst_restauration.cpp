@@ -1,8 +1,8 @@
-#include "browse/General.h"
-#include "db/Historique.h"
-#include "db/Remplacement.h"
-#include "db/Sauvegardes.h"
-#include "db/Schema.h"
+#include "acts/Historique.h"
+#include "db/files/Remplacement.h"
+#include "db/files/Sauvegardes.h"
+#include "db/schema/Tables.h"
+#include "model/General.h"
 #include "support/Autre.h"
 #include "support/Bac.h"
 #include "support/Ecoute.h"
@@ -122,7 +122,7 @@ void tst_restauration::laBaseRemplaceeEstGardee()
     QFETCH(QByteArray, octets);
     const bool saine = qstrcmp(QTest::currentDataTag(), "saine") == 0;
     Bac bac;
-    const Historique histoire(bac.collectionCourante);
+    const Historique histoire(bac.annonces);
     Bac::executer("INSERT INTO Genre VALUES (1, 'un')");
     QVERIFY(histoire.peutAnnuler());
     Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("la nouvelle"));
@@ -131,7 +131,7 @@ void tst_restauration::laBaseRemplaceeEstGardee()
         Bac::ecrire(bac.collection(), octets);
         if (!saine)
             Bac::ecrire(bac.collection() + "-journal", "un reste");
-        Ecoute ecoute(bac.collectionCourante);
+        Ecoute ecoute(bac.annonces);
         QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
         QCOMPARE(titreEcrit(), "la nouvelle");
         QVERIFY(!histoire.peutAnnuler());

@@ -1,8 +1,8 @@
 #include "db/Base.h"
 #include "db/Journal.h"
-#include "db/Sauvegardes.h"
 #include "db/Transaction.h"
-#include "db/Verification.h"
+#include "db/files/Sauvegardes.h"
+#include "db/files/Verification.h"
 #include "support/Bac.h"
 
 #include <QDir>
@@ -51,7 +51,7 @@ struct Etabli
     }
 
     Bac bac;
-    Collection::SuiviDesSauvegardes &suivi = bac.collectionCourante.sauvegardes;
+    Annonces::SuiviDesSauvegardes &suivi = bac.annonces.sauvegardes;
     QDateTime heure = instant("2026-11-21 18-05-12");
 };
 

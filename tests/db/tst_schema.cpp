@@ -1,6 +1,6 @@
 #include "db/Base.h"
 #include "db/Journal.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
 #include "support/Bac.h"
 #include "support/Ecoute.h"
 #include "support/Refus.h"
@@ -88,7 +88,7 @@ void tst_schema::unAncienFichierEstMisANiveau()
     remplir({0, 1, 190, 191});
     if (!sansChamps)
         Bac::executer("UPDATE SerieAlbums SET NumeroAlbum2 = 'ancienne'");
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     const auto annonces = ecoute.annonces().size();
 
     Schema::MettreANiveau();
@@ -112,7 +112,7 @@ void tst_schema::uneFicheDAvantLesChampsSupprimeeRevient()
     vieillir(true);
     remplir({5});
     Schema::MettreANiveau();
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     ecoute.annonces();
     Bac::executer("DELETE FROM SerieAlbums");
     Bac::executer("DELETE FROM Album");

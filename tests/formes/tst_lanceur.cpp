@@ -1,7 +1,8 @@
 #include "browse/Frmmain.h"
 #include "core/Fonds.h"
+#include "core/ui/Habillage.h"
 #include "core/ui/Theme.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
 #include "support/Seance.h"
 
 #include <QAbstractButton>
@@ -159,7 +160,7 @@ void tst_lanceur::laPoliceVautPourListesEtFiches()
     // With no colour of its own, the list takes that of the windows.
     QVERIFY(!Seance::trouver<QWidget>("Liste")->testAttribute(Qt::WA_SetPalette));
     s.bac.reglages.ecrire(Cle::Theme, 1);
-    Theme::Relire();
+    Habillage::Relire();
     QVERIFY(!Theme::EstSombre(QApplication::palette()));
 }
 

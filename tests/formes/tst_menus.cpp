@@ -1,5 +1,5 @@
-#include "browse/General.h"
 #include "core/Dates.h"
+#include "model/General.h"
 #include "support/Apres.h"
 #include "support/Seance.h"
 

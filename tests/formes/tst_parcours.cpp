@@ -1,4 +1,4 @@
-#include "browse/General.h"
+#include "model/General.h"
 #include "support/Seance.h"
 
 #include <QCheckBox>

@@ -1,5 +1,5 @@
+#include "acts/Historique.h"
 #include "core/Dates.h"
-#include "db/Historique.h"
 #include "loans/Prets.h"
 #include "support/Apres.h"
 
@@ -81,7 +81,7 @@ void tst_prets::rendreEtSupprimer()
     peupler();
     const QStringList avant = Bac::toutLire();
     const QStringList attendu = apres(reference);
-    Historique histoire(bac.collectionCourante);
+    Historique histoire(bac.annonces);
     // Once more is no error, and no further step.
     for (int i = 0; i < 2; ++i) {
         rend ? Prets::Rendre(id) : Prets::SupprimerEmprunteur(id);

@@ -1,7 +1,7 @@
-#include "browse/ChargerAlbums.h"
+#include "acts/Creer.h"
 #include "core/Csv.h"
 #include "core/Traduction.h"
-#include "db/Creation.h"
+#include "model/ChargerAlbums.h"
 #include "reports/MiseEnPage.h"
 #include "reports/Repartition.h"
 #include "support/Bac.h"
@@ -54,12 +54,12 @@ QStringList premiere(const Tableau &tableau)
 
 int creer(const char *titre, const char *serie = "", int tome = 0, const char *paru = "")
 {
-    Creation::Album album;
+    Creer::Album album;
     album.titre = QString::fromUtf8(titre);
     album.serie = QString::fromUtf8(serie);
     album.tome = tome;
     album.dateparu = QString::fromUtf8(paru);
-    return Creation::CreerAlbum(album);
+    return Creer::CreerAlbum(album);
 }
 
 /// What the sheet shows for a field, in the words of a list.

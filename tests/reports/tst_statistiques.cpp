@@ -117,7 +117,7 @@ void tst_statistiques::lesLiensPerdusSontOtes()
              "GenreAlbums(NGenre", "SerieAlbums(NSerie"})
         Bac::executer(QStringLiteral("INSERT INTO %1, NAlbum) VALUES (99999, 1), (1, 99999), (NULL, 1)")
                           .arg(QLatin1String(lien)));
-    Ecoute ecoute(bac.collectionCourante);
+    Ecoute ecoute(bac.annonces);
     ecoute.annonces();
     const std::size_t annonces = ecoute.annonces().size();
     Statistiques::Nettoyer();

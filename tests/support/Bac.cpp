@@ -1,7 +1,7 @@
 #include "support/Bac.h"
 
 #include "db/Base.h"
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Collection.h"
+#include "core/Annonces.h"
 #include "core/Dossier.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
@@ -39,5 +39,5 @@ public:
     Dossier dossier;
     Reglages reglages;
     Traduction traduction;
-    Collection collectionCourante;
+    Annonces annonces;
 };

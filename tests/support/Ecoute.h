@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Collection.h"
+#include "core/Annonces.h"
 
 #include <QCoreApplication>
 #include <vector>
@@ -9,9 +9,9 @@
 class Ecoute
 {
 public:
-    explicit Ecoute(Collection &collection)
+    explicit Ecoute(Annonces &annonces)
     {
-        QObject::connect(&collection, &Collection::changee, &m_contexte,
+        QObject::connect(&annonces, &Annonces::changee, &m_contexte,
             [this](const Changements &changements) { m_annonces.push_back(changements); });
     }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Application.h"
-#include "Bureau.h"
+#include "app/Application.h"
+#include "app/Bureau.h"
+#include "core/ui/Habillage.h"
 #include "core/ui/Messages.h"
-#include "core/ui/Theme.h"
 #include "support/Bac.h"
 
 #include <QAbstractButton>
@@ -19,7 +19,7 @@ struct Seance
     explicit Seance(bool dejaVu = true)
         : bac(QStringLiteral(EXEMPLE))
     {
-        static const bool habillee = (Theme::Appliquer(*qApp), true);
+        static const bool habillee = (Habillage::Appliquer(*qApp), true);
         Q_UNUSED(habillee)
         if (dejaVu)
             bac.reglages.ecrire(Cle::FirstTime, 1);

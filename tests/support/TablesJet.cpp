@@ -1,6 +1,6 @@
 #include "support/EcrivainJet.h"
 
-#include "db/Schema.h"
+#include "db/schema/Tables.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Makes the sample collection, a complete application folder: bulleo-exemple SOURCES SHIPPED FOLDER. What is
 // shipped comes from SHIPPED, the entries from the CSV files of SOURCES; an older FOLDER is replaced.
 
-#include "core/Collection.h"
+#include "core/Annonces.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
 #include "exemple/Couvertures.h"
@@ -25,7 +25,7 @@ int main(int argc, char *argv[])
     try {
         QDir(mots[3]).removeRecursively();
         const Dossier dossier(mots[3], mots[2]);
-        const Collection collection;
+        const Annonces annonces;
         dossier.preparer();
         remplirExemple(mots[1]);
         dessinerCouvertures();

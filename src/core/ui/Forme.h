@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Collection.h"
+#include "core/Annonces.h"
 
 #include <QWidget>
 

@@ -4,7 +4,6 @@
 #include <QFont>
 #include <QPalette>
 
-class QApplication;
 class QPushButton;
 
 /// Paper and ink: the colours, sizes and fonts that make all windows look like one program. Colours travel
@@ -20,10 +19,6 @@ constexpr int Grand = 22;
 /// Light or dark: as the desktop wants it, or as the user does.
 enum class Choix { Bureau, Clair, Sombre };
 
-/// Gives the program its look, and follows the desktop and the setting from then on.
-void Appliquer(QApplication &application);
-/// Takes the colours anew, after the setting changed.
-void Relire();
 bool EstSombre(const QPalette &p);
 
 /// The desk on which the sheet lies.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "db/Schema.h"
 #include "db/conversion/TableJet.h"
+#include "db/schema/Tables.h"
 
 #include <QByteArray>
 #include <QString>

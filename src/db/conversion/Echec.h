@@ -1,6 +1,6 @@
 #pragma once
 
-#include "db/Conversion.h"
+#include "db/files/Conversion.h"
 
 #include <QString>
 #include <stdexcept>

@@ -1,8 +1,8 @@
 #include "db/conversion/Neuve.h"
 
 #include "db/Collation.h"
-#include "db/Conversion.h"
 #include "db/conversion/Echec.h"
+#include "db/files/Conversion.h"
 
 #include <QFile>
 #include <QFileInfo>

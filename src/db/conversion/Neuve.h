@@ -1,7 +1,7 @@
 #pragma once
 
-#include "db/Schema.h"
 #include "db/conversion/Cellules.h"
+#include "db/schema/Tables.h"
 
 #include <QString>
 #include <memory>

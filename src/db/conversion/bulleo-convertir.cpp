@@ -3,9 +3,9 @@
 // output is written down in db/Conversion.h.
 
 #include "core/Error.h"
-#include "db/Conversion.h"
 #include "db/conversion/Convertisseur.h"
 #include "db/conversion/Echec.h"
+#include "db/files/Conversion.h"
 
 #include <QCoreApplication>
 #include <SQLiteCpp/Exception.h>

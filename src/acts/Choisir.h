@@ -1,0 +1,38 @@
+#pragma once
+
+#include "acts/Ecrire.h"
+
+/// The choice of a value that is an entry of another table, or a date: what is offered for a field, and what
+/// happens when one is taken. All throw Error.
+namespace Choisir {
+
+/// True for a field that a date is chosen for.
+bool EstUneDate(const Edition &edition);
+
+/// The entries to choose from, with the one that the field holds.
+General::Choix LireChoix(const Edition &edition);
+
+/// A choice: an entry of the list, or a text that was typed. Without both it is empty.
+struct Choisie
+{
+    int id = 0;
+    QString texte;
+};
+
+/// The entry that a typed text names, whatever case; 0 for none. A person is "name, first name", a contributor
+/// "first name , name".
+int Chercher(const Edition &edition, const QString &texte);
+
+/// Adds an entry to the field's table; an author gets the trade of the field. Returns its identifier.
+int Ajouter(const Edition &edition, const QString &texte);
+
+/// True when the field holds something and may be emptied; names and titles may not.
+bool PeutVider(const Edition &edition);
+/// Stores nothing in the field, as one step.
+void Vider(const Edition &edition);
+
+/// Stores a choice as one step: finds or makes the entry, replaces the album's links of that table, writes the
+/// field. Says why not, in one line, when the entry edited or the one chosen is gone; nothing is written then.
+QString Valider(const Edition &edition, const Choisie &choisie);
+
+}

@@ -1,0 +1,117 @@
+#include "acts/EcrireGrilles.h"
+
+#include "core/Texte.h"
+#include "db/AccesBase.h"
+#include "db/Base.h"
+#include "db/Transaction.h"
+
+namespace {
+
+/// What a cell of a grid says; the dots say nothing.
+QString nu(const QString &texte)
+{
+    return Texte::EstVide(texte) ? QString() : texte.trimmed();
+}
+
+/// The row of a named entry that a query finds, or a new one with these names; 0 for a blank name.
+int trouverOuFaire(const Base &base, const QString &table, const QString &cle, const QString &recherche,
+    const QStringList &noms)
+{
+    if (noms.first().isEmpty())
+        return 0;
+    QVariantList valeurs;
+    for (const QString &nom : noms)
+        valeurs << nom;
+    const auto trouve = base.OpenRecordset(recherche, valeurs);
+    if (!trouve.AtEnd())
+        return trouve.Fields(cle).toInt();
+    const int numero = AccesBase::NouvelIdentifiant(table, cle);
+    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From ") + table);
+    rs.AddNew();
+    rs.SetField(cle, numero);
+    rs.SetField(QStringLiteral("Nom"), noms.first());
+    if (noms.size() > 1)
+        rs.SetField(QStringLiteral("Prenom"), noms.at(1));
+    rs.Update();
+    return numero;
+}
+
+/// A surname alone is looked up alone; with a first name before the comma both must agree.
+int trouverIntervenant(const Base &base, const QString &texte)
+{
+    const QString table = QStringLiteral("Inter");
+    const QString cle = QStringLiteral("NInter");
+    const qsizetype virgule = texte.indexOf(u',');
+    if (virgule < 0 || texte.mid(virgule + 1).trimmed().isEmpty())
+        return trouverOuFaire(base, table, cle, QStringLiteral("SELECT * From Inter where Nom = ?"), {texte});
+    return trouverOuFaire(base, table, cle,
+        QStringLiteral(
+            "SELECT * From Inter where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"),
+        {texte.mid(virgule + 1).trimmed(), texte.left(virgule).trimmed()});
+}
+
+/// Takes away the first of the rows that a query finds.
+void oterUne(const Base &base, const QString &sql, const QVariantList &valeurs)
+{
+    auto rs = base.OpenRecordset(sql, valeurs);
+    if (!rs.AtEnd())
+        rs.Delete();
+}
+
+}
+
+ChargerAlbums::Intervenant ChargerAlbums::EcrireIntervenant(
+    int num, const Intervenant &ancien, const Intervenant &nouveau)
+{
+    const QString ligne
+        = QStringLiteral("SELECT * From InterMetier where NAlbum = ? and NInter = ? and NMetier = ?");
+    const Base base;
+    Transaction transaction(base);
+    Intervenant neuf = nouveau;
+    if (neuf.intervenant == 0)
+        neuf.intervenant = trouverIntervenant(base, nu(neuf.nom));
+    const bool perdu = ancien.intervenant > 0 && neuf.intervenant == 0;
+    if (perdu)
+        neuf.metier = 0;
+    else if (neuf.metier == 0)
+        neuf.metier = trouverOuFaire(base, QStringLiteral("Metier"), QStringLiteral("NMetier"),
+            QStringLiteral("SELECT * From Metier where Nom = ?"), {nu(neuf.activite)});
+    const bool change = neuf.intervenant != ancien.intervenant || neuf.metier != ancien.metier;
+    if (change)
+        oterUne(base, ligne, {num, ancien.intervenant, ancien.metier});
+    if (change && (neuf.intervenant > 0 || neuf.metier > 0)) {
+        auto rs = base.OpenRecordset(ligne, {num, neuf.intervenant, neuf.metier});
+        if (rs.AtEnd()) {
+            rs.AddNew();
+            rs.SetField(QStringLiteral("NMetier"), neuf.metier);
+            rs.SetField(QStringLiteral("NInter"), neuf.intervenant);
+            rs.SetField(QStringLiteral("NAlbum"), num);
+            rs.Update();
+        }
+    }
+    transaction.Commit();
+    return neuf;
+}
+
+void ChargerAlbums::EcrireCote(int num, const Cote &ancienne, const Cote &nouvelle)
+{
+    const QString ligne
+        = QStringLiteral("SELECT * From CotesAlbum where NAlbum = ? and coalesce(Mois, '') = ?"
+                         " and coalesce(Cotes, '') = ?");
+    const QString mois = nu(nouvelle.mois);
+    const QString cote = nu(nouvelle.cote);
+    if (ancienne.mois == mois && ancienne.cote == cote)
+        return;
+    const Base base;
+    Transaction transaction(base);
+    oterUne(base, ligne, {num, ancienne.mois, ancienne.cote});
+    auto rs = base.OpenRecordset(ligne, {num, mois, cote});
+    if (rs.AtEnd() && !(mois.isEmpty() && cote.isEmpty())) {
+        rs.AddNew();
+        rs.SetField(QStringLiteral("NAlbum"), num);
+        rs.SetField(QStringLiteral("Mois"), mois);
+        rs.SetField(QStringLiteral("Cotes"), cote);
+        rs.Update();
+    }
+    transaction.Commit();
+}

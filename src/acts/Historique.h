@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/Annonces.h"
+
+#include <QUndoStack>
+
+/// The steps that can be taken back and made again, as the collection announced them since the start.
+class Historique : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Historique(Annonces &annonces);
+    ~Historique() override;
+
+    /// Titles of the steps that come next; empty when there are none.
+    QString aAnnuler() const { return m_pile.undoText(); }
+    QString aRefaire() const { return m_pile.redoText(); }
+    bool peutAnnuler() const { return m_pile.canUndo(); }
+    bool peutRefaire() const { return m_pile.canRedo(); }
+
+    /// Takes the last step back. Throws Error with nothing changed; a step whose rows were changed by others
+    /// since is given up, so that the ones before it can still be taken back.
+    void annuler();
+    void refaire();
+    /// Forgets all steps: another collection stands in the file.
+    void oublier();
+
+Q_SIGNALS:
+    /// There are other steps than before.
+    void change();
+    void inscrite(const Etape &etape);
+    void annulee(const Etape &etape);
+    void refaite(const Etape &etape);
+
+private:
+    using Acte = void (*)(const class Base &, const Changements &);
+    void prendre(const Etape &etape);
+    Etape jouer(int rang, Acte acte, void (QUndoStack::*avancer)());
+
+    QUndoStack m_pile;
+    bool m_enCours = false; ///< what is announced comes from here
+};

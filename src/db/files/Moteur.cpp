@@ -1,0 +1,128 @@
+#include "db/files/Moteur.h"
+
+#include "db/Collation.h"
+#include "db/Entete.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <SQLiteCpp/Backup.h>
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+#include <filesystem>
+#include <sqlite3.h>
+
+namespace {
+
+QString dire(const char *texte)
+{
+    return QCoreApplication::translate("Base", texte);
+}
+
+std::filesystem::path enChemin(const QString &chemin)
+{
+    return QFileInfo(chemin).filesystemFilePath();
+}
+
+void copier(SQLite::Database &source, const QString &cible)
+{
+    SQLite::Database copie(cible.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    // A copy is whole or thrown away, so it needs no journal that a killed run would leave beside it.
+    copie.exec("PRAGMA journal_mode=OFF; PRAGMA synchronous=FULL");
+    SQLite::Backup acte(copie, source);
+    if (acte.executeStep() != SQLITE_DONE)
+        throw SQLite::Exception("backup", SQLITE_BUSY);
+}
+
+}
+
+Error Moteur::Refus(const SQLite::Exception &e, const QString &chemin)
+{
+    const QString mots = QString::fromUtf8(e.what());
+    switch (e.getErrorCode()) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return {Error::Sorte::EnUsage,
+            dire(QT_TRANSLATE_NOOP("Base", "La base est utilisée par un autre programme.")), chemin};
+    case SQLITE_READONLY:
+        return {Error::Sorte::LectureSeule, dire(QT_TRANSLATE_NOOP("Base", "La base est en lecture seule.")),
+            chemin};
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return {Error::Sorte::Abimee, dire(QT_TRANSLATE_NOOP("Base", "La base est abîmée.")), chemin, mots};
+    case SQLITE_FULL:
+        return {dire(QT_TRANSLATE_NOOP("Base", "Le disque est plein.")), chemin, mots};
+    default:
+        return {dire(QT_TRANSLATE_NOOP("Base", "La base a refusé l'opération.")), chemin, mots};
+    }
+}
+
+std::unique_ptr<SQLite::Database> Moteur::Ouvrir(const QString &chemin)
+{
+    Entete::Verifier(chemin, Entete::Nature::Collection);
+    try {
+        auto db = std::make_unique<SQLite::Database>(chemin.toStdString(), SQLite::OPEN_READONLY, AttenteMs);
+        Collation::Enregistrer(db->getHandle());
+        return db;
+    } catch (const SQLite::Exception &e) {
+        throw Refus(e, chemin);
+    }
+}
+
+bool Moteur::EstVierge(SQLite::Database &db)
+{
+    try {
+        SQLite::Statement tables(
+            db, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite%'");
+        while (tables.executeStep()) {
+            const std::string nom = tables.getColumn(0).getString();
+            if (db.execAndGet("SELECT EXISTS (SELECT 1 FROM \"" + nom + "\")").getInt() != 0)
+                return false;
+        }
+        return true;
+    } catch (const SQLite::Exception &e) {
+        throw Refus(e, QString::fromStdString(db.getFilename()));
+    }
+}
+
+void Moteur::Copier(SQLite::Database &source, const QString &cible)
+{
+    QFile::remove(cible);
+    try {
+        copier(source, cible);
+    } catch (const SQLite::Exception &e) {
+        QFile::remove(cible);
+        throw Refus(e, cible);
+    }
+}
+
+void Moteur::Remplacer(const QString &neuf, const QString &cible)
+{
+    std::error_code erreur;
+    std::filesystem::rename(enChemin(neuf), enChemin(cible), erreur);
+    if (erreur)
+        throw Error(dire(QT_TRANSLATE_NOOP("Base", "Ce fichier ne peut pas être remplacé.")), cible,
+            QString::fromStdString(erreur.message()));
+}
+
+void Moteur::Doubler(const QString &chemin, const QString &autre)
+{
+    std::error_code erreur;
+    std::filesystem::create_hard_link(
+        QFileInfo(chemin).filesystemFilePath(), QFileInfo(autre).filesystemFilePath(), erreur);
+    QFile fichier(chemin);
+    if (erreur && !fichier.copy(autre))
+        throw Error(QCoreApplication::translate("Moteur", "Ce fichier ne peut pas être mis de côté."), autre,
+            fichier.errorString());
+}
+
+QString Moteur::CheminLibre(const QString &chemin)
+{
+    const QFileInfo fichier(chemin);
+    QString libre = chemin;
+    for (int rang = 2; QFileInfo::exists(libre); ++rang)
+        libre = QStringLiteral("%1/%2 (%3).%4")
+                    .arg(fichier.path(), fichier.completeBaseName(), QString::number(rang), fichier.suffix());
+    return libre;
+}

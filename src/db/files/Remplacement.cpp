@@ -1,0 +1,200 @@
+#include "db/files/Remplacement.h"
+
+#include "core/Annonces.h"
+#include "core/Dossier.h"
+#include "core/Error.h"
+#include "db/Base.h"
+#include "db/Connexion.h"
+#include "db/files/Moteur.h"
+#include "db/files/Sauvegardes.h"
+#include "db/files/Verification.h"
+#include "db/schema/Tables.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <SQLiteCpp/Exception.h>
+#include <optional>
+
+using Remplacement::Etat;
+using Remplacement::Examen;
+
+namespace {
+
+const QString Journal = QStringLiteral("-journal");
+
+QString dire(const char *texte)
+{
+    return QCoreApplication::translate("Restauration", texte);
+}
+
+/// What the first bytes say; nothing for what may be a collection.
+std::optional<Etat> etatParEntete(const QString &chemin)
+{
+    try {
+        Entete::Verifier(chemin, Entete::Nature::Collection);
+        return std::nullopt;
+    } catch (const Error &e) {
+        switch (e.sorte()) {
+        case Error::Sorte::Ancienne:
+            return Etat::Ancienne;
+        case Error::Sorte::Abimee:
+            return Etat::Abimee;
+        case Error::Sorte::Etrangere:
+            break;
+        default:
+            throw;
+        }
+    }
+    try {
+        Entete::Verifier(chemin, Entete::Nature::Catalogue);
+        return Etat::Catalogue;
+    } catch (const Error &) {
+        return Etat::Etrangere;
+    }
+}
+
+/// The first table of the schema that a file lacks; empty when it has them all.
+QString tableManquante(SQLite::Database &db)
+{
+    const QStringList tables = Schema::Tables();
+    for (const QString &table : tables) {
+        if (!db.tableExists(table.toStdString()))
+            return table;
+    }
+    return {};
+}
+
+void lireContenu(const QString &chemin, Examen &examen)
+{
+    const auto db = Moteur::Ouvrir(chemin);
+    const QString manquante = tableManquante(*db);
+    if (!manquante.isEmpty()) {
+        examen.etat = Etat::Abimee;
+        examen.mots = dire(QT_TRANSLATE_NOOP("Restauration", "Une table manque :")) + u' ' + manquante;
+        return;
+    }
+    examen.albums = db->execAndGet("SELECT count(*) FROM Album").getInt();
+    examen.etat = Moteur::EstVierge(*db) ? Etat::Vierge : Etat::Saine;
+}
+
+/// Looks into a file that its first bytes call a collection.
+void controler(const QString &chemin, Examen &examen)
+{
+    examen.etat = Etat::Abimee;
+    try {
+        examen.mots = Verification::Verifier(chemin);
+        if (examen.mots.isEmpty())
+            lireContenu(chemin, examen);
+    } catch (const SQLite::Exception &e) {
+        throw Moteur::Refus(e, chemin);
+    } catch (const Error &e) {
+        // Taking back what a crash left unfinished would write into a file that is only looked at.
+        if (e.sorte() != Error::Sorte::LectureSeule)
+            throw;
+        examen.mots = dire(QT_TRANSLATE_NOOP(
+            "Restauration", "Une écriture y est restée inachevée : ouvrez-la d'abord à sa place."));
+    }
+}
+
+/// True for a collection that a backup can be made of; false for what is no readable collection any more.
+bool estSaine()
+{
+    try {
+        return Verification::Verifier().isEmpty();
+    } catch (const Error &e) {
+        if (e.sorte() == Error::Sorte::Etrangere || e.sorte() == Error::Sorte::Ancienne)
+            return false;
+        throw;
+    }
+}
+
+bool estAncienne(const QString &chemin)
+{
+    return QFileInfo::exists(chemin) && etatParEntete(chemin) == Etat::Ancienne;
+}
+
+/// Keeps what stands in the place of the collection.
+void garder(const QString &collection)
+{
+    const QString date
+        = Annonces::courant().sauvegardes.maintenant().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss"));
+    const QString deCote = Moteur::CheminLibre(Dossier::courant().racine()
+        + (estAncienne(collection) ? QStringLiteral("/bd-ancien.mdb")
+                                   : QStringLiteral("/bd abîmée %1.mdb").arg(date)));
+    if (QFileInfo::exists(collection)) {
+        if (estSaine()) {
+            const Base base;
+            SQLite::Database &db = base.connexion().db();
+            if (!Moteur::EstVierge(db))
+                Sauvegardes::Faire(db);
+        } else {
+            Moteur::Doubler(collection, deCote);
+        }
+    }
+    // What a crash left beside the old file would be taken for the new one's.
+    if (QFileInfo::exists(collection + Journal))
+        Moteur::Remplacer(collection + Journal, deCote + Journal);
+}
+
+}
+
+Examen Remplacement::Examiner(const QString &chemin)
+{
+    Examen examen;
+    examen.date = Sauvegardes::DateDe(chemin);
+    examen.taille = QFileInfo(chemin).size();
+    if (estAncienne(chemin))
+        examen.etat = Etat::Ancienne;
+    else if (Dossier::courant().estLeFichier(chemin, QStringLiteral("bd.mdb")))
+        examen.etat = Etat::Courante;
+    else if (const auto parEntete = etatParEntete(chemin))
+        examen.etat = *parEntete;
+    else
+        controler(chemin, examen);
+    return examen;
+}
+
+QString Remplacement::RaisonDuRefus(Etat etat)
+{
+    switch (etat) {
+    case Etat::Saine:
+    case Etat::Vierge:
+        return {};
+    case Etat::Courante:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "C'est la base en service."));
+    case Etat::Ancienne:
+        return dire(QT_TRANSLATE_NOOP(
+            "Restauration", "Cette base est d'une ancienne version : elle est à convertir d'abord."));
+    case Etat::Catalogue:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "C'est un catalogue de référence, pas une base."));
+    case Etat::Abimee:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "Cette base est abîmée."));
+    case Etat::Etrangere:
+        return dire(QT_TRANSLATE_NOOP("Restauration", "Ce fichier n'est pas une base de Bulleo."));
+    }
+    Q_UNREACHABLE();
+}
+
+QString Remplacement::Restaurer(const QString &chemin)
+{
+    const QString refus = RaisonDuRefus(Examiner(chemin).etat);
+    if (!refus.isEmpty())
+        return refus;
+    const QString place = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
+    const QString collection = QFileInfo::exists(place) ? QFileInfo(place).canonicalFilePath() : place;
+    const QString neuve = collection + QStringLiteral(".neuve");
+    Moteur::Copier(*Moteur::Ouvrir(chemin), neuve);
+    try {
+        garder(collection);
+        // Who still has the old file open would go on writing into what is no longer there.
+        Q_ASSERT(!Connexion::estOuverte(collection));
+        Moteur::Remplacer(neuve, collection);
+    } catch (const Error &) {
+        QFile::remove(neuve);
+        throw;
+    }
+    Schema::MettreANiveau();
+    Annonces::courant().remplacer();
+    return {};
+}

@@ -1,0 +1,215 @@
+#include "db/files/Sauvegardes.h"
+
+#include "core/Annonces.h"
+#include "core/Dossier.h"
+#include "core/Error.h"
+#include "db/files/Moteur.h"
+#include "db/files/Verification.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <sqlite3.h>
+
+using Sauvegardes::Sauvegarde;
+
+namespace {
+
+constexpr qint64 Intervalle = 60 * 60; // seconds
+constexpr qint64 JoursParJour = 14;
+constexpr qint64 JoursParSemaine = JoursParJour + 8 * 7;
+const QString FormeDeLaDate = QStringLiteral("yyyy-MM-dd HH-mm-ss");
+const QString EnCours = QStringLiteral("/copie en cours.tmp");
+const QString Liste = QStringLiteral("/liste.txt");
+const QString ListeEnCours = QStringLiteral("/liste en cours.tmp");
+
+QString dossier()
+{
+    return Dossier::courant().chemin(QStringLiteral("sauvegardes"));
+}
+
+/// The date in the name of a copy; copies of one second follow each other. Null for any other name.
+QDateTime dateDuNom(const QString &nom)
+{
+    static const QRegularExpression forme(
+        QStringLiteral("^bd (\\d{4}-\\d\\d-\\d\\d \\d\\d-\\d\\d-\\d\\d)(?: \\((\\d{1,3})\\))?\\.bd$"));
+    const auto lu = forme.match(nom);
+    return QDateTime::fromString(lu.captured(1), FormeDeLaDate).addMSecs(lu.captured(2).toInt());
+}
+
+int compterAlbums(const QString &chemin)
+{
+    try {
+        return Moteur::Ouvrir(chemin)->execAndGet("SELECT count(*) FROM Album").getInt();
+    } catch (const Error &) {
+        return -1;
+    } catch (const SQLite::Exception &) {
+        return -1;
+    }
+}
+
+/// The copies that the list names, as far as they stand there as they were made.
+QList<Sauvegarde> lireListe(const QString &dossier)
+{
+    QList<Sauvegarde> miennes;
+    QFile fichier(dossier + Liste);
+    if (!fichier.open(QIODevice::ReadOnly))
+        return miennes;
+    const QStringList lignes = QString::fromUtf8(fichier.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &ligne : lignes) {
+        const QString nom = ligne.section(u'\t', 0, 0);
+        const QFileInfo copie(dossier + u'/' + nom);
+        const QDateTime date = dateDuNom(nom);
+        if (date.isValid() && copie.isFile() && copie.size() == ligne.section(u'\t', 1).toLongLong())
+            miennes << Sauvegarde{copie.filePath(), date, copie.size(), -1};
+    }
+    return miennes;
+}
+
+void ecrireListe(const QString &dossier, const QList<Sauvegarde> &miennes)
+{
+    QByteArray octets;
+    for (const Sauvegarde &s : miennes)
+        octets += QFileInfo(s.chemin).fileName().toUtf8() + '\t' + QByteArray::number(s.taille) + '\n';
+    QFile fichier(dossier + ListeEnCours);
+    const bool ecrite = fichier.open(QIODevice::WriteOnly) && fichier.write(octets) == octets.size();
+    fichier.close();
+    if (!ecrite || fichier.error() != QFileDevice::NoError)
+        throw Error(QCoreApplication::translate(
+                        "Sauvegardes", "La liste des copies de sauvegarde ne peut pas être écrite."),
+            fichier.fileName(), fichier.errorString());
+    Moteur::Remplacer(dossier + ListeEnCours, dossier + Liste);
+}
+
+/// Gives the copy that was just made its name. It is noted first, so that no copy is forgotten by a crash.
+QString nommer(const QString &dossier)
+{
+    const QDateTime date = Annonces::courant().sauvegardes.maintenant();
+    const QString chemin
+        = Moteur::CheminLibre(QStringLiteral("%1/bd %2.bd").arg(dossier, date.toString(FormeDeLaDate)));
+    const QString faite = dossier + EnCours;
+    ecrireListe(dossier, lireListe(dossier) << Sauvegarde{chemin, date, QFileInfo(faite).size(), -1});
+    Moteur::Remplacer(faite, chemin);
+    return chemin;
+}
+
+void elaguer(const QDateTime &maintenant)
+{
+    const QString ici = dossier();
+    const QStringList perimees = Sauvegardes::ADetruire(lireListe(ici), maintenant);
+    if (perimees.isEmpty())
+        return;
+    for (const QString &chemin : perimees)
+        QFile::remove(chemin);
+    ecrireListe(ici, lireListe(ici));
+}
+
+/// The day, week or month whose newest copy is kept.
+QString periode(const QDate &jour, const QDate &aujourdhui)
+{
+    const qint64 age = jour.daysTo(aujourdhui);
+    if (age <= JoursParJour)
+        return jour.toString(Qt::ISODate);
+    if (age > JoursParSemaine)
+        return jour.toString(QStringLiteral("yyyy-MM"));
+    int annee = 0;
+    const int semaine = jour.weekNumber(&annee);
+    return QStringLiteral("%1 semaine %2").arg(annee).arg(semaine);
+}
+
+bool due(const Annonces::SuiviDesSauvegardes &suivi, const QDateTime &maintenant)
+{
+    return !suivi.derniere.isValid() || maintenant < suivi.derniere
+        || suivi.derniere.secsTo(maintenant) >= Intervalle;
+}
+
+void plusRecenteDAbord(QList<Sauvegarde> &sauvegardes)
+{
+    std::stable_sort(sauvegardes.begin(), sauvegardes.end(),
+        [](const Sauvegarde &a, const Sauvegarde &b) { return a.date > b.date; });
+}
+
+}
+
+QDateTime Sauvegardes::DateDe(const QString &chemin)
+{
+    const QFileInfo fichier(chemin);
+    const QDateTime date = dateDuNom(fichier.fileName());
+    return date.isValid() ? date : fichier.lastModified();
+}
+
+QList<Sauvegarde> Sauvegardes::Lister()
+{
+    QList<Sauvegarde> sauvegardes;
+    const auto fichiers = QDir(dossier()).entryInfoList({QStringLiteral("*.bd")}, QDir::Files);
+    for (const QFileInfo &f : fichiers)
+        sauvegardes << Sauvegarde{f.filePath(), DateDe(f.filePath()), f.size(), compterAlbums(f.filePath())};
+    plusRecenteDAbord(sauvegardes);
+    return sauvegardes;
+}
+
+QString Sauvegardes::DerniereSaine()
+{
+    const QList<Sauvegarde> sauvegardes = Lister();
+    for (const Sauvegarde &s : sauvegardes) {
+        if (s.albums >= 0 && Verification::Verifier(s.chemin).isEmpty())
+            return s.chemin;
+    }
+    return {};
+}
+
+QString Sauvegardes::Faire(SQLite::Database &db)
+{
+    const QString ici = dossier();
+    if (!QDir().mkpath(ici))
+        throw Error(QCoreApplication::translate("Dossier", "Ce dossier ne peut pas être créé."), ici);
+    Moteur::Copier(db, ici + EnCours);
+    try {
+        return nommer(ici);
+    } catch (const Error &) {
+        QFile::remove(ici + EnCours);
+        throw;
+    }
+}
+
+void Sauvegardes::AvantEcriture(SQLite::Database &db)
+{
+    auto &suivi = Annonces::courant().sauvegardes;
+    // In the middle of a write there is no state to copy any more.
+    if (sqlite3_txn_state(db.getHandle(), "main") == SQLITE_TXN_WRITE)
+        return;
+    const QDateTime maintenant = suivi.maintenant();
+    if (!due(suivi, maintenant))
+        return;
+    suivi.derniere = maintenant;
+    try {
+        if (!Moteur::EstVierge(db)) {
+            Faire(db);
+            elaguer(maintenant);
+        }
+        suivi.enEchec = false;
+    } catch (const Error &e) {
+        if (!std::exchange(suivi.enEchec, true) && suivi.manquee)
+            suivi.manquee(e);
+    }
+}
+
+QStringList Sauvegardes::ADetruire(const QList<Sauvegarde> &sauvegardes, const QDateTime &maintenant)
+{
+    QList<Sauvegarde> parAge = sauvegardes;
+    plusRecenteDAbord(parAge);
+    QSet<QString> gardees;
+    QStringList perimees;
+    for (const Sauvegarde &s : std::as_const(parAge)) {
+        const QString sienne = periode(s.date.date(), maintenant.date());
+        if (s.date.date() < maintenant.date() && gardees.contains(sienne))
+            perimees << s.chemin;
+        gardees << sienne;
+    }
+    return perimees;
+}

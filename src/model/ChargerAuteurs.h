@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/Fiche.h"
+#include "model/General.h"
+
+#include <span>
+
+/// The author sheet: his trades.
+namespace ChargerAuteurs {
+
+/// A trade: the list of those who have it, its caption, the flag in their rows, its word in a text of trades.
+struct Metier
+{
+    General::Tri liste;
+    Txt libelle;
+    const char *drapeau;
+    const char *mot;
+};
+std::span<const Metier> TousLesMetiers();
+
+/// The trades area, as it stands for an author who was chosen from the list of one trade.
+struct Metiers
+{
+    Txt titre;
+    struct Autre
+    {
+        Txt libelle;
+        bool exerce;
+    } autres[2];
+};
+
+/// The trade of the list first, then the two others with their flags. Throws Error.
+Metiers LireMetiers(int nAuteur, General::Tri liste);
+
+/// The text of trades of an author of that list, who has the two others or not.
+QString TexteDesMetiers(General::Tri liste, bool premier, bool second);
+
+}

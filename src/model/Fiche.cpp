@@ -1,0 +1,282 @@
+#include "model/Fiche.h"
+
+#include "core/Texte.h"
+#include "core/Traduction.h"
+#include "db/Base.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <array>
+#include <cmath>
+
+using namespace Champs;
+
+namespace {
+
+constexpr qsizetype LongueurTitre = 50;
+constexpr qsizetype LongueurTome = 3;
+const QString Http = QStringLiteral("http://");
+
+constexpr std::array Formats{Txt::FormatNormal, Txt::GrandFormat, Txt::FormatItalienne, Txt::AutreFormat};
+constexpr std::array Couleurs{Txt::Couleur, Txt::NoirEtBlanc, Txt::Infographie};
+constexpr std::array Parutions{Txt::Quotidienne, Txt::Hebdomadaire, Txt::BiMensuelle, Txt::Mensuelle,
+    Txt::Bimestrielle, Txt::Trimestrielle, Txt::Semestrielle, Txt::Annuelle};
+/// The kinds of ex-libris, by number.
+constexpr std::array Types{Txt::ExLibris, Txt::PorteFolio, Txt::Serigraphie, Txt::MarquePage,
+    Txt::Litographie, Txt::Affiche, Txt::Poster, Txt::Autres};
+
+/// The captions of a field that takes one of a few values; the first one's number is `premier`.
+struct Mots
+{
+    std::span<const Txt> textes;
+    int premier = 0;
+};
+Mots motsDe(Vue vue)
+{
+    switch (vue) {
+    case Vue::Format:
+        return {Formats};
+    case Vue::Couleur:
+        return {Couleurs, 1};
+    case Vue::Parution:
+        return {Parutions};
+    case Vue::Genre:
+        return {Types};
+    default:
+        return {};
+    }
+}
+
+/// The word of a stored number; empty for none, and for a number that has no word.
+QString motDe(Vue vue, const QVariant &stockee)
+{
+    const Mots mots = motsDe(vue);
+    const int rang = stockee.toInt() - mots.premier;
+    const bool connu = stockee.isValid() && rang >= 0 && rang < static_cast<int>(mots.textes.size());
+    return connu ? texte(mots.textes[static_cast<std::size_t>(rang)]) : QString();
+}
+
+QString dire(const char *texte)
+{
+    return QCoreApplication::translate("Fiche", texte);
+}
+
+QString nombreOuRien(const QVariant &valeur)
+{
+    const int nombre = valeur.toInt();
+    return nombre == 0 ? QString() : QString::number(nombre);
+}
+
+QString prix(const QVariant &valeur)
+{
+    if (!valeur.isValid() || valeur.toDouble() == 0.0)
+        return {};
+    const QString montant = Traduction::courant().locale().toString(valeur.toDouble(), 'f', 2);
+    return montant + u' ' + texte(Txt::Euro);
+}
+
+/// Grades are shown by stars; what is no grade is shown as it is.
+QString note(const QVariant &valeur)
+{
+    bool nombre = false;
+    const int grade = valeur.toString().trimmed().toInt(&nombre);
+    return nombre ? QString::number(grade) : valeur.toString().trimmed();
+}
+
+QString nomDe(const Champ &champ, int id, const QVariant &stockee)
+{
+    if (champ.source->liens)
+        return Fiche::LireNomsLies(*champ.source, id);
+    return Fiche::LireNom(*champ.source, stockee.toInt());
+}
+
+std::optional<QVariant> entier(const QString &saisie, const QVariant &siVide)
+{
+    if (saisie.isEmpty())
+        return siVide;
+    bool sur = false;
+    const int valeur = saisie.toInt(&sur);
+    return sur ? std::optional<QVariant>(valeur) : std::nullopt;
+}
+
+}
+
+std::optional<Valeurs> Fiche::Lire(Feuille feuille, int id)
+{
+    const Base base;
+    Valeurs valeurs;
+    bool trouvee = false;
+    for (const Ligne &ligne : Lignes()) {
+        if (ligne.feuille != feuille)
+            continue;
+        const auto rs = base.OpenRecordset(QLatin1String(ligne.lecture), {id});
+        trouvee = trouvee || !rs.AtEnd();
+        for (const Champ &champ : Tous()) {
+            if (champ.feuille != feuille || qstrcmp(champ.table, ligne.table) != 0)
+                continue;
+            ValeurDeChamp &valeur = valeurs[QLatin1String(champ.nom)];
+            if (champ.colonne && !rs.AtEnd())
+                valeur.stockee = rs.Fields(QLatin1String(champ.colonne));
+            valeur.affichee
+                = champ.source ? nomDe(champ, id, valeur.stockee) : Afficher(champ, valeur.stockee);
+        }
+    }
+    return trouvee ? std::optional(valeurs) : std::nullopt;
+}
+
+QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
+{
+    switch (champ.vue) {
+    case Vue::Tome:
+        return nombreOuRien(stockee);
+    case Vue::Prix:
+        return prix(stockee);
+    case Vue::Etoiles:
+        return note(stockee);
+    case Vue::Case:
+        return texte(stockee.toBool() ? Txt::Oui : Txt::Non);
+    case Vue::Format:
+    case Vue::Couleur:
+    case Vue::Genre:
+        return motDe(champ.vue, stockee);
+    case Vue::Memo:
+        return Texte::EstVide(stockee.toString()) ? QString() : stockee.toString();
+    case Vue::Cote:
+        return stockee.isValid() ? QStringLiteral("%1").arg(stockee.toInt(), 2, 10, QLatin1Char('0'))
+                                 : QString();
+    case Vue::Parution: {
+        // The number stands first, its word beside it.
+        const QString mot = motDe(champ.vue, stockee);
+        return mot.isEmpty() ? stockee.toString() : stockee.toString() + QStringLiteral(" - ") + mot;
+    }
+    case Vue::Texte:
+    case Vue::Nom:
+    case Vue::Lien:
+    case Vue::Image:
+        break;
+    }
+    return stockee.toString().trimmed();
+}
+
+std::vector<Fiche::Option> Fiche::Options(const Champ &champ)
+{
+    const Mots mots = motsDe(champ.vue);
+    std::vector<Option> options;
+    for (int i = 0; i < static_cast<int>(mots.textes.size()); ++i)
+        options.push_back({mots.premier + i, Afficher(champ, mots.premier + i)});
+    return options;
+}
+
+std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisie)
+{
+    const QString net = Texte::EstVide(saisie) ? QString() : saisie.trimmed();
+    switch (champ.regle) {
+    case Regle::Titre:
+        return net.left(LongueurTitre);
+    case Regle::Tome: {
+        const auto tome = entier(net.left(LongueurTome), 0);
+        return tome && tome->toInt() >= 0 ? tome : std::nullopt;
+    }
+    case Regle::Nombre:
+    case Regle::Identifiant:
+        return entier(net, {});
+    case Regle::Pages:
+        return net.isEmpty() || LireMontant(net) ? std::optional<QVariant>(net) : std::nullopt;
+    case Regle::Prix: {
+        if (net.isEmpty())
+            return QVariant();
+        const auto valeur = LireMontant(net);
+        return valeur ? std::optional<QVariant>(*valeur) : std::nullopt;
+    }
+    case Regle::Http:
+        return net.isEmpty() || net.left(Http.size()).toLower() == Http ? net : Http + net;
+    case Regle::Drapeau:
+        return QVariant(net != QLatin1String("0") && !net.isEmpty());
+    case Regle::Texte:
+        break;
+    }
+    return champ.vue == Vue::Memo ? saisie : net;
+}
+
+QString Fiche::RaisonDuRefus(const Champ &champ)
+{
+    switch (champ.regle) {
+    case Regle::Tome:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Le numéro est un nombre entier de 0 à 999."));
+    case Regle::Prix:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Le prix est un nombre, comme 12,50."));
+    case Regle::Pages:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Le nombre de pages est un nombre."));
+    default:
+        return dire(QT_TRANSLATE_NOOP("Fiche", "Il faut ici un nombre entier."));
+    }
+}
+
+bool Fiche::Existe(Feuille feuille, int id, const char *table)
+{
+    const Base base;
+    const auto ligne = std::find_if(Lignes().begin(), Lignes().end(), [feuille, table](const Ligne &l) {
+        return l.feuille == feuille && (!table || qstrcmp(l.table, table) == 0);
+    });
+    return !base.OpenRecordset(QLatin1String(ligne->ecriture), {id}).AtEnd();
+}
+
+std::optional<double> Fiche::LireMontant(const QString &saisie)
+{
+    QString net = saisie;
+    net.remove(texte(Txt::Euro)).remove(u' ').remove(QChar(0x00A0)).remove(QChar(0x202F));
+    bool sur = false;
+    const double valeur = net.replace(u',', u'.').toDouble(&sur);
+    return sur && std::isfinite(valeur) ? std::optional(valeur) : std::nullopt;
+}
+
+QString Fiche::LireNom(const Source &source, int id)
+{
+    const Base base;
+    const auto rs = base.OpenRecordset(QLatin1String(source.lecture), {id});
+    if (rs.AtEnd())
+        return {};
+    const QString nom = rs.Fields(1).toString().trimmed();
+    const QString prenom = source.prenom == Prenom::Sans ? QString() : rs.Fields(2).toString().trimmed();
+    if (prenom.isEmpty())
+        return nom;
+    return source.prenom == Prenom::Apres ? Texte::NomPrenom(nom, prenom)
+                                          : prenom + QStringLiteral(", ") + nom;
+}
+
+QString Fiche::LireNomsLies(const Source &source, int album)
+{
+    const Base base;
+    QStringList noms;
+    for (auto liens = base.OpenRecordset(QLatin1String(source.liens), {album}); !liens.AtEnd();
+         liens.MoveNext())
+        noms << LireNom(source, liens.Fields(0).toInt());
+    noms.removeAll(QString());
+    return noms.join(QStringLiteral(", "));
+}
+
+std::unordered_map<int, QString> Fiche::LireTousLesNomsLies(const Source &source)
+{
+    const Base base;
+    QString tous = QString::fromLatin1(source.liens).remove(QStringLiteral(" where NAlbum = ?"));
+    // A walk forward, instead of rows that could be edited.
+    tous.replace(QStringLiteral("SELECT *"), QStringLiteral("SELECT *, 0"));
+    std::unordered_map<int, QString> noms;
+    std::unordered_map<int, QString> parAlbum;
+    for (auto liens = base.OpenRecordset(tous); !liens.AtEnd(); liens.MoveNext()) {
+        const auto [nom, neuf] = noms.try_emplace(liens.Fields(0).toInt());
+        if (neuf)
+            nom->second = LireNom(source, nom->first);
+        QString &texte = parAlbum[liens.Fields(1).toInt()];
+        if (!nom->second.isEmpty())
+            texte += (texte.isEmpty() ? QString() : QStringLiteral(", ")) + nom->second;
+    }
+    return parAlbum;
+}
+
+QString Fiche::MotDeLaNote(int note)
+{
+    static constexpr std::array Mots{
+        Txt::TresMauvaise, Txt::Mauvaise, Txt::Moyenne, Txt::Passable, Txt::Excellente};
+    return texte(Mots[static_cast<std::size_t>(note >= 1 && note <= 5 ? note - 1 : 0)]);
+}

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "core/Annonces.h"
+#include "model/Champs.h"
+#include "model/Entrees.h"
+
+#include <QString>
+#include <functional>
+#include <span>
+
+/// The lists of the collection.
+namespace General {
+
+/// What a list shows; the numbers are those of the setting "Tris".
+enum class Tri {
+    Albums,
+    Series,
+    Dessinateurs,
+    Scenaristes,
+    Coloristes,
+    ExLibris,
+    Presse,
+    Editeurs,
+    Collections
+};
+constexpr int NombreDeTris = 9;
+
+/// An entry as the forms name it to each other.
+struct Entree
+{
+    Tri tri = Tri::Albums;
+    int id = 0;
+    bool operator==(const Entree &) const = default;
+};
+
+/// The entries of a kind that a list shows, in its order.
+struct Liste
+{
+    Tri tri = Tri::Albums;
+    std::vector<int> ids;
+};
+
+/// One kind of list as the window presents it.
+struct Genre
+{
+    Tri tri;
+    Txt titre;
+    Txt prefixe; ///< stands before the number of lines
+    Txt bouton;
+    Champs::Feuille feuille;
+    const char *icone;
+};
+const Genre &GenreDe(Tri tri);
+/// The table in which the entries of a kind stand.
+QString TableDe(Tri tri);
+/// The flag that the authors of a kind have; empty for the other kinds.
+QString DrapeauDe(Tri tri);
+/// The kind of a stored number; albums when there is no such kind.
+Tri TriDe(int numero);
+
+/// Called now and then during a long fill, with lines done and lines in all.
+using Avance = std::function<void(qint64 faites, qint64 total)>;
+
+/// All entries of a kind, in order. Throws Error.
+Entrees LireListe(Tri tri, const Avance &avance = {});
+/// The albums linked to an entry; none for the kinds that have no albums. Throws Error.
+Entrees LireAlbums(Tri tri, int id);
+/// Front cover (path of its file, empty without one) and tome of an album, as a shelf shows it.
+struct Volume
+{
+    QString image;
+    int tome = 0;
+};
+/// The volumes of these albums, in their order; empty ones for albums that are gone. Throws Error.
+std::vector<Volume> LireVolumes(const std::vector<int> &albums);
+/// The press items of a publisher. Throws Error.
+Entrees LirePresse(int editeur);
+/// The entries that a choice offers, and the line of the value to preselect (-1 for none). `liste` names the
+/// pick-list ("LScena", "Dessin", "NomI", ...), `table` what it lists; a value of dots is none. Throws Error.
+struct Choix
+{
+    Entrees entrees;
+    int choisie = -1;
+};
+Choix LireChoix(const QString &liste, const QString &table, const QString &valeur);
+/// Numbers of the albums that are lent, in rising order. Throws Error.
+std::vector<int> LirePretes();
+/// One line of a list, read anew; its text is empty when the entry is gone. Throws Error.
+QString LireTexte(Tri tri, int id);
+
+/// True when the list of this kind holds the entry. Throws Error.
+bool EstDansLaListe(Tri tri, int id);
+
+/// How many albums and series there are, and what the albums cost. Throws Error.
+struct Totaux
+{
+    qint64 albums = 0;
+    qint64 series = 0;
+    double valeur = 0;
+};
+Totaux LireTotaux();
+
+/// True when no list holds anything. Throws Error.
+bool EstVierge();
+
+/// True when changes may show in this list.
+bool Concerne(const Changements &changements, Tri tri);
+
+/// Why a copy of the collection may not be saved under this path: the name of the file that it would hit.
+/// Empty when it may.
+QString VerifierCopie(const QString &chemin);
+/// Copies the collection file; an existing file is replaced once the copy is whole. Throws Error.
+void CopierBase(const QString &chemin);
+
+}

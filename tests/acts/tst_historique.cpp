@@ -1,0 +1,190 @@
+#include "acts/Historique.h"
+#include "support/Autre.h"
+#include "support/Bac.h"
+#include "support/Refus.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+class tst_historique : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void toutSeReprendEtSeRefaitDansLOrdre();
+    void uneEtapeDontLaLigneAChangeEstAbandonnee_data();
+    void uneEtapeDontLaLigneAChangeEstAbandonnee();
+    void uneBaseTenueGardeLEtape();
+    void lesEtapesDUneVisiteSeFondent_data();
+    void lesEtapesDUneVisiteSeFondent();
+};
+
+namespace {
+
+/// A collection with three kinds, and the steps done on it since.
+struct Etabli
+{
+    Etabli()
+    {
+        Bac::executer("INSERT INTO Genre VALUES (1, 'un'), (2, 'deux'), (3, 'trois')");
+        histoire = std::make_unique<Historique>(bac.annonces);
+    }
+    static void nommer(int cle, const QString &nom, const QString &titre = {}, int visite = 0,
+        const QVariant &lieu = QStringLiteral("ici"))
+    {
+        const Annonces::Intitule intitule(titre, lieu, visite);
+        Bac::executer("UPDATE Genre SET Nom = ? WHERE NGenre = ?", {nom, cle});
+    }
+    static QString noms()
+    {
+        return Bac::valeur("SELECT group_concat(Nom, ' ') FROM (SELECT Nom FROM Genre ORDER BY NGenre)")
+            .toString();
+    }
+    void aller(bool refaire) const { refaire ? histoire->refaire() : histoire->annuler(); }
+    QString prochaine(bool refaire) const { return refaire ? histoire->aRefaire() : histoire->aAnnuler(); }
+
+    Bac bac;
+    std::unique_ptr<Historique> histoire;
+};
+
+}
+
+void tst_historique::toutSeReprendEtSeRefaitDansLOrdre()
+{
+    constexpr int Etapes = 60;
+    const Etabli e;
+    QStringList etats{Bac::toutLire().join(u'\n')};
+    for (int i = 0; i < Etapes; ++i) {
+        const Annonces::Intitule intitule(i == 0 ? QString() : QStringLiteral("pas %1").arg(i), i);
+        Bac::executer("INSERT INTO Metier VALUES (?, 'L''été')", {i});
+        etats << Bac::toutLire().join(u'\n');
+    }
+    QSignalSpy annulees(e.histoire.get(), &Historique::annulee);
+    QSignalSpy inscrites(e.histoire.get(), &Historique::inscrite);
+    for (int i = Etapes; i-- > 0;) {
+        QCOMPARE(e.histoire->aAnnuler(), i == 0 ? "Modification" : QStringLiteral("pas %1").arg(i));
+        e.histoire->annuler();
+        QCOMPARE(Bac::toutLire().join(u'\n'), etats[i]);
+        QCOMPARE(annulees.takeFirst().first().value<Etape>().lieu, QVariant(i));
+    }
+    QVERIFY(!e.histoire->peutAnnuler() && e.histoire->aAnnuler().isEmpty());
+    e.histoire->annuler();
+    QCOMPARE(Bac::toutLire().join(u'\n'), etats[0]);
+    for (int i = 1; i <= Etapes; ++i) {
+        e.histoire->refaire();
+        QCOMPARE(Bac::toutLire().join(u'\n'), etats[i]);
+    }
+    QVERIFY(!e.histoire->peutRefaire());
+    QVERIFY(inscrites.isEmpty()); // going back and forth makes no steps
+}
+
+void tst_historique::uneEtapeDontLaLigneAChangeEstAbandonnee_data()
+{
+    QTest::addColumn<bool>("refaire");
+    QTest::addColumn<QString>("entretemps");
+    for (const bool refaire : {false, true}) {
+        const char *sens = refaire ? "refaire" : "annuler";
+        QTest::addRow("%s, nom change", sens) << refaire << "UPDATE Genre SET Nom = 'autre' WHERE NGenre = 2";
+        QTest::addRow("%s, ligne disparue", sens) << refaire << "DELETE FROM Genre WHERE NGenre = 2";
+    }
+}
+
+/// The middle one of three steps cannot be taken: it is given up, its neighbours go on.
+void tst_historique::uneEtapeDontLaLigneAChangeEstAbandonnee()
+{
+    QFETCH(bool, refaire);
+    QFETCH(QString, entretemps);
+    Etabli e;
+    Etabli::nommer(1, "A", "a");
+    {
+        // Two rows in one step: when the second is refused, the first stays as it is.
+        const Annonces::Intitule intitule("b");
+        Bac::executer("UPDATE Genre SET Nom = Nom || '!' WHERE NGenre IN (2, 3)");
+    }
+    Etabli::nommer(1, "C", "c");
+    for (int i = 0; refaire && i < 3; ++i)
+        e.aller(false);
+    Autre(e.bac.collection()).executer(entretemps);
+    e.aller(refaire);
+    QCOMPARE(e.prochaine(refaire), "b");
+    const QStringList avant = Bac::toutLire();
+    QSignalSpy change(e.histoire.get(), &Historique::change);
+    QCOMPARE(refus([&] { e.aller(refaire); }), Error::Sorte::Perimee);
+    QCOMPARE(Bac::toutLire(), avant);
+    QCOMPARE(e.prochaine(refaire), refaire ? "c" : "a");
+    QVERIFY(!change.isEmpty()); // who shows the next step shows another one now
+    e.aller(refaire);
+    QVERIFY(e.noms().startsWith(refaire ? "C" : "un"));
+    QVERIFY(e.prochaine(refaire).isEmpty());
+    QVERIFY(!e.prochaine(!refaire).isEmpty());
+}
+
+void tst_historique::uneBaseTenueGardeLEtape()
+{
+    Etabli e;
+    Etabli::nommer(1, "A", "a");
+    for (const bool refaire : {false, true}) {
+        const QString avant = Etabli::noms();
+        {
+            Autre autre(e.bac.collection());
+            autre.executer("BEGIN EXCLUSIVE");
+            QCOMPARE(refus([&] { e.aller(refaire); }), Error::Sorte::EnUsage);
+            QCOMPARE(e.prochaine(refaire), "a");
+            QVERIFY(e.prochaine(!refaire).isEmpty());
+        }
+        QCOMPARE(Etabli::noms(), avant);
+        e.aller(refaire);
+        QCOMPARE(Etabli::noms(), refaire ? "A deux trois" : "un deux trois");
+    }
+    Etabli::nommer(2, "B", "b"); // what is done now is a step again
+    QCOMPARE(e.histoire->aAnnuler(), "b");
+}
+
+void tst_historique::lesEtapesDUneVisiteSeFondent_data()
+{
+    QTest::addColumn<int>("visite");
+    QTest::addColumn<QString>("titre");
+    QTest::addColumn<QVariant>("lieu");
+    QTest::addColumn<int>("etapes");
+    QTest::newRow("meme visite") << 7 << "t" << QVariant("ici") << 1;
+    QTest::newRow("autre visite") << 8 << "t" << QVariant("ici") << 2;
+    QTest::newRow("autre champ") << 7 << "u" << QVariant("ici") << 2;
+    QTest::newRow("autre fiche") << 7 << "t" << QVariant("ailleurs") << 2;
+    QTest::newRow("sans visite") << 0 << "t" << QVariant("ici") << 2;
+}
+
+void tst_historique::lesEtapesDUneVisiteSeFondent()
+{
+    QFETCH(int, visite);
+    QFETCH(QString, titre);
+    QFETCH(QVariant, lieu);
+    QFETCH(int, etapes);
+    Etabli e;
+    Etabli::nommer(1, "A", "t", visite == 0 ? 0 : 7);
+    Etabli::nommer(1, "AB", titre, visite, lieu);
+    Etabli::nommer(2, "ABC", titre, visite, lieu);
+    const QStringList apres = Bac::toutLire();
+    for (int i = 0; i < etapes; ++i) {
+        QVERIFY(e.histoire->peutAnnuler());
+        e.histoire->annuler();
+        if (visite == 0 && i == 0)
+            e.histoire->annuler(); // without a visit each is a step of its own
+    }
+    QCOMPARE(Etabli::noms(), "un deux trois");
+    QVERIFY(!e.histoire->peutAnnuler());
+    while (e.histoire->peutRefaire())
+        e.histoire->refaire();
+    QCOMPARE(Bac::toutLire(), apres);
+    // What is done after an undo takes the place of what was undone, and is a step of its own.
+    while (e.histoire->peutAnnuler())
+        e.histoire->annuler();
+    Etabli::nommer(3, "Z", titre, visite, lieu);
+    QVERIFY(!e.histoire->peutRefaire());
+    e.histoire->annuler();
+    QCOMPARE(Etabli::noms(), "un deux trois");
+    e.histoire->oublier();
+    QVERIFY(!e.histoire->peutRefaire());
+}
+
+QTEST_GUILESS_MAIN(tst_historique)
+#include "tst_historique.moc"
