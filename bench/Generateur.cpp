@@ -146,7 +146,7 @@ void generer(const QString &chemin, int albums, unsigned graine)
     if (QFileInfo::exists(dossier.chemin(QStringLiteral("bd.mdb"))))
         return;
     dossier.preparer();
-    const Base base;
+    Base base;
     const Journal::Pause pause(base);
     Transaction transaction(base);
     Tirage tirage(graine);

@@ -76,7 +76,7 @@ void ouvrir(benchmark::State &etat)
 {
     const Terrain terrain(static_cast<int>(etat.range(0)));
     for (auto _ : etat)
-        const Base base;
+        Base base;
 }
 
 /// The search form's own search: a text in the middle of the names, and one that nothing holds.
@@ -135,14 +135,14 @@ void statistiques(benchmark::State &etat)
             benchmark::DoNotOptimize(Statistiques::Calculer().size());
             continue;
         }
-        const Base base;
+        Base base;
         for (const char *sql : {"SELECT NSerie, count(*) From SerieAlbums group by NSerie",
                  "SELECT NAuteur, count(*) From AuteursAlbums where Dessin = -1 group by NAuteur",
                  "SELECT NAuteur, count(*) From AuteursAlbums where Scena = -1 group by NAuteur",
                  "SELECT NGenre, count(*) From GenreAlbums group by NGenre",
                  "SELECT NEdit, count(*) From EditeurAlbums group by NEdit",
                  "SELECT NColl, count(*) From CollAlbums group by NColl"}) {
-            for (auto rs = base.OpenRecordset(QLatin1String(sql)); !rs.AtEnd(); rs.MoveNext())
+            for (auto rs = base.read(QLatin1String(sql)); !rs.AtEnd(); rs.MoveNext())
                 benchmark::DoNotOptimize(rs.Int64(1));
         }
     }
@@ -206,7 +206,7 @@ void mettreANiveau(benchmark::State &etat)
 {
     const Terrain terrain(static_cast<int>(etat.range(0)));
     for (auto _ : etat)
-        Schema::MettreANiveau();
+        MiseANiveau::Executer();
 }
 
 void totaux(benchmark::State &etat)

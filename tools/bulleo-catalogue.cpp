@@ -7,7 +7,7 @@
 #include "db/Base.h"
 #include "db/Module2.h"
 #include "db/Transaction.h"
-#include "db/schema/Tables.h"
+#include "db/files/FichierNeuf.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -25,8 +25,8 @@ constexpr const char *Colonnes[] = {"Numero", "Titre", "Tome", "Serie", "Datepar
 class Import
 {
 public:
-    Import(const Base &base, bool strict)
-        : m_rs(base.OpenRecordset(QStringLiteral("SELECT * From BD")))
+    Import(Base &base, bool strict)
+        : m_rs(base.edit(QStringLiteral("BD")))
         , m_strict(strict)
     {
     }
@@ -113,9 +113,9 @@ void convertir(const QString &source, const QString &cible, bool strict)
 {
     const QString brouillon = cible + QStringLiteral(".neuf");
     QFile::remove(brouillon);
-    Schema::CreerCatalogue(brouillon);
+    FichierNeuf::CreerCatalogue(brouillon);
     try {
-        const Base base(brouillon, Entete::Nature::Catalogue);
+        Base base(brouillon, Entete::Nature::Catalogue);
         Transaction transaction(base);
         Import import(base, strict);
         Csv::Lire(source, [&](const Csv::Rangee &r) { import.prendre(r); });

@@ -1,7 +1,7 @@
 // Makes the blank collection: bulleo-vierge FILE. An older one is replaced.
 
 #include "core/Error.h"
-#include "db/schema/Tables.h"
+#include "db/files/FichierNeuf.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -18,7 +18,7 @@ int main(int argc, char *argv[])
     const QString chemin = QString::fromLocal8Bit(argv[1]);
     try {
         QFile::remove(chemin);
-        Schema::CreerVierge(chemin);
+        FichierNeuf::CreerVierge(chemin);
     } catch (const Error &e) {
         sortie << e.message() << '\n';
         return 1;

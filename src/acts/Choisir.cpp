@@ -1,5 +1,6 @@
 #include "acts/Choisir.h"
 
+#include "acts/Acte.h"
 #include "acts/Creer.h"
 #include "acts/EcrireFiche.h"
 #include "acts/EcrireGrilles.h"
@@ -8,7 +9,6 @@
 #include "core/Texte.h"
 #include "db/AccesBase.h"
 #include "db/Base.h"
-#include "db/Transaction.h"
 
 #include <QCoreApplication>
 
@@ -96,14 +96,15 @@ Personne separer(const QString &texte, Noms noms)
 
 int premier(const Base &base, const QString &sql, const QVariantList &valeurs)
 {
-    const auto rs = base.OpenRecordset(sql, valeurs);
+    const auto rs = base.read(sql, valeurs);
     return rs.AtEnd() ? 0 : rs.Fields(0).toInt();
 }
 
 int chercherPersonne(const Base &base, const Offre &offre, const Personne &personne)
 {
     return premier(base,
-        QStringLiteral("SELECT %1 From %2 where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS")
+        QStringLiteral("SELECT %1 From %2 where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"
+                       " order by %1 asc")
             .arg(cle(offre), table(offre)),
         {personne.nom, personne.prenom});
 }
@@ -126,15 +127,14 @@ int chercher(const Base &base, const Offre &offre, const QString &texte)
         {nom});
 }
 
-int creer(const Base &base, const Offre &offre, const QString &texte)
+int creer(Base &base, const Offre &offre, const QString &texte)
 {
     const auto [nom, prenom] = separer(texte, offre.noms);
     if (offre.role)
         return Creer::CreerAuteur(nom, prenom, *offre.role);
     const int id = Creer::CreerEntree(table(offre), nom);
     if (!prenom.isEmpty()) {
-        auto rs = base.OpenRecordset(
-            QStringLiteral("SELECT * From %1 where %2 = ?").arg(table(offre), cle(offre)), {id});
+        auto rs = base.edit(table(offre), cle(offre) + QStringLiteral(" = ?"), {id});
         rs.Edit();
         rs.SetField(QStringLiteral("Prenom"), prenom);
         rs.Update();
@@ -142,7 +142,7 @@ int creer(const Base &base, const Offre &offre, const QString &texte)
     return id;
 }
 
-int trouverOuCreer(const Base &base, const Offre &offre, const Choisie &choisie)
+int trouverOuCreer(Base &base, const Offre &offre, const Choisie &choisie)
 {
     if (choisie.id > 0 || Texte::EstVide(choisie.texte))
         return choisie.id;
@@ -151,7 +151,7 @@ int trouverOuCreer(const Base &base, const Offre &offre, const Choisie &choisie)
 }
 
 /// The album's links of one table become the one to this entry, or none.
-void remplacerLiens(const Base &base, const Offre &offre, int album, int id)
+void remplacerLiens(Base &base, const Offre &offre, int album, int id)
 {
     if (offre.role) {
         AccesBase::OterRole(album, *offre.role);
@@ -163,7 +163,7 @@ void remplacerLiens(const Base &base, const Offre &offre, int album, int id)
     AccesBase::SupprimerLignes(liens, QStringLiteral("NAlbum"), album);
     if (id == 0)
         return;
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From ") + liens);
+    auto rs = base.edit(liens);
     rs.AddNew();
     rs.SetField(cle(offre), id);
     rs.SetField(QStringLiteral("NAlbum"), album);
@@ -171,9 +171,9 @@ void remplacerLiens(const Base &base, const Offre &offre, int album, int id)
 }
 
 /// A loan begins today unless its date is known already, and ends with its borrower.
-void suivrePret(const Base &base, int album, int emprunteur)
+void suivrePret(Base &base, int album, int emprunteur)
 {
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From Album where Num = ?"), {album});
+    auto rs = base.edit(QStringLiteral("Album"), QStringLiteral("Num = ?"), {album});
     const QString date = rs.Fields(QStringLiteral("DPret")).toString();
     if (emprunteur > 0 && !Texte::EstVide(date))
         return;
@@ -182,7 +182,7 @@ void suivrePret(const Base &base, int album, int emprunteur)
     rs.Update();
 }
 
-void ecrireIntervenant(const Base &base, const Edition &edition, const Offre &offre, const Choisie &choisie)
+void ecrireIntervenant(Base &base, const Edition &edition, const Offre &offre, const Choisie &choisie)
 {
     ChargerAlbums::Intervenant ligne = edition.intervenant;
     const int id = trouverOuCreer(base, offre, choisie);
@@ -196,7 +196,7 @@ void ecrireIntervenant(const Base &base, const Edition &edition, const Offre &of
     ChargerAlbums::EcrireIntervenant(edition.entree.id, edition.intervenant, ligne);
 }
 
-void ecrireLien(const Base &base, const Edition &edition, const Offre &offre, const Choisie &choisie)
+void ecrireLien(Base &base, const Edition &edition, const Offre &offre, const Choisie &choisie)
 {
     const int id = trouverOuCreer(base, offre, choisie);
     if (offre.role && id > 0)
@@ -247,11 +247,9 @@ int Choisir::Chercher(const Edition &edition, const QString &texte)
 
 int Choisir::Ajouter(const Edition &edition, const QString &texte)
 {
-    const Annonces::Intitule intitule(Ecrire::TitreDe(edition, texte), QVariant::fromValue(edition.entree));
-    const Base base;
-    Transaction transaction(base);
-    const int id = creer(base, *offreDe(edition), texte);
-    transaction.Commit();
+    Acte acte(Ecrire::TitreDe(edition, texte), edition.entree);
+    const int id = creer(acte.base(), *offreDe(edition), texte);
+    acte.valider();
     return id;
 }
 
@@ -260,19 +258,16 @@ QString Choisir::Valider(const Edition &edition, const Choisie &choisie)
     if (EstUneDate(edition))
         return Ecrire::EcrireSaisie(edition, choisie.texte).refus;
     const Offre &offre = *offreDe(edition);
-    const Annonces::Intitule intitule(
-        Ecrire::TitreDe(edition, choisie.texte), QVariant::fromValue(edition.entree));
-    const Base base;
+    Acte acte(Ecrire::TitreDe(edition, choisie.texte), edition.entree);
     if (const QString absente = Ecrire::RaisonSiAbsente(edition); !absente.isEmpty())
         return absente;
-    if (choisie.id > 0 && !existe(base, offre, choisie.id))
+    if (choisie.id > 0 && !existe(acte.base(), offre, choisie.id))
         return QCoreApplication::translate("Modification", "« %1 » n'existe plus.").arg(choisie.texte);
-    Transaction transaction(base);
     if (Ecrire::ChampDe(edition))
-        ecrireLien(base, edition, offre, choisie);
+        ecrireLien(acte.base(), edition, offre, choisie);
     else
-        ecrireIntervenant(base, edition, offre, choisie);
-    transaction.Commit();
+        ecrireIntervenant(acte.base(), edition, offre, choisie);
+    acte.valider();
     return {};
 }
 

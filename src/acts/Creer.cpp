@@ -1,5 +1,7 @@
 #include "acts/Creer.h"
 
+#include "acts/Acte.h"
+#include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/schema/Tables.h"
 
@@ -61,16 +63,16 @@ constexpr Lien Serie{"Serie", "NSerie", "SELECT * From Serie where Nom = ? order
 /// Finds the entry of this name or makes it, with the fields that `garnir` adds, and links the album to it.
 /// Nothing for a blank name.
 template <class Garnir>
-QVariant lier(const Base &base, const Lien &lien, const QString &nom, int album, const Garnir &garnir)
+QVariant lier(Base &base, const Lien &lien, const QString &nom, int album, const Garnir &garnir)
 {
     if (nom.trimmed().isEmpty())
         return {};
     const QString cle = QLatin1String(lien.cle);
-    const auto trouvee = base.OpenRecordset(QLatin1String(lien.recherche), {nom});
+    const auto trouvee = base.read(QLatin1String(lien.recherche), {nom});
     int numero = 0;
     if (trouvee.AtEnd()) {
         numero = AccesBase::NouvelIdentifiant(QLatin1String(lien.table), cle);
-        auto rs = base.OpenRecordset(QStringLiteral("SELECT * From ") + QLatin1String(lien.table));
+        auto rs = base.edit(QLatin1String(lien.table));
         rs.AddNew();
         rs.SetField(cle, numero);
         rs.SetField(QStringLiteral("Nom"), nom);
@@ -79,7 +81,7 @@ QVariant lier(const Base &base, const Lien &lien, const QString &nom, int album,
     } else {
         numero = trouvee.Fields(cle).toInt();
     }
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From ") + QLatin1String(lien.liens));
+    auto rs = base.edit(QLatin1String(lien.liens));
     rs.AddNew();
     rs.SetField(cle, numero);
     rs.SetField(QStringLiteral("NAlbum"), album);
@@ -88,7 +90,7 @@ QVariant lier(const Base &base, const Lien &lien, const QString &nom, int album,
 }
 
 /// What an earlier album of the same number left behind would seem to belong to the new one.
-void oterRestes(const Base &base, int album)
+void oterRestes(Base &base, int album)
 {
     for (const char *table : {"InterMetier", "CotesAlbum"})
         base.Execute(QStringLiteral("DELETE From %1 where NAlbum = ?").arg(QLatin1String(table)), {album});
@@ -105,7 +107,7 @@ void poserAlbum(Recordset &rs, int num, const Creer::Album &album)
             {"Integrale", album.integrale}});
 }
 
-void lierSerie(const Base &base, Recordset &rs, int num, const Creer::Album &album)
+void lierSerie(Base &base, Recordset &rs, int num, const Creer::Album &album)
 {
     const QVariant genre = lier(base, Genre, album.genre, num, [](Recordset &) {});
     rs.SetField(QStringLiteral("NGenre"), genre);
@@ -128,9 +130,9 @@ QVariant numeroOuRien(int numero)
 }
 
 /// The row of the list, which lists and sheets read first.
-void ajouterAuxListes(const Base &base, int num, const Creer::Album &album)
+void ajouterAuxListes(Base &base, int num, const Creer::Album &album)
 {
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From LAlbums"));
+    auto rs = base.edit(QStringLiteral("LAlbums"));
     rs.AddNew();
     poser(rs,
         {{"NAlbum", num}, {"TAlbum", titreDe(album)}, {"Photo1", texteOuVide(album.photo1)},
@@ -143,16 +145,15 @@ void ajouterAuxListes(const Base &base, int num, const Creer::Album &album)
 int chercherAuteur(const Base &base, const QString &nom)
 {
     const auto entier
-        = base.OpenRecordset(QStringLiteral("SELECT * From Auteurs where Nom = ? order by Nom asc"), {nom});
+        = base.read(QStringLiteral("SELECT * From Auteurs where Nom = ? order by Nom asc"), {nom});
     if (!entier.AtEnd())
         return entier.Fields(0).toInt();
     const qsizetype virgule = nom.indexOf(u',');
     if (virgule < 0)
         return 0;
-    const auto coupe
-        = base.OpenRecordset(QStringLiteral("SELECT * From Auteurs where Nom = ? and trim(Prenom) = ?"
-                                            " collate FRANCAIS order by Nom asc"),
-            {nom.left(virgule).trimmed(), nom.mid(virgule + 1).trimmed()});
+    const auto coupe = base.read(QStringLiteral("SELECT * From Auteurs where Nom = ? and trim(Prenom) = ?"
+                                                " collate FRANCAIS order by Nom asc"),
+        {nom.left(virgule).trimmed(), nom.mid(virgule + 1).trimmed()});
     return coupe.AtEnd() ? 0 : coupe.Fields(0).toInt();
 }
 
@@ -161,7 +162,7 @@ int chercherAuteur(const Base &base, const QString &nom)
 bool Creer::Existe(const Album &album)
 {
     const Base base;
-    const auto rs = base.OpenRecordset(
+    const auto rs = base.read(
         QStringLiteral("SELECT a.Num From LAlbums l join Album a on a.Num = l.NAlbum"
                        " left join Serie s on s.NSerie = a.NumSerie where l.TAlbum = ? and a.NAlbum = ?"
                        " and trim(coalesce(s.Nom, '')) = ? collate FRANCAIS"),
@@ -171,10 +172,10 @@ bool Creer::Existe(const Album &album)
 
 int Creer::CreerAlbum(const Album &album)
 {
-    const Base base;
+    Base base;
     const int num = AccesBase::NouvelIdentifiant(QStringLiteral("Album"), QStringLiteral("Num"));
     oterRestes(base, num);
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From Album"));
+    auto rs = base.edit(QStringLiteral("Album"));
     rs.AddNew();
     poserAlbum(rs, num, album);
     // The links are made, and stay, before the album itself is written.
@@ -184,6 +185,15 @@ int Creer::CreerAlbum(const Album &album)
     rs.SetField(QStringLiteral("NColor"), numeroOuRien(AjouterAuteur(album.color, Role::Color, num)));
     rs.Update();
     ajouterAuxListes(base, num, album);
+    return num;
+}
+
+int Creer::CreerEnUnActe(const Album &album)
+{
+    Acte acte(texte(Txt::Creation) + QStringLiteral(": ") + album.titre.trimmed());
+    const int num = CreerAlbum(album);
+    acte.placer({General::Tri::Albums, num});
+    acte.valider();
     return num;
 }
 
@@ -203,10 +213,10 @@ int Creer::AjouterAuteur(const QString &nom, Role role, int album)
 
 int Creer::CreerEntree(const QString &table, const QString &nom)
 {
-    const Base base;
+    Base base;
     const QVariantList blanc = Schema::Blanc(table);
     const int numero = AccesBase::NouvelIdentifiant(table, Schema::Champs(table).first());
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From ") + table);
+    auto rs = base.edit(table);
     rs.AddNew();
     for (int i = 0; i < blanc.size(); ++i)
         rs.SetField(i, blanc.at(i));
@@ -220,9 +230,9 @@ int Creer::CreerEntree(const QString &table, const QString &nom)
 
 int Creer::CreerAuteur(const QString &nom, const QString &prenom, Role role)
 {
-    const Base base;
+    Base base;
     const int numero = CreerEntree(QStringLiteral("Auteurs"), nom);
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From Auteurs where NAuteur = ?"), {numero});
+    auto rs = base.edit(QStringLiteral("Auteurs"), QStringLiteral("NAuteur = ?"), {numero});
     rs.Edit();
     poser(rs, {{"Prenom", texteOuVide(prenom)}});
     rs.SetField(AccesBase::NomDuRole(role), true);
@@ -232,10 +242,9 @@ int Creer::CreerAuteur(const QString &nom, const QString &prenom, Role role)
 
 void Creer::LierAuteur(int auteur, Role role, int album)
 {
-    const Base base;
-    auto rs = base.OpenRecordset(
-        QStringLiteral("SELECT * From AuteursAlbums where NAuteur = ? and NAlbum = ? order by NAuteur asc "),
-        {auteur, album});
+    Base base;
+    auto rs = base.edit(QStringLiteral("AuteursAlbums"),
+        QStringLiteral("NAuteur = ? and NAlbum = ? order by NAuteur asc"), {auteur, album});
     if (rs.AtEnd()) {
         rs.AddNew();
         poser(rs,

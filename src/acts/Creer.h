@@ -36,6 +36,9 @@ bool Existe(const Album &album);
 /// itself unless a Transaction holds it, so what was made before an error stays. Throws Error.
 int CreerAlbum(const Album &album);
 
+/// The same as one act: what a form does. After an error nothing stays of it.
+int CreerEnUnActe(const Album &album);
+
 /// Credits an author on an album in a role; one who is credited already gets the role's flag beside those he
 /// has. Returns his number, 0 for a blank name. Throws Error.
 int AjouterAuteur(const QString &nom, AccesBase::Role role, int album);

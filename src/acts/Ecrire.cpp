@@ -1,9 +1,9 @@
 #include "acts/Ecrire.h"
 
+#include "acts/Acte.h"
 #include "acts/EcrireFiche.h"
 #include "acts/EcrireGrilles.h"
 #include "core/Traduction.h"
-#include "db/Base.h"
 
 #include <QCoreApplication>
 
@@ -88,14 +88,18 @@ QString Ecrire::LibelleDe(const Edition &edition)
     return {};
 }
 
-QString Ecrire::TitreDe(const Edition &edition, const QString &valeur)
+QString Ecrire::Titre(const QString &quoi, const QString &valeur)
 {
     const QString ligne = valeur.simplified();
     if (ligne.isEmpty())
-        return LibelleDe(edition);
+        return quoi;
     const bool longue = ligne.size() > LongueurMontree;
-    return LibelleDe(edition) + QStringLiteral(": ")
-        + (longue ? ligne.left(LongueurMontree) + QChar(0x2026) : ligne);
+    return quoi + QStringLiteral(": ") + (longue ? ligne.left(LongueurMontree) + QChar(0x2026) : ligne);
+}
+
+QString Ecrire::TitreDe(const Edition &edition, const QString &valeur)
+{
+    return Titre(LibelleDe(edition), valeur);
 }
 
 QString Ecrire::RaisonSiAbsente(const Edition &edition)
@@ -111,16 +115,14 @@ QString Ecrire::RaisonSiAbsente(const Edition &edition)
 Resultat Ecrire::EcrireSaisie(const Edition &edition, const QString &saisie, int visite)
 {
     const Champ *champ = ChampDe(edition);
-    const Annonces::Intitule intitule(
-        TitreDe(edition, valeurMontree(champ, saisie)), QVariant::fromValue(edition.entree), visite);
-    const Base base;
+    Acte acte(TitreDe(edition, valeurMontree(champ, saisie)), edition.entree, visite);
     if (const QString absente = RaisonSiAbsente(edition); !absente.isEmpty())
         return {absente, {}};
-    if (!champ && NomDe(edition) != QStringLiteral("Métiers")) {
+    const bool grille = !champ && NomDe(edition) != QStringLiteral("Métiers");
+    if (grille)
         ecrireCote(edition, saisie);
-        return {};
-    }
-    if (!EcrireFiche::PoserSaisie(feuilleDe(edition), edition.entree.id, edition.champ, saisie))
+    else if (!EcrireFiche::PoserSaisie(feuilleDe(edition), edition.entree.id, edition.champ, saisie))
         return {Fiche::RaisonDuRefus(*champ), {}};
+    acte.valider();
     return {{}, champ ? avisDe(*champ, saisie) : QString()};
 }

@@ -26,7 +26,8 @@ const Champs::Champ *ChampDe(const Edition &edition);
 QString LibelleDe(const Edition &edition);
 /// The name of the field without the number of its line: "Mois(2)" gives "Mois".
 QString NomDe(const Edition &edition);
-/// How the step of this edit is called.
+/// How a step that gives something a value is called: "Scénariste: Caumery".
+QString Titre(const QString &quoi, const QString &valeur);
 QString TitreDe(const Edition &edition, const QString &valeur);
 
 /// What came of an entered text: why it was refused, or what is to be said of what was written. Both are empty

@@ -13,8 +13,8 @@ namespace {
 
 void ecrireMetiers(int nAuteur, const QString &metiers)
 {
-    const Base base;
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From Auteurs where NAuteur = ?"), {nAuteur});
+    Base base;
+    auto rs = base.edit(QStringLiteral("Auteurs"), QStringLiteral("NAuteur = ?"), {nAuteur});
     if (rs.RecordCount() == 0)
         return;
     rs.Edit();
@@ -26,7 +26,7 @@ void ecrireMetiers(int nAuteur, const QString &metiers)
 /// "first name, name", as the sheet's two name fields take it.
 void ecrireDeuxNoms(int nAuteur, const QString &texte)
 {
-    const Base base;
+    Base base;
     Transaction transaction(base);
     const qsizetype coupe = texte.indexOf(QLatin1String(", "));
     EcrireFiche::Poser(Feuille::Auteur, nAuteur, "Prenom", texte.left(coupe).trimmed());
@@ -55,11 +55,12 @@ void EcrireFiche::Poser(Feuille feuille, int id, const char *nom, const QVariant
 {
     const Champ *champ = Chercher(feuille, nom);
     Q_ASSERT(champ && champ->colonne);
-    const Base base;
+    Base base;
     for (const Ligne &ligne : Lignes()) {
         if (ligne.feuille != feuille || std::strcmp(ligne.table, champ->table) != 0)
             continue;
-        auto rs = base.OpenRecordset(QLatin1String(ligne.ecriture), {id});
+        auto rs
+            = base.edit(QLatin1String(ligne.table), QLatin1String(ligne.cle) + QStringLiteral(" = ?"), {id});
         if (rs.RecordCount() == 0)
             return;
         rs.Edit();
@@ -78,7 +79,7 @@ bool EcrireFiche::PoserSaisie(Feuille feuille, int id, const QString &nom, const
     const auto valeur = Fiche::Verifier(*champ, saisie);
     if (!valeur)
         return false;
-    const Base base;
+    Base base;
     Transaction transaction(base);
     Poser(feuille, id, champ->nom, *valeur);
     if (feuille == Feuille::Album && nom == QLatin1String("Hist"))

@@ -14,19 +14,19 @@ QString nu(const QString &texte)
 }
 
 /// The row of a named entry that a query finds, or a new one with these names; 0 for a blank name.
-int trouverOuFaire(const Base &base, const QString &table, const QString &cle, const QString &recherche,
-    const QStringList &noms)
+int trouverOuFaire(
+    Base &base, const QString &table, const QString &cle, const QString &recherche, const QStringList &noms)
 {
     if (noms.first().isEmpty())
         return 0;
     QVariantList valeurs;
     for (const QString &nom : noms)
         valeurs << nom;
-    const auto trouve = base.OpenRecordset(recherche, valeurs);
+    const auto trouve = base.read(recherche, valeurs);
     if (!trouve.AtEnd())
         return trouve.Fields(cle).toInt();
     const int numero = AccesBase::NouvelIdentifiant(table, cle);
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From ") + table);
+    auto rs = base.edit(table);
     rs.AddNew();
     rs.SetField(cle, numero);
     rs.SetField(QStringLiteral("Nom"), noms.first());
@@ -37,23 +37,24 @@ int trouverOuFaire(const Base &base, const QString &table, const QString &cle, c
 }
 
 /// A surname alone is looked up alone; with a first name before the comma both must agree.
-int trouverIntervenant(const Base &base, const QString &texte)
+int trouverIntervenant(Base &base, const QString &texte)
 {
     const QString table = QStringLiteral("Inter");
     const QString cle = QStringLiteral("NInter");
     const qsizetype virgule = texte.indexOf(u',');
     if (virgule < 0 || texte.mid(virgule + 1).trimmed().isEmpty())
-        return trouverOuFaire(base, table, cle, QStringLiteral("SELECT * From Inter where Nom = ?"), {texte});
+        return trouverOuFaire(base, table, cle,
+            QStringLiteral("SELECT * From Inter where Nom = ? order by NInter asc"), {texte});
     return trouverOuFaire(base, table, cle,
-        QStringLiteral(
-            "SELECT * From Inter where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"),
+        QStringLiteral("SELECT * From Inter where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"
+                       " order by NInter asc"),
         {texte.mid(virgule + 1).trimmed(), texte.left(virgule).trimmed()});
 }
 
-/// Takes away the first of the rows that a query finds.
-void oterUne(const Base &base, const QString &sql, const QVariantList &valeurs)
+/// Takes away the first of the rows of a table that are such.
+void oterUne(Base &base, const char *table, const QString &telles, const QVariantList &valeurs)
 {
-    auto rs = base.OpenRecordset(sql, valeurs);
+    auto rs = base.edit(QLatin1String(table), telles, valeurs);
     if (!rs.AtEnd())
         rs.Delete();
 }
@@ -63,9 +64,8 @@ void oterUne(const Base &base, const QString &sql, const QVariantList &valeurs)
 ChargerAlbums::Intervenant ChargerAlbums::EcrireIntervenant(
     int num, const Intervenant &ancien, const Intervenant &nouveau)
 {
-    const QString ligne
-        = QStringLiteral("SELECT * From InterMetier where NAlbum = ? and NInter = ? and NMetier = ?");
-    const Base base;
+    const QString telle = QStringLiteral("NAlbum = ? and NInter = ? and NMetier = ?");
+    Base base;
     Transaction transaction(base);
     Intervenant neuf = nouveau;
     if (neuf.intervenant == 0)
@@ -75,12 +75,12 @@ ChargerAlbums::Intervenant ChargerAlbums::EcrireIntervenant(
         neuf.metier = 0;
     else if (neuf.metier == 0)
         neuf.metier = trouverOuFaire(base, QStringLiteral("Metier"), QStringLiteral("NMetier"),
-            QStringLiteral("SELECT * From Metier where Nom = ?"), {nu(neuf.activite)});
+            QStringLiteral("SELECT * From Metier where Nom = ? order by NMetier asc"), {nu(neuf.activite)});
     const bool change = neuf.intervenant != ancien.intervenant || neuf.metier != ancien.metier;
     if (change)
-        oterUne(base, ligne, {num, ancien.intervenant, ancien.metier});
+        oterUne(base, "InterMetier", telle, {num, ancien.intervenant, ancien.metier});
     if (change && (neuf.intervenant > 0 || neuf.metier > 0)) {
-        auto rs = base.OpenRecordset(ligne, {num, neuf.intervenant, neuf.metier});
+        auto rs = base.edit(QStringLiteral("InterMetier"), telle, {num, neuf.intervenant, neuf.metier});
         if (rs.AtEnd()) {
             rs.AddNew();
             rs.SetField(QStringLiteral("NMetier"), neuf.metier);
@@ -95,17 +95,15 @@ ChargerAlbums::Intervenant ChargerAlbums::EcrireIntervenant(
 
 void ChargerAlbums::EcrireCote(int num, const Cote &ancienne, const Cote &nouvelle)
 {
-    const QString ligne
-        = QStringLiteral("SELECT * From CotesAlbum where NAlbum = ? and coalesce(Mois, '') = ?"
-                         " and coalesce(Cotes, '') = ?");
+    const QString telle = QStringLiteral("NAlbum = ? and coalesce(Mois, '') = ? and coalesce(Cotes, '') = ?");
     const QString mois = nu(nouvelle.mois);
     const QString cote = nu(nouvelle.cote);
     if (ancienne.mois == mois && ancienne.cote == cote)
         return;
-    const Base base;
+    Base base;
     Transaction transaction(base);
-    oterUne(base, ligne, {num, ancienne.mois, ancienne.cote});
-    auto rs = base.OpenRecordset(ligne, {num, mois, cote});
+    oterUne(base, "CotesAlbum", telle, {num, ancienne.mois, ancienne.cote});
+    auto rs = base.edit(QStringLiteral("CotesAlbum"), telle, {num, mois, cote});
     if (rs.AtEnd() && !(mois.isEmpty() && cote.isEmpty())) {
         rs.AddNew();
         rs.SetField(QStringLiteral("NAlbum"), num);

@@ -1,30 +1,14 @@
 #include "acts/Historique.h"
 
 #include "core/Error.h"
-#include "db/Base.h"
-#include "db/Journal.h"
-
-#include <QCoreApplication>
-#include <QScopedValueRollback>
+#include "db/Retour.h"
 
 namespace {
 
 constexpr int Limite = 200;
 constexpr int Fusionnable = 1;
-
-/// Puts later changes of a row together with an earlier one that they go on from.
-void fondre(Changements &changements, const Changements &suite)
-{
-    for (const Changement &c : suite) {
-        const auto amorce = std::find_if(changements.begin(), changements.end(),
-            [&](const Changement &a) { return a.table == c.table && a.cle == c.cle && a.apres == c.avant; });
-        if (amorce == changements.end())
-            changements.push_back(c);
-        else
-            amorce->apres = c.apres;
-    }
-    std::erase_if(changements, [](const Changement &c) { return c.avant == c.apres; });
-}
+/// Of all steps together; beyond it the oldest wait in files.
+constexpr qint64 LimiteEnMemoire = 2 * Bande::LimiteEnMemoire;
 
 /// A step on the stack. It only stands there: what it says is done before the stack moves, so that a refusal
 /// leaves the stack where it is.
@@ -37,6 +21,7 @@ public:
     {
     }
     const Etape &etape() const { return m_etape; }
+    void poser(const std::shared_ptr<Bande> &bande) { m_etape.bande = bande; }
 
     int id() const override { return m_etape.visite > 0 ? Fusionnable : -1; }
     bool mergeWith(const QUndoCommand *autre) override
@@ -44,9 +29,9 @@ public:
         const Etape &suite = static_cast<const Marche *>(autre)->m_etape;
         if (suite.visite != m_etape.visite || suite.titre != m_etape.titre || suite.lieu != m_etape.lieu)
             return false;
-        fondre(m_etape.changements, suite.changements);
+        m_etape.bande->prolonger(*suite.bande);
         // A visit that ends where it began is no step.
-        setObsolete(m_etape.changements.empty());
+        setObsolete(m_etape.bande->vide());
         return true;
     }
 
@@ -72,29 +57,43 @@ Historique::~Historique()
 
 void Historique::prendre(const Etape &etape)
 {
-    if (m_enCours)
-        return;
-    Etape nommee = etape;
-    if (nommee.titre.isEmpty())
-        nommee.titre = QCoreApplication::translate("Historique", "Modification");
     const int avant = m_pile.index();
-    m_pile.push(new Marche(nommee));
+    m_pile.push(new Marche(etape));
+    alleger();
     // A visit that came back to where it began took its step away again.
     if (m_pile.index() >= avant)
-        Q_EMIT inscrite(nommee);
+        Q_EMIT inscrite(etape);
 }
 
-Etape Historique::jouer(int rang, Acte acte, void (QUndoStack::*avancer)())
+void Historique::alleger()
 {
-    const auto *marche = static_cast<const Marche *>(m_pile.command(rang));
+    qint64 enMemoire = 0;
+    for (int i = m_pile.count(); i-- > 0;) {
+        Bande &bande = *static_cast<const Marche *>(m_pile.command(i))->etape().bande;
+        enMemoire += bande.enMemoire();
+        if (enMemoire <= LimiteEnMemoire)
+            continue;
+        enMemoire -= bande.enMemoire();
+        try {
+            bande.deposer();
+        } catch (const Error &) {
+            // It stays in memory, then.
+        }
+    }
+}
+
+/// Takes back what a step left, which leaves the step with the way back from there.
+Etape Historique::jouer(int rang, void (QUndoStack::*avancer)())
+{
+    auto *marche = static_cast<Marche *>(const_cast<QUndoCommand *>(m_pile.command(rang)));
     const Etape etape = marche->etape();
     try {
-        const QScopedValueRollback enCours(m_enCours, true);
-        const Base base;
-        acte(base, etape.changements);
+        Acte acte(etape.titre, etape.lieu);
+        Retour::Refaire(acte.base(), *etape.bande);
+        marche->poser(acte.validerSansEtape());
     } catch (const Error &e) {
         if (e.sorte() == Error::Sorte::Perimee) {
-            const_cast<QUndoCommand *>(m_pile.command(rang))->setObsolete(true);
+            marche->setObsolete(true);
             (m_pile.*avancer)();
             // Of a step given up on the way forward the stack says nothing.
             Q_EMIT change();
@@ -108,13 +107,13 @@ Etape Historique::jouer(int rang, Acte acte, void (QUndoStack::*avancer)())
 void Historique::annuler()
 {
     if (m_pile.canUndo())
-        Q_EMIT annulee(jouer(m_pile.index() - 1, &Journal::Annuler, &QUndoStack::undo));
+        Q_EMIT annulee(jouer(m_pile.index() - 1, &QUndoStack::undo));
 }
 
 void Historique::refaire()
 {
     if (m_pile.canRedo())
-        Q_EMIT refaite(jouer(m_pile.index(), &Journal::Refaire, &QUndoStack::redo));
+        Q_EMIT refaite(jouer(m_pile.index(), &QUndoStack::redo));
 }
 
 void Historique::oublier()

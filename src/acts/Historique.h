@@ -1,10 +1,10 @@
 #pragma once
 
-#include "core/Annonces.h"
+#include "acts/Acte.h"
 
 #include <QUndoStack>
 
-/// The steps that can be taken back and made again, as the collection announced them since the start.
+/// The steps that can be taken back and made again, as they were announced since the start.
 class Historique : public QObject
 {
     Q_OBJECT
@@ -34,10 +34,9 @@ Q_SIGNALS:
     void refaite(const Etape &etape);
 
 private:
-    using Acte = void (*)(const class Base &, const Changements &);
     void prendre(const Etape &etape);
-    Etape jouer(int rang, Acte acte, void (QUndoStack::*avancer)());
+    Etape jouer(int rang, void (QUndoStack::*avancer)());
+    void alleger();
 
     QUndoStack m_pile;
-    bool m_enCours = false; ///< what is announced comes from here
 };

@@ -1,14 +1,12 @@
 #include "acts/Importer.h"
 
+#include "acts/Acte.h"
 #include "acts/Saisie.h"
-#include "core/Annonces.h"
 #include "core/Csv.h"
 #include "core/Dossier.h"
 #include "core/Images.h"
 #include "core/Texte.h"
 #include "core/Traduction.h"
-#include "db/Base.h"
-#include "db/Transaction.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -306,10 +304,8 @@ Rapport Importer::ImporterAlbums(
 {
     QStringList entete;
     const QList<Ligne> lignes = lireLignes(chemin, entete);
-    const Annonces::Intitule intitule(
+    Acte acte(
         dire(QT_TRANSLATE_NOOP("ImporterAlbums", "Importation de « %1 »")).arg(QFileInfo(chemin).fileName()));
-    const Base base;
-    Transaction transaction(base);
     ImagesPrises images;
     Rapport rapport;
     for (qsizetype i = 0; i < lignes.size(); ++i) {
@@ -320,7 +316,7 @@ Rapport Importer::ImporterAlbums(
         }
         importer(lignes[i], correspondance, doublons, images, rapport);
     }
-    transaction.Commit();
+    acte.valider();
     images.garder();
     return rapport;
 }

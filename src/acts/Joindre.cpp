@@ -1,5 +1,6 @@
 #include "acts/Joindre.h"
 
+#include "acts/Acte.h"
 #include "core/Error.h"
 #include "core/Images.h"
 #include "core/Texte.h"
@@ -20,10 +21,11 @@ void ecrire(const Edition &edition, const QString &valeur, const QString &titre)
     const QString table = QLatin1String(champ->table);
     const bool dedicace = champ->vue != Champs::Vue::Image;
     const bool seconde = QString::fromLatin1(champ->colonne).endsWith(u'2');
-    const Annonces::Intitule intitule(Ecrire::TitreDe(edition, titre), QVariant::fromValue(edition.entree));
+    Acte acte(Ecrire::TitreDe(edition, titre), edition.entree);
     AccesBase::EcrireImage(table, seconde ? AccesBase::Rang::Seconde : AccesBase::Rang::Premiere,
         Schema::Champs(table).first(), edition.entree.id, valeur,
         dedicace ? AccesBase::Sorte::Dedicace : AccesBase::Sorte::Image);
+    acte.valider();
 }
 
 }

@@ -1,15 +1,18 @@
 #include "acts/Renommer.h"
 
+#include "acts/Acte.h"
 #include "acts/Creer.h"
+#include "acts/Ecrire.h"
 #include "acts/EcrireFiche.h"
+#include "core/Traduction.h"
 #include "db/AccesBase.h"
 #include "db/Base.h"
-#include "db/Transaction.h"
 #include "db/schema/Tables.h"
 #include "model/Fiche.h"
 
 using namespace Renommer;
 using Champs::Feuille;
+using General::Entree;
 using General::Tri;
 
 namespace {
@@ -28,31 +31,23 @@ Renommage ecrireNom(Feuille feuille, int id, const char *champ, const QString &l
     return valeur->toString() == libelle ? Renommage::Fait : Renommage::Coupe;
 }
 
-Renommage renommerAuteur(int id, const QString &libelle)
+void renommerAuteur(int id, const QString &libelle)
 {
-    const Base base;
-    Transaction transaction(base);
     const qsizetype virgule = libelle.indexOf(u',');
     const QString nom = virgule < 0 ? libelle : libelle.left(virgule).trimmed();
     if (!nom.isEmpty())
         EcrireFiche::Poser(Feuille::Auteur, id, "Nom", nom);
     EcrireFiche::Poser(
         Feuille::Auteur, id, "Prenom", virgule < 0 ? QString() : libelle.mid(virgule + 1).trimmed());
-    transaction.Commit();
-    return Renommage::Fait;
 }
 
-Renommage renommerPresse(int id, const QString &libelle)
+void renommerPresse(int id, const QString &libelle)
 {
-    const Base base;
-    Transaction transaction(base);
     const DePresse lu = LireDePresse(libelle);
     if (!lu.nom.isEmpty())
         EcrireFiche::Poser(Feuille::Presse, id, "NomP", lu.nom);
     if (lu.numero)
         EcrireFiche::Poser(Feuille::Presse, id, "NumP", *lu.numero);
-    transaction.Commit();
-    return Renommage::Fait;
 }
 
 /// A person has one row, whatever his trades.
@@ -64,9 +59,10 @@ Ajout ajouterAuteur(const Base &base, Tri tri, const QString &libelle)
     // With nothing before the comma, the text is a name as it stands.
     const QString nom = avant.isEmpty() ? libelle : avant;
     const QString prenom = avant.isEmpty() ? QString() : libelle.section(u',', 1).trimmed();
-    const auto la = base.OpenRecordset(
+    const auto la = base.read(
         QStringLiteral(
-            "SELECT * From Auteurs where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"),
+            "SELECT * From Auteurs where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"
+            " order by NAuteur asc"),
         {nom, prenom});
     if (la.AtEnd())
         return {Creer::CreerAuteur(nom, prenom, role), true};
@@ -87,7 +83,7 @@ int chercherNomme(const Base &base, Tri tri, const QString &libelle)
         sql += QStringLiteral(" and coalesce(NPresseBD, 0) = ?");
         valeurs = {lu.nom, lu.numero.value_or(0)};
     }
-    const auto rs = base.OpenRecordset(sql + QStringLiteral(" order by 1 asc"), valeurs);
+    const auto rs = base.read(sql + QStringLiteral(" order by 1 asc"), valeurs);
     return rs.AtEnd() ? 0 : rs.Fields(0).toInt();
 }
 
@@ -121,17 +117,22 @@ DePresse Renommer::LireDePresse(const QString &libelle)
     return {libelle.trimmed(), {}};
 }
 
-Renommage Renommer::RenommerEntree(Tri tri, int id, const QString &libelle)
+Renommage Renommer::RenommerEntree(Entree entree, const QString &libelle)
 {
     const QString net = libelle.trimmed();
     if (net.isEmpty())
         return Renommage::Rien;
-    const Champs::Champ &champ = ChampDe(tri);
+    const Champs::Champ &champ = ChampDe(entree.tri);
+    Acte acte(Ecrire::Titre(texte(champ.libelle), libelle), entree);
+    Renommage fait = Renommage::Fait;
     if (champ.feuille == Feuille::Auteur)
-        return renommerAuteur(id, net);
-    if (champ.feuille == Feuille::Presse)
-        return renommerPresse(id, net);
-    return ecrireNom(champ.feuille, id, champ.nom, net);
+        renommerAuteur(entree.id, net);
+    else if (champ.feuille == Feuille::Presse)
+        renommerPresse(entree.id, net);
+    else
+        fait = ecrireNom(champ.feuille, entree.id, champ.nom, net);
+    acte.valider();
+    return fait;
 }
 
 Ajout Renommer::AjouterEntree(Tri tri, const QString &libelle)
@@ -139,14 +140,11 @@ Ajout Renommer::AjouterEntree(Tri tri, const QString &libelle)
     const QString net = libelle.trimmed();
     if (net.isEmpty() || tri == Tri::Albums)
         return {};
-    const Base base;
-    Transaction transaction(base);
-    Ajout ajout;
-    if (General::GenreDe(tri).feuille == Feuille::Auteur)
-        ajout = ajouterAuteur(base, tri, net);
-    else
-        ajout = ajouterNomme(base, tri, net);
-    transaction.Commit();
+    Acte acte(texte(Txt::Ajouter) + QStringLiteral(": ") + libelle.simplified());
+    const bool auteur = General::GenreDe(tri).feuille == Feuille::Auteur;
+    const Ajout ajout = auteur ? ajouterAuteur(acte.base(), tri, net) : ajouterNomme(acte.base(), tri, net);
+    acte.placer({tri, ajout.id});
+    acte.valider();
     return ajout;
 }
 

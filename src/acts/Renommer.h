@@ -8,7 +8,7 @@ namespace Renommer {
 /// Writes the text of a list's label back into the entry: a title is cut at 50 characters, an author's text
 /// at its first comma, a press item's apart into name and number. A blank text changes nothing. Throws Error.
 enum class Renommage { Rien, Fait, Coupe };
-Renommage RenommerEntree(General::Tri tri, int id, const QString &libelle);
+Renommage RenommerEntree(General::Entree entree, const QString &libelle);
 
 /// Adds an entry by the text of its label, with the defaults of a creation; an author who is there already
 /// gets the trade of the list. Nothing is added for a blank text, nor when there is such an entry already (of a print

@@ -23,8 +23,7 @@ QString dire(const char *texte)
 QStringList lireAuteurs(const Base &base)
 {
     QStringList noms;
-    for (auto rs
-         = base.OpenRecordset(QStringLiteral("SELECT Nom, Prenom From Auteurs order by Nom asc, Prenom asc"));
+    for (auto rs = base.read(QStringLiteral("SELECT Nom, Prenom From Auteurs order by Nom asc, Prenom asc"));
          !rs.AtEnd(); rs.MoveNext())
         noms << Texte::NomPrenom(rs.Fields(0).toString(), rs.Fields(1).toString());
     return noms;
@@ -60,7 +59,7 @@ Saisie::Choix Saisie::LireChoix()
 std::optional<int> Saisie::ProchainTome(const QString &serie)
 {
     const Base base;
-    const auto rs = base.OpenRecordset(
+    const auto rs = base.read(
         QStringLiteral("SELECT s.NSerie, (SELECT max(NAlbum) From Album where NumSerie = s.NSerie)"
                        " From Serie s where s.Nom = ?"),
         {serie.trimmed()});
@@ -106,12 +105,12 @@ Creer::Album Saisie::Composer(const Textes &textes)
     return album;
 }
 
-int Saisie::Creer(const Textes &textes)
+int Saisie::CreerAlbum(const Textes &textes)
 {
     Creer::Album album = Composer(textes);
     if (!textes.photo1.isEmpty())
         album.photo1 = Images::Copier(textes.photo1);
     if (!textes.photo2.isEmpty())
         album.photo2 = Images::Copier(textes.photo2);
-    return Creer::CreerAlbum(album);
+    return Creer::CreerEnUnActe(album);
 }

@@ -49,6 +49,6 @@ Creer::Album Composer(const Textes &textes);
 
 /// Takes the pictures into the collection and creates the album; returns its number. The texts must have
 /// passed Verifier. Throws Error.
-int Creer(const Textes &textes);
+int CreerAlbum(const Textes &textes);
 
 }

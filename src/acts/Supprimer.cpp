@@ -1,9 +1,8 @@
 #include "acts/Supprimer.h"
 
+#include "acts/Acte.h"
 #include "core/Traduction.h"
 #include "db/AccesBase.h"
-#include "db/Base.h"
-#include "db/Transaction.h"
 
 #include <array>
 
@@ -38,9 +37,9 @@ constexpr std::array Cibles{
     Cible{Tri::Collections, "Coll", "NColl"},
 };
 
-void oterMetier(const Base &base, int auteur, const QString &drapeau)
+void oterMetier(Base &base, int auteur, const QString &drapeau)
 {
-    auto rs = base.OpenRecordset(QStringLiteral("SELECT * From Auteurs where NAuteur = ?"), {auteur});
+    auto rs = base.edit(QStringLiteral("Auteurs"), QStringLiteral("NAuteur = ?"), {auteur});
     if (rs.AtEnd())
         return;
     rs.Edit();
@@ -52,19 +51,16 @@ void oterMetier(const Base &base, int auteur, const QString &drapeau)
 
 void Supprimer::SupprimerEntree(General::Entree entree)
 {
-    const Annonces::Intitule intitule(
-        texte(Txt::Supprimer) + QStringLiteral(": ") + General::LireTexte(entree.tri, entree.id),
-        QVariant::fromValue(entree));
-    const Base base;
-    Transaction transaction(base);
+    Acte acte(
+        texte(Txt::Supprimer) + QStringLiteral(": ") + General::LireTexte(entree.tri, entree.id), entree);
     for (const Cible &cible : Cibles) {
         if (cible.tri != entree.tri)
             continue;
         const QString table = QLatin1String(cible.table);
         if (table == QLatin1String("Auteurs"))
-            oterMetier(base, entree.id, QLatin1String(cible.champ));
+            oterMetier(acte.base(), entree.id, QLatin1String(cible.champ));
         else
             AccesBase::SupprimerLignes(table, QLatin1String(cible.champ), entree.id);
     }
-    transaction.Commit();
+    acte.valider();
 }

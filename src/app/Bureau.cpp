@@ -202,7 +202,7 @@ void Bureau::poserEtapes()
 void Bureau::montrerEtape(const Etape &etape, const QString &message)
 {
     auto *fenetre = forme<Frmmain>(Nom::Frmmain);
-    const auto entree = etape.lieu.value<General::Entree>();
+    const General::Entree entree = etape.lieu;
     if (entree.id > 0 && entree != fenetre->courante() && General::EstDansLaListe(entree.tri, entree.id))
         fenetre->montrerEntree(entree);
     fenetre->dire(message.arg(etape.titre));
@@ -263,7 +263,7 @@ void Bureau::demarrer()
 /// A collection or a catalogue in the old format is offered to be converted.
 void Bureau::proposerReprise()
 {
-    for (const auto &nom : {QStringLiteral("BDbase.bd"), QStringLiteral("bd.mdb")}) {
+    for (const auto &nom : {Dossier::Catalogue, Dossier::Collection}) {
         const QString chemin = Dossier::courant().chemin(nom);
         if (Reprise::EstAncien(chemin))
             QTimer::singleShot(0, this, [this, chemin] { proposerFichier(chemin); });

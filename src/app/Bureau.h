@@ -2,7 +2,6 @@
 
 #include "acts/Historique.h"
 #include "app/Options.h"
-#include "core/Annonces.h"
 #include "core/Catalogues.h"
 #include "core/ui/Forme.h"
 

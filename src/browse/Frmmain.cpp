@@ -18,8 +18,8 @@
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
+#include "db/files/MiseANiveau.h"
 #include "db/files/Reprise.h"
-#include "db/schema/Tables.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -156,7 +156,7 @@ void Frmmain::raccourcis()
 
 void Frmmain::charger()
 {
-    Schema::MettreANiveau();
+    MiseANiveau::Executer();
     try {
         importerIni();
     } catch (const Error &e) {
@@ -171,7 +171,7 @@ void Frmmain::charger()
     // still before the window is first painted.
     QTimer::singleShot(0, this, [this] {
         // One in the old format is not opened: it is offered to be converted.
-        if (Reprise::EstAncien(Dossier::courant().chemin(QStringLiteral("bd.mdb"))))
+        if (Reprise::EstAncien(Dossier::courant().collection()))
             return;
         m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris)));
         m_ouverte = true;
@@ -349,11 +349,7 @@ void Frmmain::ajouterEntree(Tri tri)
 
 void Frmmain::ajouter(Tri tri, const QString &libelle)
 {
-    Renommer::Ajout ajout;
-    {
-        const Annonces::Intitule intitule(texte(Txt::Ajouter) + QStringLiteral(": ") + libelle.simplified());
-        ajout = Renommer::AjouterEntree(tri, libelle);
-    }
+    const Renommer::Ajout ajout = Renommer::AjouterEntree(tri, libelle);
     if (ajout.id == 0)
         return;
     if (!ajout.nouveau)
@@ -366,10 +362,7 @@ void Frmmain::renommer(Tri tri, int id, const QString &libelle)
 {
     if (id == 0)
         return ajouter(tri, libelle);
-    const Entree entree{tri, id};
-    const Edition edition{entree, QLatin1String(Renommer::ChampDe(tri).nom), {}, {}, {}, {}, {}};
-    const Annonces::Intitule intitule(Ecrire::TitreDe(edition, libelle), QVariant::fromValue(entree));
-    if (Renommer::RenommerEntree(tri, id, libelle) == Renommer::Renommage::Coupe)
+    if (Renommer::RenommerEntree({tri, id}, libelle) == Renommer::Renommage::Coupe)
         dire(tr("Le titre a été coupé à 50 caractères."));
 }
 

@@ -5,37 +5,33 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
-#include <QVariant>
 #include <functional>
-#include <optional>
 #include <vector>
 
 class Error;
+struct Etape;
 
-/// One changed row of the collection: before and after. No "before" is a new row, no "after" a deleted one.
+/// One changed row of the collection, without what it holds.
 struct Changement
 {
-    using Ligne = std::vector<QVariant>;
+    enum class Sorte {
+        Tout, ///< whatever the table holds, or with no table whatever the collection holds
+        Ajout,
+        Edition,
+        Retrait
+    };
 
     QString table;
     qint64 cle = 0; ///< row number, which is the identifier in the tables of entries
-    std::optional<Ligne> avant;
-    std::optional<Ligne> apres;
+    Sorte sorte = Sorte::Tout;
+    quint64 champs = ~quint64(0); ///< of an edited row: bit n is set when its n-th field differs
 };
 
-/// What one user action changed, in the order in which it happened.
+/// What one action changed, in the order in which it happened.
 using Changements = std::vector<Changement>;
 
-/// One action of the user, as undo names it and finds its place again.
-struct Etape
-{
-    QString titre; ///< "Scénariste: Caumery"
-    Changements changements;
-    QVariant lieu; ///< where it was done; the forms know what this is
-    int visite = 0; ///< steps of one visit to one place under one title are one step; 0 is none
-};
-
-/// The collection as the forms know it: it tells them when something in it has changed.
+/// What the forms hear of the collection: that a step was done, that rows were changed, that another file stands in
+/// its place. And what the lower floors ask of whoever is in front.
 class Annonces : public QObject, public Courant<Annonces>
 {
     Q_OBJECT
@@ -44,7 +40,7 @@ public:
     /// Asked when the file is in use by another program; true tries again. Without it the opening fails.
     std::function<bool(const Error &)> reessayer;
 
-    /// The backups of this run, which the engine makes before it writes.
+    /// The backups of this run, which are made before it writes.
     struct SuiviDesSauvegardes
     {
         std::function<QDateTime()> maintenant = [] { return QDateTime::currentDateTime(); };
@@ -55,34 +51,13 @@ public:
         bool enEchec = false;
     } sauvegardes;
 
-    /// Names what is changed while it lives; the outermost one counts. It must outlive the Base that is written
-    /// through, since a step is complete when that is closed: it is declared before it.
-    class Intitule
-    {
-    public:
-        explicit Intitule(const QString &titre, const QVariant &lieu = {}, int visite = 0);
-        ~Intitule();
-        Intitule(const Intitule &) = delete;
-        Intitule &operator=(const Intitule &) = delete;
-
-    private:
-        bool m_premier;
-    };
-
-    /// Hands the step over at once, and announces its changes from the event loop, once the action that made
-    /// them is over.
+    /// Announces changed rows from the event loop, once the action that changed them is over.
     void annoncer(const Changements &changements);
     /// Announces that another collection stands in the file: no step leads back, everything is to be read anew.
     void remplacer();
 
 Q_SIGNALS:
     void faite(const Etape &etape);
-    /// A change without a table stands for a change of everything.
     void changee(const Changements &changements);
     void remplacee();
-
-private:
-    void publier(const Changements &changements);
-
-    std::optional<Etape> m_intitule;
 };

@@ -5,11 +5,14 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QStringDecoder>
 #include <array>
 #include <csv.h>
+#include <exception>
 
 namespace {
 
+constexpr qint64 Morceau = 1 << 16;
 constexpr std::array Separateurs{',', ';', '\t'};
 
 /// What the callbacks of the reader share. The reader counts no lines, so line ends are counted here.
@@ -20,6 +23,13 @@ struct Lecture
     int ligne = 1;
     bool enTete = true;
     const std::function<void(const Csv::Rangee &)> *pour = nullptr;
+    std::exception_ptr echec; ///< of `pour`: an exception may not cross the reader
+
+    void relever() const
+    {
+        if (echec)
+            std::rethrow_exception(echec);
+    }
 };
 
 void finDeCellule(void *octets, size_t taille, void *donnees)
@@ -32,6 +42,17 @@ void finDeCellule(void *octets, size_t taille, void *donnees)
     lecture.ligne += static_cast<int>(cellule.count(u'\n'));
 }
 
+void donner(Lecture &lecture)
+{
+    if (lecture.echec)
+        return;
+    try {
+        (*lecture.pour)({lecture.ligne, lecture.cellules, &lecture.entete});
+    } catch (...) {
+        lecture.echec = std::current_exception();
+    }
+}
+
 /// Called at every character that may end a line, so that blank lines are counted, too.
 void finDeLigne(int caractere, void *donnees)
 {
@@ -40,7 +61,7 @@ void finDeLigne(int caractere, void *donnees)
         if (std::exchange(lecture.enTete, false))
             lecture.entete = lecture.cellules;
         else
-            (*lecture.pour)({lecture.ligne, lecture.cellules, &lecture.entete});
+            donner(lecture);
     }
     lecture.cellules.clear();
     if (caractere == '\n')
@@ -50,6 +71,22 @@ void finDeLigne(int caractere, void *donnees)
 [[noreturn]] void echec(const QString &chemin, const QString &details)
 {
     throw Error(QCoreApplication::translate("Csv", "Ce fichier ne peut pas être lu."), chemin, details);
+}
+
+/// Whether all of a file is UTF-8. It stands behind its byte-order mark, if it has one, afterwards.
+bool estEnUtf8(QFile &fichier)
+{
+    QStringDecoder decodeur(QStringDecoder::Utf8);
+    while (!fichier.atEnd() && !decodeur.hasError()) {
+        [[maybe_unused]] const QString morceau = decodeur(fichier.read(Morceau));
+    }
+    // A character that is cut off at the end shows when something follows it.
+    [[maybe_unused]] const QString fin = decodeur(QByteArrayLiteral("\n"));
+    const QByteArray marque("\xEF\xBB\xBF");
+    fichier.seek(0);
+    if (!decodeur.hasError() && fichier.peek(marque.size()) == marque)
+        fichier.skip(marque.size());
+    return !decodeur.hasError();
 }
 
 /// Owns the C parser.
@@ -96,16 +133,22 @@ QStringList Csv::Lire(const QString &chemin, const std::function<void(const Rang
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly))
         echec(chemin, fichier.errorString());
-    const QByteArray octets = Texte::Decoder(fichier.readAll()).toUtf8();
-
+    const bool utf8 = estEnUtf8(fichier);
     Analyseur analyseur(separateur);
     Lecture lecture;
     lecture.pour = &pour;
-    const auto taille = static_cast<size_t>(octets.size());
-    const bool lu
-        = csv_parse(&analyseur.parser, octets.constData(), taille, finDeCellule, finDeLigne, &lecture)
-        == taille;
-    if (!lu || csv_fini(&analyseur.parser, finDeCellule, finDeLigne, &lecture) != 0)
+    bool lu = true;
+    while (lu && !fichier.atEnd()) {
+        const QByteArray octets
+            = utf8 ? fichier.read(Morceau) : Texte::Decoder1252(fichier.read(Morceau)).toUtf8();
+        const auto taille = static_cast<size_t>(octets.size());
+        lu = csv_parse(&analyseur.parser, octets.constData(), taille, finDeCellule, finDeLigne, &lecture)
+            == taille;
+        lecture.relever();
+    }
+    lu = lu && csv_fini(&analyseur.parser, finDeCellule, finDeLigne, &lecture) == 0;
+    lecture.relever();
+    if (!lu)
         echec(chemin,
             QCoreApplication::translate("Csv", "Ligne %1").arg(lecture.ligne) + QStringLiteral(" : ")
                 + QString::fromUtf8(csv_strerror(csv_error(&analyseur.parser))));

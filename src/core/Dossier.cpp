@@ -11,13 +11,12 @@
 
 namespace {
 
-const QString Collection = QStringLiteral("bd.mdb");
 const QString CollectionVierge = QStringLiteral("Base vierge.bd");
 const QString Verrou = QStringLiteral(".bulleo.lock");
 
 /// What every complete folder has beside the collection.
-const std::array Complements{QStringLiteral("BDbase.bd"), QStringLiteral("langues"),
-    QStringLiteral("Fond Ecran"), QStringLiteral("Help")};
+const std::array Complements{
+    Dossier::Catalogue, QStringLiteral("langues"), QStringLiteral("Fond Ecran"), QStringLiteral("Help")};
 
 /// Folders that the program fills.
 const std::array DossiersVides{QStringLiteral("images"), QStringLiteral("image")};

@@ -10,6 +10,10 @@
 class Dossier : public Courant<Dossier>
 {
 public:
+    /// What the collection and the reference catalogue are called.
+    inline static const QString Collection = QStringLiteral("bd.mdb");
+    inline static const QString Catalogue = QStringLiteral("BDbase.bd");
+
     /// `racine` is the application folder, `livre` the folder of what is shipped with the program.
     Dossier(const QString &racine, const QString &livre);
 
@@ -23,6 +27,8 @@ public:
     /// is matched without regard to case when it exists.
     QString chemin(const QString &nom) const;
     QString racine() const { return m_racine; }
+    QString collection() const { return chemin(Collection); }
+    QString catalogue() const { return chemin(Catalogue); }
     /// True when a path leads to this file of the folder, by whatever link or letter case.
     bool estLeFichier(const QString &chemin, const QString &nom) const;
 

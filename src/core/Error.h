@@ -8,7 +8,17 @@ class Error : public std::runtime_error
 {
 public:
     /// Told apart only where a caller reacts differently.
-    enum class Sorte { Autre, Introuvable, Etrangere, Abimee, LectureSeule, EnUsage, Ancienne, Perimee };
+    enum class Sorte {
+        Autre,
+        Introuvable,
+        Etrangere,
+        Abimee,
+        LectureSeule,
+        EnUsage,
+        Ancienne,
+        PlusRecente,
+        Perimee
+    };
 
     Error(Sorte sorte, const QString &quoi, const QString &surQuoi, const QString &details = {});
     Error(const QString &quoi, const QString &surQuoi, const QString &details = {});

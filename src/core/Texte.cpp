@@ -11,16 +11,6 @@ constexpr char16_t Haut1252[32] = {0x20AC, 0x81, 0x201A, 0x0192, 0x201E, 0x2026,
     0x2030, 0x0160, 0x2039, 0x0152, 0x8D, 0x017D, 0x8F, 0x90, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013,
     0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D, 0x017E, 0x0178};
 
-QString decoder1252(const QByteArray &octets)
-{
-    QString texte = QString::fromLatin1(octets);
-    for (QChar &c : texte) {
-        if (c.unicode() >= 0x80 && c.unicode() <= 0x9F)
-            c = QChar(Haut1252[c.unicode() - 0x80]);
-    }
-    return texte;
-}
-
 }
 
 const QString &Texte::Pointilles()
@@ -34,11 +24,21 @@ bool Texte::EstVide(const QString &texte)
     return texte.trimmed().isEmpty() || texte == Pointilles();
 }
 
+QString Texte::Decoder1252(const QByteArray &octets)
+{
+    QString texte = QString::fromLatin1(octets);
+    for (QChar &c : texte) {
+        if (c.unicode() >= 0x80 && c.unicode() <= 0x9F)
+            c = QChar(Haut1252[c.unicode() - 0x80]);
+    }
+    return texte;
+}
+
 QString Texte::Decoder(const QByteArray &octets)
 {
     QStringDecoder utf8(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
     QString texte = utf8(octets);
-    return utf8.hasError() ? decoder1252(octets) : texte;
+    return utf8.hasError() ? Decoder1252(octets) : texte;
 }
 
 QString Texte::Plier(const QString &texte)

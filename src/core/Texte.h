@@ -14,6 +14,8 @@ bool EstVide(const QString &texte);
 
 /// Bytes of a text file: UTF-8 when they are valid UTF-8 (a byte-order mark is dropped), else Windows-1252.
 QString Decoder(const QByteArray &octets);
+/// Bytes that are known to be Windows-1252.
+QString Decoder1252(const QByteArray &octets);
 
 /// The text as a search compares it: without case, accents and ligatures ("Œuvre" gives "oeuvre").
 QString Plier(const QString &texte);

@@ -15,10 +15,9 @@ const QString &connu(const QString &table, const QString &champ)
     return table;
 }
 
-Recordset ouvrirLigne(const Base &base, const QString &table, const QString &champ, const QVariant &valeur)
+Recordset ouvrirLigne(Base &base, const QString &table, const QString &champ, const QVariant &valeur)
 {
-    return base.OpenRecordset(
-        QStringLiteral("SELECT * From %1 where %2 = ?").arg(connu(table, champ), champ), {valeur});
+    return base.edit(connu(table, champ), champ + QStringLiteral(" = ?"), {valeur});
 }
 
 bool estAuteurs(const QString &table)
@@ -44,8 +43,7 @@ QString AccesBase::NomDuRole(Role role)
 int AccesBase::NouvelIdentifiant(const QString &table, const QString &champ)
 {
     const Base base;
-    const auto max
-        = base.OpenRecordset(QStringLiteral("SELECT max(%1) From %2").arg(champ, connu(table, champ)));
+    const auto max = base.read(QStringLiteral("SELECT max(%1) From %2").arg(champ, connu(table, champ)));
     return max.Fields(0).toInt() + 1;
 }
 
@@ -54,7 +52,7 @@ QStringList AccesBase::LireNoms(const QString &table)
     const Base base;
     const QString nom = Schema::Champs(table).at(1);
     QStringList noms;
-    for (auto rs = base.OpenRecordset(QStringLiteral("SELECT %1 From %2 order by %1 asc").arg(nom, table));
+    for (auto rs = base.read(QStringLiteral("SELECT %1 From %2 order by %1 asc").arg(nom, table));
          !rs.AtEnd(); rs.MoveNext())
         noms << rs.Fields(0).toString();
     return noms;
@@ -63,7 +61,7 @@ QStringList AccesBase::LireNoms(const QString &table)
 void AccesBase::EcrireImage(
     const QString &table, Rang rang, const QString &champCle, int cle, const QString &valeur, Sorte sorte)
 {
-    const Base base;
+    Base base;
     auto rs = ouvrirLigne(base, table, champCle, cle);
     if (rs.RecordCount() == 0)
         return;
@@ -77,7 +75,7 @@ void AccesBase::EcrireImage(
 AccesBase::Entree AccesBase::ChercherOuCreer(
     const QString &table, const QString &champCle, int champ, const Entree &entree)
 {
-    const Base base;
+    Base base;
     auto rs = ouvrirLigne(base, table, champCle, entree.identifiant);
     if (rs.RecordCount() > 0)
         return {entree.identifiant, rs.Fields(champ).toString()};
@@ -92,7 +90,7 @@ AccesBase::Entree AccesBase::ChercherOuCreer(
 int AccesBase::EnregistrerOuSupprimer(const QString &table, const QString &champCle, int champ,
     const Entree &entree, const QVariant &ancienne, std::optional<Role> role)
 {
-    const Base base;
+    Base base;
     auto rs = ouvrirLigne(base, table, champCle, entree.identifiant);
     const bool existe = rs.RecordCount() > 0;
     if (entree.valeur.isEmpty()) {
@@ -118,12 +116,11 @@ int AccesBase::EnregistrerOuSupprimer(const QString &table, const QString &champ
 void AccesBase::OterRole(int album, Role role)
 {
     try {
-        const Base base;
+        Base base;
         Transaction transaction(base);
         const QString nom = NomDuRole(role);
-        for (auto rs = base.OpenRecordset(
-                 QStringLiteral("SELECT * From AuteursAlbums where NAlbum = ? and %1=true").arg(nom),
-                 {album});
+        for (auto rs = base.edit(
+                 QStringLiteral("AuteursAlbums"), QStringLiteral("NAlbum = ? and %1=true").arg(nom), {album});
              !rs.AtEnd(); rs.MoveNext()) {
             rs.Edit();
             rs.SetField(nom, false);
@@ -141,7 +138,7 @@ void AccesBase::OterRole(int album, Role role)
 
 void AccesBase::PoserRole(int auteur, Role role)
 {
-    const Base base;
+    Base base;
     auto rs = ouvrirLigne(base, QStringLiteral("Auteurs"), QStringLiteral("NAuteur"), auteur);
     if (rs.RecordCount() == 0)
         return;
@@ -152,12 +149,12 @@ void AccesBase::PoserRole(int auteur, Role role)
 
 void AccesBase::SupprimerLignes(const QString &table, const QString &champ, int valeur)
 {
-    const Base base;
+    Base base;
     base.Execute(QStringLiteral("DELETE From %1 where %2 = ?").arg(connu(table, champ), champ), {valeur});
 }
 
 int AccesBase::CompterLignes(const QString &table, const QString &champ, const QVariant &valeur)
 {
-    const Base base;
+    Base base;
     return ouvrirLigne(base, table, champ, valeur).AtEnd() ? 0 : 1;
 }

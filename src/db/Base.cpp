@@ -5,9 +5,8 @@
 #include "db/Sql.h"
 
 Base::Base()
-    : Base(Dossier::courant().chemin(QStringLiteral("bd.mdb")), Entete::Nature::Collection)
+    : Base(Dossier::courant().collection(), Entete::Nature::Collection)
 {
-    m_connexion->aSauver = true;
 }
 
 Base::Base(const QString &chemin, Entete::Nature nature)
@@ -15,12 +14,17 @@ Base::Base(const QString &chemin, Entete::Nature nature)
 {
 }
 
-Recordset Base::OpenRecordset(const QString &sql, const QVariantList &valeurs) const
+Cursor Base::read(const QString &sql, const QVariantList &valeurs) const
 {
-    return Recordset(m_connexion, sql, valeurs);
+    return Cursor(m_connexion, sql, valeurs);
 }
 
-int Base::Execute(const QString &sql, const QVariantList &valeurs) const
+Recordset Base::edit(const QString &table, const QString &where, const QVariantList &valeurs)
+{
+    return Recordset(m_connexion, table, where, valeurs);
+}
+
+int Base::Execute(const QString &sql, const QVariantList &valeurs)
 {
     int changees = 0;
     m_connexion->ecrire([&] {

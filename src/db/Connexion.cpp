@@ -1,11 +1,12 @@
 #include "db/Connexion.h"
 
+#include "core/Annonces.h"
 #include "core/Error.h"
 #include "db/Collation.h"
+#include "db/Comparaison.h"
+#include "db/Refus.h"
 #include "db/Valeur.h"
-#include "db/files/Moteur.h"
-#include "db/files/Sauvegardes.h"
-#include "db/schema/Tables.h"
+#include "db/schema/Version.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -24,10 +25,10 @@ std::map<QString, std::weak_ptr<Connexion>> &ouvertes()
     return connexions;
 }
 
-QString dire(const char *texte)
+struct Textes
 {
-    return QCoreApplication::translate("Base", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Base)
+};
 
 }
 
@@ -62,21 +63,19 @@ bool Connexion::estOuverte(const QString &chemin)
 
 Connexion::Connexion(const QString &chemin, Entete::Nature nature)
     : m_chemin(chemin)
-    , m_annonce(nature == Entete::Nature::Collection)
 {
     Entete::Verifier(chemin, nature);
     executer([&] {
         m_db = std::make_unique<SQLite::Database>(
-            chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, Moteur::AttenteMs);
-        preparer(nature);
+            chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, AttenteMs);
+        ouvrir(nature);
     });
 }
 
-void Connexion::preparer(Entete::Nature nature)
+void Connexion::ouvrir(Entete::Nature nature)
 {
     if (sqlite3_db_readonly(m_db->getHandle(), "main") == 1)
-        throw Error(Error::Sorte::LectureSeule,
-            dire(QT_TRANSLATE_NOOP("Base", "La base est en lecture seule.")), m_chemin);
+        throw Error(Error::Sorte::LectureSeule, Textes::tr("La base est en lecture seule."), m_chemin);
     Collation::Enregistrer(m_db->getHandle());
     // A first read alone would not hold the file against others: the empty exclusive transaction does.
     m_db->exec("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT; PRAGMA journal_mode=DELETE");
@@ -85,23 +84,20 @@ void Connexion::preparer(Entete::Nature nature)
     m_journal.suivre(m_db->getHandle());
 }
 
+/// Indexes that were made with another version of the collator are in another order.
 void Connexion::verifierIndex()
 {
     const int inscrite = m_db->execAndGet("PRAGMA user_version").getInt();
-    constexpr int BitsDuSchema = 0xFF;
-    if ((inscrite & ~BitsDuSchema) == (Schema::Version() & ~BitsDuSchema))
+    if (Version::Ordre(inscrite) == Comparaison::version())
         return;
-    const int nouvelle = (Schema::Version() & ~BitsDuSchema) | (inscrite & BitsDuSchema);
-    m_db->exec("BEGIN; REINDEX FRANCAIS; PRAGMA user_version=" + std::to_string(nouvelle) + "; COMMIT");
+    const int nouvelle = Version::Composer(Comparaison::version(), inscrite & Version::BitsDuPalier);
+    m_db->exec("BEGIN; REINDEX; PRAGMA user_version=" + std::to_string(nouvelle) + "; COMMIT");
 }
 
 Connexion::~Connexion()
 {
-    const Changements changements = m_journal.prendre();
     m_instructions.clear();
     m_db.reset();
-    if (m_annonce && !changements.empty())
-        Annonces::courant().annoncer(changements);
 }
 
 Instruction Connexion::preparer(const QString &sql, const QVariantList &valeurs)
@@ -126,24 +122,24 @@ void Rendre::operator()(SQLite::Statement *instruction) const
         connexion->m_instructions.emplace(instruction->getQuery(), std::move(rendue));
 }
 
-void Connexion::executer(const std::function<void()> &acte)
+void Connexion::executer(const std::function<void()> &travail)
 {
-    const std::size_t marque = m_journal.taille();
+    const Bande::Marque marque = m_journal.marque();
     // When the engine gave a transaction up by itself, what was meant to be one must not go on piece by piece.
     if (profondeur > 0 && sqlite3_get_autocommit(m_db->getHandle()))
-        throw Error(dire(QT_TRANSLATE_NOOP("Base", "L'opération a été interrompue.")), m_chemin);
+        throw Error(Textes::tr("L'opération a été interrompue."), m_chemin);
     try {
-        acte();
+        travail();
+        m_journal.relever();
     } catch (const SQLite::Exception &e) {
         m_journal.couper(marque);
-        throw Moteur::Refus(e, m_chemin);
+        throw Refus::Dire(e, m_chemin);
     }
 }
 
-void Connexion::ecrire(const std::function<void()> &acte)
+void Connexion::ecrire(const std::function<void()> &travail)
 {
-    // What is not noted is not the user's.
-    if (aSauver && !m_journal.enPause())
-        Sauvegardes::AvantEcriture(*m_db);
-    executer(acte);
+    if (avantEcriture)
+        avantEcriture();
+    executer(travail);
 }

@@ -11,8 +11,7 @@
 #include <memory>
 #include <unordered_map>
 
-/// One open database file. Base and Recordset share it; the last one out closes it, which announces what
-/// was changed.
+/// One open database file. Bases, cursors and recordsets share it; the last one out closes it.
 class Connexion
 {
 public:
@@ -35,23 +34,25 @@ public:
     /// Forgets the statements kept: tables may have other columns than before.
     void oublierInstructions() { m_instructions.clear(); }
 
-    /// Runs one act on the engine. What the engine refuses becomes an Error that names the file, and what the
-    /// act had already noted in the journal is forgotten.
-    void executer(const std::function<void()> &acte);
-    /// Likewise for an act that writes: where a backup is due, it is made before.
-    void ecrire(const std::function<void()> &acte);
+    /// Runs something on the engine. What the engine refuses becomes an Error that names the file, and what was
+    /// already noted of it in the journal is forgotten.
+    void executer(const std::function<void()> &travail);
+    /// Likewise for what writes; `avantEcriture` is called first.
+    void ecrire(const std::function<void()> &travail);
+
+    /// How long a file may be held by others before it counts as in use.
+    static constexpr int AttenteMs = 250;
 
     int profondeur = 0; ///< of nested transactions
-    bool aSauver = false; ///< this is the collection of the application folder, which has backups
+    std::function<void()> avantEcriture; ///< may be empty
 
 private:
     friend struct Rendre;
-    void preparer(Entete::Nature nature);
+    void ouvrir(Entete::Nature nature);
     void verifierIndex();
 
     QString m_chemin;
     Journal m_journal;
     std::unique_ptr<SQLite::Database> m_db;
     std::unordered_multimap<std::string, std::unique_ptr<SQLite::Statement>> m_instructions;
-    bool m_annonce;
 };

@@ -1,6 +1,7 @@
 #include "db/Entete.h"
 
 #include "core/Error.h"
+#include "db/schema/Version.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -13,6 +14,7 @@ constexpr qsizetype Taille = 100;
 constexpr qsizetype PositionTaillePage = 16;
 constexpr qsizetype PositionCompteur = 24;
 constexpr qsizetype PositionPages = 28;
+constexpr qsizetype PositionVersion = 60;
 constexpr qsizetype PositionApplication = 68;
 constexpr qsizetype PositionValidite = 92;
 
@@ -29,10 +31,10 @@ qint64 longueurPromise(const QByteArray &octets)
     return fiable ? (page == 1 ? 65536 : page) * mot(octets, PositionPages) : 0;
 }
 
-QString dire(const char *texte)
+struct Textes
 {
-    return QCoreApplication::translate("Entete", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Entete)
+};
 
 }
 
@@ -40,27 +42,28 @@ void Entete::Verifier(const QString &chemin, Nature nature)
 {
     QFile fichier(chemin);
     if (!fichier.exists())
-        throw Error(Error::Sorte::Introuvable,
-            dire(QT_TRANSLATE_NOOP("Entete", "Le fichier est introuvable.")), chemin);
+        throw Error(Error::Sorte::Introuvable, Textes::tr("Le fichier est introuvable."), chemin);
     if (!fichier.open(QIODevice::ReadOnly))
-        throw Error(dire(QT_TRANSLATE_NOOP("Entete", "Le fichier ne peut pas être ouvert.")), chemin,
-            fichier.errorString());
+        throw Error(Textes::tr("Le fichier ne peut pas être ouvert."), chemin, fichier.errorString());
     const QByteArray octets = fichier.read(Taille);
     if (octets.mid(4).startsWith("Standard Jet DB") || octets.mid(4).startsWith("Standard ACE DB"))
-        throw Error(Error::Sorte::Ancienne,
-            dire(QT_TRANSLATE_NOOP("Entete", "Ce fichier est au format d'une ancienne version.")), chemin);
-    if (octets.isEmpty())
         throw Error(
-            Error::Sorte::Etrangere, dire(QT_TRANSLATE_NOOP("Entete", "Le fichier est vide.")), chemin);
+            Error::Sorte::Ancienne, Textes::tr("Ce fichier est au format d'une ancienne version."), chemin);
+    if (octets.isEmpty())
+        throw Error(Error::Sorte::Etrangere, Textes::tr("Le fichier est vide."), chemin);
     const QByteArray magie("SQLite format 3", 16);
     if (octets.size() < Taille || !octets.startsWith(magie)
         || mot(octets, PositionApplication) != static_cast<quint32>(nature))
-        throw Error(Error::Sorte::Etrangere,
-            dire(QT_TRANSLATE_NOOP("Entete", "Ce fichier n'est pas une base de Bulleo.")), chemin);
+        throw Error(Error::Sorte::Etrangere, Textes::tr("Ce fichier n'est pas une base de Bulleo."), chemin);
+    const int palier = Version::Palier(static_cast<int>(mot(octets, PositionVersion)));
+    if (nature == Nature::Collection && palier > Version::DernierPalier)
+        throw Error(Error::Sorte::PlusRecente,
+            Textes::tr(
+                "Cette base vient d'une version plus récente de Bulleo : il faut celle-là pour l'ouvrir."),
+            chemin);
     // After a crash the length may be wrong until the engine has rolled the journal back.
     const bool enSuspens = QFileInfo::exists(chemin + QStringLiteral("-journal"));
     if (!enSuspens && fichier.size() < longueurPromise(octets))
         throw Error(Error::Sorte::Abimee,
-            dire(QT_TRANSLATE_NOOP("Entete", "Le fichier est abîmé : il est plus court qu'il ne devrait.")),
-            chemin);
+            Textes::tr("Le fichier est abîmé : il est plus court qu'il ne devrait."), chemin);
 }

@@ -9,7 +9,8 @@ namespace Entete {
 /// The two kinds of files of this program, by their SQLite application id ("BULL", "BULC").
 enum class Nature : unsigned { Collection = 0x42554C4C, Catalogue = 0x42554C43 };
 
-/// Throws Error when the file is missing, empty, cut short, an old collection, or of another kind.
+/// Throws Error when the file is missing, empty, cut short, an old collection, of another
+/// kind, or of a newer program.
 void Verifier(const QString &chemin, Nature nature);
 
 }

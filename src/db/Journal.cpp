@@ -1,92 +1,37 @@
 #include "db/Journal.h"
 
-#include "core/Error.h"
-#include "db/Base.h"
-#include "db/Connexion.h"
-#include "db/Sql.h"
-#include "db/Transaction.h"
-#include "db/Valeur.h"
+#include "db/Rangee.h"
 
-#include <QCoreApplication>
-#include <QStringList>
-#include <SQLiteCpp/Statement.h>
+#include <cstring>
 #include <sqlite3.h>
 
 namespace {
 
-using Ligne = Changement::Ligne;
+using Sorte = Bande::Sorte;
 using LireCellule = int (*)(sqlite3 *, int, sqlite3_value **);
 
-Ligne lireLigne(sqlite3 *db, LireCellule lire)
+/// The row before or after the change; a cell that the engine cannot give is Null.
+std::string lireRangee(sqlite3 *db, LireCellule lire)
 {
-    Ligne ligne(static_cast<std::size_t>(sqlite3_preupdate_count(db)));
-    for (std::size_t i = 0; i < ligne.size(); ++i) {
+    std::string octets;
+    const int champs = sqlite3_preupdate_count(db);
+    for (int i = 0; i < champs; ++i) {
         sqlite3_value *valeur = nullptr;
-        if (lire(db, static_cast<int>(i), &valeur) == SQLITE_OK && valeur)
-            ligne[i] = Valeur::Lire(valeur);
+        if (lire(db, i, &valeur) != SQLITE_OK)
+            valeur = nullptr;
+        Rangee::Ajouter(octets, valeur);
     }
-    return ligne;
+    return octets;
 }
 
-/// Writing a row back must not set off the rules that made other rows follow: those are noted, too.
-class SansDeclencheurs
+std::string ancienne(sqlite3 *db)
 {
-public:
-    explicit SansDeclencheurs(sqlite3 *db)
-        : m_db(db)
-    {
-        sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
-    }
-    ~SansDeclencheurs() { sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 1, nullptr); }
-    SansDeclencheurs(const SansDeclencheurs &) = delete;
-    SansDeclencheurs &operator=(const SansDeclencheurs &) = delete;
-
-private:
-    sqlite3 *m_db;
-};
-
-std::optional<Ligne> ligneActuelle(Connexion &connexion, const QString &table, qint64 cle)
-{
-    const Instruction lecture
-        = connexion.preparer(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(Sql::Nom(table)), {cle});
-    if (!lecture->executeStep())
-        return std::nullopt;
-    Ligne ligne;
-    for (int i = 0; i < lecture->getColumnCount(); ++i)
-        ligne.push_back(Valeur::Lire(lecture->getColumn(i)));
-    return ligne;
+    return lireRangee(db, sqlite3_preupdate_old);
 }
 
-void supprimer(Connexion &connexion, const QString &table, qint64 cle)
+std::string nouvelle(sqlite3 *db)
 {
-    connexion.preparer(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(Sql::Nom(table)), {cle})->exec();
-}
-
-void inserer(Connexion &connexion, const QString &table, qint64 cle, const Ligne &ligne)
-{
-    const Instruction forme
-        = connexion.preparer(QStringLiteral("SELECT * FROM %1 LIMIT 0").arg(Sql::Nom(table)), {});
-    QStringList colonnes{QStringLiteral("rowid")};
-    for (int i = 0; i < forme->getColumnCount(); ++i)
-        colonnes << Sql::Nom(QString::fromUtf8(forme->getColumnName(i)));
-    const QString marques = QStringList(colonnes.size(), QStringLiteral("?")).join(u',');
-    const QString sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                            .arg(Sql::Nom(table), colonnes.join(u','), marques);
-    connexion.preparer(sql, QVariantList{cle} + QVariantList(ligne.begin(), ligne.end()))->exec();
-}
-
-void remplacer(Connexion &connexion, const Changement &c, const std::optional<Ligne> &attendue,
-    const std::optional<Ligne> &voulue)
-{
-    if (ligneActuelle(connexion, c.table, c.cle) != attendue)
-        throw Error(Error::Sorte::Perimee,
-            QCoreApplication::translate(
-                "Journal", "Cette modification ne peut plus être reprise : la fiche a changé depuis."),
-            {});
-    if (attendue)
-        supprimer(connexion, c.table, c.cle);
-    if (voulue)
-        inserer(connexion, c.table, c.cle, *voulue);
+    return lireRangee(db, sqlite3_preupdate_new);
 }
 
 }
@@ -95,61 +40,73 @@ void Journal::suivre(sqlite3 *db)
 {
     const auto crochet = [](void *journal, sqlite3 *connexion, int operation, char const *base,
                              char const *table, sqlite3_int64 avant, sqlite3_int64 apres) {
-        noter(journal, connexion, operation, base, table, avant, apres);
+        auto &soi = *static_cast<Journal *>(journal);
+        if (!soi.m_bande || soi.m_echec || std::strcmp(base, "main") != 0)
+            return;
+        try {
+            soi.noter(connexion, operation, table, avant, apres);
+        } catch (...) {
+            soi.m_echec = std::current_exception();
+        }
     };
     sqlite3_preupdate_hook(db, crochet, this);
 }
 
-void Journal::noter(void *journal, sqlite3 *db, int operation, const char *, const char *table,
-    long long cleAvant, long long cleApres)
+void Journal::commencer()
 {
-    auto &soi = *static_cast<Journal *>(journal);
-    if (soi.m_pauses > 0)
-        return;
-    const auto ancienne = [&] { return std::optional<Ligne>(lireLigne(db, sqlite3_preupdate_old)); };
-    const auto nouvelle = [&] { return std::optional<Ligne>(lireLigne(db, sqlite3_preupdate_new)); };
-    const QString nom = QString::fromUtf8(table);
-    if (operation == SQLITE_INSERT)
-        soi.m_changements.push_back({nom, cleApres, std::nullopt, nouvelle()});
-    else if (operation == SQLITE_DELETE)
-        soi.m_changements.push_back({nom, cleAvant, ancienne(), std::nullopt});
-    else if (cleAvant == cleApres)
-        soi.m_changements.push_back({nom, cleAvant, ancienne(), nouvelle()});
-    else {
-        soi.m_changements.push_back({nom, cleAvant, ancienne(), std::nullopt});
-        soi.m_changements.push_back({nom, cleApres, std::nullopt, nouvelle()});
+    Q_ASSERT(!m_bande);
+    m_bande.emplace();
+    m_echec = nullptr;
+}
+
+Bande Journal::terminer()
+{
+    Bande bande = std::move(*m_bande);
+    m_bande.reset();
+    return bande;
+}
+
+void Journal::couper(const Bande::Marque &marque)
+{
+    if (m_bande)
+        m_bande->couper(marque);
+}
+
+void Journal::relever()
+{
+    if (m_echec)
+        std::rethrow_exception(std::exchange(m_echec, nullptr));
+}
+
+void Journal::noter(sqlite3 *db, int operation, const char *table, qint64 cleAvant, qint64 cleApres)
+{
+    if (operation == SQLITE_UPDATE && cleAvant == cleApres)
+        return noterEdition(db, table, cleAvant);
+    if (operation != SQLITE_INSERT) {
+        const std::string rangee = ancienne(db);
+        m_bande->ajouter({Sorte::Retrait, table, cleAvant, Rangee::Empreinte(rangee), 0, rangee});
     }
+    if (operation != SQLITE_DELETE)
+        m_bande->ajouter({Sorte::Ajout, table, cleApres, 0, Rangee::Empreinte(nouvelle(db))});
 }
 
-Journal::Pause::Pause(const Base &base)
-    : m_journal(base.connexion().journal())
+/// Only the fields that differ are kept. A field of an edited row can be rewritten as it was: that is no change.
+void Journal::noterEdition(sqlite3 *db, const char *table, qint64 cle)
 {
-    ++m_journal.m_pauses;
-}
-
-Journal::Pause::~Pause()
-{
-    --m_journal.m_pauses;
-}
-
-void Journal::Annuler(const Base &base, const Changements &changements)
-{
-    Transaction transaction(base);
-    base.connexion().ecrire([&] {
-        const SansDeclencheurs sans(base.connexion().db().getHandle());
-        for (auto c = changements.rbegin(); c != changements.rend(); ++c)
-            remplacer(base.connexion(), *c, c->apres, c->avant);
-    });
-    transaction.Commit();
-}
-
-void Journal::Refaire(const Base &base, const Changements &changements)
-{
-    Transaction transaction(base);
-    base.connexion().ecrire([&] {
-        const SansDeclencheurs sans(base.connexion().db().getHandle());
-        for (const Changement &c : changements)
-            remplacer(base.connexion(), c, c.avant, c.apres);
-    });
-    transaction.Commit();
+    const std::string avant = ancienne(db);
+    const std::string apres = nouvelle(db);
+    if (avant == apres)
+        return;
+    std::string changes;
+    std::string_view resteAvant = avant;
+    std::string_view resteApres = apres;
+    for (quint16 numero = 0; !resteAvant.empty(); ++numero) {
+        const std::string_view valeur = Rangee::Prendre(resteAvant);
+        if (valeur == Rangee::Prendre(resteApres))
+            continue;
+        changes.append(reinterpret_cast<const char *>(&numero), sizeof numero);
+        changes.append(valeur);
+    }
+    m_bande->ajouter(
+        {Sorte::Edition, table, cle, Rangee::Empreinte(avant), Rangee::Empreinte(apres), changes});
 }

@@ -1,48 +1,39 @@
 #pragma once
 
-#include "core/Annonces.h"
+#include "db/Bande.h"
+
+#include <exception>
+#include <optional>
 
 struct sqlite3;
-class Base;
 
-/// What happens to the rows while the collection is open, noted by the engine's hook: the material of the
-/// change notice and of undo.
+/// Notes what happens to the rows of an open collection, by the engine's hook, while an act is under way. Only what
+/// stands in the file is noted, nothing temporary.
 class Journal
 {
 public:
-    /// Starts noting the changes of a connection. The journal must outlive it.
+    /// From now on hears of the changes of a connection. The journal must outlive it.
     void suivre(sqlite3 *db);
 
-    std::size_t taille() const { return m_changements.size(); }
+    /// Begins a tape. There may be no other.
+    void commencer();
+    bool enCours() const { return m_bande.has_value(); }
+    /// The tape in the making; null without one.
+    const Bande *bande() const { return m_bande ? &*m_bande : nullptr; }
+    /// Ends the noting and hands the tape over.
+    Bande terminer();
+
+    Bande::Marque marque() const { return m_bande ? m_bande->fin() : Bande::Marque(); }
     /// Forgets what was noted after a mark, when those changes were rolled back.
-    void couper(std::size_t marque) { m_changements.resize(marque); }
-    Changements prendre() { return std::exchange(m_changements, {}); }
+    void couper(const Bande::Marque &marque);
 
-    bool enPause() const { return m_pauses > 0; }
-
-    /// Suspends the noting for work that is not the user's: upgrade, cleaning, conversion.
-    class Pause
-    {
-    public:
-        explicit Pause(const Base &base);
-        ~Pause();
-        Pause(const Pause &) = delete;
-        Pause &operator=(const Pause &) = delete;
-
-    private:
-        Journal &m_journal;
-    };
-
-    /// Takes changes back, the last one first, in one transaction. Throws Error, with nothing changed, when a
-    /// row is no longer as the changes left it.
-    static void Annuler(const Base &base, const Changements &changements);
-    /// Makes changes again, likewise.
-    static void Refaire(const Base &base, const Changements &changements);
+    /// Throws what the noting failed with since it was last asked: an exception may not cross the engine.
+    void relever();
 
 private:
-    static void noter(void *journal, sqlite3 *db, int operation, const char *, const char *table,
-        long long cleAvant, long long cleApres);
+    void noter(sqlite3 *db, int operation, const char *table, qint64 cleAvant, qint64 cleApres);
+    void noterEdition(sqlite3 *db, const char *table, qint64 cle);
 
-    Changements m_changements;
-    int m_pauses = 0;
+    std::optional<Bande> m_bande;
+    std::exception_ptr m_echec;
 };

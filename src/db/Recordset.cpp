@@ -11,27 +11,24 @@
 
 namespace {
 
-/// The row numbers of a query; in the order of their making when the query asks for none.
-QString numerosDe(const Sql::UneTable &requete)
+/// The row numbers of a table's rows; in the order of their making when none is asked for.
+QString numeros(const QString &table, const QString &where)
 {
-    const bool ordonnee = requete.suite.contains(QLatin1String("order by"), Qt::CaseInsensitive);
+    const bool ordonnee = where.contains(QLatin1String("order by"), Qt::CaseInsensitive);
     return QStringLiteral("SELECT rowid FROM %1%2%3")
-        .arg(requete.table, requete.suite, ordonnee ? QString() : QStringLiteral(" ORDER BY rowid"));
+        .arg(table, where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + Sql::Normaliser(where),
+            ordonnee ? QString() : QStringLiteral(" ORDER BY rowid"));
 }
 
 }
 
-Recordset::Recordset(std::shared_ptr<Connexion> connexion, const QString &sql, const QVariantList &valeurs)
+Recordset::Recordset(std::shared_ptr<Connexion> connexion, const QString &table, const QString &where,
+    const QVariantList &valeurs)
     : m_connexion(std::move(connexion))
-    , m_sql(Sql::Normaliser(sql))
+    , m_table(table)
+    , m_parcours(numeros(table, where))
     , m_valeurs(valeurs)
 {
-    if (const auto uneTable = Sql::Decomposer(m_sql)) {
-        m_table = uneTable->table;
-        m_parcours = numerosDe(*uneTable);
-    } else {
-        m_connexion->executer([&] { m_marche = m_connexion->preparer(m_sql, m_valeurs); });
-    }
 }
 
 Recordset::Recordset(Recordset &&) noexcept = default;
@@ -39,30 +36,18 @@ Recordset::~Recordset() = default;
 
 qint64 Recordset::RecordCount()
 {
-    if (!m_table.isEmpty()) {
-        completer();
-        return static_cast<qint64>(m_cles.size());
-    }
-    qint64 nombre = 0;
-    m_connexion->executer([&] {
-        const Instruction compte
-            = m_connexion->preparer(QStringLiteral("SELECT count(*) FROM (%1)").arg(m_sql), m_valeurs);
-        compte->executeStep();
-        nombre = compte->getColumn(0).getInt64();
-    });
-    return nombre;
+    completer();
+    return static_cast<qint64>(m_cles.size());
 }
 
-/// One step of the walk: the next row itself, or the next row number into the list.
-void Recordset::avancer() const
+/// One step of the walk: the next row number comes into the list.
+void Recordset::avancer()
 {
     m_connexion->executer([&] {
         if (!m_marche)
             m_marche = m_connexion->preparer(m_parcours, m_valeurs);
         m_epuisee = m_epuisee || !m_marche->executeStep();
     });
-    if (m_table.isEmpty())
-        return;
     if (m_epuisee) {
         m_cles.insert(m_cles.end(), m_ajoutees.begin(), m_ajoutees.end());
         m_ajoutees.clear();
@@ -80,7 +65,7 @@ void Recordset::completer()
         avancer();
 }
 
-bool Recordset::charger(qint64 cle) const
+bool Recordset::charger(qint64 cle)
 {
     bool trouvee = false;
     m_connexion->executer([&] {
@@ -92,17 +77,10 @@ bool Recordset::charger(qint64 cle) const
     return trouvee;
 }
 
-void Recordset::commencer() const
+void Recordset::commencer()
 {
     if (std::exchange(m_commencee, true))
         return;
-    if (m_table.isEmpty()) {
-        m_connexion->executer([&] { m_marche->reset(); });
-        m_epuisee = false;
-        avancer();
-        m_fin = m_epuisee;
-        return;
-    }
     m_position = 0;
     while (m_cles.empty() && !m_epuisee)
         avancer();
@@ -112,7 +90,7 @@ void Recordset::commencer() const
 }
 
 /// To the next row of the list that is still there.
-void Recordset::suivante() const
+void Recordset::suivante()
 {
     do {
         ++m_position;
@@ -122,7 +100,7 @@ void Recordset::suivante() const
     } while (!m_fin && !charger(m_cles[m_position]));
 }
 
-bool Recordset::AtEnd() const
+bool Recordset::AtEnd()
 {
     commencer();
     return m_fin;
@@ -139,13 +117,10 @@ void Recordset::MoveNext()
 {
     m_mode = Mode::Lecture;
     commencer();
-    if (!m_table.isEmpty())
-        return suivante();
-    avancer();
-    m_fin = m_epuisee;
+    suivante();
 }
 
-SQLite::Statement &Recordset::ligneParNumero() const
+SQLite::Statement &Recordset::ligneParNumero()
 {
     if (!m_ligne)
         m_ligne = m_connexion->preparer(
@@ -153,58 +128,33 @@ SQLite::Statement &Recordset::ligneParNumero() const
     return *m_ligne;
 }
 
-SQLite::Statement &Recordset::ligne() const
+SQLite::Statement &Recordset::ligne()
 {
     commencer();
-    SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : ligneParNumero();
+    SQLite::Statement &instruction = ligneParNumero();
     if (m_fin || !instruction.hasRow())
-        throw Error(QCoreApplication::translate("Base", "Il n'y a plus d'enregistrement ici."), m_sql);
+        throw Error(QCoreApplication::translate("Base", "Il n'y a plus d'enregistrement ici."), m_table);
     return instruction;
 }
 
-int Recordset::indiceDe(const QString &nom) const
-{
-    if (m_colonnes.isEmpty()) {
-        const SQLite::Statement &instruction = m_table.isEmpty() ? *m_marche : ligneParNumero();
-        for (int i = 0; i < instruction.getColumnCount(); ++i)
-            m_colonnes.insert(QString::fromUtf8(instruction.getColumnName(i)).toLower(), i);
-    }
-    const int indice = m_colonnes.value(nom.toLower(), -1);
-    if (indice < 0)
-        throw Error(QCoreApplication::translate("Base", "Un champ manque dans la base."), nom, m_sql);
-    return indice;
-}
-
-QVariant Recordset::Fields(int indice) const
+QVariant Recordset::Fields(int indice)
 {
     return Valeur::Lire(ligne().getColumn(indice));
 }
 
-QVariant Recordset::Fields(const QString &nom) const
+QVariant Recordset::Fields(const QString &nom)
 {
-    return Fields(indiceDe(nom));
-}
-
-qint64 Recordset::Int64(int indice) const
-{
-    return ligne().getColumn(indice).getInt64();
-}
-
-std::string_view Recordset::Utf8(int indice) const
-{
-    return Valeur::Utf8(ligne().getColumn(indice));
+    return Fields(Valeur::Champ(ligne(), nom));
 }
 
 void Recordset::AddNew()
 {
-    Q_ASSERT(!m_table.isEmpty());
     m_mode = Mode::Ajout;
     m_saisie.clear();
 }
 
 void Recordset::Edit()
 {
-    Q_ASSERT(!m_table.isEmpty());
     ligne();
     completer();
     m_mode = Mode::Edition;

@@ -2,37 +2,31 @@
 
 #include "db/Instruction.h"
 
-#include <QHash>
 #include <QString>
 #include <QVariant>
 #include <memory>
-#include <optional>
-#include <string_view>
 #include <vector>
 
-/// The rows of a query. "SELECT * From one table ..." can be edited: it is a list of row numbers, complete
-/// before the first change, whose rows are fetched one by one, so that a walk survives its own edits. Every
-/// other query is a walk forward. It keeps the database open. All members throw Error.
+/// Rows of a table to be edited: a list of row numbers, complete before the first change, whose rows are fetched one
+/// by one, so that a walk survives its own edits. It keeps the database open. All members throw Error.
 class Recordset
 {
 public:
-    Recordset(std::shared_ptr<Connexion> connexion, const QString &sql, const QVariantList &valeurs);
+    Recordset(std::shared_ptr<Connexion> connexion, const QString &table, const QString &where,
+        const QVariantList &valeurs);
     Recordset(Recordset &&) noexcept;
     ~Recordset();
 
     /// Full number of rows.
     qint64 RecordCount();
     /// True when no current row is left.
-    bool AtEnd() const;
+    bool AtEnd();
     void MoveFirst();
     void MoveNext();
 
-    /// Value of a field of the current row: an invalid variant for Null.
-    QVariant Fields(int indice) const;
-    QVariant Fields(const QString &nom) const;
-    /// The two quick ways of long walks; a text is valid until the walk moves.
-    qint64 Int64(int indice) const;
-    std::string_view Utf8(int indice) const;
+    /// Value of a field of the current row, by place or name in any letter case: an invalid variant for Null.
+    QVariant Fields(int indice);
+    QVariant Fields(const QString &nom);
 
     void AddNew();
     void Edit();
@@ -49,34 +43,30 @@ public:
 private:
     enum class Mode { Lecture, Ajout, Edition };
 
-    void commencer() const;
-    void suivante() const;
-    void avancer() const;
+    void commencer();
+    void suivante();
+    void avancer();
     void completer();
-    bool charger(qint64 cle) const;
-    SQLite::Statement &ligneParNumero() const;
-    SQLite::Statement &ligne() const;
-    int indiceDe(const QString &nom) const;
+    bool charger(qint64 cle);
+    SQLite::Statement &ligneParNumero();
+    SQLite::Statement &ligne();
     void inserer();
     void modifier();
 
     std::shared_ptr<Connexion> m_connexion;
-    QString m_sql;
+    QString m_table;
+    QString m_parcours; ///< the query of the row numbers
     QVariantList m_valeurs;
-    QString m_table; ///< empty when the rows cannot be edited
-    QString m_parcours; ///< the query of the row numbers, when they can
 
     // The walk begins when it is first looked at: a recordset that only adds a row never walks.
-    mutable Instruction m_marche; ///< the query itself, or its row numbers
-    mutable Instruction m_ligne; ///< one row by its number
-    mutable QHash<QString, int> m_colonnes;
-    mutable std::vector<qint64> m_cles;
-    mutable std::vector<qint64>
-        m_ajoutees; ///< rows added here while the list was not complete; they come last
-    mutable std::size_t m_position = 0;
-    mutable bool m_commencee = false;
-    mutable bool m_fin = false;
-    mutable bool m_epuisee = false;
+    Instruction m_marche;
+    Instruction m_ligne; ///< one row by its number
+    std::vector<qint64> m_cles;
+    std::vector<qint64> m_ajoutees; ///< rows added here while the list was not complete; they come last
+    std::size_t m_position = 0;
+    bool m_commencee = false;
+    bool m_fin = false;
+    bool m_epuisee = false;
 
     Mode m_mode = Mode::Lecture;
     std::vector<std::pair<QString, QVariant>> m_saisie;

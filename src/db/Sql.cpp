@@ -23,17 +23,6 @@ QString Sql::Normaliser(const QString &sql)
     return resultat.remove(queue);
 }
 
-std::optional<Sql::UneTable> Sql::Decomposer(const QString &sql)
-{
-    static const QRegularExpression forme(
-        QStringLiteral(R"(^\s*select\s+\*\s+from\s+(\w+)((?:\s+(?:where|order)\b.*)?)$)"),
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-    const auto m = forme.match(sql);
-    if (!m.hasMatch())
-        return std::nullopt;
-    return UneTable{m.captured(1), m.captured(2)};
-}
-
 bool Sql::EstUneEcriture(const QString &sql)
 {
     const QString debut = sql.trimmed().left(6).toUpper();

@@ -1,21 +1,12 @@
 #pragma once
 
 #include <QString>
-#include <optional>
 
 /// The texts of queries, brought into the form that the engine takes.
 namespace Sql {
 
 /// The words true and false outside quotes become -1 and 0; trailing blanks and semicolons are cut.
 QString Normaliser(const QString &sql);
-
-/// "SELECT * From one table ..." apart: the table and what follows it. Nothing for any other query.
-struct UneTable
-{
-    QString table;
-    QString suite;
-};
-std::optional<UneTable> Decomposer(const QString &sql);
 
 /// True for INSERT, UPDATE and DELETE, which change rows and leave the tables what they are.
 bool EstUneEcriture(const QString &sql);

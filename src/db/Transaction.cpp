@@ -14,9 +14,9 @@ std::string point(int profondeur)
 
 }
 
-Transaction::Transaction(const Base &base)
+Transaction::Transaction(Base &base)
     : m_connexion(base.connexion())
-    , m_marque(m_connexion.journal().taille())
+    , m_marque(m_connexion.journal().marque())
 {
     m_connexion.executer([&] { m_connexion.db().exec("SAVEPOINT " + point(m_connexion.profondeur)); });
     ++m_connexion.profondeur;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <cstddef>
-#include <memory>
+#include "db/Bande.h"
 
 class Base;
 class Connexion;
@@ -11,7 +10,7 @@ class Connexion;
 class Transaction
 {
 public:
-    explicit Transaction(const Base &base);
+    explicit Transaction(Base &base);
     ~Transaction();
     Transaction(const Transaction &) = delete;
     Transaction &operator=(const Transaction &) = delete;
@@ -21,6 +20,6 @@ public:
 
 private:
     Connexion &m_connexion;
-    std::size_t m_marque;
+    Bande::Marque m_marque;
     bool m_ouverte = true;
 };

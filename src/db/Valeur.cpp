@@ -1,5 +1,8 @@
 #include "db/Valeur.h"
 
+#include "core/Error.h"
+
+#include <QCoreApplication>
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Statement.h>
 #include <cmath>
@@ -66,22 +69,14 @@ QVariant Valeur::Lire(const SQLite::Column &colonne)
     }
 }
 
-QVariant Valeur::Lire(sqlite3_value *valeur)
+int Valeur::Champ(const SQLite::Statement &instruction, const QString &nom)
 {
-    switch (sqlite3_value_type(valeur)) {
-    case SQLITE_INTEGER:
-        return static_cast<qlonglong>(sqlite3_value_int64(valeur));
-    case SQLITE_FLOAT:
-        return sqlite3_value_double(valeur);
-    case SQLITE_TEXT: {
-        const auto *octets = reinterpret_cast<const char *>(sqlite3_value_text(valeur));
-        return QString::fromUtf8(octets, sqlite3_value_bytes(valeur));
+    for (int i = 0; i < instruction.getColumnCount(); ++i) {
+        if (nom.compare(QLatin1String(instruction.getColumnName(i)), Qt::CaseInsensitive) == 0)
+            return i;
     }
-    case SQLITE_BLOB:
-        return QByteArray(static_cast<const char *>(sqlite3_value_blob(valeur)), sqlite3_value_bytes(valeur));
-    default:
-        return {};
-    }
+    throw Error(QCoreApplication::translate("Base", "Un champ manque dans la base."), nom,
+        QString::fromStdString(instruction.getQuery()));
 }
 
 std::string_view Valeur::Utf8(const SQLite::Column &colonne)

@@ -3,7 +3,6 @@
 #include <QVariant>
 #include <string_view>
 
-struct sqlite3_value;
 namespace SQLite {
 class Column;
 class Statement;
@@ -20,7 +19,9 @@ void Lier(SQLite::Statement &instruction, int position, const QVariant &valeur);
 bool Egales(const QVariant &a, const QVariant &b);
 
 QVariant Lire(const SQLite::Column &colonne);
-QVariant Lire(sqlite3_value *valeur);
+
+/// The place of a column by its name, in any letter case. Throws Error when there is none.
+int Champ(const SQLite::Statement &instruction, const QString &nom);
 
 /// The bytes of a text column, without a copy; valid until the statement moves.
 std::string_view Utf8(const SQLite::Column &colonne);

@@ -4,7 +4,7 @@
 #include "core/Error.h"
 #include "db/Base.h"
 #include "db/Module2.h"
-#include "db/schema/Tables.h"
+#include "db/schema/Version.h"
 
 #include <QCoreApplication>
 
@@ -17,13 +17,13 @@ Base ouvrir(const QString &chemin)
 
 QString chemin()
 {
-    return Dossier::courant().chemin(QStringLiteral("BDbase.bd"));
+    return Dossier::courant().catalogue();
 }
 
 bool estTelQuel(const Base &base)
 {
-    const auto marques = base.OpenRecordset(QStringLiteral("PRAGMA user_version")).Int64(0);
-    return (marques & Schema::TextesTelsQuels) != 0;
+    const auto marques = base.read(QStringLiteral("PRAGMA user_version")).Int64(0);
+    return (marques & Version::TextesTelsQuels) != 0;
 }
 
 std::optional<QString> decoder(const QString &code, bool telQuel)
@@ -34,7 +34,7 @@ std::optional<QString> decoder(const QString &code, bool telQuel)
 /// Decodes the text fields of one row, and remembers when one of them could not be.
 struct Lecture
 {
-    const Recordset &rs;
+    const Cursor &rs;
     bool telQuel;
     bool lisible = true;
 
@@ -54,8 +54,8 @@ Catalogue::Liste Catalogue::LireAlbums()
     Liste liste;
     liste.telsQuels = estTelQuel(base);
     // Named columns, so that the walk stays on the index.
-    for (auto rs = base.OpenRecordset(
-             QStringLiteral("SELECT Numero, Titre, Tome From BD order by Serie desc, Tome asc"));
+    for (auto rs
+         = base.read(QStringLiteral("SELECT Numero, Titre, Tome From BD order by Serie desc, Tome asc"));
          !rs.AtEnd(); rs.MoveNext()) {
         const auto titre = decoder(rs.Fields(1).toString(), liste.telsQuels);
         if (!titre) {
@@ -78,8 +78,8 @@ Catalogue::Liste Catalogue::LireAlbums()
 std::optional<Catalogue::Reference> Catalogue::LireReference(int numero)
 {
     const Base base = ouvrir(chemin());
-    const auto rs = base.OpenRecordset(
-        QStringLiteral("SELECT * From BD  where Numero = ? order by Serie desc"), {numero});
+    const auto rs
+        = base.read(QStringLiteral("SELECT * From BD  where Numero = ? order by Serie desc"), {numero});
     if (rs.AtEnd())
         return std::nullopt;
     Lecture lire{rs, estTelQuel(base)};

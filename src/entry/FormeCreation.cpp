@@ -104,7 +104,7 @@ void FormeCreation::creer()
     m_refus->repaint();
     int num = 0;
     try {
-        num = Saisie::Creer(textes);
+        num = Saisie::CreerAlbum(textes);
     } catch (...) {
         dire({});
         throw;

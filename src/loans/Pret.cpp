@@ -1,5 +1,6 @@
 #include "loans/Pret.h"
 
+#include "acts/Preter.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Messages.h"
@@ -201,9 +202,9 @@ void Pret::supprimer()
     QStandardItemModel &modele = rend ? m_prets : m_personnes;
     const int rang = (rend ? m_lPret : m_lPers)->currentIndex().row();
     if (rend)
-        Prets::Rendre(pret());
+        Preter::Rendre(pret());
     else
-        Prets::SupprimerEmprunteur(personne());
+        Preter::SupprimerEmprunteur(personne());
     modele.removeRow(rang);
 }
 

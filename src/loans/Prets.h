@@ -23,10 +23,4 @@ struct Pret
 /// row are left out.
 std::vector<Pret> LirePrets(int emprunteur);
 
-/// Ends a loan; an album that is gone is no error.
-void Rendre(int album);
-
-/// Deletes a borrower. His albums stay marked as lent to his number.
-void SupprimerEmprunteur(int emprunteur);
-
 }

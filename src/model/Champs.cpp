@@ -32,21 +32,16 @@ constexpr Source Librairies{
     "Librairie", "SELECT * From Librairie where NLibrairie = ? order by NLibrairie asc"};
 
 constexpr Ligne ToutesLesLignes[] = {
-    {Feuille::Album, "Album", "SELECT * From Album where Num = ? order by NAlbum asc; ",
-        "SELECT * From Album where Num = ?"},
-    {Feuille::Album, "LAlbums", "SELECT * From LAlbums where NAlbum = ? order by NAlbum asc",
-        "SELECT * From LAlbums where NAlbum = ?"},
-    {Feuille::Serie, "Serie", "SELECT * From Serie where NSerie = ? order by NSerie asc; ",
-        "SELECT * From Serie where NSerie = ?"},
-    {Feuille::Auteur, "Auteurs", "SELECT * From Auteurs where NAuteur = ? order by NAuteur asc; ",
-        "SELECT * From Auteurs where NAuteur = ?"},
-    {Feuille::Editeur, "Editeur", "SELECT * From Editeur where NEdit = ? order by NEdit  asc; ",
-        "SELECT * From Editeur where NEdit = ?"},
+    {Feuille::Album, "Album", "SELECT * From Album where Num = ? order by NAlbum asc; ", "Num"},
+    {Feuille::Album, "LAlbums", "SELECT * From LAlbums where NAlbum = ? order by NAlbum asc", "NAlbum"},
+    {Feuille::Serie, "Serie", "SELECT * From Serie where NSerie = ? order by NSerie asc; ", "NSerie"},
+    {Feuille::Auteur, "Auteurs", "SELECT * From Auteurs where NAuteur = ? order by NAuteur asc; ", "NAuteur"},
+    {Feuille::Editeur, "Editeur", "SELECT * From Editeur where NEdit = ? order by NEdit  asc; ", "NEdit"},
     {Feuille::ExLibris, "ExLibris", "SELECT * From ExLibris where NExLibris= ? order by NExLibris asc; ",
-        "SELECT * From ExLibris where NExLibris = ?"},
+        "NExLibris"},
     {Feuille::Presse, "PresseBD", "SELECT * From PresseBD where NPressBD= ? order by NPressBD asc; ",
-        "SELECT * From Pressebd where NPressbd = ?"},
-    {Feuille::Coll, "Coll", "SELECT * From Coll where NColl = ?", "SELECT * From Coll where NColl = ?"},
+        "NPressbd"},
+    {Feuille::Coll, "Coll", "SELECT * From Coll where NColl = ?", "NColl"},
 };
 
 using enum Voie;

@@ -72,13 +72,13 @@ struct Champ
     const Source *source = nullptr;
 };
 
-/// A table that a sheet shows: the row of the entry, for reading and for writing.
+/// A table that a sheet shows: the row of the entry.
 struct Ligne
 {
     Feuille feuille;
     const char *table;
     const char *lecture;
-    const char *ecriture;
+    const char *cle; ///< field of the entry's number
 };
 
 std::span<const Champ> Tous();

@@ -7,8 +7,8 @@ namespace {
 
 QString lireIntervenant(const Base &base, int numero)
 {
-    const auto rs = base.OpenRecordset(
-        QStringLiteral("SELECT * From Inter where NInter= ? order by Nom asc"), {numero});
+    const auto rs
+        = base.read(QStringLiteral("SELECT * From Inter where NInter= ? order by Nom asc"), {numero});
     if (rs.AtEnd())
         return {};
     const QString prenom = rs.Fields(2).toString().trimmed();
@@ -18,8 +18,8 @@ QString lireIntervenant(const Base &base, int numero)
 
 QString lireMetier(const Base &base, int numero)
 {
-    const auto rs = base.OpenRecordset(
-        QStringLiteral("SELECT * From Metier where NMetier = ? order by Nom asc"), {numero});
+    const auto rs
+        = base.read(QStringLiteral("SELECT * From Metier where NMetier = ? order by Nom asc"), {numero});
     return rs.AtEnd() ? QString() : rs.Fields(1).toString().trimmed();
 }
 
@@ -28,8 +28,7 @@ void completerResume(const Base &base, int num, ValeurDeChamp &resume)
 {
     if (!Texte::EstVide(resume.stockee.toString()))
         return;
-    const auto rs
-        = base.OpenRecordset(QStringLiteral("SELECT Histoire From LAlbums where NAlbum = ?"), {num});
+    const auto rs = base.read(QStringLiteral("SELECT Histoire From LAlbums where NAlbum = ?"), {num});
     if (!rs.AtEnd() && !Texte::EstVide(rs.Fields(0).toString()))
         resume.affichee = rs.Fields(0).toString();
 }
@@ -56,7 +55,7 @@ std::vector<ChargerAlbums::Cote> ChargerAlbums::AfficherCotes(int num)
 {
     const Base base;
     std::vector<Cote> cotes;
-    for (auto rs = base.OpenRecordset(
+    for (auto rs = base.read(
              QStringLiteral("SELECT * From CotesAlbum where NAlbum = ? order by Mois asc, Cotes desc"),
              {num});
          !rs.AtEnd(); rs.MoveNext())
@@ -68,8 +67,8 @@ std::vector<ChargerAlbums::Intervenant> ChargerAlbums::AfficherIntervenants(int 
 {
     const Base base;
     std::vector<Intervenant> lignes;
-    for (auto rs = base.OpenRecordset(
-             QStringLiteral("SELECT * From InterMetier where NAlbum = ? order by NAlbum asc"), {num});
+    for (auto rs
+         = base.read(QStringLiteral("SELECT * From InterMetier where NAlbum = ? order by NAlbum asc"), {num});
          !rs.AtEnd(); rs.MoveNext()) {
         const int intervenant = rs.Fields(QStringLiteral("NInter")).toInt();
         const int metier = rs.Fields(QStringLiteral("NMetier")).toInt();

@@ -12,9 +12,9 @@ constexpr ChargerAuteurs::Metier Tous[] = {
     {Tri::Coloristes, Txt::Coloriste, "Color", "Coloriste"},
 };
 
-Recordset ouvrir(const Base &base, int nAuteur)
+Cursor ouvrir(const Base &base, int nAuteur)
 {
-    return base.OpenRecordset(QStringLiteral("SELECT * From Auteurs where NAuteur = ?"), {nAuteur});
+    return base.read(QStringLiteral("SELECT * From Auteurs where NAuteur = ?"), {nAuteur});
 }
 
 }

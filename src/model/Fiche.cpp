@@ -109,7 +109,7 @@ std::optional<Valeurs> Fiche::Lire(Feuille feuille, int id)
     for (const Ligne &ligne : Lignes()) {
         if (ligne.feuille != feuille)
             continue;
-        const auto rs = base.OpenRecordset(QLatin1String(ligne.lecture), {id});
+        const auto rs = base.read(QLatin1String(ligne.lecture), {id});
         trouvee = trouvee || !rs.AtEnd();
         for (const Champ &champ : Tous()) {
             if (champ.feuille != feuille || qstrcmp(champ.table, ligne.table) != 0)
@@ -218,7 +218,7 @@ bool Fiche::Existe(Feuille feuille, int id, const char *table)
     const auto ligne = std::find_if(Lignes().begin(), Lignes().end(), [feuille, table](const Ligne &l) {
         return l.feuille == feuille && (!table || qstrcmp(l.table, table) == 0);
     });
-    return !base.OpenRecordset(QLatin1String(ligne->ecriture), {id}).AtEnd();
+    return !base.read(QLatin1String(ligne->lecture), {id}).AtEnd();
 }
 
 std::optional<double> Fiche::LireMontant(const QString &saisie)
@@ -233,7 +233,7 @@ std::optional<double> Fiche::LireMontant(const QString &saisie)
 QString Fiche::LireNom(const Source &source, int id)
 {
     const Base base;
-    const auto rs = base.OpenRecordset(QLatin1String(source.lecture), {id});
+    const auto rs = base.read(QLatin1String(source.lecture), {id});
     if (rs.AtEnd())
         return {};
     const QString nom = rs.Fields(1).toString().trimmed();
@@ -248,8 +248,7 @@ QString Fiche::LireNomsLies(const Source &source, int album)
 {
     const Base base;
     QStringList noms;
-    for (auto liens = base.OpenRecordset(QLatin1String(source.liens), {album}); !liens.AtEnd();
-         liens.MoveNext())
+    for (auto liens = base.read(QLatin1String(source.liens), {album}); !liens.AtEnd(); liens.MoveNext())
         noms << LireNom(source, liens.Fields(0).toInt());
     noms.removeAll(QString());
     return noms.join(QStringLiteral(", "));
@@ -258,12 +257,10 @@ QString Fiche::LireNomsLies(const Source &source, int album)
 std::unordered_map<int, QString> Fiche::LireTousLesNomsLies(const Source &source)
 {
     const Base base;
-    QString tous = QString::fromLatin1(source.liens).remove(QStringLiteral(" where NAlbum = ?"));
-    // A walk forward, instead of rows that could be edited.
-    tous.replace(QStringLiteral("SELECT *"), QStringLiteral("SELECT *, 0"));
+    const QString tous = QString::fromLatin1(source.liens).remove(QStringLiteral(" where NAlbum = ?"));
     std::unordered_map<int, QString> noms;
     std::unordered_map<int, QString> parAlbum;
-    for (auto liens = base.OpenRecordset(tous); !liens.AtEnd(); liens.MoveNext()) {
+    for (auto liens = base.read(tous); !liens.AtEnd(); liens.MoveNext()) {
         const auto [nom, neuf] = noms.try_emplace(liens.Fields(0).toInt());
         if (neuf)
             nom->second = LireNom(source, nom->first);

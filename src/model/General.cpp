@@ -1,17 +1,14 @@
 #include "model/General.h"
 
 #include "core/Dossier.h"
-#include "core/Error.h"
 #include "core/Images.h"
 #include "core/Texte.h"
 #include "db/AccesBase.h"
 #include "db/Base.h"
+#include "db/Connexion.h"
+#include "db/files/Moteur.h"
 #include "db/schema/Tables.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 #include <array>
 
 using namespace General;
@@ -104,7 +101,7 @@ std::string_view sansBlancs(std::string_view texte)
     return texte.substr(debut, texte.find_last_not_of(' ') - debut + 1);
 }
 
-void ajouterLigne(Entrees &entrees, const Recordset &rs, Forme forme)
+void ajouterLigne(Entrees &entrees, const Cursor &rs, Forme forme)
 {
     const int id = static_cast<int>(rs.Int64(0));
     const std::string_view second = forme == Forme::Nom ? std::string_view() : sansBlancs(rs.Utf8(2));
@@ -120,7 +117,7 @@ void ajouterLigne(Entrees &entrees, const Recordset &rs, Forme forme)
     }
 }
 
-Entrees remplir(Recordset rs, Forme forme, const Avance &avance)
+Entrees remplir(Cursor rs, Forme forme, const Avance &avance)
 {
     constexpr int Pas = 1 << 16;
     Entrees entrees;
@@ -139,10 +136,9 @@ Entrees remplir(Recordset rs, Forme forme, const Avance &avance)
 /// author's flags say in which lists he is.
 bool garde(const Changement &c)
 {
-    constexpr std::ptrdiff_t ColonnesMontrees = 3;
+    constexpr quint64 ChampsMontres = 0b111;
     const bool auteur = c.table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0;
-    return !auteur && c.avant && c.apres && std::ssize(*c.avant) >= ColonnesMontrees
-        && std::equal(c.avant->begin(), c.avant->begin() + ColonnesMontrees, c.apres->begin());
+    return !auteur && c.sorte == Changement::Sorte::Edition && (c.champs & ChampsMontres) == 0;
 }
 
 bool touche(const Changements &changements, std::initializer_list<const char *> tables)
@@ -158,6 +154,16 @@ bool touche(const Changements &changements, std::initializer_list<const char *> 
         }
     }
     return false;
+}
+
+/// How a line of a pick-list is made of what its table holds.
+Forme formeDuChoix(const QString &liste, const QString &table)
+{
+    if (table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0)
+        return Forme::NomPrenom;
+    if (table.compare(QLatin1String("Inter"), Qt::CaseInsensitive) == 0)
+        return Forme::PrenomNom;
+    return liste == QLatin1String("LPresseBD") ? Forme::NomNumero : Forme::Nom;
 }
 
 }
@@ -188,7 +194,7 @@ Tri General::TriDe(int numero)
 Entrees General::LireListe(Tri tri, const Avance &avance)
 {
     const Base base;
-    return remplir(base.OpenRecordset(QLatin1String(requetes(tri).liste)), requetes(tri).forme, avance);
+    return remplir(base.read(QLatin1String(requetes(tri).liste)), requetes(tri).forme, avance);
 }
 
 Entrees General::LireAlbums(Tri tri, int id)
@@ -197,7 +203,7 @@ Entrees General::LireAlbums(Tri tri, int id)
     if (!sql)
         return {};
     const Base base;
-    return remplir(base.OpenRecordset(QLatin1String(sql), {id}), Forme::Nom, {});
+    return remplir(base.read(QLatin1String(sql), {id}), Forme::Nom, {});
 }
 
 std::vector<Volume> General::LireVolumes(const std::vector<int> &albums)
@@ -205,10 +211,9 @@ std::vector<Volume> General::LireVolumes(const std::vector<int> &albums)
     const Base base;
     std::vector<Volume> volumes;
     for (const int num : albums) {
-        const auto rs
-            = base.OpenRecordset(QStringLiteral("SELECT l.Photo1, a.NAlbum From LAlbums l"
-                                                " left join Album a on a.Num = l.NAlbum where l.NAlbum = ?"),
-                {num});
+        const auto rs = base.read(QStringLiteral("SELECT l.Photo1, a.NAlbum From LAlbums l"
+                                                 " left join Album a on a.Num = l.NAlbum where l.NAlbum = ?"),
+            {num});
         volumes.push_back(
             rs.AtEnd() ? Volume() : Volume{Images::Trouver(rs.Fields(0).toString()), rs.Fields(1).toInt()});
     }
@@ -219,8 +224,7 @@ Entrees General::LirePresse(int editeur)
 {
     const Base base;
     return remplir(
-        base.OpenRecordset(
-            QStringLiteral("SELECT * From PresseBD where NEdit = ? order by NPressBD asc"), {editeur}),
+        base.read(QStringLiteral("SELECT * From PresseBD where NEdit = ? order by NPressBD asc"), {editeur}),
         Forme::NomNumero, {});
 }
 
@@ -229,20 +233,14 @@ Choix General::LireChoix(const QString &liste, const QString &table, const QStri
     static const QStringList roles{
         QStringLiteral("Scena"), QStringLiteral("Dessin"), QStringLiteral("Color")};
     const QString role = liste.startsWith(u'L') ? liste.mid(1) : liste;
-    const bool auteurs = table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0;
-    const bool presse = liste == QLatin1String("LPresseBD");
-    const bool intervenants = table.compare(QLatin1String("Inter"), Qt::CaseInsensitive) == 0;
+    const Forme forme = formeDuChoix(liste, table);
+    const QString champs
+        = Schema::Champs(table).mid(0, forme == Forme::Nom ? 2 : 3).join(QStringLiteral(", "));
     const QString sql = roles.contains(role)
-        ? QStringLiteral("SELECT * From %1 where  %2 = -1 order by Nom asc").arg(table, role)
-        : QStringLiteral("SELECT * From %1 order by Nom asc").arg(table);
+        ? QStringLiteral("SELECT %1 From %2 where  %3 = -1 order by Nom asc").arg(champs, table, role)
+        : QStringLiteral("SELECT %1 From %2 order by Nom asc").arg(champs, table);
     const Base base;
-    Choix choix{remplir(base.OpenRecordset(sql),
-                    auteurs            ? Forme::NomPrenom
-                        : intervenants ? Forme::PrenomNom
-                        : presse       ? Forme::NomNumero
-                                       : Forme::Nom,
-                    {}),
-        -1};
+    Choix choix{remplir(base.read(sql), forme, {}), -1};
     const QString voulu = Texte::EstVide(valeur) ? QString() : valeur.trimmed().toUpper();
     for (int i = 0; i < choix.entrees.size() && !voulu.isEmpty() && choix.choisie < 0; ++i) {
         if (choix.entrees.texte(i).trimmed().toUpper() == voulu)
@@ -255,7 +253,7 @@ std::vector<int> General::LirePretes()
 {
     const Base base;
     std::vector<int> numeros;
-    for (auto rs = base.OpenRecordset(QStringLiteral("SELECT Num From Album where NPret > 0")); !rs.AtEnd();
+    for (auto rs = base.read(QStringLiteral("SELECT Num From Album where NPret > 0")); !rs.AtEnd();
          rs.MoveNext())
         numeros.push_back(static_cast<int>(rs.Int64(0)));
     std::sort(numeros.begin(), numeros.end());
@@ -266,7 +264,7 @@ QString General::LireTexte(Tri tri, int id)
 {
     const Base base;
     const Entrees ligne
-        = remplir(base.OpenRecordset(QLatin1String(requetes(tri).ligne), {id}), requetes(tri).forme, {});
+        = remplir(base.read(QLatin1String(requetes(tri).ligne), {id}), requetes(tri).forme, {});
     return ligne.empty() ? QString() : ligne.texte(0);
 }
 
@@ -278,15 +276,15 @@ bool General::EstDansLaListe(Tri tri, int id)
     if (!role.isEmpty())
         sql += QStringLiteral(" and %1 <> 0").arg(role);
     const Base base;
-    return !base.OpenRecordset(sql, {id}).AtEnd();
+    return !base.read(sql, {id}).AtEnd();
 }
 
 Totaux General::LireTotaux()
 {
     const Base base;
-    const auto albums = base.OpenRecordset(
-        QStringLiteral("SELECT count(*), coalesce(sum(PrixA), 0.0) From Album where +Num > 0"));
-    const auto series = base.OpenRecordset(QStringLiteral("SELECT count(*) From Serie where NSerie > 0"));
+    const auto albums
+        = base.read(QStringLiteral("SELECT count(*), coalesce(sum(PrixA), 0.0) From Album where +Num > 0"));
+    const auto series = base.read(QStringLiteral("SELECT count(*) From Serie where NSerie > 0"));
     return {albums.Int64(0), series.Int64(0), albums.Fields(1).toDouble()};
 }
 
@@ -294,7 +292,7 @@ bool General::EstVierge()
 {
     const Base base;
     return std::all_of(Genres.begin(), Genres.end(), [&](const Genre &genre) {
-        return base.OpenRecordset(QStringLiteral("SELECT 1 From %1 limit 1").arg(TableDe(genre.tri))).AtEnd();
+        return base.read(QStringLiteral("SELECT 1 From %1 limit 1").arg(TableDe(genre.tri))).AtEnd();
     });
 }
 
@@ -305,7 +303,7 @@ bool General::Concerne(const Changements &changements, Tri tri)
 
 QString General::VerifierCopie(const QString &chemin)
 {
-    for (const QString &nom : {QStringLiteral("bd.mdb"), QStringLiteral("BDbase.bd")}) {
+    for (const QString &nom : {Dossier::Collection, Dossier::Catalogue}) {
         if (Dossier::courant().estLeFichier(chemin, nom))
             return nom;
     }
@@ -314,22 +312,6 @@ QString General::VerifierCopie(const QString &chemin)
 
 void General::CopierBase(const QString &chemin)
 {
-    const auto echec = [&](const QString &details) {
-        throw Error(
-            QCoreApplication::translate("General", "La copie n'a pas pu être faite."), chemin, details);
-    };
-    QFile source(Dossier::courant().chemin(QStringLiteral("bd.mdb")));
-    if (!source.open(QIODevice::ReadOnly))
-        echec(source.errorString());
-    QSaveFile copie(chemin);
-    if (!copie.open(QIODevice::WriteOnly))
-        echec(copie.errorString());
-    constexpr qint64 Morceau = 1 << 20;
-    while (!source.atEnd()) {
-        const QByteArray octets = source.read(Morceau);
-        if (octets.isEmpty() || copie.write(octets) != octets.size())
-            echec(copie.errorString());
-    }
-    if (!copie.commit())
-        echec(copie.errorString());
+    Base base;
+    Moteur::Copier(base.connexion().db(), chemin);
 }

@@ -18,7 +18,7 @@ std::vector<Possede> lireSerie(const Base &base, int serie)
     const QString sql
         = QStringLiteral("SELECT s.NAlbum, a.NAlbum From SerieAlbums s join Album a on a.Num = s.NAlbum"
                          " where s.NSerie = ? order by a.NAlbum asc, a.Num asc");
-    for (auto rs = base.OpenRecordset(sql, {serie}); !rs.AtEnd(); rs.MoveNext())
+    for (auto rs = base.read(sql, {serie}); !rs.AtEnd(); rs.MoveNext())
         albums.push_back({static_cast<int>(rs.Int64(0)), static_cast<int>(rs.Int64(1))});
     return albums;
 }
@@ -41,7 +41,7 @@ void poserPlaces(InfosAlbum &infos, const std::vector<Possede> &albums)
 
 InfosAlbum::Voisin voisin(const Base &base, int num)
 {
-    const auto rs = base.OpenRecordset(QStringLiteral("SELECT TAlbum From LAlbums where NAlbum = ?"), {num});
+    const auto rs = base.read(QStringLiteral("SELECT TAlbum From LAlbums where NAlbum = ?"), {num});
     return {num, rs.AtEnd() ? QString() : rs.Fields(0).toString()};
 }
 

@@ -95,7 +95,7 @@ public:
         , m_noms(colonne.champ->source ? std::make_unique<Noms>(*colonne.champ->source) : nullptr)
     {
     }
-    QString lire(const Recordset &rs, int id) const
+    QString lire(const Cursor &rs, int id) const
     {
         const Champ &champ = *m_colonne.champ;
         if (m_noms)
@@ -162,7 +162,7 @@ qint64 compter(Tri tri)
     const QString drapeau = General::DrapeauDe(tri);
     const Base base;
     return base
-        .OpenRecordset(QStringLiteral("SELECT count(*) From ") + General::TableDe(tri)
+        .read(QStringLiteral("SELECT count(*) From ") + General::TableDe(tri)
             + (drapeau.isEmpty() ? QString() : QStringLiteral(" where %1 <> 0").arg(drapeau)))
         .Int64(0);
 }
@@ -184,7 +184,7 @@ bool parcourirEntrees(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre
     for (const Colonne &colonne : colonnes)
         lecteurs.emplace_back(colonne, PremiereColonne + static_cast<int>(lecteurs.size()));
     QStringList cellules(static_cast<qsizetype>(colonnes.size()));
-    for (auto rs = base.OpenRecordset(requete(tri, colonnes, ordre)); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.read(requete(tri, colonnes, ordre)); !rs.AtEnd(); rs.MoveNext()) {
         const int id = static_cast<int>(rs.Int64(0));
         if (seulement && !std::binary_search(seulement->begin(), seulement->end(), id))
             continue;

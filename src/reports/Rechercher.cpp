@@ -48,7 +48,7 @@ Entrees Rechercher::Chercher(General::Tri tri, const QString &texte, Mode mode)
     const Base base;
     Comparaison comparaison(texte, mode);
     Entrees trouvees;
-    for (auto rs = base.OpenRecordset(requete(tri)); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.read(requete(tri)); !rs.AtEnd(); rs.MoveNext()) {
         const std::string_view nom = rs.Utf8(1);
         if (comparaison.accepte(nom))
             trouvees.ajouter(static_cast<int>(rs.Int64(0)), nom);

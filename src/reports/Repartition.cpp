@@ -41,7 +41,7 @@ std::vector<Part> lireLiens(const char *sql)
     std::map<QString, std::size_t> places;
     std::vector<Part> parts;
     Part sans = inconnue();
-    for (auto rs = base.OpenRecordset(QLatin1String(sql)); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.read(QLatin1String(sql)); !rs.AtEnd(); rs.MoveNext()) {
         const QString nom = rs.Fields(0).toString().trimmed();
         const int album = static_cast<int>(rs.Int64(1));
         if (nom.isEmpty()) {
@@ -101,7 +101,7 @@ std::vector<Achat> lireAnnees(const char *colonne)
     const Base base;
     std::unordered_map<QString, int> connues;
     std::vector<Achat> achats;
-    for (auto rs = base.OpenRecordset(
+    for (auto rs = base.read(
              QStringLiteral("SELECT Num, PrixA, %1 From Album where Num > 0").arg(QLatin1String(colonne)));
          !rs.AtEnd(); rs.MoveNext())
         achats.push_back({static_cast<int>(rs.Int64(0)), anneeDe(rs.Fields(2).toString().trimmed(), connues),
@@ -141,8 +141,8 @@ std::unordered_map<int, double> lireCotes()
     const Base base;
     std::unordered_map<int, Derniere> cotes;
     std::unordered_map<QString, QDate> jours;
-    for (auto rs = base.OpenRecordset(QStringLiteral("SELECT NAlbum, Mois, Cotes From CotesAlbum"));
-         !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.read(QStringLiteral("SELECT NAlbum, Mois, Cotes From CotesAlbum")); !rs.AtEnd();
+         rs.MoveNext()) {
         const auto montant = Fiche::LireMontant(rs.Fields(2).toString().trimmed());
         if (!montant)
             continue;

@@ -1,12 +1,12 @@
 #include "reports/Statistiques.h"
 
+#include "acts/Acte.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
 #include "core/Fonds.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/Journal.h"
-#include "db/Transaction.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -113,7 +113,7 @@ QStringList entete()
 std::unordered_map<qint64, qint64> comptes(const Base &base, const Section &section)
 {
     std::unordered_map<qint64, qint64> comptes;
-    for (auto rs = base.OpenRecordset(QLatin1String(section.comptes)); !rs.AtEnd(); rs.MoveNext())
+    for (auto rs = base.read(QLatin1String(section.comptes)); !rs.AtEnd(); rs.MoveNext())
         comptes[rs.Int64(0)] = rs.Int64(1);
     return comptes;
 }
@@ -131,7 +131,7 @@ QString pourcentage(qint64 compte, qint64 total)
 void ecrireSection(const Base &base, const Section &section, qint64 total, QByteArray &page)
 {
     const auto albums = comptes(base, section);
-    const auto nombre = base.OpenRecordset(QLatin1String(section.total));
+    const auto nombre = base.read(QLatin1String(section.total));
     const QString libelle
         = texte(section.libelle).toHtmlEscaped() + QStringLiteral(" : ") + QString::number(nombre.Int64(0));
     page += ligne(FondTitre, EncreTitre, libelle, texte(Txt::NombreDAlbums).toHtmlEscaped(),
@@ -139,7 +139,7 @@ void ecrireSection(const Base &base, const Section &section, qint64 total, QByte
                 .toUtf8()
         + '\n';
     bool impair = true;
-    for (auto rs = base.OpenRecordset(QLatin1String(section.entrees)); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.read(QLatin1String(section.entrees)); !rs.AtEnd(); rs.MoveNext()) {
         const auto trouve = albums.find(rs.Int64(0));
         const qint64 compte = trouve == albums.end() ? 0 : trouve->second;
         page += ligne(impair ? FondImpair : FondPair, Encre, rs.Fields(1).toString().toHtmlEscaped(),
@@ -152,26 +152,25 @@ void ecrireSection(const Base &base, const Section &section, qint64 total, QByte
 
 }
 
-void Statistiques::Nettoyer()
+int Statistiques::Nettoyer()
 {
-    const Base base;
-    const Journal::Pause pause(base);
-    Transaction transaction(base);
+    Acte acte({});
+    int otes = 0;
     for (const Liens &l : TousLesLiens)
-        base.Execute(
+        otes += acte.base().Execute(
             QStringLiteral("DELETE From %1 where rowid in (SELECT l.rowid From %1 l"
                            " left join %2 e on e.%3 = l.%3 left join LAlbums a on a.NAlbum = l.NAlbum"
                            " where e.%3 is null or a.NAlbum is null)")
-                .arg(QLatin1String(l.liens), QLatin1String(l.table), QLatin1String(l.cle)),
-            {});
-    transaction.Commit();
+                .arg(QLatin1String(l.liens), QLatin1String(l.table), QLatin1String(l.cle)));
+    acte.intituler(QCoreApplication::translate("Statistiques", "Liens sans fiche ôtés : %1").arg(otes));
+    acte.valider();
+    return otes;
 }
 
 QByteArray Statistiques::Page(const Avance &avance)
 {
     const Base base;
-    const qint64 total
-        = base.OpenRecordset(QStringLiteral("SELECT count(*) From album where Num > 0;")).Int64(0);
+    const qint64 total = base.read(QStringLiteral("SELECT count(*) From album where Num > 0;")).Int64(0);
     QByteArray page("\xEF\xBB\xBF");
     page += entete().join(u'\n').toUtf8() + '\n';
     int faites = 0;

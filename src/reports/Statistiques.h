@@ -10,8 +10,8 @@ namespace Statistiques {
 /// Told now and then what part of the work is done, in percent; false ends it.
 using Avance = std::function<bool(int pourcent)>;
 
-/// Removes the link rows whose entry or album is gone. It is no step of undo. Throws Error.
-void Nettoyer();
+/// Removes the link rows whose entry or album is gone, as a step of its own; returns how many. Throws Error.
+int Nettoyer();
 
 /// The page (UTF-8 with byte-order mark), counted on the collection as it is. Empty when it was ended. Throws Error.
 QByteArray Page(const Avance &avance = {});

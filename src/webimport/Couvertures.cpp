@@ -42,7 +42,7 @@ bool estUtilisee(const Base &base, const QString &nom)
                                 .replace(QLatin1String("%1"), QLatin1String(table))
                                 .replace(QLatin1String("%2"), QLatin1String(premier))
                                 .replace(QLatin1String("%3"), QLatin1String(second));
-        return !base.OpenRecordset(sql, {motif, motif}).AtEnd();
+        return !base.read(sql, {motif, motif}).AtEnd();
     };
     for (const char *table : {"LAlbums", "Serie", "Auteurs", "Editeur", "ExLibris", "PresseBD"}) {
         if (trouvee(table, "Photo1", "Photo2"))

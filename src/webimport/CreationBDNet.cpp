@@ -1,8 +1,6 @@
 #include "webimport/CreationBDNet.h"
 
 #include "acts/Creer.h"
-#include "core/Annonces.h"
-#include "core/Traduction.h"
 #include "model/Fiche.h"
 
 #include <QCoreApplication>
@@ -48,6 +46,5 @@ int CreationBDNet::Creer(const Saisie &saisie)
     album.histoire = saisie.histoire;
     album.photo1 = saisie.photos[0];
     album.photo2 = saisie.photos[1];
-    const Annonces::Intitule intitule(texte(Txt::Creation) + QStringLiteral(": ") + album.titre);
-    return Creer::CreerAlbum(album);
+    return Creer::CreerEnUnActe(album);
 }

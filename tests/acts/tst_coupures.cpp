@@ -165,7 +165,8 @@ int travailler(const QString &travail, const QString &chemin, int tour)
     if (travail == "sauver")
         sauverSansFin(annonces, tour);
     if (travail == "importer")
-        ImporterAlbums(chemin + "/albums.csv", Proposer(Lire(chemin + "/albums.csv").entete), Doublons::Prendre);
+        ImporterAlbums(
+            chemin + "/albums.csv", Proposer(Lire(chemin + "/albums.csv").entete), Doublons::Prendre);
     while (travail == "restaurer")
         Remplacement::Restaurer(chemin + (tour++ % 2 == 0 ? "/a.bd" : "/b.bd"));
     return 0;

@@ -24,7 +24,7 @@ namespace {
 /// All rows of a table, as text, in the order of their making.
 QStringList lignes(const QString &table)
 {
-    const Base base;
+    Base base;
     QStringList resultat;
     const auto forme
         = base.OpenRecordset(QStringLiteral("SELECT count(*) FROM pragma_table_info(?)"), {table});

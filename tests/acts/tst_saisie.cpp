@@ -2,7 +2,7 @@
 #include "core/Error.h"
 #include "db/Base.h"
 #include "db/Module2.h"
-#include "db/schema/Tables.h"
+#include "db/files/FichierNeuf.h"
 #include "entry/Catalogue.h"
 #include "support/Bac.h"
 
@@ -85,7 +85,7 @@ void tst_saisie::laSaisieDitCeQuElleRefuse()
     QCOMPARE(refus ? refus->champ : QString(), champ);
     if (refus)
         return;
-    const int num = Saisie::Creer(textes);
+    const int num = Saisie::CreerAlbum(textes);
     QCOMPARE(Bac::valeur("SELECT TAlbum FROM LAlbums WHERE NAlbum = ?", {num}).toString(), QString(50, u'é'));
     QCOMPARE(Bac::valeur("SELECT PrixA FROM Album").toDouble(), prix.isEmpty() ? 0.0 : 12.5);
     QCOMPARE(Saisie::Verifier(saisie(" "))->champ, "Titre");
@@ -99,7 +99,7 @@ void tst_saisie::lesImagesEntrentDansLaCollection()
     for (const int teinte : {1, 2}) {
         image.fill(QColor(teinte * 90, 0, 0));
         QVERIFY(image.save(ailleurs.filePath("recto.png")));
-        Saisie::Creer(saisie("a", "1", "", ailleurs.filePath("recto.png")));
+        Saisie::CreerAlbum(saisie("a", "1", "", ailleurs.filePath("recto.png")));
     }
     QCOMPARE(Bac::valeur("SELECT Photo1 FROM LAlbums WHERE NAlbum = 1").toString(), "recto.png");
     QCOMPARE(Bac::valeur("SELECT Photo1 FROM LAlbums WHERE NAlbum = 2").toString(), "recto (2).png");
@@ -111,7 +111,7 @@ void tst_saisie::leProchainTomeSuitLePlusHaut()
     const Bac bac;
     Saisie::Textes textes = saisie("a", "7");
     textes.album.serie = "Zig";
-    Saisie::Creer(textes);
+    Saisie::CreerAlbum(textes);
     QCOMPARE(Saisie::ProchainTome(" zig "), 8);
     QVERIFY(!Saisie::ProchainTome("Zag"));
     Bac::executer(
@@ -152,9 +152,9 @@ void tst_saisie::leCatalogueSeLit()
 {
     const Bac bac;
     QFile::remove(catalogue(bac));
-    Schema::CreerCatalogue(catalogue(bac));
+    FichierNeuf::CreerCatalogue(catalogue(bac));
     {
-        const Base base(catalogue(bac), Entete::Nature::Catalogue);
+        Base base(catalogue(bac), Entete::Nature::Catalogue);
         const auto ajouter
             = [&](int numero, const QString &titre, int tome, const QString &serie, const QString &carton) {
                   base.Execute(
@@ -187,7 +187,7 @@ void tst_saisie::unCatalogueFautifEstDit()
         QCOMPARE(Bac::lire(catalogue(bac)), octets);
     }
     QFile::remove(catalogue(bac));
-    Schema::CreerCatalogue(catalogue(bac));
+    FichierNeuf::CreerCatalogue(catalogue(bac));
     Base(catalogue(bac), Entete::Nature::Catalogue)
         .Execute("INSERT INTO BD(Numero, Titre) VALUES (1, 'en clair')");
     QVERIFY_EXCEPTION_THROWN(Catalogue::LireAlbums(), Error);

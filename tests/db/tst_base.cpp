@@ -1,6 +1,8 @@
 #include "db/Base.h"
+#include "db/Comparaison.h"
 #include "db/Transaction.h"
-#include "db/schema/Tables.h"
+#include "db/files/MiseANiveau.h"
+#include "db/schema/Version.h"
 #include "support/Bac.h"
 #include "support/Refus.h"
 
@@ -66,10 +68,10 @@ void tst_base::lesOuverturesImbriqueesPartagentEtLaDerniereFerme()
     const Bac bac;
     const QStringList entrees = QDir(bac.chemin()).entryList();
     {
-        const Base externe;
+        Base externe;
         QCOMPARE(essayer(bac.collection()), SQLITE_BUSY);
         {
-            const Base interne;
+            Base interne;
             interne.Execute("INSERT INTO Genre VALUES (1, 'Humour')");
             QCOMPARE(externe.OpenRecordset("SELECT Nom FROM Genre").Fields(0), "Humour");
         }
@@ -84,12 +86,12 @@ void tst_base::unRecordsetGardeOuverteSaBase()
     const Bac bac;
     Bac::executer("INSERT INTO Genre VALUES (1, 'Humour')");
     {
-        auto rs = Base().OpenRecordset("SELECT * From Genre");
+        auto rs = Base().edit("Genre");
         QCOMPARE(essayer(bac.collection()), SQLITE_BUSY);
         rs.Edit();
         rs.SetField("Nom", "Western");
         rs.Update();
-        const Recordset autre = std::move(rs);
+        Recordset autre = std::move(rs);
         QCOMPARE(autre.Fields("Nom"), "Western");
     }
     QCOMPARE(essayer(bac.collection()), SQLITE_OK);
@@ -149,7 +151,7 @@ void tst_base::unFichierEtrangerResteIntact()
     Bac::ecrire(bac.collection(), octets);
     const QStringList entrees = QDir(bac.chemin()).entryList();
     QVERIFY(refus([] { Base(); }) == sorte);
-    Schema::MettreANiveau();
+    MiseANiveau::Executer();
     QVERIFY(Bac::lire(bac.collection()) == octets);
     QCOMPARE(QDir(bac.chemin()).entryList(), entrees);
 }
@@ -253,7 +255,8 @@ void tst_base::unAutreCollateurRefaitLesIndex()
     QCOMPARE(noms, QStringList({"Echo", "Écume", "Edgar"}));
     QCOMPARE(Bac::valeur("SELECT NGenre FROM Genre WHERE Nom = 'ECHO'"), 3);
     QCOMPARE(Bac::valeur("PRAGMA integrity_check"), "ok");
-    QCOMPARE(Bac::valeur("PRAGMA user_version"), Schema::Version());
+    QCOMPARE(Bac::valeur("PRAGMA user_version"),
+        Version::Composer(Comparaison::version(), Version::PremierPalier));
 }
 
 namespace {
@@ -278,9 +281,9 @@ int ecrireSansFin(const QString &fichier, qint64 debut)
     Annonces annonces;
     QTextStream sortie(stdout);
     for (qint64 i = debut;; ++i) {
-        const Base base(fichier, Entete::Nature::Collection);
+        Base base(fichier, Entete::Nature::Collection);
         Transaction transaction(base);
-        for (auto rs = base.OpenRecordset("SELECT * From Auteurs"); !rs.AtEnd(); rs.MoveNext()) {
+        for (auto rs = base.edit("Auteurs"); !rs.AtEnd(); rs.MoveNext()) {
             rs.Edit();
             rs.SetField("Commentaire", QString::number(i).leftJustified(16'000));
             rs.Update();

@@ -19,7 +19,7 @@ void tst_collation::lesNomsSeSuiventCommeDansUnDictionnaire()
     const Bac bac;
     const QStringList ordre{"", " ", "1984", "Cote", "Coté", "Côte", "Côté", "Cotes", "echo", "Écume",
         "Edgar", "oeuf", "œuf", "oeufs", "Zèbre", "zebres"};
-    const Base base;
+    Base base;
     for (int i = 0; i < ordre.size(); ++i)
         base.Execute("INSERT INTO Serie (NSerie, Nom) VALUES (?, ?)", {100 - i, ordre[i]});
     for (const QString sql : {"SELECT * From Serie order by Nom asc", "SELECT Nom FROM Serie ORDER BY Nom"}) {

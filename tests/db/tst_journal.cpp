@@ -1,10 +1,10 @@
-#include "db/Base.h"
-#include "db/Journal.h"
-#include "db/Transaction.h"
+#include "acts/Historique.h"
 #include "support/Bac.h"
 #include "support/Ecoute.h"
+#include "support/Etapes.h"
 #include "support/Refus.h"
 
+#include <QDir>
 #include <QTest>
 
 class tst_journal : public QObject
@@ -13,6 +13,7 @@ class tst_journal : public QObject
 
 private Q_SLOTS:
     void chaqueEcritureEstNoteeEtAnnonceeUneFois();
+    void auDelaDeDixMilleLignesSeulesLesTablesSontDites();
     void uneAnnulationNEffaceQueSaPart_data();
     void uneAnnulationNEffaceQueSaPart();
     void uneInstructionRefuseeNeLaissePasDeTrace_data();
@@ -21,30 +22,28 @@ private Q_SLOTS:
     void annulerEtRefaireRendentLigneParLigne();
     void annulerRefuseUneLigneChangeeDepuis_data();
     void annulerRefuseUneLigneChangeeDepuis();
+    void uneBandeLongueSeLitCommeUneCourte();
+    void unFichierDeBandeImpossibleReprendLActe();
 };
 
 namespace {
 
-/// One line for each notes change: what was done, where, and the values.
+/// One line for each noted change: what was done, where, and which fields of an edited row.
 QStringList enTexte(const Changements &changements)
 {
-    const auto valeurs = [](const Changement::Ligne &ligne) {
-        QStringList textes;
-        for (const QVariant &v : ligne)
-            textes << (v.isValid() ? v.toString() : QStringLiteral("nul"));
-        return u'(' + textes.join(u',') + u')';
-    };
     QStringList lignes;
-    for (const Changement &c : changements)
-        lignes << QStringLiteral("%1 %2 ").arg(c.table).arg(c.cle) + (c.avant ? valeurs(*c.avant) : QString())
-                + u'>' + (c.apres ? valeurs(*c.apres) : QString());
+    for (const Changement &c : changements) {
+        const bool edition = c.sorte == Changement::Sorte::Edition;
+        lignes << QStringLiteral("%1 %2 ").arg(c.table).arg(c.cle) + QString("?+/-").at(int(c.sorte))
+                + (edition ? QString::number(c.champs) : QString());
+    }
     return lignes;
 }
 
 /// Two albums of one series with their links, whose row numbers have a hole.
 void remplir()
 {
-    const Base base;
+    Base base;
     base.Execute("INSERT INTO Serie (NSerie, Nom) VALUES (1, 'Écume')");
     base.Execute("INSERT INTO Album (Num, NAlbum, PrixA, ISSN) VALUES (1, 5, 12, ''), (2, 7, 9.95, NULL)");
     base.Execute("INSERT INTO LAlbums (NAlbum, TAlbum) VALUES (1, 'L''un'), (2, 'L''autre')");
@@ -65,19 +64,47 @@ void tst_journal::chaqueEcritureEstNoteeEtAnnonceeUneFois()
 {
     Bac bac;
     Ecoute ecoute(bac.annonces);
-    {
-        const Base base;
+    Etapes etapes(bac.annonces);
+    for (const bool vaut : {false, true}) {
+        Acte acte("prêter", {General::Tri::Albums, 3});
+        Base &base = acte.base();
         base.Execute("INSERT INTO Pret VALUES (4, 'Écume', NULL, '')");
         Bac::executer("UPDATE Pret SET Tel = '01' WHERE NPret = 4");
-        QCOMPARE(ecoute.annonces().size(), 0U);
+        Bac::agir("UPDATE Pret SET Tel = '01', Nom = 'L''été' WHERE NPret = 4", {}, "dedans");
         base.Execute("UPDATE Pret SET NPret = 5");
+        base.Execute("UPDATE Pret SET NPret = NPret");
+        base.Execute("CREATE TEMP TABLE IF NOT EXISTS ailleurs (a)");
+        base.Execute("INSERT INTO temp.ailleurs VALUES (1)");
         base.Execute("DELETE FROM Pret");
         base.Execute("UPDATE Pret SET Tel = '02'");
+        QCOMPARE(ecoute.annonces().size(), 0U);
+        if (vaut)
+            acte.valider();
     }
+    QCOMPARE(etapes.faites.size(), 1U);
+    QCOMPARE(etapes.faites[0].titre, "prêter");
+    QCOMPARE(etapes.faites[0].lieu.id, 3);
     QCOMPARE(ecoute.annonces().size(), 1U);
     QCOMPARE(enTexte(derniere(ecoute)),
-        QStringList({"Pret 4 >(4,Écume,nul,)", "Pret 4 (4,Écume,nul,)>(4,Écume,nul,01)",
-            "Pret 4 (4,Écume,nul,01)>", "Pret 5 >(5,Écume,nul,01)", "Pret 5 (5,Écume,nul,01)>"}));
+        QStringList({"Pret 4 +", "Pret 4 /8", "Pret 4 /2", "Pret 4 -", "Pret 5 +", "Pret 5 -"}));
+    // What is written outside of an act is nobody's step.
+    Bac::executer("INSERT INTO Genre VALUES (1, 'a')");
+    Bac::agir("UPDATE Genre SET Nom = 'A' WHERE NGenre = 2");
+    QCOMPARE(ecoute.annonces().size(), 1U);
+    QCOMPARE(etapes.faites.size(), 1U);
+}
+
+void tst_journal::auDelaDeDixMilleLignesSeulesLesTablesSontDites()
+{
+    Bac bac;
+    Ecoute ecoute(bac.annonces);
+    const QString beaucoup = "WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < ?)"
+                             " INSERT INTO %1 (%2) SELECT i FROM n";
+    Acte acte("beaucoup");
+    acte.base().Execute(beaucoup.arg("Genre", "NGenre"), {6000});
+    acte.base().Execute(beaucoup.arg("Pays", "NPays"), {6000});
+    acte.valider();
+    QCOMPARE(enTexte(derniere(ecoute)), QStringList({"Genre 0 ?", "Pays 0 ?"}));
 }
 
 void tst_journal::uneAnnulationNEffaceQueSaPart_data()
@@ -98,25 +125,24 @@ void tst_journal::uneAnnulationNEffaceQueSaPart()
     QFETCH(QString, reste);
     Bac bac;
     Ecoute ecoute(bac.annonces);
+    Acte acte("tout");
+    const auto inserer = [&](int cle) { acte.base().Execute("INSERT INTO Genre VALUES (?, '')", {cle}); };
+    inserer(0);
     {
-        const Base base;
-        const auto inserer = [&](int cle) { base.Execute("INSERT INTO Genre VALUES (?, '')", {cle}); };
-        inserer(0);
+        Transaction dehors(acte.base());
+        inserer(1);
         {
-            Transaction dehors(base);
-            inserer(1);
-            {
-                Transaction dedans(base);
-                inserer(2);
-                if (interne)
-                    dedans.Commit();
-            }
-            inserer(3);
-            if (externe)
-                dehors.Commit();
+            Acte dedans("dedans");
+            inserer(2);
+            if (interne)
+                dedans.valider();
         }
-        inserer(4);
+        inserer(3);
+        if (externe)
+            dehors.Commit();
     }
+    inserer(4);
+    acte.valider();
     QCOMPARE(Bac::valeur("SELECT group_concat(NGenre) FROM (SELECT NGenre FROM Genre ORDER BY 1)"), reste);
     QStringList notees;
     for (const Changement &c : derniere(ecoute))
@@ -139,14 +165,14 @@ void tst_journal::uneInstructionRefuseeNeLaissePasDeTrace()
     remplir();
     const QStringList avant = Bac::toutLire();
     Ecoute ecoute(bac.annonces);
-    ecoute.annonces();
     {
-        const Base base;
-        base.Execute("INSERT INTO Genre VALUES (1, 'avant')");
-        QVERIFY(refus([&] { base.Execute(sql); }).has_value());
-        base.Execute("DELETE FROM Genre");
+        Acte acte("refus");
+        acte.base().Execute("INSERT INTO Genre VALUES (1, 'avant')");
+        QVERIFY(refus([&] { acte.base().Execute(sql); }).has_value());
+        acte.base().Execute("DELETE FROM Genre");
+        acte.valider();
     }
-    QCOMPARE(enTexte(derniere(ecoute)), QStringList({"Genre 1 >(1,avant)", "Genre 1 (1,avant)>"}));
+    QCOMPARE(enTexte(derniere(ecoute)), QStringList({"Genre 1 +", "Genre 1 -"}));
     QCOMPARE(Bac::toutLire(), avant);
 }
 
@@ -157,6 +183,8 @@ void tst_journal::annulerEtRefaireRendentLigneParLigne_data()
         << QStringList{"INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 3)",
                "INSERT INTO Album (Num, NAlbum, PrixA) VALUES (3, 8, 1)"};
     QTest::newRow("tome change") << QStringList{"UPDATE Album SET NAlbum = 6 WHERE Num = 1"};
+    QTest::newRow("deux fois la meme ligne") << QStringList{
+        "UPDATE Album SET PrixA = 3 WHERE Num = 2", "UPDATE Album SET PrixA = 3.5, ISBN = 'x'"};
     QTest::newRow("tome hors de portee") << QStringList{"UPDATE Album SET NAlbum = 191"};
     QTest::newRow("lien deplace") << QStringList{"UPDATE SerieAlbums SET NAlbum = 2 WHERE NAlbum = 1"};
     QTest::newRow("suppression en cascade") << QStringList{"DELETE FROM SerieAlbums WHERE NAlbum = 1",
@@ -179,21 +207,23 @@ void tst_journal::annulerEtRefaireRendentLigneParLigne()
     remplir();
     const QStringList avant = Bac::toutLire();
     Ecoute ecoute(bac.annonces);
+    Historique histoire(bac.annonces);
     {
-        const Base base;
-        for (const QString &acte : std::as_const(actes))
-            QVERIFY(base.Execute(acte) > 0);
+        Acte acte("tout");
+        for (const QString &sql : std::as_const(actes))
+            QVERIFY(acte.base().Execute(sql) > 0);
+        acte.valider();
     }
     const QStringList apres = Bac::toutLire();
     QVERIFY(apres != avant);
-    const Changements notes = derniere(ecoute);
+    const auto annonces = ecoute.annonces().size();
     for (int i = 0; i < 2; ++i) {
-        Journal::Annuler(Base(), notes);
+        histoire.annuler();
         QCOMPARE(Bac::toutLire(), avant);
-        QVERIFY(!derniere(ecoute).empty());
-        Journal::Refaire(Base(), notes);
+        histoire.refaire();
         QCOMPARE(Bac::toutLire(), apres);
     }
+    QCOMPARE(ecoute.annonces().size(), annonces + 4);
     Bac::executer("UPDATE Album SET NAlbum = 3 WHERE Num = 1");
     QCOMPARE(Bac::valeur("SELECT count(*) FROM SerieAlbums JOIN Album ON Num = SerieAlbums.NAlbum"
                          " WHERE Album.NAlbum = 3 AND NumeroAlbum2 <> 'D'"),
@@ -208,33 +238,98 @@ void tst_journal::annulerRefuseUneLigneChangeeDepuis_data()
     QTest::newRow("valeur nulle devenue vide") << "UPDATE LAlbums SET Photo2 = '' WHERE NAlbum = 1";
     QTest::newRow("ligne supprimee") << "DELETE FROM LAlbums WHERE NAlbum = 1";
     QTest::newRow("numero repris") << "INSERT INTO LAlbums (NAlbum, TAlbum) VALUES (2, 'Intrus')";
+    QTest::newRow("ajoutee et changee") << "UPDATE Genre SET Nom = 'autre'";
 }
 
-/// The refused change is not the last one notes, so that others were taken back before it.
+/// The refused change is not the last one noted, so that others were taken back before it.
 void tst_journal::annulerRefuseUneLigneChangeeDepuis()
 {
     QFETCH(QString, entretemps);
     Bac bac;
     remplir();
     Ecoute ecoute(bac.annonces);
+    Historique histoire(bac.annonces);
     {
-        const Base base;
-        base.Execute("UPDATE LAlbums SET TAlbum = 'neuf' WHERE NAlbum = 1");
-        base.Execute("DELETE FROM LAlbums WHERE NAlbum = 2");
-        base.Execute("UPDATE Album SET NAlbum = 9 WHERE Num = 1");
+        Acte acte("tout");
+        acte.base().Execute("INSERT INTO Genre VALUES (4, 'neuf')");
+        acte.base().Execute("UPDATE LAlbums SET TAlbum = 'neuf' WHERE NAlbum = 1");
+        acte.base().Execute("DELETE FROM LAlbums WHERE NAlbum = 2");
+        acte.base().Execute("UPDATE Album SET NAlbum = 9 WHERE Num = 1");
+        acte.valider();
     }
-    const Changements notes = derniere(ecoute);
     Bac::executer(entretemps);
     const QStringList avant = Bac::toutLire();
     {
-        const Base base;
-        QVERIFY(refus([&] { Journal::Annuler(base, notes); }).has_value());
+        Base base;
+        QCOMPARE(refus([&] { histoire.annuler(); }), Error::Sorte::Perimee);
         QCOMPARE(Bac::toutLire(), avant);
         // The rules that keep the tome's key are in force again after the refusal.
         base.Execute("UPDATE Album SET NAlbum = 3 WHERE Num = 1");
     }
     QCOMPARE(Bac::valeur("SELECT NumeroAlbum2 FROM SerieAlbums WHERE NAlbum = 1"), "D");
-    QCOMPARE(derniere(ecoute).size(), 2U);
+    QCOMPARE(ecoute.annonces().size(), 1U);
+}
+
+/// The same notes on a tape in memory and on one that is nearly all in its file, cut off in places.
+void tst_journal::uneBandeLongueSeLitCommeUneCourte()
+{
+    const auto lire = [](const Bande &bande, auto sens) {
+        QStringList notes;
+        (bande.*sens)([&](const Bande::Note &n) {
+            notes << QStringLiteral("%1 %2 %3 %4 ").arg(int(n.sorte)).arg(n.cle).arg(n.avant).arg(n.apres)
+                    + QByteArray(n.table.data(), qsizetype(n.table.size()))
+                    + QByteArray(n.valeurs.data(), qsizetype(n.valeurs.size()));
+        });
+        return notes;
+    };
+    Bande courte;
+    Bande longue(100);
+    std::vector<std::pair<Bande::Marque, Bande::Marque>> marques;
+    for (int i = 0; i < 3000; ++i) {
+        const std::string table = "T" + std::to_string(i % 7);
+        const std::string valeurs(std::size_t(i % 1500), char('a' + i % 26));
+        for (Bande *bande : {&courte, &longue})
+            bande->ajouter({Bande::Sorte::Retrait, table, i, quint64(i), quint64(-i), valeurs});
+        if (i % 400 == 0)
+            marques.emplace_back(courte.fin(), longue.fin());
+    }
+    QVERIFY(longue.enMemoire() < courte.enMemoire() / 2);
+    for (; !marques.empty(); marques.pop_back()) {
+        QCOMPARE(longue.notes(), courte.notes());
+        QVERIFY(lire(longue, &Bande::parcourir) == lire(courte, &Bande::parcourir));
+        QVERIFY(lire(longue, &Bande::remonter) == lire(courte, &Bande::remonter));
+        courte.couper(marques.back().first);
+        longue.couper(marques.back().second);
+        for (Bande *bande : {&courte, &longue})
+            bande->ajouter({Bande::Sorte::Ajout, "apres", 1, 0, 2});
+    }
+    longue.deposer();
+    QVERIFY(lire(longue, &Bande::remonter) == lire(courte, &Bande::remonter));
+}
+
+/// A step of more than sixteen megabytes, first without a place for its file, then with one.
+void tst_journal::unFichierDeBandeImpossibleReprendLActe()
+{
+    Bac bac;
+    Historique histoire(bac.annonces);
+    Etapes etapes(bac.annonces);
+    Bac::executer("WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20)"
+                  " INSERT INTO Auteurs (NAuteur, Commentaire) SELECT i, hex(zeroblob(500000)) FROM n");
+    const QStringList avant = Bac::toutLire();
+    const QByteArray ici = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc"); // where nobody can make a file
+    QVERIFY(refus([] { Bac::agir("UPDATE Auteurs SET Commentaire = 'x'"); }).has_value());
+    QVERIFY(Bac::toutLire() == avant);
+    QVERIFY(etapes.faites.empty());
+    const QString passage = bac.chemin("passage");
+    QDir().mkpath(passage);
+    qputenv("TMPDIR", QFile::encodeName(passage));
+    Bac::agir("UPDATE Auteurs SET Commentaire = 'x'");
+    QVERIFY(etapes.faites.at(0).bande->enMemoire() < Bande::LimiteEnMemoire);
+    QVERIFY(QDir(passage).isEmpty()); // so that nothing can be left there
+    histoire.annuler();
+    QVERIFY(Bac::toutLire() == avant);
+    ici.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", ici);
 }
 
 QTEST_GUILESS_MAIN(tst_journal)

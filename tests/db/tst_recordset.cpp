@@ -1,3 +1,4 @@
+#include "acts/Acte.h"
 #include "db/Base.h"
 #include "db/Transaction.h"
 #include "support/Bac.h"
@@ -44,10 +45,10 @@ void remplirGenres(int nombre)
 void tst_recordset::unParcoursSurvitASesPropresEcritures()
 {
     const Bac bac;
-    const Base base;
+    Base base;
     remplirGenres(20);
     int vus = 0;
-    for (auto rs = base.OpenRecordset("SELECT * From Genre order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.edit("Genre", "true order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
         QVERIFY(++vus <= 20);
         rs.Edit();
         rs.SetField("Nom", QStringLiteral("z%1").arg(vus));
@@ -60,10 +61,10 @@ void tst_recordset::unParcoursSurvitASesPropresEcritures()
 void tst_recordset::unParcoursSurvitASesSuppressions()
 {
     const Bac bac;
-    const Base base;
+    Base base;
     remplirGenres(9);
     QVariantList vus;
-    for (auto rs = base.OpenRecordset("SELECT * From Genre order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.edit("Genre", "true order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
         vus << rs.Fields(0);
         rs.Delete();
         QVERIFY(refus([&] { rs.Fields(0); }).has_value());
@@ -76,26 +77,28 @@ void tst_recordset::unParcoursSurvitASesSuppressions()
 void tst_recordset::unParcoursSurvitAUneAnnulation()
 {
     const Bac bac;
-    const Base base;
+    Base base;
     remplirGenres(3);
-    for (const QString sql :
-        {"SELECT * From Genre order by NGenre", "SELECT Nom FROM Genre ORDER BY NGenre"}) {
+    const auto noms = [&](auto rs) {
         QStringList noms;
-        for (auto rs = base.OpenRecordset(sql); !rs.AtEnd(); rs.MoveNext()) {
+        for (; !rs.AtEnd(); rs.MoveNext()) {
             noms << rs.Fields("nom").toString();
             const Transaction transaction(base);
             base.Execute("UPDATE Genre SET Nom = 'perdu'");
         }
-        QCOMPARE(noms, QStringList({"a01", "a02", "a03"}));
-    }
+        return noms;
+    };
+    const QStringList attendus{"a01", "a02", "a03"};
+    QCOMPARE(noms(base.edit("Genre", "true order by NGenre")), attendus);
+    QCOMPARE(noms(base.read("SELECT Nom FROM Genre ORDER BY NGenre")), attendus);
 }
 
 void tst_recordset::lAjoutEtLEditionLaissentLeurSignet()
 {
     const Bac bac;
-    const Base base;
+    Base base;
     remplirGenres(2);
-    auto rs = base.OpenRecordset("SELECT * From Genre");
+    auto rs = base.edit("Genre");
     rs.AddNew();
     rs.SetField(0, 7);
     rs.SetField("NOM", "Humour");
@@ -115,32 +118,37 @@ void tst_recordset::lAjoutEtLEditionLaissentLeurSignet()
 void tst_recordset::leNombreDeLignesEstEntierDesDeuxSortes()
 {
     const Bac bac;
-    const Base base;
+    Base base;
     for (const int nombre : {0, 5}) {
         remplirGenres(nombre);
-        for (const QString sql : {"SELECT * From Genre order by Nom asc ", "SELECT Nom FROM Genre ;"}) {
-            auto rs = base.OpenRecordset(sql);
+        const auto compter = [nombre](auto rs) {
             QCOMPARE(rs.RecordCount(), nombre);
             for (int i = 0; i < nombre; ++i, rs.MoveNext())
                 QCOMPARE(rs.RecordCount(), nombre);
             QVERIFY(rs.AtEnd());
-        }
+            rs.MoveFirst();
+            QCOMPARE(rs.AtEnd(), nombre == 0);
+        };
+        compter(base.edit("Genre", "true order by Nom asc "));
+        compter(base.OpenRecordset("SELECT Nom FROM Genre ;"));
     }
 }
 
 void tst_recordset::apresLaFinIlNYAPlusDeLigne()
 {
     const Bac bac;
-    const Base base;
-    auto vide = base.OpenRecordset("SELECT * From Serie");
+    Base base;
+    auto vide = base.edit("Serie");
     QVERIFY(refus([&] { vide.Fields("Nom"); }).has_value());
     QVERIFY(refus([&] { vide.Edit(); }).has_value());
+    QVERIFY(refus([&] { base.read("SELECT Nom FROM Serie").Fields("Nom"); }).has_value());
     remplirGenres(1);
-    auto rs = base.OpenRecordset("SELECT * From Genre");
+    auto rs = base.edit("Genre");
     rs.MoveNext();
     QVERIFY(rs.AtEnd());
     QVERIFY(refus([&] { rs.Fields("Nom"); }).has_value());
     QVERIFY(refus([&] { rs.Delete(); }).has_value());
+    QVERIFY(refus([&] { base.read("SELECT Nom FROM Genre").Fields("Prenom"); }).has_value());
 }
 
 void tst_recordset::uneEditionSansChangementNEcritRien_data()
@@ -167,10 +175,12 @@ void tst_recordset::uneEditionSansChangementNEcritRien()
     const auto annonces = ecoute.annonces().size();
     const QByteArray avant = Bac::lire(bac.collection());
     {
-        auto rs = Base().OpenRecordset("SELECT * From Album where Num = ?", {1});
+        Acte acte("rien");
+        auto rs = acte.base().edit("Album", "Num = ?", {1});
         rs.Edit();
         rs.SetField(champ, valeur);
         rs.Update();
+        acte.valider();
     }
     QVERIFY(Bac::lire(bac.collection()) == avant);
     QCOMPARE(ecoute.annonces().size(), annonces);
@@ -197,7 +207,7 @@ void tst_recordset::uneValeurImpossibleEstRefusee()
     Bac::executer("INSERT INTO Album (Num, NAlbum, PrixA) VALUES (1, 12, 3.5), (2, 13, 3.5)");
     const QByteArray avant = Bac::lire(bac.collection());
     {
-        auto rs = Base().OpenRecordset("SELECT * From Album where Num = 1");
+        auto rs = Base().edit("Album", "Num = 1");
         rs.Edit();
         rs.SetField("Commentaire", "avec");
         rs.SetField(champ, valeur);
@@ -237,7 +247,7 @@ void tst_recordset::uneValeurRevientCommeElleDoit()
     const Bac bac;
     const QString table = champ == "TAlbum" ? "LAlbums" : "Album";
     {
-        auto rs = Base().OpenRecordset("SELECT * From " + table);
+        auto rs = Base().edit(table);
         rs.AddNew();
         rs.SetField(champ, donne);
         rs.Update();
@@ -262,19 +272,19 @@ void tst_recordset::leTexteDUneRequeteEstMisEnForme()
 {
     QFETCH(QString, condition);
     const Bac bac;
-    const Base base;
+    Base base;
     Bac::executer("INSERT INTO Auteurs (NAuteur, Nom, Scena, Dessin)"
                   " VALUES (1, 'true', true, false), (2, 'true', false, true), (3, 'fin; ', false, false)");
-    QTEST(int(base.OpenRecordset("SELECT * From Auteurs where " + condition).RecordCount()), "attendu");
+    QTEST(int(base.edit("Auteurs", condition).RecordCount()), "attendu");
     QTEST(Bac::valeur("SELECT count(*) From Auteurs where " + condition).toInt(), "attendu");
 }
 
 void tst_recordset::uneLigneSupprimeeEntreTempsRefuseLEdition()
 {
     const Bac bac;
-    const Base base;
+    Base base;
     remplirGenres(2);
-    auto rs = base.OpenRecordset("SELECT * From Genre");
+    auto rs = base.edit("Genre");
     rs.Edit();
     rs.SetField("Nom", "Fantôme");
     Bac::executer("DELETE FROM Genre WHERE NGenre = 1");
@@ -288,7 +298,7 @@ void tst_recordset::uneLigneSupprimeeEntreTempsRefuseLEdition()
 void tst_recordset::uneTableQuiChangeEstRelue()
 {
     const Bac bac;
-    const Base base;
+    Base base;
     base.Execute("INSERT INTO Genre VALUES (1, 'a')");
     const auto lire = [&](const QString &champ) {
         const auto rs = base.OpenRecordset("SELECT * From Genre");

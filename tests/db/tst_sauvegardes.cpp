@@ -1,6 +1,5 @@
+#include "acts/Acte.h"
 #include "db/Base.h"
-#include "db/Journal.h"
-#include "db/Transaction.h"
 #include "db/files/Sauvegardes.h"
 #include "db/files/Verification.h"
 #include "support/Bac.h"
@@ -47,7 +46,7 @@ struct Etabli
     void ecrire(int fois = 1)
     {
         for (int i = 0; i < fois; ++i, heure = heure.addSecs(3600))
-            Bac::executer("UPDATE Genre SET Nom = Nom || '.'");
+            Bac::agir("UPDATE Genre SET Nom = Nom || '.'");
     }
 
     Bac bac;
@@ -97,22 +96,20 @@ void tst_sauvegardes::uneCopiePrecedeLaPremiereEcriturePuisUneParHeure()
     {
         // Reading, what is not the user's, and the catalogue make none.
         Bac::toutLire();
-        const Base base;
-        const Journal::Pause pause(base);
-        base.Execute("UPDATE Genre SET Nom = 'un'");
+        Bac::executer("UPDATE Genre SET Nom = 'un'");
         Base(e.bac.chemin("BDbase.bd"), Entete::Nature::Catalogue).Execute("DELETE FROM BD");
         QVERIFY(!QDir(e.bac.chemin("sauvegardes")).exists());
     }
     e.ecrire();
     QCOMPARE(e.copies(), QStringList("bd 2026-11-21 18-05-12.bd"));
     e.heure = e.heure.addSecs(-1);
-    Bac::executer("UPDATE Genre SET Nom = 'deux'");
+    Bac::agir("UPDATE Genre SET Nom = 'deux'");
     e.heure = e.heure.addSecs(1);
     Bac::toutLire();
     QCOMPARE(e.copies().size(), 1);
-    Bac::executer("UPDATE Genre SET Nom = 'trois'");
+    Bac::agir("UPDATE Genre SET Nom = 'trois'");
     e.suivi.derniere = {}; // another run, within the same second
-    Bac::executer("UPDATE Genre SET Nom = 'quatre'");
+    Bac::agir("UPDATE Genre SET Nom = 'quatre'");
     const auto liste = Sauvegardes::Lister();
     QCOMPARE(liste.size(), 3);
     QCOMPARE(QFileInfo(liste[0].chemin).fileName(), "bd 2026-11-21 19-05-12 (2).bd");
@@ -122,14 +119,14 @@ void tst_sauvegardes::uneCopiePrecedeLaPremiereEcriturePuisUneParHeure()
     QCOMPARE(e.copies().size(), 4);
     const Bac vierge; // of an empty collection there is nothing to keep, the first hour
     for (int i = 1; i < 3; ++i)
-        Bac::executer("INSERT INTO Genre VALUES (?, 'a')", {i});
+        Bac::agir("INSERT INTO Genre VALUES (?, 'a')", {i});
     QVERIFY(Sauvegardes::Lister().isEmpty());
 }
 
 void tst_sauvegardes::laCopieEstLaBaseDAvantLEcriture_data()
 {
     QTest::addColumn<QString>("comment");
-    for (const char *comment : {"instruction", "ajout", "edition", "suppression", "annulation"})
+    for (const char *comment : {"instruction", "ajout", "edition", "suppression"})
         QTest::newRow(comment) << comment;
 }
 
@@ -139,15 +136,13 @@ void tst_sauvegardes::laCopieEstLaBaseDAvantLEcriture()
     const Etabli e;
     const QStringList avant = Bac::toutLire();
     {
-        const Base base;
-        Transaction transaction(base);
-        auto rs = base.OpenRecordset("SELECT * From Genre");
+        Acte acte("acte");
+        Base &base = acte.base();
+        auto rs = base.edit("Genre");
         if (comment == "instruction")
             base.Execute("DELETE FROM Genre");
         else if (comment == "suppression")
             rs.Delete();
-        else if (comment == "annulation")
-            Journal::Annuler(base, {{"Genre", 1, std::nullopt, Changement::Ligne{1, "un"}}});
         else {
             comment == "ajout" ? rs.AddNew() : rs.Edit();
             rs.SetField("Nom", "autre");
@@ -157,7 +152,7 @@ void tst_sauvegardes::laCopieEstLaBaseDAvantLEcriture()
         e.suivi.derniere = {};
         base.Execute("INSERT INTO Genre VALUES (7, 'sept')");
         QVERIFY(!e.suivi.derniere.isValid());
-        transaction.Commit();
+        acte.valider();
     }
     QCOMPARE(e.copies().size(), 1);
     const QString copie = e.bac.chemin("sauvegardes/" + e.copies().first());

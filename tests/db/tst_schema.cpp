@@ -1,6 +1,10 @@
-#include "db/Base.h"
-#include "db/Journal.h"
-#include "db/schema/Tables.h"
+#include "acts/Historique.h"
+#include "db/Comparaison.h"
+#include "db/files/MiseANiveau.h"
+#include "db/files/Remplacement.h"
+#include "db/files/Sauvegardes.h"
+#include "db/schema/Version.h"
+#include "support/Autre.h"
 #include "support/Bac.h"
 #include "support/Ecoute.h"
 #include "support/Refus.h"
@@ -15,12 +19,14 @@ class tst_schema : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void unAncienFichierEstMisANiveau_data();
-    void unAncienFichierEstMisANiveau();
-    void uneFicheDAvantLesChampsSupprimeeRevient();
+    void chaqueAncienSchemaDevientCeluiDAujourdhui_data();
+    void chaqueAncienSchemaDevientCeluiDAujourdhui();
+    void uneAncienneSauvegardeEstReprise_data();
+    void uneAncienneSauvegardeEstReprise();
+    void uneBaseDUnePlusRecenteNEstPasTouchee();
     void unFichierAJourNEstPasEcrit();
     void laCleSuitLeTome();
-    void lesErreursDeMiseANiveauSontIgnorees();
+    void unPalierManqueEstReprisEtRefait();
     void lExtensionSertLesAutresOutils();
 };
 
@@ -28,7 +34,7 @@ namespace {
 
 QStringList colonne(const QString &sql, const QVariantList &valeurs = {})
 {
-    const Base base;
+    Base base;
     QStringList textes;
     for (auto rs = base.OpenRecordset(sql, valeurs); !rs.AtEnd(); rs.MoveNext())
         textes << rs.Fields(0).toString();
@@ -40,24 +46,23 @@ QString cle(int album)
     return Bac::valeur("SELECT NumeroAlbum2 FROM SerieAlbums WHERE NAlbum = ?", {album}).toString();
 }
 
-/// Takes the rules and indexes away, and the two late fields when asked, as in a file of before.
-void vieillir(bool sansChamps)
+/// Puts an empty collection of a former schema in place, with albums as one of its time would have.
+void poserAncienne(const Bac &bac, const QString &schema, int inscrite)
 {
-    const Base base;
-    const QStringList suppressions = colonne("SELECT 'DROP ' || type || ' ' || name FROM sqlite_schema"
-                                             " WHERE type IN ('index', 'trigger') AND sql IS NOT NULL");
-    for (const QString &suppression : suppressions)
-        base.Execute(suppression);
-    if (sansChamps) {
-        base.Execute("ALTER TABLE Album DROP COLUMN Coffret");
-        base.Execute("ALTER TABLE SerieAlbums DROP COLUMN NumeroAlbum2");
-    }
+    QVERIFY(QFile::remove(bac.collection()));
+    const QString instructions = QString::fromUtf8(Bac::lire(QStringLiteral(SCHEMAS "/") + schema + ".sql"));
+    QVERIFY(!instructions.isEmpty());
+    Autre(bac.collection())
+        .executer(QStringLiteral("BEGIN; PRAGMA application_id=%1; PRAGMA user_version=%2;%3; COMMIT")
+                      .arg(unsigned(Entete::Nature::Collection))
+                      .arg(Version::Composer(Comparaison::version(), inscrite))
+                      .arg(instructions));
 }
 
 /// One album for each tome, whose number is 10 + its rank, with a link; and a link without an album.
 void remplir(const QList<int> &tomes)
 {
-    const Base base;
+    Base base;
     for (int i = 0; i < tomes.size(); ++i) {
         base.Execute("INSERT INTO Album (Num, NAlbum) VALUES (?, ?)", {10 + i, tomes[i]});
         base.Execute("INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, ?)", {10 + i});
@@ -65,70 +70,131 @@ void remplir(const QList<int> &tomes)
     base.Execute("INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 99)");
 }
 
-QStringList reglesEtIndex()
+/// All that the file says of its tables, fields, indexes and rules.
+QStringList forme()
 {
-    return colonne("SELECT sql FROM sqlite_schema WHERE type <> 'table' ORDER BY name");
+    return colonne(
+               "SELECT t.name || '.' || group_concat(c.name || ' ' || c.type || ' ' || c.\"notnull\" || ' '"
+               " || coalesce(c.dflt_value, '-') || ' ' || c.pk || ' ' || c.hidden)"
+               " FROM sqlite_schema t JOIN pragma_table_xinfo(t.name) c WHERE t.type = 'table'"
+               " GROUP BY t.name ORDER BY t.name")
+        + colonne("SELECT sql FROM sqlite_schema WHERE type <> 'table' ORDER BY name");
 }
 
 }
 
-void tst_schema::unAncienFichierEstMisANiveau_data()
+void tst_schema::chaqueAncienSchemaDevientCeluiDAujourdhui_data()
 {
-    QTest::addColumn<bool>("sansChamps");
-    QTest::newRow("sans les deux champs") << true;
-    QTest::newRow("champs sans regles") << false;
+    QTest::addColumn<QString>("schema");
+    QTest::addColumn<int>("inscrite");
+    QTest::addColumn<QString>("abimer"); // what a start that was cut off may have left
+    QTest::newRow("le premier") << "premier" << 0 << "";
+    QTest::newRow("le premier, inscrit") << "premier" << 1 << "";
+    QTest::newRow("celui d'avant les paliers") << "palier-1" << 1 << "";
+    QTest::newRow("sans regles") << "palier-1" << 1 << "DROP TRIGGER CleTomeLien; DROP INDEX IndexGenreNom;";
+    QTest::newRow("les regles sans un champ")
+        << "palier-1" << 1
+        << "ALTER TABLE Album DROP COLUMN Coffret; CREATE INDEX autre ON Genre(Nom); DROP INDEX autre;";
+    QTest::newRow("une regle d'un autre texte")
+        << "palier-1" << 1
+        << "DROP TRIGGER CleTomeAlbum; CREATE TRIGGER CleTomeAlbum AFTER"
+           " UPDATE ON Album BEGIN SELECT 1; END;"
+           "DROP INDEX IndexGenreNom; CREATE INDEX IndexGenreNom ON Pays(Nom);";
 }
 
-void tst_schema::unAncienFichierEstMisANiveau()
+void tst_schema::chaqueAncienSchemaDevientCeluiDAujourdhui()
 {
-    QFETCH(bool, sansChamps);
+    QFETCH(QString, schema);
+    QFETCH(int, inscrite);
+    QFETCH(QString, abimer);
     Bac bac;
-    const QStringList attendus = reglesEtIndex();
-    vieillir(sansChamps);
+    const QStringList attendue = forme();
+    poserAncienne(bac, schema, inscrite);
+    if (!abimer.isEmpty())
+        Autre(bac.collection()).executer(abimer);
     remplir({0, 1, 190, 191});
-    if (!sansChamps)
-        Bac::executer("UPDATE SerieAlbums SET NumeroAlbum2 = 'ancienne'");
+    const bool premier = schema == "premier";
+    if (!premier)
+        Bac::executer("UPDATE SerieAlbums SET NumeroAlbum2 = 'ancienne' WHERE NAlbum = 99");
     Ecoute ecoute(bac.annonces);
-    const auto annonces = ecoute.annonces().size();
 
-    Schema::MettreANiveau();
-    QCOMPARE(ecoute.annonces().size(), annonces);
-    QCOMPARE(Schema::Champs("Album"), colonne("SELECT name FROM pragma_table_info('Album')"));
-    QCOMPARE(Schema::Champs("SerieAlbums"), colonne("SELECT name FROM pragma_table_info('SerieAlbums')"));
-    QCOMPARE(reglesEtIndex(), attendus);
+    MiseANiveau::Executer();
+    QCOMPARE(ecoute.annonces().size(), 0U);
+    QCOMPARE(forme(), attendue);
+    QCOMPARE(Bac::valeur("PRAGMA user_version"),
+        Version::Composer(Comparaison::version(), Version::DernierPalier));
     QCOMPARE(Bac::valeur("SELECT count(*) FROM Album WHERE Coffret=false"), 4);
-    const QString gardee = sansChamps ? QString() : "ancienne";
     QCOMPARE(QStringList({cle(10), cle(11), cle(12), cle(13), cle(99)}),
-        QStringList({"A", "B", "ÿ", gardee, gardee}));
+        QStringList({"A", "B", "ÿ", "", premier ? "" : "ancienne"}));
     QCOMPARE(Bac::valeur("PRAGMA integrity_check"), "ok");
+    // What stood there before is kept.
+    QCOMPARE(Sauvegardes::Lister().size(), 1);
+    QCOMPARE(Sauvegardes::Lister().first().albums, 4);
 
     Bac::executer("UPDATE Album SET NAlbum = 2 WHERE Num = 13");
     QCOMPARE(cle(13), "C");
+    // Rows of before can be taken away and come back.
+    Historique histoire(bac.annonces);
+    const QStringList avant = Bac::toutLire();
+    Bac::agir("DELETE FROM Album");
+    histoire.annuler();
+    QCOMPARE(Bac::toutLire(), avant);
 }
 
-void tst_schema::uneFicheDAvantLesChampsSupprimeeRevient()
+/// A backup of each, and the blank file of a former version, are looked at by what they should hold, and put in place.
+void tst_schema::uneAncienneSauvegardeEstReprise_data()
 {
-    Bac bac;
-    vieillir(true);
-    remplir({5});
-    Schema::MettreANiveau();
-    Ecoute ecoute(bac.annonces);
-    ecoute.annonces();
-    Bac::executer("DELETE FROM SerieAlbums");
-    Bac::executer("DELETE FROM Album");
-    const auto annonces = ecoute.annonces();
-    for (auto annonce = annonces.rbegin(); annonce != annonces.rbegin() + 2; ++annonce)
-        Journal::Annuler(Base(), *annonce);
-    QCOMPARE(Bac::valeur("SELECT NAlbum || ' ' || Coffret FROM Album"), "5 0");
-    QCOMPARE(cle(10), "F");
+    QTest::addColumn<QString>("schema");
+    QTest::addColumn<int>("inscrite");
+    QTest::addColumn<bool>("vierge");
+    for (const bool vierge : {false, true}) {
+        QTest::addRow("le premier, %s", vierge ? "vierge" : "rempli") << "premier" << 0 << vierge;
+        QTest::addRow("avant les paliers, %s", vierge ? "vierge" : "rempli") << "palier-1" << 1 << vierge;
+    }
+}
+
+void tst_schema::uneAncienneSauvegardeEstReprise()
+{
+    QFETCH(QString, schema);
+    QFETCH(int, inscrite);
+    QFETCH(bool, vierge);
+    const Bac ancien;
+    poserAncienne(ancien, schema, inscrite);
+    if (!vierge)
+        remplir({3});
+    const Bac bac;
+    const QStringList attendue = forme();
+    const auto examen = Remplacement::Examiner(ancien.collection());
+    QCOMPARE(examen.etat, vierge ? Remplacement::Etat::Vierge : Remplacement::Etat::Saine);
+    const QByteArray avant = Bac::lire(ancien.collection());
+    QCOMPARE(Remplacement::Restaurer(ancien.collection()), "");
+    QVERIFY(Bac::lire(ancien.collection()) == avant);
+    QCOMPARE(forme(), attendue);
+    QCOMPARE(Bac::valeur("SELECT count(*) FROM Album"), vierge ? 0 : 1);
+}
+
+void tst_schema::uneBaseDUnePlusRecenteNEstPasTouchee()
+{
+    const Bac bac;
+    remplir({1});
+    // An order of names that is not ours either: it must not be mended on the way.
+    Bac::executer(
+        QStringLiteral("PRAGMA user_version=%1").arg(Version::Composer(7, Version::DernierPalier + 1)));
+    const QByteArray avant = Bac::lire(bac.collection());
+    QCOMPARE(refus([] { Base(); }), Error::Sorte::PlusRecente);
+    MiseANiveau::Executer();
+    const Bac autre;
+    QCOMPARE(Remplacement::Examiner(bac.collection()).etat, Remplacement::Etat::PlusRecente);
+    QVERIFY(!Remplacement::Restaurer(bac.collection()).isEmpty());
+    QVERIFY(Bac::lire(bac.collection()) == avant);
 }
 
 void tst_schema::unFichierAJourNEstPasEcrit()
 {
     const Bac bac;
-    vieillir(true);
+    poserAncienne(bac, "premier", 0);
     remplir({0, 1, 300});
-    Schema::MettreANiveau();
+    MiseANiveau::Executer();
     const QByteArray avant = Bac::lire(bac.collection());
     const QDateTime autrefois(QDate(2001, 2, 3), QTime(4, 5));
     QFile fichier(bac.collection());
@@ -136,7 +202,7 @@ void tst_schema::unFichierAJourNEstPasEcrit()
     QVERIFY(fichier.setFileTime(autrefois, QFileDevice::FileModificationTime));
     fichier.close();
 
-    Schema::MettreANiveau();
+    MiseANiveau::Executer();
     QVERIFY(Bac::lire(bac.collection()) == avant);
     QCOMPARE(QFileInfo(bac.collection()).lastModified(), autrefois);
 }
@@ -170,21 +236,22 @@ void tst_schema::laCleSuitLeTome()
     QCOMPARE(colonne("SELECT NumeroAlbum2 FROM SerieAlbums"), QStringList({"G", "G"}));
 }
 
-void tst_schema::lesErreursDeMiseANiveauSontIgnorees()
+/// An index's name is taken by a table: the step is taken back whole, and runs once nothing is in its way.
+void tst_schema::unPalierManqueEstReprisEtRefait()
 {
     const Bac bac;
-    // An index's name is taken by a table: that step fails, and the others are made all the same.
-    vieillir(true);
+    const QStringList attendue = forme();
+    poserAncienne(bac, "premier", 0);
+    const QStringList avant = forme();
     Bac::executer("CREATE TABLE IndexCotesAlbumNAlbumMoisCotes (a)");
-    Schema::MettreANiveau();
-    QCOMPARE(colonne("SELECT type FROM sqlite_schema WHERE name = 'IndexCotesAlbumNAlbumMoisCotes'"),
-        QStringList("table"));
-    QCOMPARE(colonne("SELECT count(*) FROM sqlite_schema WHERE type = 'trigger'"), QStringList("4"));
-    QCOMPARE(
-        colonne("SELECT count(*) FROM pragma_table_info('Album') WHERE name = 'Coffret'"), QStringList("1"));
+    MiseANiveau::Executer();
+    Bac::executer("DROP TABLE IndexCotesAlbumNAlbumMoisCotes");
+    QCOMPARE(forme(), avant);
+    MiseANiveau::Executer();
+    QCOMPARE(forme(), attendue);
 
     QVERIFY(QFile::remove(bac.collection()));
-    Schema::MettreANiveau();
+    MiseANiveau::Executer();
     QVERIFY(!QFile::exists(bac.collection()));
 }
 

@@ -48,7 +48,7 @@ void tst_archives::uneSauvegardeSeReprend()
     Seance s;
     s.demarrer();
     const QStringList avant = Bac::toutLire();
-    Bac::executer(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
+    Bac::agir(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
     QTest::qWait(50);
     Seance::cliquer("Menu(0)");
     Seance::cliquer("Outils(5)", "Splash");
@@ -105,7 +105,7 @@ void tst_archives::unLongTravailNeLaissePasPasserLeClavier()
     const auto titre = [] {
         return Bac::valeur(QStringLiteral("SELECT TAlbum FROM LAlbums WHERE NAlbum = 1")).toString();
     };
-    Bac::executer(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
+    Bac::agir(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
     QTRY_VERIFY(Seance::trouver<QWidget>("Defaire")->isEnabled());
     Seance::fenetre("Frmmain")->activateWindow();
     QTRY_VERIFY(Seance::fenetre("Frmmain")->isActiveWindow());

@@ -122,7 +122,7 @@ void tst_impression::unePartMontreSesAlbums()
     auto *selection = Seance::trouver<QAbstractButton>("Selection");
     QVERIFY(selection->isVisible());
     // The narrowing holds while the list is refilled, and goes with a click, or for an entry that it hides.
-    Bac::executer(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Ailleurs' WHERE NAlbum = 1"));
+    Bac::agir(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Ailleurs' WHERE NAlbum = 1"));
     QTest::qWait(50);
     QCOMPARE(liste->model()->rowCount(), albums);
     Seance::cliquer("Selection");

@@ -126,8 +126,8 @@ private Q_SLOTS:
 void tst_menus::chaqueEndroitASesCommandes()
 {
     Menus m;
-    Bac::executer("UPDATE LAlbums SET dedi2 = 'album-1.jpg' WHERE NAlbum = 101");
-    Bac::executer("UPDATE Serie SET SiteWeb2 = ' ' WHERE NSerie = 20");
+    Bac::agir("UPDATE LAlbums SET dedi2 = 'album-1.jpg' WHERE NAlbum = 101");
+    Bac::agir("UPDATE Serie SET SiteWeb2 = ' ' WHERE NSerie = 20");
     m.trier(1);
     m.montrer("Gédéon");
     const QString toujours = "ajouter crea Payss quitter";
@@ -223,7 +223,7 @@ void tst_menus::laDerniereLaisseUneFicheVide()
     QFETCH(QString, autres);
     Menus m;
     m.trier(tri);
-    Bac::executer(autres);
+    Bac::agir(autres);
     auto *liste = m.liste();
     QTRY_COMPARE(liste->model()->rowCount(), 1);
     m.cliquerLigne(liste, 0);

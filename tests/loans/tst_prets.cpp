@@ -1,5 +1,6 @@
 #include "acts/Historique.h"
 #include "core/Dates.h"
+#include "acts/Preter.h"
 #include "loans/Prets.h"
 #include "support/Apres.h"
 
@@ -84,7 +85,7 @@ void tst_prets::rendreEtSupprimer()
     Historique histoire(bac.annonces);
     // Once more is no error, and no further step.
     for (int i = 0; i < 2; ++i) {
-        rend ? Prets::Rendre(id) : Prets::SupprimerEmprunteur(id);
+        rend ? Preter::Rendre(id) : Preter::SupprimerEmprunteur(id);
         QCOMPARE(Bac::toutLire(), attendu);
     }
     histoire.annuler();

@@ -21,7 +21,7 @@ namespace {
 
 QStringList lignes(const QString &sql)
 {
-    const Base base;
+    Base base;
     QStringList resultat;
     for (auto rs = base.OpenRecordset(sql); !rs.AtEnd(); rs.MoveNext())
         resultat << rs.Fields(0).toString();

@@ -1,8 +1,8 @@
+#include "acts/Historique.h"
 #include "core/Error.h"
 #include "db/Base.h"
 #include "reports/Statistiques.h"
 #include "support/Bac.h"
-#include "support/Ecoute.h"
 #include "support/Refus.h"
 
 #include <QRegularExpression>
@@ -72,7 +72,7 @@ QString attendue()
             = Bac::valeur(sql("SELECT count(*) FROM TABLE WHERE CLE > 0 AND ROLE")).toString();
         QStringList rangees{rangee(
             {"#330099", "#66CCFF", QString::fromUtf8(p.libelle) + " : " + nombre, "Nombre d'Albums", " /%"})};
-        const Base base;
+        Base base;
         for (auto rs = base.OpenRecordset(sql("SELECT CLE, Nom FROM TABLE WHERE ROLE ORDER BY Nom"));
              !rs.AtEnd(); rs.MoveNext()) {
             const int albums
@@ -117,13 +117,15 @@ void tst_statistiques::lesLiensPerdusSontOtes()
              "GenreAlbums(NGenre", "SerieAlbums(NSerie"})
         Bac::executer(QStringLiteral("INSERT INTO %1, NAlbum) VALUES (99999, 1), (1, 99999), (NULL, 1)")
                           .arg(QLatin1String(lien)));
-    Ecoute ecoute(bac.annonces);
-    ecoute.annonces();
-    const std::size_t annonces = ecoute.annonces().size();
-    Statistiques::Nettoyer();
+    const QStringList perdus = Bac::toutLire();
+    Historique histoire(bac.annonces);
+    QCOMPARE(Statistiques::Nettoyer(), 15);
     QCOMPARE(Bac::toutLire(), avant);
-    // What is cleaned away is no step that undo would bring back.
-    QCOMPARE(ecoute.annonces().size(), annonces);
+    QVERIFY(histoire.aAnnuler().endsWith(QStringLiteral(": 15")));
+    QCOMPARE(Statistiques::Nettoyer(), 0); // which is no step
+    histoire.annuler();
+    QCOMPARE(Bac::toutLire(), perdus);
+    QVERIFY(!histoire.peutAnnuler());
 }
 
 void tst_statistiques::desNomsHostilesRestentDuTexte()

@@ -7,7 +7,7 @@
 /// Every row of the collection as these statements would leave it; they are taken back.
 inline QStringList apres(const QStringList &instructions)
 {
-    const Base base;
+    Base base;
     const Transaction reprise(base);
     for (const QString &sql : instructions)
         base.Execute(sql);

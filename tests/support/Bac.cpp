@@ -1,5 +1,6 @@
 #include "support/Bac.h"
 
+#include "acts/Acte.h"
 #include "db/Base.h"
 #include "db/schema/Tables.h"
 
@@ -56,9 +57,14 @@ void Bac::ecrire(const QString &chemin, const QByteArray &octets)
         qFatal("%s", qPrintable(fichier.errorString()));
 }
 
+QByteArray Bac::sansCompteurs(const QString &chemin)
+{
+    return lire(chemin).replace(24, 4, "----").replace(40, 4, "----").replace(92, 4, "----");
+}
+
 QVariant Bac::valeur(const QString &sql, const QVariantList &valeurs)
 {
-    const Base base;
+    Base base;
     const auto rs = base.OpenRecordset(sql, valeurs);
     return rs.AtEnd() ? QVariant() : rs.Fields(0);
 }
@@ -68,9 +74,16 @@ void Bac::executer(const QString &sql, const QVariantList &valeurs)
     Base().Execute(sql, valeurs);
 }
 
+void Bac::agir(const QString &sql, const QVariantList &valeurs, const QString &titre)
+{
+    Acte acte(titre);
+    acte.base().Execute(sql, valeurs);
+    acte.valider();
+}
+
 QStringList Bac::toutLire()
 {
-    const Base base;
+    Base base;
     QStringList lignes;
     const QStringList tables = Schema::Tables();
     for (const QString &table : tables) {

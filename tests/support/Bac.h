@@ -24,11 +24,16 @@ public:
     /// Bytes of a file; empty when there is none.
     static QByteArray lire(const QString &chemin);
     static void ecrire(const QString &chemin, const QByteArray &octets);
+    /// Bytes of a collection, without its own counts of how often it was written: a copy counts anew.
+    static QByteArray sansCompteurs(const QString &chemin);
 
     /// First value of a query's first row, read through the engine.
     static QVariant valeur(const QString &sql, const QVariantList &valeurs = {});
     /// Runs a statement through the engine.
     static void executer(const QString &sql, const QVariantList &valeurs = {});
+    /// The same as an act of the user.
+    static void agir(
+        const QString &sql, const QVariantList &valeurs = {}, const QString &titre = QStringLiteral("acte"));
     /// Every row of every table with its row number, each value with its type.
     static QStringList toutLire();
 

@@ -121,14 +121,14 @@ void enregistrer(const QImage &image, const QString &nom)
 
 void dessinerCouvertures()
 {
-    const Base base;
+    Base base;
     const QString sql = QStringLiteral("SELECT l.NAlbum, l.TAlbum, coalesce(d.Nom, ''), coalesce(s.Nom, ''), "
                                        "coalesce(e.Nom, ''), a.NumSerie,"
                                        " a.NCouverture From LAlbums l join Album a on a.Num = l.NAlbum left "
                                        "join Auteurs d on d.NAuteur = a.NDessin"
                                        " left join Auteurs s on s.NAuteur = a.NScen left join Editeur e on "
                                        "e.NEdit = a.NEdit order by l.NAlbum");
-    for (auto rs = base.OpenRecordset(sql); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.read(sql); !rs.AtEnd(); rs.MoveNext()) {
         const QString dessin = rs.Fields(2).toString();
         const QString scenario = rs.Fields(3).toString();
         const bool seul = scenario.isEmpty() || scenario == dessin;

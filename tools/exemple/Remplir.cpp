@@ -4,7 +4,6 @@
 #include "core/Error.h"
 #include "db/AccesBase.h"
 #include "db/Base.h"
-#include "db/Journal.h"
 #include "db/Transaction.h"
 
 #include <QMap>
@@ -18,7 +17,7 @@ using AccesBase::Role;
 class Annuaire
 {
 public:
-    explicit Annuaire(const Base &base)
+    explicit Annuaire(Base &base)
         : m_base(base)
     {
     }
@@ -46,7 +45,7 @@ public:
     /// Adds a row under the next identifier; the first value is the name, the others are given by field.
     int ajouter(const QString &table, const QList<std::pair<QString, QVariant>> &valeurs, const QString &cle)
     {
-        auto rs = m_base.OpenRecordset(QStringLiteral("SELECT * From ") + table);
+        auto rs = m_base.edit(table);
         const int numero = ++m_derniers[table];
         rs.AddNew();
         rs.SetField(0, numero);
@@ -62,7 +61,7 @@ public:
     }
 
 private:
-    const Base &m_base;
+    Base &m_base;
     QMap<QString, QMap<QString, int>> m_numeros;
     QMap<QString, int> m_derniers;
 };
@@ -70,7 +69,7 @@ private:
 class Remplissage
 {
 public:
-    Remplissage(const Base &base, const QString &sources)
+    Remplissage(Base &base, const QString &sources)
         : m_base(base)
         , m_annuaire(base)
         , m_sources(sources)
@@ -136,7 +135,7 @@ private:
 
     void lien(const char *table, std::initializer_list<Lien> champs)
     {
-        auto rs = m_base.OpenRecordset(QStringLiteral("SELECT * From ") + QLatin1String(table));
+        auto rs = m_base.edit(QLatin1String(table));
         rs.AddNew();
         for (const Lien &champ : champs)
             rs.SetField(QLatin1String(champ.champ), champ.valeur);
@@ -295,7 +294,7 @@ private:
         m_annuaire.ajouter(QStringLiteral("PresseBD"), v, r[QStringLiteral("Nom")]);
     }
 
-    const Base &m_base;
+    Base &m_base;
     Annuaire m_annuaire;
     QString m_sources;
     QMap<QString, int> m_intervenants;
@@ -305,8 +304,7 @@ private:
 
 void remplirExemple(const QString &sources)
 {
-    const Base base;
-    const Journal::Pause pause(base);
+    Base base;
     Transaction transaction(base);
     Remplissage(base, sources).tout();
     transaction.Commit();

@@ -85,7 +85,7 @@ public:
         for (const Schema::Table &table : tables) {
             if (m_jet.contient(QLatin1String(table.nom)))
                 paires.push_back(apparier(table));
-            else
+            else if (table.depuis == Version::PremierPalier)
                 ecarter(m_dire, "tableManquante", table.nom, {});
         }
         direInconnues(tables);

@@ -1,8 +1,10 @@
 #include "db/conversion/Neuve.h"
 
 #include "db/Collation.h"
+#include "db/Comparaison.h"
 #include "db/conversion/Echec.h"
 #include "db/files/Conversion.h"
+#include "db/files/FichierNeuf.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -48,7 +50,8 @@ Neuve::Neuve(const QString &chemin, Nature nature)
     , m_nature(nature)
 {
     Conversion::RetirerPartiel(m_chemin);
-    nature == Nature::Collection ? Schema::CreerVierge(m_partiel) : Schema::CreerCatalogue(m_partiel);
+    nature == Nature::Collection ? FichierNeuf::CreerVierge(m_partiel)
+                                 : FichierNeuf::CreerCatalogue(m_partiel);
     m_db = std::make_unique<SQLite::Database>(m_partiel.toStdString(), SQLite::OPEN_READWRITE);
     Collation::Enregistrer(m_db->getHandle());
     // Nothing needs to last until all of it does: whatever stops the work, the file begun is thrown away.
@@ -91,8 +94,9 @@ void Neuve::achever()
         throw Echec(Conversion::Code::Ecriture,
             QStringLiteral("Le nouveau fichier n'est pas sain : ") + QString::fromStdString(etat));
     // One last write that waits for the disk takes everything before it along.
-    const int marque = m_nature == Nature::Catalogue ? Schema::TextesTelsQuels : 0;
-    m_db->exec("PRAGMA synchronous=FULL; PRAGMA user_version=" + std::to_string(Schema::Version() | marque));
+    const int palier = m_nature == Nature::Catalogue ? Version::TextesTelsQuels : Version::DernierPalier;
+    m_db->exec("PRAGMA synchronous=FULL; PRAGMA user_version="
+        + std::to_string(Version::Composer(Comparaison::version(), palier)));
     m_db.reset();
     // This rename never replaces a file.
     QFile partiel(m_partiel);

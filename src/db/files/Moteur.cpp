@@ -1,11 +1,14 @@
 #include "db/files/Moteur.h"
 
 #include "db/Collation.h"
+#include "db/Connexion.h"
 #include "db/Entete.h"
+#include "db/Refus.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
@@ -15,10 +18,10 @@
 
 namespace {
 
-QString dire(const char *texte)
+struct Textes
 {
-    return QCoreApplication::translate("Base", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Base)
+};
 
 std::filesystem::path enChemin(const QString &chemin)
 {
@@ -37,36 +40,16 @@ void copier(SQLite::Database &source, const QString &cible)
 
 }
 
-Error Moteur::Refus(const SQLite::Exception &e, const QString &chemin)
-{
-    const QString mots = QString::fromUtf8(e.what());
-    switch (e.getErrorCode()) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return {Error::Sorte::EnUsage,
-            dire(QT_TRANSLATE_NOOP("Base", "La base est utilisée par un autre programme.")), chemin};
-    case SQLITE_READONLY:
-        return {Error::Sorte::LectureSeule, dire(QT_TRANSLATE_NOOP("Base", "La base est en lecture seule.")),
-            chemin};
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-        return {Error::Sorte::Abimee, dire(QT_TRANSLATE_NOOP("Base", "La base est abîmée.")), chemin, mots};
-    case SQLITE_FULL:
-        return {dire(QT_TRANSLATE_NOOP("Base", "Le disque est plein.")), chemin, mots};
-    default:
-        return {dire(QT_TRANSLATE_NOOP("Base", "La base a refusé l'opération.")), chemin, mots};
-    }
-}
-
 std::unique_ptr<SQLite::Database> Moteur::Ouvrir(const QString &chemin)
 {
     Entete::Verifier(chemin, Entete::Nature::Collection);
     try {
-        auto db = std::make_unique<SQLite::Database>(chemin.toStdString(), SQLite::OPEN_READONLY, AttenteMs);
+        auto db = std::make_unique<SQLite::Database>(
+            chemin.toStdString(), SQLite::OPEN_READONLY, Connexion::AttenteMs);
         Collation::Enregistrer(db->getHandle());
         return db;
     } catch (const SQLite::Exception &e) {
-        throw Refus(e, chemin);
+        throw Refus::Dire(e, chemin);
     }
 }
 
@@ -82,19 +65,21 @@ bool Moteur::EstVierge(SQLite::Database &db)
         }
         return true;
     } catch (const SQLite::Exception &e) {
-        throw Refus(e, QString::fromStdString(db.getFilename()));
+        throw Refus::Dire(e, QString::fromStdString(db.getFilename()));
     }
 }
 
 void Moteur::Copier(SQLite::Database &source, const QString &cible)
 {
-    QFile::remove(cible);
+    const QString enCours = cible + QStringLiteral(".neuve");
+    const auto oter = qScopeGuard([&] { QFile::remove(enCours); });
+    QFile::remove(enCours);
     try {
-        copier(source, cible);
+        copier(source, enCours);
     } catch (const SQLite::Exception &e) {
-        QFile::remove(cible);
-        throw Refus(e, cible);
+        throw Refus::Dire(e, cible);
     }
+    Remplacer(enCours, cible);
 }
 
 void Moteur::Remplacer(const QString &neuf, const QString &cible)
@@ -102,7 +87,7 @@ void Moteur::Remplacer(const QString &neuf, const QString &cible)
     std::error_code erreur;
     std::filesystem::rename(enChemin(neuf), enChemin(cible), erreur);
     if (erreur)
-        throw Error(dire(QT_TRANSLATE_NOOP("Base", "Ce fichier ne peut pas être remplacé.")), cible,
+        throw Error(Textes::tr("Ce fichier ne peut pas être remplacé."), cible,
             QString::fromStdString(erreur.message()));
 }
 

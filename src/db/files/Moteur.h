@@ -1,22 +1,14 @@
 #pragma once
 
-#include "core/Error.h"
-
+#include <QString>
 #include <memory>
 
 namespace SQLite {
 class Database;
-class Exception;
 }
 
 /// What the engine does with whole files, beside the one that is at work.
 namespace Moteur {
-
-/// How long a file may be held by others before it counts as in use.
-constexpr int AttenteMs = 250;
-
-/// What the engine refused on a file, as an Error.
-Error Refus(const SQLite::Exception &e, const QString &chemin);
 
 /// Opens a collection that is not at work, to be read only. Throws Error.
 std::unique_ptr<SQLite::Database> Ouvrir(const QString &chemin);
@@ -24,8 +16,8 @@ std::unique_ptr<SQLite::Database> Ouvrir(const QString &chemin);
 /// True when no table holds a row. Throws Error.
 bool EstVierge(SQLite::Database &db);
 
-/// Copies an open base into a file, which is on the disk when this returns; a file that is there is replaced.
-/// Nothing is left of a copy that fails. Throws Error.
+/// Copies an open base into a file, which is on the disk when this returns. A file that is there is replaced once the
+/// copy is whole; nothing is left of a copy that fails. Throws Error.
 void Copier(SQLite::Database &source, const QString &cible);
 
 /// Puts a file in the place of another in one step. Throws Error.

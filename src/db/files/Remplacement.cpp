@@ -5,6 +5,8 @@
 #include "core/Error.h"
 #include "db/Base.h"
 #include "db/Connexion.h"
+#include "db/Refus.h"
+#include "db/files/MiseANiveau.h"
 #include "db/files/Moteur.h"
 #include "db/files/Sauvegardes.h"
 #include "db/files/Verification.h"
@@ -13,6 +15,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <SQLiteCpp/Exception.h>
 #include <optional>
 
@@ -23,10 +26,10 @@ namespace {
 
 const QString Journal = QStringLiteral("-journal");
 
-QString dire(const char *texte)
+struct Textes
 {
-    return QCoreApplication::translate("Restauration", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Restauration)
+};
 
 /// What the first bytes say; nothing for what may be a collection.
 std::optional<Etat> etatParEntete(const QString &chemin)
@@ -40,6 +43,8 @@ std::optional<Etat> etatParEntete(const QString &chemin)
             return Etat::Ancienne;
         case Error::Sorte::Abimee:
             return Etat::Abimee;
+        case Error::Sorte::PlusRecente:
+            return Etat::PlusRecente;
         case Error::Sorte::Etrangere:
             break;
         default:
@@ -54,10 +59,11 @@ std::optional<Etat> etatParEntete(const QString &chemin)
     }
 }
 
-/// The first table of the schema that a file lacks; empty when it has them all.
+/// The first table that a file of its step lacks; empty when it has them all.
 QString tableManquante(SQLite::Database &db)
 {
-    const QStringList tables = Schema::Tables();
+    const int inscrite = db.execAndGet("PRAGMA user_version").getInt();
+    const QStringList tables = Schema::Tables(Version::Palier(inscrite));
     for (const QString &table : tables) {
         if (!db.tableExists(table.toStdString()))
             return table;
@@ -71,7 +77,7 @@ void lireContenu(const QString &chemin, Examen &examen)
     const QString manquante = tableManquante(*db);
     if (!manquante.isEmpty()) {
         examen.etat = Etat::Abimee;
-        examen.mots = dire(QT_TRANSLATE_NOOP("Restauration", "Une table manque :")) + u' ' + manquante;
+        examen.mots = Textes::tr("Une table manque :") + u' ' + manquante;
         return;
     }
     examen.albums = db->execAndGet("SELECT count(*) FROM Album").getInt();
@@ -87,13 +93,12 @@ void controler(const QString &chemin, Examen &examen)
         if (examen.mots.isEmpty())
             lireContenu(chemin, examen);
     } catch (const SQLite::Exception &e) {
-        throw Moteur::Refus(e, chemin);
+        throw Refus::Dire(e, chemin);
     } catch (const Error &e) {
         // Taking back what a crash left unfinished would write into a file that is only looked at.
         if (e.sorte() != Error::Sorte::LectureSeule)
             throw;
-        examen.mots = dire(QT_TRANSLATE_NOOP(
-            "Restauration", "Une écriture y est restée inachevée : ouvrez-la d'abord à sa place."));
+        examen.mots = Textes::tr("Une écriture y est restée inachevée : ouvrez-la d'abord à sa place.");
     }
 }
 
@@ -124,7 +129,7 @@ void garder(const QString &collection)
                                    : QStringLiteral("/bd abîmée %1.mdb").arg(date)));
     if (QFileInfo::exists(collection)) {
         if (estSaine()) {
-            const Base base;
+            Base base;
             SQLite::Database &db = base.connexion().db();
             if (!Moteur::EstVierge(db))
                 Sauvegardes::Faire(db);
@@ -146,7 +151,7 @@ Examen Remplacement::Examiner(const QString &chemin)
     examen.taille = QFileInfo(chemin).size();
     if (estAncienne(chemin))
         examen.etat = Etat::Ancienne;
-    else if (Dossier::courant().estLeFichier(chemin, QStringLiteral("bd.mdb")))
+    else if (Dossier::courant().estLeFichier(chemin, Dossier::Collection))
         examen.etat = Etat::Courante;
     else if (const auto parEntete = etatParEntete(chemin))
         examen.etat = *parEntete;
@@ -162,16 +167,18 @@ QString Remplacement::RaisonDuRefus(Etat etat)
     case Etat::Vierge:
         return {};
     case Etat::Courante:
-        return dire(QT_TRANSLATE_NOOP("Restauration", "C'est la base en service."));
+        return Textes::tr("C'est la base en service.");
     case Etat::Ancienne:
-        return dire(QT_TRANSLATE_NOOP(
-            "Restauration", "Cette base est d'une ancienne version : elle est à convertir d'abord."));
+        return Textes::tr("Cette base est d'une ancienne version : elle est à convertir d'abord.");
     case Etat::Catalogue:
-        return dire(QT_TRANSLATE_NOOP("Restauration", "C'est un catalogue de référence, pas une base."));
+        return Textes::tr("C'est un catalogue de référence, pas une base.");
+    case Etat::PlusRecente:
+        return Textes::tr(
+            "Cette base vient d'une version plus récente de Bulleo : il faut celle-là pour l'ouvrir.");
     case Etat::Abimee:
-        return dire(QT_TRANSLATE_NOOP("Restauration", "Cette base est abîmée."));
+        return Textes::tr("Cette base est abîmée.");
     case Etat::Etrangere:
-        return dire(QT_TRANSLATE_NOOP("Restauration", "Ce fichier n'est pas une base de Bulleo."));
+        return Textes::tr("Ce fichier n'est pas une base de Bulleo.");
     }
     Q_UNREACHABLE();
 }
@@ -181,20 +188,16 @@ QString Remplacement::Restaurer(const QString &chemin)
     const QString refus = RaisonDuRefus(Examiner(chemin).etat);
     if (!refus.isEmpty())
         return refus;
-    const QString place = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
+    const QString place = Dossier::courant().collection();
     const QString collection = QFileInfo::exists(place) ? QFileInfo(place).canonicalFilePath() : place;
     const QString neuve = collection + QStringLiteral(".neuve");
+    const auto oter = qScopeGuard([&] { QFile::remove(neuve); });
     Moteur::Copier(*Moteur::Ouvrir(chemin), neuve);
-    try {
-        garder(collection);
-        // Who still has the old file open would go on writing into what is no longer there.
-        Q_ASSERT(!Connexion::estOuverte(collection));
-        Moteur::Remplacer(neuve, collection);
-    } catch (const Error &) {
-        QFile::remove(neuve);
-        throw;
-    }
-    Schema::MettreANiveau();
+    garder(collection);
+    // Who still has the old file open would go on writing into what is no longer there.
+    Q_ASSERT(!Connexion::estOuverte(collection));
+    Moteur::Remplacer(neuve, collection);
+    MiseANiveau::Executer();
     Annonces::courant().remplacer();
     return {};
 }

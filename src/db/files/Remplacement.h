@@ -7,7 +7,7 @@
 namespace Remplacement {
 
 /// What a file is. Only sound and blank ones can be put in place as they are; old ones are converted first.
-enum class Etat { Saine, Vierge, Courante, Ancienne, Catalogue, Abimee, Etrangere };
+enum class Etat { Saine, Vierge, Courante, Ancienne, PlusRecente, Catalogue, Abimee, Etrangere };
 
 struct Examen
 {

@@ -11,11 +11,9 @@
 
 namespace {
 
-const QString Catalogue = QStringLiteral("BDbase.bd");
-
 void placerCatalogue(const QString &nouveau)
 {
-    const QString place = Dossier::courant().chemin(Catalogue);
+    const QString place = Dossier::courant().catalogue();
     if (QFileInfo::exists(place)) {
         const QFileInfo ancien(place);
         const QString garde = Moteur::CheminLibre(

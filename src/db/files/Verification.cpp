@@ -2,6 +2,7 @@
 
 #include "core/Error.h"
 #include "db/Base.h"
+#include "db/Refus.h"
 #include "db/files/Moteur.h"
 
 #include <QStringList>
@@ -36,7 +37,7 @@ QString Verification::Verifier()
     return juger([] {
         const Base base;
         QStringList mots;
-        for (auto rs = base.OpenRecordset(Controle); !rs.AtEnd(); rs.MoveNext())
+        for (auto rs = base.read(Controle); !rs.AtEnd(); rs.MoveNext())
             mots << rs.Fields(0).toString();
         return mots;
     });
@@ -52,7 +53,7 @@ QString Verification::Verifier(const QString &chemin)
             while (controle.executeStep())
                 mots << QString::fromUtf8(controle.getColumn(0).getText());
         } catch (const SQLite::Exception &e) {
-            throw Moteur::Refus(e, chemin);
+            throw Refus::Dire(e, chemin);
         }
         return mots;
     });

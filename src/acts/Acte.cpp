@@ -1,0 +1,60 @@
+#include "acts/Acte.h"
+
+#include "db/Connexion.h"
+#include "db/files/Sauvegardes.h"
+
+Acte::Notes::Notes(Journal &journal)
+    : m_journal(journal)
+    , m_miennes(!journal.enCours())
+{
+    if (m_miennes)
+        m_journal.commencer();
+}
+
+Acte::Notes::~Notes()
+{
+    if (m_miennes && m_journal.enCours())
+        m_journal.terminer();
+}
+
+std::shared_ptr<Bande> Acte::Notes::prendre()
+{
+    return std::make_shared<Bande>(m_journal.terminer());
+}
+
+Acte::Acte(const QString &titre, General::Entree lieu, int visite)
+    : m_etape{titre, lieu, visite, nullptr}
+    , m_notes(m_base.connexion().journal())
+    , m_transaction(m_base)
+{
+    Connexion &connexion = m_base.connexion();
+    connexion.avantEcriture = [&connexion] { Sauvegardes::AvantEcriture(connexion.db()); };
+}
+
+Acte::~Acte() = default;
+
+void Acte::valider()
+{
+    conclure(true);
+}
+
+std::shared_ptr<Bande> Acte::validerSansEtape()
+{
+    conclure(false);
+    return m_etape.bande;
+}
+
+void Acte::conclure(bool enEtape)
+{
+    if (!m_notes.miennes())
+        return m_transaction.Commit();
+    // What can fail comes before the commit: after it the act is done.
+    const Changements avis = m_notes.bande().avis();
+    m_transaction.Commit();
+    m_etape.bande = m_notes.prendre();
+    if (m_etape.bande->vide())
+        return;
+    if (enEtape)
+        Q_EMIT Annonces::courant().faite(m_etape);
+    Annonces::courant().annoncer(avis);
+}

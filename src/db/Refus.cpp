@@ -1,0 +1,34 @@
+#include "db/Refus.h"
+
+#include <QCoreApplication>
+#include <SQLiteCpp/Exception.h>
+#include <sqlite3.h>
+
+namespace {
+
+struct Textes
+{
+    Q_DECLARE_TR_FUNCTIONS(Base)
+};
+
+}
+
+Error Refus::Dire(const SQLite::Exception &e, const QString &chemin)
+{
+    using Sorte = Error::Sorte;
+    const QString mots = QString::fromUtf8(e.what());
+    switch (e.getErrorCode()) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return {Sorte::EnUsage, Textes::tr("La base est utilisée par un autre programme."), chemin};
+    case SQLITE_READONLY:
+        return {Sorte::LectureSeule, Textes::tr("La base est en lecture seule."), chemin};
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return {Sorte::Abimee, Textes::tr("La base est abîmée."), chemin, mots};
+    case SQLITE_FULL:
+        return {Textes::tr("Le disque est plein."), chemin, mots};
+    default:
+        return {Textes::tr("La base a refusé l'opération."), chemin, mots};
+    }
+}
