@@ -1,6 +1,7 @@
 #include "db/conversion/Convertisseur.h"
 
 #include "db/conversion/Echec.h"
+#include "db/conversion/Jet.h"
 #include "db/conversion/Neuve.h"
 
 #include <QFileInfo>
@@ -95,7 +96,7 @@ public:
 private:
     Paire apparier(const Schema::Table &table) const
     {
-        Paire paire{&table, std::make_unique<TableJet>(m_jet, QLatin1String(table.nom)), {}};
+        Paire paire{&table, m_jet.ouvrir(QLatin1String(table.nom)), {}};
         std::vector<bool> pris(paire.source->champs().size());
         for (const Schema::Champ &champ : table.champs) {
             paire.champs.push_back(trouverChamp(*paire.source, champ.nom));
@@ -123,7 +124,7 @@ private:
     QString compter(const QString &table) const
     {
         try {
-            return QString::number(TableJet(m_jet, table).rangees());
+            return QString::number(m_jet.ouvrir(table)->rangees());
         } catch (const Echec &) {
             return QStringLiteral("?");
         }
