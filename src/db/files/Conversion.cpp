@@ -15,6 +15,11 @@ namespace {
 using Conversion::Code;
 using Conversion::Rapport;
 
+struct Textes
+{
+    Q_DECLARE_TR_FUNCTIONS(Conversion)
+};
+
 struct NomDeCode
 {
     Code code;
@@ -93,11 +98,6 @@ void echouer(Rapport &rapport, Code code, const QString &details)
     rapport.nature.clear();
 }
 
-QString dire(const char *texte)
-{
-    return QCoreApplication::translate("Conversion", texte);
-}
-
 /// Hears the converter out, unless the user or the limit ends it.
 void suivreJusquAuBout(
     QProcess &processus, Rapport &rapport, const std::function<bool(int)> &suivre, int silenceMs)
@@ -115,20 +115,18 @@ void suivreJusquAuBout(
         entendre();
         if (suivre && !suivre(rapport.avance)) {
             Outil::Arreter(processus);
-            return echouer(rapport, Code::Annulee,
-                dire(QT_TRANSLATE_NOOP("Conversion", "La conversion a été annulée.")));
+            return echouer(rapport, Code::Annulee, Textes::tr("La conversion a été annulée."));
         }
         if (limite.hasExpired()) {
             Outil::Arreter(processus);
-            return echouer(rapport, Code::Abimee,
-                dire(QT_TRANSLATE_NOOP("Conversion", "La conversion ne finit pas : le fichier est abîmé.")));
+            return echouer(
+                rapport, Code::Abimee, Textes::tr("La conversion ne finit pas : le fichier est abîmé."));
         }
     }
     entendre();
     if (!Outil::AReussi(processus) || rapport.nature.isEmpty())
         echouer(rapport, Code::Abimee,
-            dire(QT_TRANSLATE_NOOP(
-                "Conversion", "La conversion s'est arrêtée en chemin : le fichier est abîmé.")));
+            Textes::tr("La conversion s'est arrêtée en chemin : le fichier est abîmé."));
 }
 
 }
@@ -195,8 +193,7 @@ Conversion::Rapport Conversion::Convertir(
     processus.setStandardErrorFile(QProcess::nullDevice());
     Outil::Lancer(processus, QStringLiteral("bulleo-convertir"), {ancien, nouveau});
     if (!processus.waitForStarted()) {
-        echouer(rapport, Code::Absent,
-            dire(QT_TRANSLATE_NOOP("Conversion", "Le programme de conversion est introuvable.")));
+        echouer(rapport, Code::Absent, Textes::tr("Le programme de conversion est introuvable."));
         return rapport;
     }
     suivreJusquAuBout(processus, rapport, suivre, silenceMs);
