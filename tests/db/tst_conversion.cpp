@@ -36,6 +36,7 @@ private Q_SLOTS:
     void unRefusNeLaisseRien();
     void lUtilisateurArreteLaConversion();
     void uneLigneSeLitCommeElleFutDite();
+    void ceQuiNEstPasUneLigneEstIgnore();
     void desBitsFautifsNeTrompentPas();
     void uneFinBrutaleNeLaisseRienAMoitie();
 
@@ -342,14 +343,39 @@ void tst_conversion::lUtilisateurArreteLaConversion()
 
 void tst_conversion::uneLigneSeLitCommeElleFutDite()
 {
+    const QString texte
+        = QString("é\t\n\"\\,} 😀 ") + QChar(u'\0') + QChar(0xD83D); // half of a pair of UTF-16
     Rapport rapport;
-    const QStringList parties{"double", "A\\n", "t\tl\nr\r\\"};
-    QVERIFY(Conversion::lire(rapport, Conversion::Ligne(QStringList("ecarte") + parties)));
-    QCOMPARE(ecartes(rapport), QList<QStringList>{parties});
-    for (const char *faute : {"avance\tbeaucoup\n", "table\tAlbum\n", "table\tAlbum\tx", "warning: 3\n", ""})
-        QVERIFY(!Conversion::lire(rapport, faute));
-    QVERIFY(rapport.avance == 0 && rapport.tables.isEmpty() && rapport.erreur == Code::Aucun);
-    QVERIFY(Conversion::lire(rapport, "erreur\tautre\tx\n"));
+    const auto dire
+        = [&](const Conversion::Annonce &a) { return Conversion::Lire(rapport, Conversion::Ligne(a)); };
+    QVERIFY(dire(Conversion::Avance{100}) && dire(Conversion::TableLue{texte, 1LL << 53}));
+    QVERIFY(dire(Conversion::Ecarte{"double", texte, {texte, ""}}) && dire(Conversion::Ecarte{"x", "", {}}));
+    QVERIFY(dire(Conversion::Fini{"catalogue"}));
+    QVERIFY(rapport.avance == 100 && rapport.nature == "catalogue");
+    QVERIFY(rapport.tables[0].nom == texte && rapport.tables[0].rangees == 1LL << 53);
+    QCOMPARE(ecartes(rapport), QList<QStringList>({{"double", texte, texte, ""}, {"x", ""}}));
+    QVERIFY(dire(Conversion::Echouee{Code::Chiffree, texte}));
+    QVERIFY(rapport.erreur == Code::Chiffree && rapport.details == texte && rapport.nature.isEmpty());
+}
+
+void tst_conversion::ceQuiNEstPasUneLigneEstIgnore()
+{
+    QByteArrayList fautes{"", "\n", "warning: 3\n", "[]", "{}", R"({"autre":1})", R"({"avance":"3"})",
+        R"({"avance":1.5})", R"({"avance":-1})", R"({"avance":101})", R"({"avance":1e300})",
+        R"({"avance":1,"fini":"x"})", R"([{"avance":1}])", R"({"avance":1}{"avance":2})", R"({"table":"A"})",
+        R"({"table":"A","rangees":"1"})", R"({"table":1,"rangees":1})", R"({"ecarte":"x","table":"A"})",
+        R"({"ecarte":"x","table":"A","quoi":"y"})", R"({"ecarte":"x","table":"A","quoi":["y",1]})",
+        R"({"fini":true})", R"({"erreur":"abimee"})", R"({"erreur":5,"details":""})", "{\"fini\":\"\xE9\"}",
+        QByteArray(10'000'000, '['), R"({"fini":")" + QByteArray(10'000'000, 'x')};
+    const QByteArray entiere = Conversion::Ligne(Conversion::Ecarte{"double", "Été", {"a", "b"}});
+    for (qsizetype i = 0; i < entiere.size() - 1; ++i)
+        fautes << entiere.first(i);
+    Rapport rapport;
+    for (const QByteArray &faute : std::as_const(fautes))
+        QVERIFY2(!Conversion::Lire(rapport, faute), faute.first(std::min<qsizetype>(60, faute.size())));
+    QVERIFY(rapport.avance == 0 && rapport.tables.isEmpty() && rapport.ecartes.isEmpty());
+    QVERIFY(rapport.nature.isEmpty() && rapport.erreur == Code::Aucun);
+    QVERIFY(Conversion::Lire(rapport, R"({"erreur":"autre","details":"x"})"));
     QCOMPARE(rapport.erreur, Code::Abimee);
 }
 
