@@ -10,7 +10,6 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QRandomGenerator>
 #include <QTest>
 #include <SQLiteCpp/Database.h>
@@ -36,6 +35,7 @@ private Q_SLOTS:
     void unRefusNeLaisseRien();
     void lUtilisateurArreteLaConversion();
     void uneLigneSeLitCommeElleFutDite();
+    void ceQuiNEstPasUneLigneEstIgnore();
     void desBitsFautifsNeTrompentPas();
     void uneFinBrutaleNeLaisseRienAMoitie();
 
@@ -50,12 +50,7 @@ private:
 
 namespace {
 
-using EcrivainJet::DuSchema;
-using EcrivainJet::LongTexte;
-using EcrivainJet::Octets;
-using EcrivainJet::Rangee;
-using EcrivainJet::Table;
-using EcrivainJet::UneCollection;
+using namespace EcrivainJet;
 
 constexpr qsizetype Page = 4096;
 
@@ -81,53 +76,43 @@ QString attendue(const QString &texte, Schema::Type type)
 }
 
 /// What was left out, but for whole tables that the old file never had.
-QList<QStringList> ecartes(const Rapport &rapport)
+QStringList ecartes(const Rapport &rapport)
 {
-    QList<QStringList> lignes;
+    QStringList lignes;
     for (const Conversion::Ecarte &e : rapport.ecartes) {
         if (e.sorte != "tableManquante")
-            lignes << QStringList{e.sorte, e.table} + e.quoi;
+            lignes << (QStringList{e.sorte, e.table} + e.quoi).join(u'|');
     }
     return lignes;
-}
-
-/// The first rows that differ; empty when none do.
-QString difference(const QList<QStringList> &lues, const QList<QStringList> &attendues)
-{
-    for (qsizetype i = 0; i < std::min(lues.size(), attendues.size()); ++i) {
-        if (lues[i] != attendues[i])
-            return lues[i].join(u'|').left(300) + "\n" + attendues[i].join(u'|').left(300);
-    }
-    return lues.size() == attendues.size() ? QString() : QString::number(lues.size());
 }
 
 /// The rows of a table, by identifier or as they came.
-QList<QStringList> rangees(const QString &fichier, const QString &table, const QStringList &champs)
+QStringList rangees(const QString &fichier, const QString &table, const QString &champs)
 {
-    QList<QStringList> lignes;
+    QStringList lignes;
     const Base base(fichier, Entete::Nature::Collection);
-    for (auto rs
-         = base.OpenRecordset(QString("SELECT %1 FROM %2 ORDER BY rowid").arg(champs.join(", "), table));
-         !rs.AtEnd(); rs.MoveNext()) {
+    const QString sql = QString("SELECT %1 FROM %2 ORDER BY rowid").arg(champs, table);
+    for (auto rs = base.OpenRecordset(sql); !rs.AtEnd(); rs.MoveNext()) {
         QStringList ligne;
-        for (int i = 0; i < champs.size(); ++i)
+        for (int i = 0; i <= champs.count(", "); ++i)
             ligne << cellule(rs.Fields(i));
-        lignes << ligne;
+        lignes << ligne.join(u'|');
     }
     return lignes;
 }
 
-QList<QStringList> attendues(const QString &csv, const Schema::Table &table, QStringList &champs)
+/// The same of what a real file is known to hold, and which of the fields.
+QStringList attendues(const Schema::Table &table, QString &champs)
 {
-    QList<QStringList> lignes;
-    Csv::Lire(csv, [&](const Csv::Rangee &r) {
-        champs = *r.entete;
+    QStringList lignes;
+    Csv::Lire(materiel(QString("expected/%1.csv").arg(table.nom)), [&](const Csv::Rangee &r) {
+        champs = r.entete->join(", ");
         QStringList ligne;
         for (const Schema::Champ &champ : table.champs) {
-            if (champs.contains(QLatin1String(champ.nom)))
+            if (r.entete->contains(QLatin1String(champ.nom)))
                 ligne << attendue(r[QLatin1String(champ.nom)], champ.type);
         }
-        lignes << ligne;
+        lignes << ligne.join(u'|');
     });
     return lignes;
 }
@@ -169,16 +154,14 @@ void tst_conversion::uneVraieBaseDonneSesCellules()
     QCOMPARE(rapport.details, "");
     QCOMPARE(rapport.nature, "collection");
     QCOMPARE(rapport.tables.size(), qsizetype(Schema::Definitions().size()));
-    const QStringList montant{"montant", "Album", "52", "PrixA", "922337203685477.5807"};
-    QCOMPARE(ecartes(rapport), QList<QStringList>(remplie ? 1 : 0, montant));
+    const QString montant = "montant|Album|52|PrixA|922337203685477.5807";
+    QCOMPARE(ecartes(rapport), QStringList(remplie ? 1 : 0, montant));
     QVERIFY(estSain(nouveau()));
     for (const Schema::Table &table : Schema::Definitions()) {
-        QStringList champs = Schema::Champs(table.nom);
-        QList<QStringList> lignes;
-        if (remplie)
-            lignes = attendues(materiel(QString("expected/%1.csv").arg(table.nom)), table, champs);
+        QString champs = "*";
+        const QStringList lignes = remplie ? attendues(table, champs) : QStringList();
         QVERIFY2(lignes.isEmpty() != remplie, table.nom);
-        QCOMPARE(difference(rangees(nouveau(), table.nom, champs), lignes), "");
+        QCOMPARE(rangees(nouveau(), table.nom, champs), lignes);
     }
 }
 
@@ -200,11 +183,11 @@ void tst_conversion::uneBaseEcriteIciDonneSesCellules()
     fiches.champs.removeLast();
     fiches.nom = "aLBUM";
     fiches.champs[0].nom = "NUM";
-    fiches.champs[8].type = EcrivainJet::Type::Court; // QualBD
-    fiches.champs[19].type = EcrivainJet::Type::Date; // DPret
+    fiches.champs[8].type = Type::Court; // QualBD
+    fiches.champs[19].type = Type::Date; // DPret
     Table liens = DuSchema("SerieAlbums");
     liens.champs.removeLast();
-    QList<QStringList> prevues;
+    QStringList prevues;
     for (int i = 0; i < memos.size(); ++i) {
         fiches.rangees << Rangee(fiches,
             {{"NUM", i}, {"NAlbum", i}, {"QualBD", -i},
@@ -214,27 +197,26 @@ void tst_conversion::uneBaseEcriteIciDonneSesCellules()
         liens.rangees << Rangee(liens, {{"NSerie", 3}, {"NAlbum", i}});
         const double prix = i == 1 ? 900'719'925'474.0 : i * -0.1001;
         prevues << QStringList{QString::number(i), QString::number(-i), memos[i], " ", "",
-            QDate(2000, 1, 1 + i).toString("dd/MM/yyyy"), cellule(prix), i % 2 ? "-1" : "0", "0"};
+            QDate(2000, 1, 1 + i).toString("dd/MM/yyyy"), cellule(prix), i % 2 ? "-1" : "0", "0"}
+                       .join(u'|');
     }
-    Bac::ecrire(ancien(), Octets({{fiches, liens}, EcrivainJet::Code::Clair, jet3}));
+    Bac::ecrire(ancien(), Octets({.tables = {fiches, liens}, .jet3 = jet3}));
     const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
     QCOMPARE(rapport.details, "");
     QVERIFY(ecartes(rapport).isEmpty());
     QVERIFY(estSain(nouveau()));
-    const QList<QStringList> lues = rangees(nouveau(), "Album",
-        {"Num", "QualBD", "Histoire", "ISBN", "DA", "DPret", "PrixA", "HSerie", "Coffret"});
-    QCOMPARE(difference(lues, prevues), "");
-    QCOMPARE(rangees(nouveau(), "Album", {"group_concat(DISTINCT typeof(DA))"})[0][0], "null");
-    QCOMPARE(rangees(nouveau(), "SerieAlbums", {"NumeroAlbum2"})[2][0], "C");
+    const QString champs = "Num, QualBD, Histoire, ISBN, DA, DPret, PrixA, HSerie, Coffret";
+    QCOMPARE(rangees(nouveau(), "Album", champs), prevues);
+    QCOMPARE(rangees(nouveau(), "Album", "group_concat(DISTINCT typeof(DA))"), QStringList("null"));
+    QCOMPARE(rangees(nouveau(), "SerieAlbums", "NumeroAlbum2")[2], "C");
 }
 
 void tst_conversion::ceQuiNEstPasGardeEstDit()
 {
-    using EcrivainJet::Type;
     Table fiches = DuSchema("Album");
     fiches.champs[1].type = Type::Texte; // NAlbum
     fiches.champs[3].type = Type::Double; // NGenre
-    fiches.champs << EcrivainJet::Champ{"Reliure", Type::Texte} << EcrivainJet::Champ{"Vignette", Type::Ole};
+    fiches.champs << Champ{"Reliure", Type::Texte} << Champ{"Vignette", Type::Ole};
     const auto ajouter = [&](const QMap<QString, QVariant> &v) { fiches.rangees << Rangee(fiches, v); };
     ajouter({{"Num", 1}, {"NAlbum", "7 "}, {"NGenre", 3.0}, {"ISBN", "premier"}});
     ajouter({{"Num", 1}, {"NAlbum", "2"}, {"NGenre", 0.5}, {"ISBN", "tab\tet\nligne"}, {"Broche", true}});
@@ -245,17 +227,15 @@ void tst_conversion::ceQuiNEstPasGardeEstDit()
     Bac::ecrire(ancien(), Octets({{fiches, inconnue}}));
     const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
     QCOMPARE(rapport.details, "");
-    const QList<QStringList> attendus{{"champInconnu", "Album", "Reliure"},
-        {"champInconnu", "Album", "Vignette"}, {"tableInconnue", "Mes notes", "2"},
-        {"double", "Album", "Num=1", "NAlbum=2", "NGenre=0.5", "ISBN=tab\tet\nligne", "Broche=1"},
-        {"identifiant", "Album", "NAlbum=sans numéro"}, {"nombre", "Album", "2", "NAlbum", "douze"},
-        {"nombre", "Album", "2", "NGenre", "2.5"}, {"montant", "Album", "2", "PrixA", "900719925475.0001"},
-        {"nombre", "Album", "3", "NGenre", "1000000000000"},
-        {"montant", "Album", "3", "PrixA", "-900719925475.0001"}};
-    QCOMPARE(difference(ecartes(rapport), attendus), "");
+    const QStringList attendus{"champInconnu|Album|Reliure", "champInconnu|Album|Vignette",
+        "tableInconnue|Mes notes|2", "double|Album|Num=1|NAlbum=2|NGenre=0.5|ISBN=tab\tet\nligne|Broche=1",
+        "identifiant|Album|NAlbum=sans numéro", "nombre|Album|2|NAlbum|douze", "nombre|Album|2|NGenre|2.5",
+        "montant|Album|2|PrixA|900719925475.0001", "nombre|Album|3|NGenre|1000000000000",
+        "montant|Album|3|PrixA|-900719925475.0001"};
+    QCOMPARE(ecartes(rapport), attendus);
     QCOMPARE(rapport.ecartes.size() - attendus.size(), 21); // tables that are not there
-    const QList<QStringList> gardees{{"1", "7", "3", "premier"}, {"2", "", "", ""}, {"3", "", "", ""}};
-    QCOMPARE(rangees(nouveau(), "Album", {"Num", "NAlbum", "NGenre", "ISBN"}), gardees);
+    QCOMPARE(rangees(nouveau(), "Album", "Num, NAlbum, NGenre, ISBN"),
+        QStringList({"1|7|3|premier", "2|||", "3|||"}));
 }
 
 void tst_conversion::leCatalogueGardeSesTextes()
@@ -286,24 +266,18 @@ void tst_conversion::unRefusNeLaisseRien_data()
         return octets.replace(ou, par.size(), par);
     };
     QTest::newRow("vide") << QByteArray() << Code::Etrangere;
-    QTest::newRow("texte") << QByteArray("Album;Serie\n").repeated(500) << Code::Etrangere;
-    QTest::newRow("nouvelle base") << Bac::lire(m_bac.collection()) << Code::Etrangere;
+    QTest::newRow("autre marque") << changee(4, "Standard Kit") << Code::Etrangere;
     QTest::newRow("autre version") << changee(0x14, "\x09") << Code::Etrangere;
     QTest::newRow("autres tables") << Octets({{DuSchema("Serie")}}) << Code::Etrangere;
-    QTest::newRow("coupee dans une page") << saine.chopped(700) << Code::Abimee;
+    QTest::newRow("codee") << Octets({.tables = {DuSchema("Album")}, .codee = true}) << Code::Chiffree;
     QTest::newRow("coupee entre deux pages") << saine.first(8 * Page) << Code::Abimee;
     QTest::newRow("catalogue illisible") << changee(2 * Page, QByteArray(Page, '\xA5')) << Code::Abimee;
-    QTest::newRow("chiffree") << Octets({{DuSchema("Album")}, EcrivainJet::Code::Inconnu}) << Code::Chiffree;
-    QTest::newRow("codee par la cle")
-        << Octets({{DuSchema("Album")}, EcrivainJet::Code::ParCle}) << Code::Chiffree;
-    const qsizetype memo = saine.indexOf("LVAL");
-    QTest::newRow("texte long perdu") << changee(memo - 4, QByteArray(Page, '\0')) << Code::Abimee;
-    QTest::newRow("texte long d'une table") << changee(memo, QByteArray("\x03\0\0", 4)) << Code::Abimee;
-    QTest::newRow("page d'une autre table") << changee(7 * Page + 4, "\x05") << Code::Abimee;
     QTest::newRow("catalogue incomplet") << changee(2 * Page + 16, "\x05") << Code::Abimee;
+    QTest::newRow("page d'une autre table") << changee(7 * Page + 4, "\x05") << Code::Abimee;
     // The rank of the row count in a definition page.
-    QTest::newRow("lignes de trop") << changee(4 * Page + 16, QByteArray("\x29", 1)) << Code::Abimee;
     QTest::newRow("table dite vide") << changee(4 * Page + 16, QByteArray(1, '\0')) << Code::Abimee;
+    QTest::newRow("texte long d'une table")
+        << changee(saine.indexOf("LVAL"), QByteArray("\x03\0\0", 4)) << Code::Abimee;
     for (const char *nom : {"bd-truncated.mdb", "bd-garbage.mdb"})
         QTest::newRow(nom) << Bac::lire(materiel(nom)) << Code::Abimee;
 }
@@ -342,14 +316,35 @@ void tst_conversion::lUtilisateurArreteLaConversion()
 
 void tst_conversion::uneLigneSeLitCommeElleFutDite()
 {
+    const QString texte = QString("é\t\n\"\\,} 😀 ") + QChar(0) + QChar(0xD83D); // half a pair of UTF-16
     Rapport rapport;
-    const QStringList parties{"double", "A\\n", "t\tl\nr\r\\"};
-    QVERIFY(Conversion::lire(rapport, Conversion::Ligne(QStringList("ecarte") + parties)));
-    QCOMPARE(ecartes(rapport), QList<QStringList>{parties});
-    for (const char *faute : {"avance\tbeaucoup\n", "table\tAlbum\n", "table\tAlbum\tx", "warning: 3\n", ""})
-        QVERIFY(!Conversion::lire(rapport, faute));
-    QVERIFY(rapport.avance == 0 && rapport.tables.isEmpty() && rapport.erreur == Code::Aucun);
-    QVERIFY(Conversion::lire(rapport, "erreur\tautre\tx\n"));
+    const QList<Conversion::Annonce> annonces{Conversion::Avance{100}, Conversion::TableLue{texte, 1LL << 53},
+        Conversion::Ecarte{texte, texte, {texte, ""}}, Conversion::Echouee{Code::Chiffree, texte},
+        Conversion::Fini{"catalogue"}};
+    for (const Conversion::Annonce &annonce : annonces)
+        QVERIFY(Conversion::Lire(rapport, Conversion::Ligne(annonce)));
+    QVERIFY(rapport.avance == 100 && rapport.nature == "catalogue");
+    QVERIFY(rapport.tables[0].nom == texte && rapport.tables[0].rangees == 1LL << 53);
+    QCOMPARE(ecartes(rapport), QStringList(texte + u'|' + texte + u'|' + texte + u'|'));
+    QVERIFY(rapport.erreur == Code::Chiffree && rapport.details == texte);
+}
+
+void tst_conversion::ceQuiNEstPasUneLigneEstIgnore()
+{
+    QByteArrayList fautes{"\n", "warning: 3\n", "{}", R"([{"avance":1}])", R"({"avance":1}{"avance":2})",
+        R"({"avance":1,"fini":"x"})", R"({"avance":"3"})", R"({"avance":1.5})", R"({"avance":101})",
+        R"({"table":"A"})", R"({"table":"A","rangees":-1})", R"({"table":"A","rangees":1e300})",
+        R"({"table":1,"rangees":1})", R"({"ecarte":"x","table":"A","quoi":["y",1]})", R"({"fini":true})",
+        R"({"erreur":5,"details":""})", "{\"fini\":\"\xE9\"}", QByteArray(10'000'000, '[')};
+    const QByteArray entiere = Conversion::Ligne(Conversion::Ecarte{"double", "Été", {"a", "b"}});
+    for (qsizetype i = 0; i < entiere.size() - 1; ++i)
+        fautes << entiere.first(i);
+    Rapport rapport;
+    for (const QByteArray &faute : std::as_const(fautes))
+        QVERIFY2(!Conversion::Lire(rapport, faute), faute.left(60));
+    QVERIFY(rapport.avance == 0 && rapport.tables.isEmpty() && rapport.ecartes.isEmpty());
+    QVERIFY(rapport.nature.isEmpty() && rapport.erreur == Code::Aucun);
+    QVERIFY(Conversion::Lire(rapport, R"({"erreur":"autre","details":"x"})"));
     QCOMPARE(rapport.erreur, Code::Abimee);
 }
 
@@ -390,31 +385,27 @@ void tst_conversion::desBitsFautifsNeTrompentPas()
     constexpr int Albums = 6;
     const QByteArray saine = UneCollection(Albums);
     std::atomic<int> suivante = 0;
-    int reussies = 0;
-    QMutex verrou;
-    QStringList fautes;
-    const auto travailler = [&](int atelier) {
-        const QString source = m_dossier.filePath(QString("variante%1.mdb").arg(atelier));
+    std::atomic<int> reussies = 0;
+    std::atomic<int> fautive = -1;
+    const auto travailler = [&] {
         for (int n = suivante++; n < Variantes; n = suivante++) {
-            Bac::ecrire(source, abimer(saine, QRandomGenerator(static_cast<quint32>(n))));
+            const QString source = m_dossier.filePath(QString("variante%1.mdb").arg(n));
             const QString cible = m_dossier.filePath(QString("cible%1.mdb").arg(n));
+            Bac::ecrire(source, abimer(saine, QRandomGenerator(static_cast<quint32>(n))));
             const Rapport rapport = Conversion::Convertir(source, cible, {}, 30'000);
-            const QMutexLocker garde(&verrou);
-            reussies += rapport.erreur == Code::Aucun;
-            const bool attendu = rapport.erreur == Code::Aucun
-                ? estSain(cible) && rendCompte(rapport, 3 * Albums)
-                : !QFile::exists(cible);
-            if (!attendu || QFile::exists(Conversion::Partiel(cible)))
-                fautes << QString::number(n);
+            const bool reussie = rapport.erreur == Code::Aucun;
+            reussies += reussie;
+            const bool tient = QFile::exists(cible) == reussie
+                && (!reussie || (estSain(cible) && rendCompte(rapport, 3 * Albums)));
             QFile::remove(cible);
+            if (!tient || !QFile::remove(source))
+                fautive = n;
         }
     };
-    std::vector<std::jthread> ateliers;
-    for (const int atelier : {0, 1, 2, 3})
-        ateliers.emplace_back(travailler, atelier);
-    ateliers.clear();
-    QVERIFY2(fautes.isEmpty(), qPrintable(fautes.join(u' ')));
-    QVERIFY(reussies > 0 && reussies < Variantes);
+    for (std::vector<std::jthread> ateliers; ateliers.size() < 4;)
+        ateliers.emplace_back(travailler);
+    QCOMPARE(fautive, -1);
+    QVERIFY(reussies > 0 && reussies < Variantes && fichiers().isEmpty());
 }
 
 void tst_conversion::uneFinBrutaleNeLaisseRienAMoitie()
@@ -437,7 +428,7 @@ void tst_conversion::uneFinBrutaleNeLaisseRienAMoitie()
         QVERIFY(Bac::lire(ancien()) == octets);
         entamees += QFile::exists(Conversion::Partiel(nouveau()));
         if (QFile::exists(nouveau()))
-            QVERIFY(estSain(nouveau()) && rangees(nouveau(), "LAlbums", {"NAlbum"}).size() == 600);
+            QVERIFY(estSain(nouveau()) && rangees(nouveau(), "LAlbums", "NAlbum").size() == 600);
     }
     QVERIFY(entamees > 0);
     // What a dead converter left behind is no hindrance.

@@ -10,7 +10,6 @@
 namespace {
 
 using EcrivainJet::Champ;
-using EcrivainJet::Code;
 using EcrivainJet::Table;
 using EcrivainJet::Type;
 
@@ -195,7 +194,7 @@ private:
         page.replace(4, 15, "Standard Jet DB");
         page[0x14] = m_fichier.jet3 ? 0 : 1;
         poser(page, 0x3C, quint16(1252));
-        poser(page, 0x3E, m_fichier.code == Code::Clair ? 0U : CleDeLEssai);
+        poser(page, 0x3E, m_fichier.codee ? CleDeLEssai : 0U);
         brouiller(page, Masque, m_format.masque, CleDuMasque);
         return page;
     }
@@ -349,10 +348,8 @@ private:
 
     void chiffrer()
     {
-        for (qsizetype i = 1; i < m_pages.size() && m_fichier.code != Code::Clair; ++i) {
-            const quint32 cle = CleDeLEssai ^ static_cast<quint32>(i);
-            brouiller(m_pages[i], 0, m_format.page, m_fichier.code == Code::ParCle ? cle : ~cle);
-        }
+        for (qsizetype i = 1; i < m_pages.size() && m_fichier.codee; ++i)
+            brouiller(m_pages[i], 0, m_format.page, CleDeLEssai ^ static_cast<quint32>(i));
     }
 
     const EcrivainJet::Fichier &m_fichier;

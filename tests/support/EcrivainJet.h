@@ -37,13 +37,10 @@ struct Table
     QList<QVariantList> rangees;
 };
 
-/// How the pages are coded: not, by a key of the header in the way of the format, or as only its owner knows.
-enum class Code { Clair, ParCle, Inconnu };
-
 struct Fichier
 {
     QList<Table> tables;
-    Code code = Code::Clair;
+    bool codee = false; ///< the pages, by a key of the header, in the way of the format
     bool jet3 = false; ///< the older one: smaller pages, texts in a code page (Windows-1252)
 };
 

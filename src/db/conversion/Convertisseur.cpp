@@ -1,6 +1,7 @@
 #include "db/conversion/Convertisseur.h"
 
 #include "db/conversion/Echec.h"
+#include "db/conversion/Jet.h"
 #include "db/conversion/Neuve.h"
 
 #include <QFileInfo>
@@ -11,7 +12,8 @@ namespace {
 
 using Cellules::Perte;
 using Conversion::Code;
-using Dire = std::function<void(const QStringList &)>;
+using Conversion::Ecarte;
+using Convertisseur::Dire;
 
 /// One table of the new file, and where the old one has it.
 struct Paire
@@ -22,10 +24,10 @@ struct Paire
 };
 
 /// Says the percentage when it has changed. Writing the rows is nearly all of the work, checking them the rest.
-class Avance
+class Progression
 {
 public:
-    Avance(qint64 total, const Dire &dire)
+    Progression(qint64 total, const Dire &dire)
         : m_total(std::max<qint64>(total, 1))
         , m_dire(dire)
     {
@@ -38,7 +40,7 @@ public:
     void dire(int pourCent)
     {
         if (pourCent != m_dite)
-            m_dire({QStringLiteral("avance"), QString::number(pourCent)});
+            m_dire(Conversion::Avance{pourCent});
         m_dite = pourCent;
     }
 
@@ -64,9 +66,9 @@ std::optional<std::size_t> trouverChamp(const TableJet &table, const char *nom)
     return static_cast<std::size_t>(trouve - champs.begin());
 }
 
-void ecarter(const Dire &dire, const char *sorte, const char *table, const QStringList &quoi)
+Ecarte ecarte(const char *sorte, const Schema::Table &table, const QStringList &quoi)
 {
-    dire(QStringList{QStringLiteral("ecarte"), QLatin1String(sorte), QLatin1String(table)} + quoi);
+    return {QLatin1String(sorte), QLatin1String(table.nom), quoi};
 }
 
 /// The tables of the new file that the old one has; the fields and tables without a counterpart are said.
@@ -86,7 +88,7 @@ public:
             if (m_jet.contient(QLatin1String(table.nom)))
                 paires.push_back(apparier(table));
             else if (table.depuis == Version::PremierPalier)
-                ecarter(m_dire, "tableManquante", table.nom, {});
+                m_dire(ecarte("tableManquante", table, {}));
         }
         direInconnues(tables);
         return paires;
@@ -95,7 +97,7 @@ public:
 private:
     Paire apparier(const Schema::Table &table) const
     {
-        Paire paire{&table, std::make_unique<TableJet>(m_jet, QLatin1String(table.nom)), {}};
+        Paire paire{&table, m_jet.ouvrir(QLatin1String(table.nom)), {}};
         std::vector<bool> pris(paire.source->champs().size());
         for (const Schema::Champ &champ : table.champs) {
             paire.champs.push_back(trouverChamp(*paire.source, champ.nom));
@@ -104,7 +106,7 @@ private:
         }
         for (std::size_t i = 0; i < pris.size(); ++i) {
             if (!pris[i])
-                ecarter(m_dire, "champInconnu", table.nom, {paire.source->champs()[i].nom});
+                m_dire(ecarte("champInconnu", table, {paire.source->champs()[i].nom}));
         }
         return paire;
     }
@@ -115,7 +117,7 @@ private:
             const bool connue = std::any_of(
                 tables.begin(), tables.end(), [&](const auto &t) { return memeNom(nom, t.nom); });
             if (!connue)
-                m_dire({QStringLiteral("ecarte"), QStringLiteral("tableInconnue"), nom, compter(nom)});
+                m_dire(Ecarte{QStringLiteral("tableInconnue"), nom, {compter(nom)}});
         }
     }
 
@@ -123,7 +125,7 @@ private:
     QString compter(const QString &table) const
     {
         try {
-            return QString::number(TableJet(m_jet, table).rangees());
+            return QString::number(m_jet.ouvrir(table)->rangees());
         } catch (const Echec &) {
             return QStringLiteral("?");
         }
@@ -144,19 +146,19 @@ public:
     {
     }
 
-    void reporter(Avance &avance)
+    void reporter(Progression &progression)
     {
         m_neuve.commencer(*m_paire.cible);
         qint64 gardees = 0;
         while (m_paire.source->suivante()) {
             gardees += reporterLigne();
-            avance.avancer();
+            progression.avancer();
         }
         if (m_neuve.compter() != gardees)
             throw Echec(Code::Ecriture,
                 QStringLiteral("La table %1 n'a pas été écrite en entier.")
                     .arg(QLatin1String(m_paire.cible->nom)));
-        m_dire({QStringLiteral("table"), QLatin1String(m_paire.cible->nom), QString::number(gardees)});
+        m_dire(Conversion::TableLue{QLatin1String(m_paire.cible->nom), gardees});
     }
 
 private:
@@ -171,14 +173,14 @@ private:
             reporterCellule(i);
         const bool cle = champ(0).type == Schema::Type::Cle;
         if (cle && !std::holds_alternative<qint64>(m_rangee[0])) {
-            ecarter(m_dire, "identifiant", m_paire.cible->nom, contenu());
+            m_dire(ecarte("identifiant", *m_paire.cible, contenu()));
             return false;
         }
         if (!m_neuve.ajouter(m_rangee)) {
-            ecarter(m_dire, "double", m_paire.cible->nom, contenu());
+            m_dire(ecarte("double", *m_paire.cible, contenu()));
             return false;
         }
-        for (const QStringList &perte : m_pertes)
+        for (const Ecarte &perte : m_pertes)
             m_dire(perte);
         return true;
     }
@@ -192,10 +194,8 @@ private:
         m_rangee.push_back(convertie.valeur);
         if (convertie.perte == Perte::Aucune)
             return;
-        m_pertes.push_back({QStringLiteral("ecarte"),
-            convertie.perte == Perte::Montant ? QStringLiteral("montant") : QStringLiteral("nombre"),
-            QLatin1String(m_paire.cible->nom), m_paire.source->cellule(m_paire.champs[0].value_or(0)),
-            QLatin1String(champ(i).nom), cellule});
+        m_pertes.push_back(ecarte(convertie.perte == Perte::Montant ? "montant" : "nombre", *m_paire.cible,
+            {m_paire.source->cellule(m_paire.champs[0].value_or(0)), QLatin1String(champ(i).nom), cellule}));
     }
 
     /// All that the row says, so that nothing is lost with it.
@@ -218,7 +218,7 @@ private:
     Neuve &m_neuve;
     const Dire &m_dire;
     std::vector<Cellules::Valeur> m_rangee;
-    std::vector<QStringList> m_pertes; ///< lines to say when the row is kept
+    std::vector<Ecarte> m_pertes; ///< to say when the row is kept
 };
 
 Neuve::Nature natureDe(const Jet &jet)
@@ -247,11 +247,11 @@ void Convertisseur::Convertir(const QString &ancien, const QString &nouveau, con
     qint64 total = 0;
     for (const Paire &paire : paires)
         total += paire.source->rangees();
-    Avance avance(total, dire);
+    Progression progression(total, dire);
     Neuve neuve(nouveau, nature);
     for (Paire &paire : paires)
-        Report(paire, neuve, dire).reporter(avance);
+        Report(paire, neuve, dire).reporter(progression);
     neuve.achever();
-    avance.dire(100);
-    dire({QStringLiteral("fini"), collection ? QStringLiteral("collection") : QStringLiteral("catalogue")});
+    progression.dire(100);
+    dire(Conversion::Fini{collection ? QStringLiteral("collection") : QStringLiteral("catalogue")});
 }

@@ -1,20 +1,25 @@
 #pragma once
 
-#include "db/conversion/Jet.h"
+#include <QString>
+#include <memory>
 
 // The library's own header includes this one where C++ cannot take it.
-#include <deque>
 #include <glib.h>
 #include <mdbtools.h>
 
-struct Jet::Poignee
+/// An old file, open for reading only.
+class Poignee
 {
-    MdbHandle *mdb = nullptr;
-    std::deque<MdbCatalogEntry> entrees; ///< beside the names of the tables; a table read points to its own
+public:
+    /// Recognises the file by its first bytes. Throws Echec unless it is an old one, whole as far as its length
+    /// tells, and not coded.
+    explicit Poignee(const QString &chemin);
 
-    ~Poignee()
-    {
-        if (mdb)
-            mdb_close(mdb);
-    }
+    MdbHandle *mdb() const { return m_mdb.get(); }
+    /// Bytes of the file.
+    qint64 taille() const { return m_taille; }
+
+private:
+    qint64 m_taille;
+    std::unique_ptr<MdbHandle, void (*)(MdbHandle *)> m_mdb;
 };

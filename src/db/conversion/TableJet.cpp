@@ -1,7 +1,6 @@
 #include "db/conversion/TableJet.h"
 
 #include "db/conversion/Echec.h"
-#include "db/conversion/Poignee.h"
 #include "db/conversion/TexteJet.h"
 
 #include <QtEndian>
@@ -55,13 +54,23 @@ bool estLuBrut(const MdbColumn *c)
     return c->col_type == MDB_TEXT || c->col_type == MDB_MEMO;
 }
 
+/// As much of an entry of the catalogue as the library wants to read a table.
+MdbCatalogEntry entree(const Poignee &poignee, unsigned long page)
+{
+    MdbCatalogEntry e{};
+    e.mdb = poignee.mdb();
+    e.object_type = MDB_TABLE;
+    e.table_pg = page;
+    return e;
 }
 
-TableJet::TableJet(const Jet &jet, const QString &table)
-    : m_jet(jet)
-    , m_nom(table)
-    , m_table(mdb_read_table(&jet.m_poignee->entrees.at(static_cast<std::size_t>(jet.rang(table)))),
-          mdb_free_tabledef)
+}
+
+TableJet::TableJet(const Poignee &poignee, const QString &nom, unsigned long page)
+    : m_poignee(poignee)
+    , m_nom(nom)
+    , m_entree(entree(poignee, page))
+    , m_table(mdb_read_table(&m_entree), mdb_free_tabledef)
 {
     // The library would read a map that is not there.
     if (!m_table || !m_table->usage_map || m_table->map_sz < 5 || !mdb_read_columns(m_table.get()))
@@ -86,7 +95,7 @@ void TableJet::lierColonnes()
         m_champs.push_back({QString::fromUtf8(c->name), sorteDe(c->col_type)});
         if (estLuBrut(c) || m_champs.back().sorte == Sorte::Illisible)
             continue;
-        m_tampons[i].resize(m_jet.m_poignee->mdb->bind_size);
+        m_tampons[i].resize(m_poignee.mdb()->bind_size);
         mdb_bind_column(m_table.get(), static_cast<int>(i) + 1, m_tampons[i].data(), nullptr);
     }
 }
@@ -111,7 +120,7 @@ QString TableJet::cellule(std::size_t champ) const
     if (c->col_type == MDB_MEMO)
         return memo(champ);
     if (c->col_type == MDB_TEXT)
-        return texte(reinterpret_cast<const char *>(m_jet.m_poignee->mdb->pg_buf) + c->cur_value_start,
+        return texte(reinterpret_cast<const char *>(m_poignee.mdb()->pg_buf) + c->cur_value_start,
             static_cast<std::size_t>(c->cur_value_len));
     const std::vector<char> &tampon = m_tampons[champ];
     if (tampon.empty() || tampon[0] == '\0')
@@ -134,7 +143,7 @@ QString TableJet::cellule(const char *champ) const
 
 QString TableJet::texte(const char *octets, std::size_t taille) const
 {
-    MdbHandle *mdb = m_jet.m_poignee->mdb;
+    MdbHandle *mdb = m_poignee.mdb();
     if (taille == 0)
         return {};
     if (!IS_JET3(mdb))
@@ -151,7 +160,7 @@ QString TableJet::memo(std::size_t champ) const
     if (c->cur_value_len == 0)
         return {};
     const auto reste = static_cast<std::size_t>(c->cur_value_len);
-    const auto *debut = reinterpret_cast<const char *>(m_jet.m_poignee->mdb->pg_buf) + c->cur_value_start;
+    const auto *debut = reinterpret_cast<const char *>(m_poignee.mdb()->pg_buf) + c->cur_value_start;
     if (reste < MDB_MEMO_OVERHEAD)
         abimee("un texte long ne peut pas être lu");
     const auto marque = qFromLittleEndian<quint32>(debut);
@@ -168,7 +177,7 @@ QString TableJet::memo(std::size_t champ) const
 
 QByteArray TableJet::memoAilleurs(quint32 taille, quint32 ou, bool enChaine) const
 {
-    if (taille > m_jet.m_taille)
+    if (taille > m_poignee.taille())
         abimee("un texte long serait plus long que le fichier");
     const std::size_t avant = enChaine ? PointeurSuite : 0;
     QByteArray octets;
@@ -178,7 +187,7 @@ QByteArray TableJet::memoAilleurs(quint32 taille, quint32 ou, bool enChaine) con
         int position = 0;
         std::size_t longueur = 0;
         // What has been read stays on its page: the library keeps a second one for this.
-        if (mdb_find_pg_row(m_jet.m_poignee->mdb, static_cast<int>(ou), &page, &position, &longueur) != 0
+        if (mdb_find_pg_row(m_poignee.mdb(), static_cast<int>(ou), &page, &position, &longueur) != 0
             || longueur <= avant
             || std::memcmp(static_cast<char *>(page) + PositionProprietaire, "LVAL", 4) != 0)
             abimee("un texte long n'est pas entier");

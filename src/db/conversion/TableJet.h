@@ -1,11 +1,10 @@
 #pragma once
 
-#include "db/conversion/Jet.h"
+#include "db/conversion/Poignee.h"
 
+#include <QString>
 #include <memory>
 #include <vector>
-
-struct S_MdbTableDef;
 
 /// A walk over the rows of one table of an old file. Damage that the library passes over in silence ends it: a
 /// row or page that cannot be read, a long text that is not whole. Throws Echec.
@@ -21,7 +20,10 @@ public:
         Sorte sorte = Sorte::Illisible;
     };
 
-    TableJet(const Jet &jet, const QString &table);
+    /// The table of this name that is defined on this page. What is open must outlive this object.
+    TableJet(const Poignee &poignee, const QString &nom, unsigned long page);
+    TableJet(const TableJet &) = delete;
+    TableJet &operator=(const TableJet &) = delete;
 
     const std::vector<Champ> &champs() const { return m_champs; }
     /// How many rows the table says it has.
@@ -42,9 +44,10 @@ private:
     QByteArray memoAilleurs(quint32 taille, quint32 ou, bool enChaine) const;
     [[noreturn]] void abimee(const char *quoi) const;
 
-    const Jet &m_jet;
+    const Poignee &m_poignee;
     QString m_nom;
-    std::unique_ptr<S_MdbTableDef, void (*)(S_MdbTableDef *)> m_table;
+    MdbCatalogEntry m_entree; ///< of the table, which points to it
+    std::unique_ptr<MdbTableDef, void (*)(MdbTableDef *)> m_table;
     std::vector<Champ> m_champs;
     std::vector<std::vector<char>> m_tampons; ///< where the library writes what is no text
     qint64 m_annoncees = 0;

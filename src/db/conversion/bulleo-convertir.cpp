@@ -1,6 +1,6 @@
 // Makes a new collection, or reference catalogue, of one in the format of old: bulleo-convertir OLD NEW. The library
 // that reads the old format can fall over a damaged file, so this is a process of its own. What it says on its
-// output is written down in db/Conversion.h.
+// output is written down in db/files/Conversion.h.
 
 #include "core/Error.h"
 #include "db/conversion/Convertisseur.h"
@@ -13,16 +13,16 @@
 
 namespace {
 
-void dire(const QStringList &parties)
+void dire(const Conversion::Annonce &annonce)
 {
-    const QByteArray ligne = Conversion::Ligne(parties);
+    const QByteArray ligne = Conversion::Ligne(annonce);
     std::fwrite(ligne.constData(), 1, static_cast<std::size_t>(ligne.size()), stdout);
     std::fflush(stdout);
 }
 
 int echouer(Conversion::Code code, const QString &details)
 {
-    dire({QStringLiteral("erreur"), Conversion::NomDuCode(code), details});
+    dire(Conversion::Echouee{code, details});
     return 1;
 }
 

@@ -6,14 +6,28 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace {
 
+using Conversion::Avance;
 using Conversion::Code;
+using Conversion::Ecarte;
+using Conversion::Echouee;
+using Conversion::Fini;
 using Conversion::Rapport;
+using Conversion::TableLue;
+
+struct Textes
+{
+    Q_DECLARE_TR_FUNCTIONS(Conversion)
+};
 
 struct NomDeCode
 {
@@ -24,64 +38,72 @@ constexpr std::array Codes{NomDeCode{Code::Abimee, "abimee"}, NomDeCode{Code::Ch
     NomDeCode{Code::Etrangere, "etrangere"}, NomDeCode{Code::Existe, "existe"},
     NomDeCode{Code::Ecriture, "ecriture"}};
 
-struct Echappement
-{
-    char16_t signe;
-    char16_t lettre;
-};
-constexpr std::array Echappements{
-    Echappement{u'\\', u'\\'}, Echappement{u'\t', u't'}, Echappement{u'\n', u'n'}, Echappement{u'\r', u'r'}};
-
-QString echapper(const QString &partie)
-{
-    QString ligne;
-    ligne.reserve(partie.size());
-    for (const QChar c : partie) {
-        const auto trouve = std::find_if(Echappements.begin(), Echappements.end(),
-            [c](const Echappement &e) { return c == QChar(e.signe); });
-        if (trouve == Echappements.end())
-            ligne += c;
-        else
-            ligne += QStringLiteral("\\") + QChar(trouve->lettre);
-    }
-    return ligne;
-}
-
-QString retablir(const QString &ligne)
-{
-    QString partie;
-    partie.reserve(ligne.size());
-    for (qsizetype i = 0; i < ligne.size(); ++i) {
-        if (ligne[i] != u'\\' || i + 1 == ligne.size()) {
-            partie += ligne[i];
-            continue;
-        }
-        const auto trouve = std::find_if(Echappements.begin(), Echappements.end(),
-            [c = ligne[i + 1]](const Echappement &e) { return c == QChar(e.lettre); });
-        partie += trouve == Echappements.end() ? ligne[i + 1] : QChar(trouve->signe);
-        ++i;
-    }
-    return partie;
-}
-
-QStringList decouper(const QByteArray &ligne)
-{
-    QString texte = QString::fromUtf8(ligne);
-    if (texte.endsWith(u'\n'))
-        texte.chop(1);
-    QStringList parties = texte.split(u'\t');
-    for (QString &partie : parties)
-        partie = retablir(partie);
-    return parties;
-}
-
 Code codeDe(const QString &nom)
 {
-    for (const NomDeCode &n : Codes) {
-        if (nom == QLatin1String(n.nom))
-            return n.code;
-    }
-    return Code::Abimee;
+    const auto trouve = std::find_if(
+        Codes.begin(), Codes.end(), [&](const NomDeCode &n) { return nom == QLatin1String(n.nom); });
+    return trouve == Codes.end() ? Code::Abimee : trouve->code;
+}
+
+QString nomDe(Code code)
+{
+    const auto trouve
+        = std::find_if(Codes.begin(), Codes.end(), [&](const NomDeCode &n) { return n.code == code; });
+    return trouve == Codes.end() ? QString() : QLatin1String(trouve->nom);
+}
+
+QJsonObject objet(const Avance &a)
+{
+    return {{"avance", a.pourCent}};
+}
+
+QJsonObject objet(const TableLue &t)
+{
+    return {{"table", t.nom}, {"rangees", t.rangees}};
+}
+
+QJsonObject objet(const Ecarte &e)
+{
+    return {{"ecarte", e.sorte}, {"table", e.table}, {"quoi", QJsonArray::fromStringList(e.quoi)}};
+}
+
+QJsonObject objet(const Fini &f)
+{
+    return {{"fini", f.nature}};
+}
+
+QJsonObject objet(const Echouee &e)
+{
+    return {{"erreur", nomDe(e.code)}, {"details", e.details}};
+}
+
+using Cles = std::initializer_list<std::pair<const char *, QJsonValue::Type>>;
+
+/// True when the object has these keys, with values of these types, and no other key.
+bool aLaForme(const QJsonObject &o, Cles cles)
+{
+    return o.size() == static_cast<qsizetype>(cles.size())
+        && std::all_of(
+            cles.begin(), cles.end(), [&](const auto &c) { return o[c.first].type() == c.second; });
+}
+
+bool estUnNombre(const QJsonValue &valeur, qint64 auPlus = std::numeric_limits<qint64>::max())
+{
+    const qint64 nombre = valeur.toInteger(-1);
+    return nombre >= 0 && nombre <= auPlus;
+}
+
+bool sontDesTextes(const QJsonArray &valeurs)
+{
+    return std::all_of(valeurs.begin(), valeurs.end(), [](const QJsonValue &v) { return v.isString(); });
+}
+
+QStringList textes(const QJsonArray &valeurs)
+{
+    QStringList textes;
+    for (const QJsonValue &valeur : valeurs)
+        textes << valeur.toString();
+    return textes;
 }
 
 void echouer(Rapport &rapport, Code code, const QString &details)
@@ -93,11 +115,6 @@ void echouer(Rapport &rapport, Code code, const QString &details)
     rapport.nature.clear();
 }
 
-QString dire(const char *texte)
-{
-    return QCoreApplication::translate("Conversion", texte);
-}
-
 /// Hears the converter out, unless the user or the limit ends it.
 void suivreJusquAuBout(
     QProcess &processus, Rapport &rapport, const std::function<bool(int)> &suivre, int silenceMs)
@@ -106,8 +123,8 @@ void suivreJusquAuBout(
     QDeadlineTimer limite(silenceMs);
     const auto entendre = [&] {
         while (processus.canReadLine()) {
-            Conversion::lire(rapport, processus.readLine());
-            limite.setRemainingTime(silenceMs);
+            if (Conversion::Lire(rapport, processus.readLine()))
+                limite.setRemainingTime(silenceMs);
         }
     };
     while (processus.state() != QProcess::NotRunning) {
@@ -115,64 +132,46 @@ void suivreJusquAuBout(
         entendre();
         if (suivre && !suivre(rapport.avance)) {
             Outil::Arreter(processus);
-            return echouer(rapport, Code::Annulee,
-                dire(QT_TRANSLATE_NOOP("Conversion", "La conversion a été annulée.")));
+            return echouer(rapport, Code::Annulee, Textes::tr("La conversion a été annulée."));
         }
         if (limite.hasExpired()) {
             Outil::Arreter(processus);
-            return echouer(rapport, Code::Abimee,
-                dire(QT_TRANSLATE_NOOP("Conversion", "La conversion ne finit pas : le fichier est abîmé.")));
+            return echouer(
+                rapport, Code::Abimee, Textes::tr("La conversion ne finit pas : le fichier est abîmé."));
         }
     }
     entendre();
     if (!Outil::AReussi(processus) || rapport.nature.isEmpty())
         echouer(rapport, Code::Abimee,
-            dire(QT_TRANSLATE_NOOP(
-                "Conversion", "La conversion s'est arrêtée en chemin : le fichier est abîmé.")));
+            Textes::tr("La conversion s'est arrêtée en chemin : le fichier est abîmé."));
 }
 
 }
 
-QByteArray Conversion::Ligne(const QStringList &parties)
+QByteArray Conversion::Ligne(const Annonce &annonce)
 {
-    QStringList echappees;
-    for (const QString &partie : parties)
-        echappees << echapper(partie);
-    return echappees.join(u'\t').toUtf8() + '\n';
+    const QJsonObject ligne = std::visit([](const auto &a) { return objet(a); }, annonce);
+    return QJsonDocument(ligne).toJson(QJsonDocument::Compact) + '\n';
 }
 
-bool Conversion::lire(Rapport &rapport, const QByteArray &ligne)
+bool Conversion::Lire(Rapport &rapport, const QByteArray &ligne)
 {
-    const QStringList parties = decouper(ligne);
-    const QString &mot = parties.first();
-    bool nombre = true;
-    if (mot == QLatin1String("avance") && parties.size() == 2) {
-        const int avance = parties[1].toInt(&nombre);
-        if (nombre)
-            rapport.avance = avance;
-    } else if (mot == QLatin1String("table") && parties.size() == 3) {
-        const qint64 rangees = parties[2].toLongLong(&nombre);
-        if (nombre)
-            rapport.tables.append({parties[1], rangees});
-    } else if (mot == QLatin1String("ecarte") && parties.size() >= 3) {
-        rapport.ecartes.append({parties[1], parties[2], parties.mid(3)});
-    } else if (mot == QLatin1String("fini") && parties.size() == 2) {
-        rapport.nature = parties[1];
-    } else if (mot == QLatin1String("erreur") && parties.size() == 3) {
-        echouer(rapport, codeDe(parties[1]), parties[2]);
-    } else {
+    using enum QJsonValue::Type;
+    const QJsonObject o = QJsonDocument::fromJson(ligne).object();
+    const QJsonArray quoi = o["quoi"].toArray();
+    if (aLaForme(o, {{"avance", Double}}) && estUnNombre(o["avance"], 100))
+        rapport.avance = o["avance"].toInt();
+    else if (aLaForme(o, {{"table", String}, {"rangees", Double}}) && estUnNombre(o["rangees"]))
+        rapport.tables.append({o["table"].toString(), o["rangees"].toInteger()});
+    else if (aLaForme(o, {{"ecarte", String}, {"table", String}, {"quoi", Array}}) && sontDesTextes(quoi))
+        rapport.ecartes.append({o["ecarte"].toString(), o["table"].toString(), textes(quoi)});
+    else if (aLaForme(o, {{"fini", String}}))
+        rapport.nature = o["fini"].toString();
+    else if (aLaForme(o, {{"erreur", String}, {"details", String}}))
+        echouer(rapport, codeDe(o["erreur"].toString()), o["details"].toString());
+    else
         return false;
-    }
-    return nombre;
-}
-
-QString Conversion::NomDuCode(Code code)
-{
-    for (const NomDeCode &n : Codes) {
-        if (n.code == code)
-            return QLatin1String(n.nom);
-    }
-    return {};
+    return true;
 }
 
 QString Conversion::Partiel(const QString &nouveau)
@@ -195,8 +194,7 @@ Conversion::Rapport Conversion::Convertir(
     processus.setStandardErrorFile(QProcess::nullDevice());
     Outil::Lancer(processus, QStringLiteral("bulleo-convertir"), {ancien, nouveau});
     if (!processus.waitForStarted()) {
-        echouer(rapport, Code::Absent,
-            dire(QT_TRANSLATE_NOOP("Conversion", "Le programme de conversion est introuvable.")));
+        echouer(rapport, Code::Absent, Textes::tr("Le programme de conversion est introuvable."));
         return rapport;
     }
     suivreJusquAuBout(processus, rapport, suivre, silenceMs);
