@@ -53,7 +53,7 @@ struct Terrain
 void parcoursNu(benchmark::State &etat)
 {
     const Terrain terrain(static_cast<int>(etat.range(0)));
-    const QByteArray fichier = terrain.dossier.chemin(QStringLiteral("bd.mdb")).toUtf8();
+    const QByteArray fichier = terrain.dossier.collection().toUtf8();
     for (auto _ : etat) {
         sqlite3 *db = nullptr;
         sqlite3_open_v2(fichier.constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -223,7 +223,7 @@ struct Copie
         : dossier(terrain.chemin + QStringLiteral("/copie-XXXXXX"))
         , fichier(dossier.filePath(QStringLiteral("bd.mdb")))
     {
-        QFile::copy(terrain.dossier.chemin(QStringLiteral("bd.mdb")), fichier);
+        QFile::copy(terrain.dossier.collection(), fichier);
     }
     QTemporaryDir dossier;
     QString fichier;

@@ -263,8 +263,8 @@ void Bureau::demarrer()
 /// A collection or a catalogue in the old format is offered to be converted.
 void Bureau::proposerReprise()
 {
-    for (const auto &nom : {QStringLiteral("BDbase.bd"), QStringLiteral("bd.mdb")}) {
-        const QString chemin = Dossier::courant().chemin(nom);
+    const Dossier &dossier = Dossier::courant();
+    for (const QString &chemin : {dossier.chemin(QStringLiteral("BDbase.bd")), dossier.collection()}) {
         if (Reprise::EstAncien(chemin))
             QTimer::singleShot(0, this, [this, chemin] { proposerFichier(chemin); });
     }

@@ -28,7 +28,7 @@ struct Mal
 };
 Mal examiner(bool finBrutale)
 {
-    const QString chemin = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
+    const QString chemin = Dossier::courant().collection();
     try {
         if (finBrutale)
             return {Verification::Verifier(), true};

@@ -171,7 +171,7 @@ void Frmmain::charger()
     // still before the window is first painted.
     QTimer::singleShot(0, this, [this] {
         // One in the old format is not opened: it is offered to be converted.
-        if (Reprise::EstAncien(Dossier::courant().chemin(QStringLiteral("bd.mdb"))))
+        if (Reprise::EstAncien(Dossier::courant().collection()))
             return;
         m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris)));
         m_ouverte = true;

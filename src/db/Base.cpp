@@ -5,7 +5,7 @@
 #include "db/Sql.h"
 
 Base::Base()
-    : Base(Dossier::courant().chemin(QStringLiteral("bd.mdb")), Entete::Nature::Collection)
+    : Base(Dossier::courant().collection(), Entete::Nature::Collection)
 {
     m_connexion->aSauver = true;
 }

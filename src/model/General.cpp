@@ -305,9 +305,10 @@ bool General::Concerne(const Changements &changements, Tri tri)
 
 QString General::VerifierCopie(const QString &chemin)
 {
-    for (const QString &nom : {QStringLiteral("bd.mdb"), QStringLiteral("BDbase.bd")}) {
-        if (Dossier::courant().estLeFichier(chemin, nom))
-            return nom;
+    const Dossier &dossier = Dossier::courant();
+    for (const QString &propre : {dossier.collection(), dossier.chemin(QStringLiteral("BDbase.bd"))}) {
+        if (Dossier::EstLeFichier(chemin, propre))
+            return QFileInfo(propre).fileName();
     }
     return {};
 }
@@ -318,7 +319,7 @@ void General::CopierBase(const QString &chemin)
         throw Error(
             QCoreApplication::translate("General", "La copie n'a pas pu être faite."), chemin, details);
     };
-    QFile source(Dossier::courant().chemin(QStringLiteral("bd.mdb")));
+    QFile source(Dossier::courant().collection());
     if (!source.open(QIODevice::ReadOnly))
         echec(source.errorString());
     QSaveFile copie(chemin);

@@ -1,6 +1,7 @@
 #include "support/Bac.h"
 
 #include "db/Base.h"
+#include "db/files/Livraison.h"
 #include "db/schema/Tables.h"
 
 #include <QDir>
@@ -30,7 +31,7 @@ Bac::Bac(const QString &modele)
 {
     if (!modele.isEmpty())
         copierDossier(modele, dossier.racine());
-    dossier.preparer();
+    Livraison::Preparer();
 }
 
 QString Bac::chemin(const QString &nom) const

@@ -146,7 +146,7 @@ Examen Remplacement::Examiner(const QString &chemin)
     examen.taille = QFileInfo(chemin).size();
     if (estAncienne(chemin))
         examen.etat = Etat::Ancienne;
-    else if (Dossier::courant().estLeFichier(chemin, QStringLiteral("bd.mdb")))
+    else if (Dossier::EstLeFichier(chemin, Dossier::courant().collection()))
         examen.etat = Etat::Courante;
     else if (const auto parEntete = etatParEntete(chemin))
         examen.etat = *parEntete;
@@ -181,7 +181,7 @@ QString Remplacement::Restaurer(const QString &chemin)
     const QString refus = RaisonDuRefus(Examiner(chemin).etat);
     if (!refus.isEmpty())
         return refus;
-    const QString place = Dossier::courant().chemin(QStringLiteral("bd.mdb"));
+    const QString place = Dossier::courant().collection();
     const QString collection = QFileInfo::exists(place) ? QFileInfo(place).canonicalFilePath() : place;
     const QString neuve = collection + QStringLiteral(".neuve");
     Moteur::Copier(*Moteur::Ouvrir(chemin), neuve);
