@@ -1,7 +1,6 @@
 #include "db/files/Moteur.h"
 
 #include "db/Collation.h"
-#include "db/Entete.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -58,9 +57,9 @@ Error Moteur::Refus(const SQLite::Exception &e, const QString &chemin)
     }
 }
 
-std::unique_ptr<SQLite::Database> Moteur::Ouvrir(const QString &chemin)
+std::unique_ptr<SQLite::Database> Moteur::Ouvrir(const QString &chemin, Entete::Nature nature)
 {
-    Entete::Verifier(chemin, Entete::Nature::Collection);
+    Entete::Verifier(chemin, nature);
     try {
         auto db = std::make_unique<SQLite::Database>(chemin.toStdString(), SQLite::OPEN_READONLY, AttenteMs);
         Collation::Enregistrer(db->getHandle());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Error.h"
+#include "db/Entete.h"
 
 #include <memory>
 
@@ -18,8 +19,9 @@ constexpr int AttenteMs = 250;
 /// What the engine refused on a file, as an Error.
 Error Refus(const SQLite::Exception &e, const QString &chemin);
 
-/// Opens a collection that is not at work, to be read only. Throws Error.
-std::unique_ptr<SQLite::Database> Ouvrir(const QString &chemin);
+/// Opens a collection that is not at work, or a catalogue, to be read only. Throws Error.
+std::unique_ptr<SQLite::Database> Ouvrir(
+    const QString &chemin, Entete::Nature nature = Entete::Nature::Collection);
 
 /// True when no table holds a row. Throws Error.
 bool EstVierge(SQLite::Database &db);
