@@ -5,6 +5,7 @@
 #include "db/Base.h"
 #include "db/Connexion.h"
 #include "db/Transaction.h"
+#include "db/files/Livraison.h"
 
 #include <QFileInfo>
 #include <SQLiteCpp/Statement.h>
@@ -143,11 +144,10 @@ void generer(const QString &chemin, int albums, unsigned graine)
 {
     const Dossier dossier(chemin, Dossier::Livre());
     const Annonces annonces;
-    if (QFileInfo::exists(dossier.chemin(QStringLiteral("bd.mdb"))))
+    if (QFileInfo::exists(dossier.collection()))
         return;
-    dossier.preparer();
+    Livraison::Preparer();
     Base base;
-    const Journal::Pause pause(base);
     Transaction transaction(base);
     Tirage tirage(graine);
     remplirEntites(base, tirage, albums);

@@ -9,6 +9,7 @@
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/Comparaison.h"
+#include "db/files/Livraison.h"
 #include "db/schema/Tables.h"
 #include "model/ChargerAlbums.h"
 #include "model/ChargerAuteurs.h"
@@ -53,7 +54,7 @@ struct Terrain
 void parcoursNu(benchmark::State &etat)
 {
     const Terrain terrain(static_cast<int>(etat.range(0)));
-    const QByteArray fichier = terrain.dossier.chemin(QStringLiteral("bd.mdb")).toUtf8();
+    const QByteArray fichier = terrain.dossier.collection().toUtf8();
     for (auto _ : etat) {
         sqlite3 *db = nullptr;
         sqlite3_open_v2(fichier.constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -216,6 +217,19 @@ void totaux(benchmark::State &etat)
         benchmark::DoNotOptimize(General::LireTotaux());
 }
 
+/// What a start does to its application folder: when nothing new was shipped, and when it is gone through.
+void preparer(benchmark::State &etat)
+{
+    const QTemporaryDir lieu;
+    const Dossier dossier(lieu.filePath(QStringLiteral("bulleo")), Dossier::Livre());
+    Livraison::Preparer();
+    for (auto _ : etat) {
+        if (etat.range(0) == 1)
+            QFile::remove(dossier.racine() + QStringLiteral("/.bulleo.livre"));
+        Livraison::Preparer();
+    }
+}
+
 /// A copy of the terrain's collection, which a measure may change.
 struct Copie
 {
@@ -223,7 +237,7 @@ struct Copie
         : dossier(terrain.chemin + QStringLiteral("/copie-XXXXXX"))
         , fichier(dossier.filePath(QStringLiteral("bd.mdb")))
     {
-        QFile::copy(terrain.dossier.chemin(QStringLiteral("bd.mdb")), fichier);
+        QFile::copy(terrain.dossier.collection(), fichier);
     }
     QTemporaryDir dossier;
     QString fichier;
@@ -323,6 +337,7 @@ BENCHMARK(chargerFicheDe)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 BENCHMARK(mettreANiveau)->Apply(tailles);
+BENCHMARK(preparer)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(totaux)->Apply(tailles);
 BENCHMARK(validationsNues)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(creer)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Takes the pictures of the help pages anew, in French and English: data/aide/images and data/aide/en/images.
+# They are to be noted by empreintes.sh afterwards, as all that is shipped.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/paquets.sh

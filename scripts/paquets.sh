@@ -27,12 +27,12 @@ installer() {
     $root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $manquants >/dev/null
 }
 
-# Configures and builds a preset; the tools print only what matters.
+# Configures and builds a preset, or what else the words after it ask of the build; the tools print only what matters.
 construire() {
     mkdir -p build
     [ -f "build/$1/build.ninja" ] || cmake --preset "$1" >"build/$1.log" 2>&1 || {
         cat "build/$1.log" >&2
         return 1
     }
-    cmake --build --preset "$1"
+    cmake --build --preset "$@"
 }

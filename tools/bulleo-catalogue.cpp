@@ -1,5 +1,6 @@
 // Makes a reference catalogue from a CSV file: bulleo-catalogue [--strict] SOURCE.csv BDbase.bd. An existing file is
 // replaced once the new one is whole. A bad row is reported with its line and left out; with --strict it stops all.
+// bulleo-catalogue --empreinte BDbase.bd prints the digest of a catalogue's content.
 
 #include "core/Annonces.h"
 #include "core/Csv.h"
@@ -8,6 +9,7 @@
 #include "db/Module2.h"
 #include "db/Transaction.h"
 #include "db/files/FichierNeuf.h"
+#include "db/files/Livraison.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -141,16 +143,21 @@ int main(int argc, char *argv[])
     const QCommandLineOption strict(
         QStringLiteral("strict"), QStringLiteral("S'arrête à la première ligne fautive."));
     lecteur.setApplicationDescription(QStringLiteral("Fait un catalogue de référence d'un fichier CSV."));
-    lecteur.addOption(strict);
+    const QCommandLineOption empreinte(
+        QStringLiteral("empreinte"), QStringLiteral("Dit l'empreinte du contenu d'un catalogue."));
+    lecteur.addOptions({strict, empreinte});
     lecteur.addHelpOption();
     lecteur.addPositionalArgument(QStringLiteral("source"), QStringLiteral("Fichier CSV (UTF-8)."));
     lecteur.addPositionalArgument(QStringLiteral("cible"), QStringLiteral("Catalogue à écrire, BDbase.bd."));
     lecteur.process(application);
     const QStringList fichiers = lecteur.positionalArguments();
-    if (fichiers.size() != 2)
+    if (fichiers.size() != (lecteur.isSet(empreinte) ? 1 : 2))
         lecteur.showHelp(2);
     try {
-        convertir(fichiers[0], fichiers[1], lecteur.isSet(strict));
+        if (lecteur.isSet(empreinte))
+            QTextStream(stdout) << Livraison::EmpreinteDuCatalogue(fichiers[0]) << '\n';
+        else
+            convertir(fichiers[0], fichiers[1], lecteur.isSet(strict));
     } catch (const Error &e) {
         QTextStream(stderr) << e.message() << '\n';
         return 1;

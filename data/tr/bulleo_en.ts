@@ -359,17 +359,6 @@
     </message>
 </context>
 <context>
-    <name>Dossier</name>
-    <message>
-        <source>Ce dossier ne peut pas être créé.</source>
-        <translation>This folder cannot be created.</translation>
-    </message>
-    <message>
-        <source>Ce fichier ne peut pas être copié.</source>
-        <translation>This file cannot be copied.</translation>
-    </message>
-</context>
-<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -803,6 +792,17 @@
     <message>
         <source>Titre</source>
         <translation>Title</translation>
+    </message>
+</context>
+<context>
+    <name>Livraison</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>This folder cannot be created.</translation>
+    </message>
+    <message>
+        <source>Ce fichier ne peut pas être copié.</source>
+        <translation>This file cannot be copied.</translation>
     </message>
 </context>
 <context>

@@ -359,17 +359,6 @@
     </message>
 </context>
 <context>
-    <name>Dossier</name>
-    <message>
-        <source>Ce dossier ne peut pas être créé.</source>
-        <translation>Esta carpeta no se puede crear.</translation>
-    </message>
-    <message>
-        <source>Ce fichier ne peut pas être copié.</source>
-        <translation>Este archivo no se puede copiar.</translation>
-    </message>
-</context>
-<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -803,6 +792,17 @@
     <message>
         <source>Titre</source>
         <translation>Título</translation>
+    </message>
+</context>
+<context>
+    <name>Livraison</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>Esta carpeta no se puede crear.</translation>
+    </message>
+    <message>
+        <source>Ce fichier ne peut pas être copié.</source>
+        <translation>Este archivo no se puede copiar.</translation>
     </message>
 </context>
 <context>

@@ -359,17 +359,6 @@
     </message>
 </context>
 <context>
-    <name>Dossier</name>
-    <message>
-        <source>Ce dossier ne peut pas être créé.</source>
-        <translation>Ce dossier ne peut pas être créé.</translation>
-    </message>
-    <message>
-        <source>Ce fichier ne peut pas être copié.</source>
-        <translation>Ce fichier ne peut pas être copié.</translation>
-    </message>
-</context>
-<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -803,6 +792,17 @@
     <message>
         <source>Titre</source>
         <translation>Titre</translation>
+    </message>
+</context>
+<context>
+    <name>Livraison</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>Ce dossier ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source>Ce fichier ne peut pas être copié.</source>
+        <translation>Ce fichier ne peut pas être copié.</translation>
     </message>
 </context>
 <context>

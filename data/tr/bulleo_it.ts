@@ -359,17 +359,6 @@
     </message>
 </context>
 <context>
-    <name>Dossier</name>
-    <message>
-        <source>Ce dossier ne peut pas être créé.</source>
-        <translation>Impossibile creare questa cartella.</translation>
-    </message>
-    <message>
-        <source>Ce fichier ne peut pas être copié.</source>
-        <translation>Impossibile copiare questo file.</translation>
-    </message>
-</context>
-<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -803,6 +792,17 @@
     <message>
         <source>Titre</source>
         <translation>Titolo</translation>
+    </message>
+</context>
+<context>
+    <name>Livraison</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>Impossibile creare questa cartella.</translation>
+    </message>
+    <message>
+        <source>Ce fichier ne peut pas être copié.</source>
+        <translation>Impossibile copiare questo file.</translation>
     </message>
 </context>
 <context>

@@ -301,7 +301,7 @@ void Bureau::chargerTextes()
 void Bureau::choisirLangue(const QString &fichier)
 {
     if (fichier == Traduction::LangueCourante()
-        && QFileInfo::exists(Dossier::courant().chemin(QStringLiteral("defaut.lng"))))
+        && QFileInfo::exists(Traduction::CheminCourant()))
         return;
     try {
         Traduction::courant().choisir(fichier);

@@ -8,6 +8,7 @@
 #include "core/Traduction.h"
 #include "core/ui/Habillage.h"
 #include "core/ui/Messages.h"
+#include "db/files/Livraison.h"
 
 #include <QTextStream>
 
@@ -28,7 +29,7 @@ bool prendreLeDossier(Dossier &dossier)
         return false;
     }
     try {
-        dossier.preparer();
+        Livraison::Preparer();
     } catch (const Error &e) {
         Messages::Arreter(nullptr, texte(Txt::UneErreurEstSurvenue) + u'\n' + e.message());
     }

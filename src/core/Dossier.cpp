@@ -1,25 +1,14 @@
 #include "core/Dossier.h"
 
-#include "core/Error.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <array>
 
 namespace {
 
-const QString CollectionVierge = QStringLiteral("Base vierge.bd");
 const QString Verrou = QStringLiteral(".bulleo.lock");
-
-/// What every complete folder has beside the collection.
-const std::array Complements{
-    Dossier::Catalogue, QStringLiteral("langues"), QStringLiteral("Fond Ecran"), QStringLiteral("Help")};
-
-/// Folders that the program fills.
-const std::array DossiersVides{QStringLiteral("images"), QStringLiteral("image")};
 
 /// The name of an existing entry of `dossier` that equals `nom` but for case; `nom` when there is none.
 QString nomExistant(const QString &dossier, const QString &nom)
@@ -33,37 +22,6 @@ QString nomExistant(const QString &dossier, const QString &nom)
             return entrees.fileName();
     }
     return nom;
-}
-
-bool estVide(const QString &dossier)
-{
-    QStringList entrees
-        = QDir(dossier).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    entrees.removeAll(Verrou);
-    return entrees.isEmpty();
-}
-
-void creerDossier(const QString &chemin)
-{
-    if (!QDir().mkpath(chemin))
-        throw Error(QCoreApplication::translate("Dossier", "Ce dossier ne peut pas être créé."), chemin);
-}
-
-/// Copies a file or a whole folder. Shipped files may be read-only; copies are the user's own.
-void copier(const QString &source, const QString &cible)
-{
-    if (QFileInfo(source).isDir()) {
-        creerDossier(cible);
-        const QStringList noms = QDir(source).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-        for (const QString &nom : noms)
-            copier(source + u'/' + nom, cible + u'/' + nom);
-        return;
-    }
-    QFile fichier(source);
-    if (!fichier.copy(cible))
-        throw Error(QCoreApplication::translate("Dossier", "Ce fichier ne peut pas être copié."), cible,
-            fichier.errorString());
-    QFile::setPermissions(cible, QFile::permissions(cible) | QFile::ReadOwner | QFile::WriteOwner);
 }
 
 }
@@ -100,35 +58,12 @@ QString Dossier::chemin(const QString &nom) const
     return chemin;
 }
 
-bool Dossier::estLeFichier(const QString &chemin, const QString &nom) const
+bool Dossier::EstLeFichier(const QString &chemin, const QString &fichier)
 {
-    const QFileInfo propre(this->chemin(nom));
+    const QFileInfo propre(fichier);
     const QFileInfo autre(chemin);
     return autre.absoluteFilePath().compare(propre.absoluteFilePath(), Qt::CaseInsensitive) == 0
         || (autre.exists() && autre.canonicalFilePath() == propre.canonicalFilePath());
-}
-
-void Dossier::copierLivre(const QString &source, const QString &nom) const
-{
-    const QString cible = chemin(nom);
-    const QString livre = m_livre + u'/' + source;
-    if (!QFileInfo::exists(cible) && QFileInfo::exists(livre))
-        copier(livre, cible);
-}
-
-void Dossier::preparer() const
-{
-    if (estVide(m_racine)) {
-        creerDossier(m_racine);
-        copierLivre(CollectionVierge, Collection);
-        copierLivre(CollectionVierge, CollectionVierge);
-        for (const QString &nom : DossiersVides)
-            creerDossier(chemin(nom));
-    }
-    if (!QFileInfo::exists(chemin(Collection)))
-        return;
-    for (const QString &nom : Complements)
-        copierLivre(nom, nom);
 }
 
 bool Dossier::verrouiller()

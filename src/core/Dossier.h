@@ -27,15 +27,11 @@ public:
     /// is matched without regard to case when it exists.
     QString chemin(const QString &nom) const;
     QString racine() const { return m_racine; }
+    QString livre() const { return m_livre; }
     QString collection() const { return chemin(Collection); }
     QString catalogue() const { return chemin(Catalogue); }
-    /// True when a path leads to this file of the folder, by whatever link or letter case.
-    bool estLeFichier(const QString &chemin, const QString &nom) const;
-
-    /// Fills a new or empty folder from what is shipped and adds what a folder with a collection lacks. A
-    /// folder that holds files but no collection is left alone: an empty one must never hide a lost one.
-    /// Throws Error when a copy fails.
-    void preparer() const;
+    /// True when a path leads to this file, by whatever link or letter case.
+    static bool EstLeFichier(const QString &chemin, const QString &fichier);
 
     /// False when another running program holds this folder. The lock of a dead process is taken over.
     bool verrouiller();
@@ -43,8 +39,6 @@ public:
     bool finBrutale() const { return m_finBrutale; }
 
 private:
-    void copierLivre(const QString &source, const QString &nom) const;
-
     QString m_racine;
     QString m_livre;
     std::unique_ptr<QLockFile> m_verrou;

@@ -122,11 +122,16 @@ void Traduction::lire(const QByteArray &octets, const QString &chemin)
 
 void Traduction::chargerCourante()
 {
-    const QString chemin = Dossier::courant().chemin(FichierCourant);
+    const QString chemin = CheminCourant();
     if (QFileInfo::exists(chemin))
         chargerFichier(chemin);
     else
         chargerDefauts();
+}
+
+QString Traduction::CheminCourant()
+{
+    return Dossier::courant().chemin(FichierCourant);
 }
 
 QStringList Traduction::Langues()
@@ -139,7 +144,7 @@ QString Traduction::LangueCourante()
 {
     const QString choisie = Reglages::courant().texte(Cle::Langue);
     const QStringList langues = Langues();
-    QFile courante(Dossier::courant().chemin(FichierCourant));
+    QFile courante(CheminCourant());
     if (courante.open(QIODevice::ReadOnly)) {
         const QByteArray octets = courante.readAll();
         for (const QString &nom : langues) {
@@ -155,7 +160,7 @@ QString Traduction::LangueCourante()
 void Traduction::choisir(const QString &fichier)
 {
     const QString source = Dossier::courant().chemin(DossierLangues + u'/' + fichier);
-    const QString cible = Dossier::courant().chemin(FichierCourant);
+    const QString cible = CheminCourant();
     const QByteArray octets = lireFichier(source);
     QSaveFile copie(cible);
     if (!copie.open(QIODevice::WriteOnly) || copie.write(octets) != octets.size() || !copie.commit())

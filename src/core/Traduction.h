@@ -25,6 +25,8 @@ public:
     /// The texts of "defaut.lng" when the application folder has one, else the built-in ones. Throws Error.
     void chargerCourante();
 
+    /// Full path of "defaut.lng", the copy of the language file in force.
+    static QString CheminCourant();
     /// Language files of the application folder, by name.
     static QStringList Langues();
     /// Name of the language file in force: the one whose bytes equal "defaut.lng", else the stored choice,

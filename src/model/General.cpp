@@ -303,8 +303,9 @@ bool General::Concerne(const Changements &changements, Tri tri)
 
 QString General::VerifierCopie(const QString &chemin)
 {
+    const Dossier &dossier = Dossier::courant();
     for (const QString &nom : {Dossier::Collection, Dossier::Catalogue}) {
-        if (Dossier::courant().estLeFichier(chemin, nom))
+        if (Dossier::EstLeFichier(chemin, dossier.chemin(nom)))
             return nom;
     }
     return {};

@@ -1,4 +1,5 @@
 #include "core/Images.h"
+#include "db/files/Livraison.h"
 #include "support/Bac.h"
 #include "support/Refus.h"
 
@@ -143,7 +144,7 @@ void tst_images::leDossierDesImagesEstFaitAuBesoin()
 {
     const Bac bac;
     QVERIFY(QDir(bac.chemin()).rmdir("images"));
-    bac.dossier.preparer();
+    Livraison::Preparer();
     Bac::ecrire(bac.chemin("a.jpg"), "un");
     const bool refusee = refus([&] { Images::Copier(bac.chemin("a.jpg")); }).has_value();
     QVERIFY(!refusee);

@@ -2,6 +2,7 @@
 
 #include "acts/Acte.h"
 #include "db/Base.h"
+#include "db/files/Livraison.h"
 #include "db/schema/Tables.h"
 
 #include <QDir>
@@ -31,7 +32,7 @@ Bac::Bac(const QString &modele)
 {
     if (!modele.isEmpty())
         copierDossier(modele, dossier.racine());
-    dossier.preparer();
+    Livraison::Preparer();
 }
 
 QString Bac::chemin(const QString &nom) const

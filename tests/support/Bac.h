@@ -17,7 +17,7 @@ public:
 
     QString chemin(const QString &nom = {}) const;
     /// Full path of the collection.
-    QString collection() const { return chemin(QStringLiteral("bd.mdb")); }
+    QString collection() const { return dossier.collection(); }
     /// Folder of what is shipped, as the build made it.
     static QString livre();
 

@@ -4,6 +4,7 @@
 #include "core/Annonces.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
+#include "db/files/Livraison.h"
 #include "exemple/Couvertures.h"
 #include "exemple/Remplir.h"
 
@@ -26,7 +27,7 @@ int main(int argc, char *argv[])
         QDir(mots[3]).removeRecursively();
         const Dossier dossier(mots[3], mots[2]);
         const Annonces annonces;
-        dossier.preparer();
+        Livraison::Preparer();
         remplirExemple(mots[1]);
         dessinerCouvertures();
     } catch (const Error &e) {

@@ -2,7 +2,6 @@
 
 #include "db/Collation.h"
 #include "db/Connexion.h"
-#include "db/Entete.h"
 #include "db/Refus.h"
 
 #include <QCoreApplication>
@@ -40,9 +39,9 @@ void copier(SQLite::Database &source, const QString &cible)
 
 }
 
-std::unique_ptr<SQLite::Database> Moteur::Ouvrir(const QString &chemin)
+std::unique_ptr<SQLite::Database> Moteur::Ouvrir(const QString &chemin, Entete::Nature nature)
 {
-    Entete::Verifier(chemin, Entete::Nature::Collection);
+    Entete::Verifier(chemin, nature);
     try {
         auto db = std::make_unique<SQLite::Database>(
             chemin.toStdString(), SQLite::OPEN_READONLY, Connexion::AttenteMs);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QString>
+#include "db/Entete.h"
+
 #include <memory>
 
 namespace SQLite {
@@ -10,8 +11,9 @@ class Database;
 /// What the engine does with whole files, beside the one that is at work.
 namespace Moteur {
 
-/// Opens a collection that is not at work, to be read only. Throws Error.
-std::unique_ptr<SQLite::Database> Ouvrir(const QString &chemin);
+/// Opens a collection that is not at work, or a catalogue, to be read only. Throws Error.
+std::unique_ptr<SQLite::Database> Ouvrir(
+    const QString &chemin, Entete::Nature nature = Entete::Nature::Collection);
 
 /// True when no table holds a row. Throws Error.
 bool EstVierge(SQLite::Database &db);

@@ -151,7 +151,7 @@ Examen Remplacement::Examiner(const QString &chemin)
     examen.taille = QFileInfo(chemin).size();
     if (estAncienne(chemin))
         examen.etat = Etat::Ancienne;
-    else if (Dossier::courant().estLeFichier(chemin, Dossier::Collection))
+    else if (Dossier::EstLeFichier(chemin, Dossier::courant().collection()))
         examen.etat = Etat::Courante;
     else if (const auto parEntete = etatParEntete(chemin))
         examen.etat = *parEntete;
