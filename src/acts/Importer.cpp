@@ -72,10 +72,10 @@ constexpr const char *Oui
     = "oui o yes y 1 vrai true ja j si s wahr verdadero vero waar x broche couleur integrale";
 constexpr const char *Non = "non n no 0 faux false nein nee falso falsch onwaar cartonne nb noiretblanc";
 
-QString dire(const char *texte)
+struct Tr
 {
-    return QCoreApplication::translate("ImporterAlbums", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImporterAlbums)
+};
 
 std::size_t rang(Champ champ)
 {
@@ -153,8 +153,7 @@ struct Cellules
     {
         const auto valeur = lireBooleen(texte(champ));
         if (!valeur && refus.isEmpty())
-            refus = dire(QT_TRANSLATE_NOOP("ImporterAlbums", "%1 : « %2 » n'est ni oui ni non."))
-                        .arg(::texte(libelle), texte(champ));
+            refus = Tr::tr("%1 : « %2 » n'est ni oui ni non.").arg(::texte(libelle), texte(champ));
         return valeur.value_or(false);
     }
 };
@@ -304,8 +303,7 @@ Rapport Importer::ImporterAlbums(
 {
     QStringList entete;
     const QList<Ligne> lignes = lireLignes(chemin, entete);
-    Acte acte(
-        dire(QT_TRANSLATE_NOOP("ImporterAlbums", "Importation de « %1 »")).arg(QFileInfo(chemin).fileName()));
+    Acte acte(Tr::tr("Importation de « %1 »").arg(QFileInfo(chemin).fileName()));
     ImagesPrises images;
     Rapport rapport;
     for (qsizetype i = 0; i < lignes.size(); ++i) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Prets)
 };
@@ -25,7 +25,7 @@ QString nomDe(int emprunteur)
 void Preter::Rendre(int album)
 {
     const General::Entree entree{General::Tri::Albums, album};
-    Acte acte(Textes::tr("Retour") + QStringLiteral(": ") + General::LireTexte(entree.tri, album), entree);
+    Acte acte(Tr::tr("Retour") + QStringLiteral(": ") + General::LireTexte(entree.tri, album), entree);
     auto rs
         = acte.base().edit(QStringLiteral("Album"), QStringLiteral("Num = ? order by NAlbum asc"), {album});
     if (rs.RecordCount() == 0)

@@ -15,10 +15,10 @@ namespace {
 constexpr qsizetype LongueurTome = 3;
 constexpr QSize TailleDEssai(64, 64);
 
-QString dire(const char *texte)
+struct Tr
 {
-    return QCoreApplication::translate("Saisie", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Saisie)
+};
 
 QStringList lireAuteurs(const Base &base)
 {
@@ -83,17 +83,15 @@ QString Saisie::ComposerDate(int jour, int mois, int annee)
 std::optional<Saisie::Refus> Saisie::Verifier(const Textes &textes)
 {
     if (estVide(textes))
-        return Refus{QStringLiteral("Titre"), dire(QT_TRANSLATE_NOOP("Saisie", "Donnez au moins un titre."))};
+        return Refus{QStringLiteral("Titre"), Tr::tr("Donnez au moins un titre.")};
     if (textes.tome.trimmed().size() > LongueurTome || !Fiche::Verifier(champ("NumBD"), textes.tome))
         return Refus{QStringLiteral("Tome"), Fiche::RaisonDuRefus(champ("NumBD"))};
     if (!Fiche::Verifier(champ("PrixA"), textes.prix))
         return Refus{QStringLiteral("PrixA"), Fiche::RaisonDuRefus(champ("PrixA"))};
     if (!estUneImage(textes.photo1))
-        return Refus{QStringLiteral("ImageRecto"),
-            dire(QT_TRANSLATE_NOOP("Saisie", "Ce fichier n'est pas une image lisible."))};
+        return Refus{QStringLiteral("ImageRecto"), Tr::tr("Ce fichier n'est pas une image lisible.")};
     if (!estUneImage(textes.photo2))
-        return Refus{QStringLiteral("ImageVerso"),
-            dire(QT_TRANSLATE_NOOP("Saisie", "Ce fichier n'est pas une image lisible."))};
+        return Refus{QStringLiteral("ImageVerso"), Tr::tr("Ce fichier n'est pas une image lisible.")};
     return std::nullopt;
 }
 

@@ -1,9 +1,9 @@
 #include "app/Bureau.h"
 
+#include "app/Demarrage.h"
 #include "appearance/Polices.h"
 #include "appearance/Textures.h"
 #include "archives/Restauration.h"
-#include "archives/Secours.h"
 #include "browse/Frmmain.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
@@ -243,12 +243,7 @@ void Bureau::demarrer()
     Annonces::courant().sauvegardes.manquee = [this](const Error &e) {
         QTimer::singleShot(0, this, [e] { Messages::Avertir(QApplication::activeWindow(), e.message()); });
     };
-    try {
-        Secours::Examiner(nullptr, Dossier::courant().finBrutale());
-    } catch (const Error &e) {
-        // The start goes on with what there is.
-        QTimer::singleShot(0, this, [e] { throw e; });
-    }
+    Demarrage::MettreEnEtat();
     auto *fenetre = forme<Frmmain>(Nom::Frmmain);
     brancherParticuliers();
     fenetre->charger();
@@ -293,15 +288,14 @@ void Bureau::chargerTextes()
     try {
         Traduction::courant().chargerCourante();
     } catch (const Error &e) {
-        QTimer::singleShot(0, this, [e] { throw e; });
+        Messages::Signaler(e);
     }
     m_catalogues.charger(Traduction::courant().locale(), Dossier::Livre() + QStringLiteral("/tr"));
 }
 
 void Bureau::choisirLangue(const QString &fichier)
 {
-    if (fichier == Traduction::LangueCourante()
-        && QFileInfo::exists(Traduction::CheminCourant()))
+    if (fichier == Traduction::LangueCourante() && QFileInfo::exists(Traduction::CheminCourant()))
         return;
     try {
         Traduction::courant().choisir(fichier);

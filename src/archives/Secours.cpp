@@ -14,10 +14,10 @@
 
 namespace {
 
-QString dire(const char *texte)
+struct Tr
 {
-    return QCoreApplication::translate("Secours", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Secours)
+};
 
 /// What is wrong with the collection; without words when nothing is, or when that is for others to tell. One that
 /// does not open is told of by whoever opens it next, too.
@@ -49,21 +49,17 @@ void Secours::Examiner(QWidget *parent, bool finBrutale)
     const Mal mal = examiner(finBrutale);
     if (mal.mots.isEmpty())
         return;
-    const QString constat
-        = dire(QT_TRANSLATE_NOOP("Secours", "Votre base est abîmée, ou n'est plus là.")) + u'\n' + mal.mots;
+    const QString constat = Tr::tr("Votre base est abîmée, ou n'est plus là.") + u'\n' + mal.mots;
     const QString sauvegarde = Sauvegardes::DerniereSaine();
     if (sauvegarde.isEmpty() && !mal.ouvrable)
         return;
     if (sauvegarde.isEmpty())
-        return Messages::Arreter(parent,
-            constat + u'\n'
-                + dire(QT_TRANSLATE_NOOP("Secours", "Il n'y a aucune sauvegarde qui soit saine.")));
+        return Messages::Arreter(
+            parent, constat + u'\n' + Tr::tr("Il n'y a aucune sauvegarde qui soit saine."));
     const QString date
         = Traduction::courant().locale().toString(Sauvegardes::DateDe(sauvegarde), QLocale::ShortFormat);
     const QString question
-        = dire(QT_TRANSLATE_NOOP("Secours",
-                   "Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté."))
-              .arg(date);
+        = Tr::tr("Voulez-vous reprendre la sauvegarde du %1 ? Le fichier abîmé est gardé à côté.").arg(date);
     if (!Messages::Demander(parent, constat + QStringLiteral("\n\n") + question))
         return;
     const QString refus = Remplacement::Restaurer(sauvegarde);

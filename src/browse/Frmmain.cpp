@@ -18,7 +18,6 @@
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
-#include "db/files/MiseANiveau.h"
 #include "db/files/Reprise.h"
 
 #include <QAction>
@@ -26,7 +25,6 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QDesktopServices>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -156,13 +154,6 @@ void Frmmain::raccourcis()
 
 void Frmmain::charger()
 {
-    MiseANiveau::Executer();
-    try {
-        importerIni();
-    } catch (const Error &e) {
-        // Told once the window is there; the start goes on.
-        QTimer::singleShot(0, this, [e] { throw e; });
-    }
     m_fond->charger();
     restaurerTaille();
     m_bandeau->poserLoop(Reglages::courant().booleen(Cle::Loop));
@@ -178,14 +169,6 @@ void Frmmain::charger()
         if (m_peinte)
             montrerPremiere();
     });
-}
-
-void Frmmain::importerIni()
-{
-    const QDir dossier(Dossier::courant().racine());
-    const QStringList fichiers = dossier.entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Name);
-    if (!fichiers.isEmpty())
-        Reglages::courant().importerIni(dossier.filePath(fichiers.first()));
 }
 
 void Frmmain::restaurerTaille()

@@ -22,7 +22,7 @@ class Frmmain : public Forme
 public:
     Frmmain();
 
-    /// The start-up steps: upgrade, settings file, background, size, list of the stored kind.
+    /// What is read at the start: background, size, list of the stored kind.
     void charger();
     /// Shows a kind of list and remembers it. Throws Error.
     void montrerTri(General::Tri tri);
@@ -75,7 +75,6 @@ private:
     void construireCorps(QBoxLayout *page);
     void brancher();
     void raccourcis();
-    void importerIni();
     void restaurerTaille();
     void memoriserTaille();
 

@@ -15,7 +15,7 @@ constexpr qint64 Fenetre = 1 << 20;
 constexpr qint64 AvisDetaille = 10'000;
 constexpr quint16 ChampsSignales = 64;
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Journal)
 };
@@ -48,7 +48,7 @@ void poser(std::string &octets, const T &valeur)
 
 [[noreturn]] void echouer(const QTemporaryFile &fichier)
 {
-    throw Error(Textes::tr("Le fichier qui garde de quoi annuler ne peut pas être écrit."), QDir::tempPath(),
+    throw Error(Tr::tr("Le fichier qui garde de quoi annuler ne peut pas être écrit."), QDir::tempPath(),
         fichier.errorString());
 }
 
@@ -163,7 +163,7 @@ std::string_view Bande::octets(qint64 debut, qint64 longueur, bool versLeDebut) 
         m_fichier->seek(m_debutFenetre);
         m_fenetre = m_fichier->read(std::min(etendue, m_deposes - m_debutFenetre));
         if (debut + longueur > m_debutFenetre + m_fenetre.size())
-            throw Error(Textes::tr("Le fichier qui garde de quoi annuler ne peut pas être relu."),
+            throw Error(Tr::tr("Le fichier qui garde de quoi annuler ne peut pas être relu."),
                 QDir::tempPath(), m_fichier->errorString());
     }
     return {m_fenetre.constData() + (debut - m_debutFenetre), static_cast<std::size_t>(longueur)};

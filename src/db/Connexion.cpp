@@ -25,7 +25,7 @@ std::map<QString, std::weak_ptr<Connexion>> &ouvertes()
     return connexions;
 }
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Base)
 };
@@ -75,7 +75,7 @@ Connexion::Connexion(const QString &chemin, Entete::Nature nature)
 void Connexion::ouvrir(Entete::Nature nature)
 {
     if (sqlite3_db_readonly(m_db->getHandle(), "main") == 1)
-        throw Error(Error::Sorte::LectureSeule, Textes::tr("La base est en lecture seule."), m_chemin);
+        throw Error(Error::Sorte::LectureSeule, Tr::tr("La base est en lecture seule."), m_chemin);
     Collation::Enregistrer(m_db->getHandle());
     // A first read alone would not hold the file against others: the empty exclusive transaction does.
     m_db->exec("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT; PRAGMA journal_mode=DELETE");
@@ -127,7 +127,7 @@ void Connexion::executer(const std::function<void()> &travail)
     const Bande::Marque marque = m_journal.marque();
     // When the engine gave a transaction up by itself, what was meant to be one must not go on piece by piece.
     if (profondeur > 0 && sqlite3_get_autocommit(m_db->getHandle()))
-        throw Error(Textes::tr("L'opération a été interrompue."), m_chemin);
+        throw Error(Tr::tr("L'opération a été interrompue."), m_chemin);
     try {
         travail();
         m_journal.relever();

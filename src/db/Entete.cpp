@@ -31,7 +31,7 @@ qint64 longueurPromise(const QByteArray &octets)
     return fiable ? (page == 1 ? 65536 : page) * mot(octets, PositionPages) : 0;
 }
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Entete)
 };
@@ -42,28 +42,27 @@ void Entete::Verifier(const QString &chemin, Nature nature)
 {
     QFile fichier(chemin);
     if (!fichier.exists())
-        throw Error(Error::Sorte::Introuvable, Textes::tr("Le fichier est introuvable."), chemin);
+        throw Error(Error::Sorte::Introuvable, Tr::tr("Le fichier est introuvable."), chemin);
     if (!fichier.open(QIODevice::ReadOnly))
-        throw Error(Textes::tr("Le fichier ne peut pas être ouvert."), chemin, fichier.errorString());
+        throw Error(Tr::tr("Le fichier ne peut pas être ouvert."), chemin, fichier.errorString());
     const QByteArray octets = fichier.read(Taille);
     if (octets.mid(4).startsWith("Standard Jet DB") || octets.mid(4).startsWith("Standard ACE DB"))
         throw Error(
-            Error::Sorte::Ancienne, Textes::tr("Ce fichier est au format d'une ancienne version."), chemin);
+            Error::Sorte::Ancienne, Tr::tr("Ce fichier est au format d'une ancienne version."), chemin);
     if (octets.isEmpty())
-        throw Error(Error::Sorte::Etrangere, Textes::tr("Le fichier est vide."), chemin);
+        throw Error(Error::Sorte::Etrangere, Tr::tr("Le fichier est vide."), chemin);
     const QByteArray magie("SQLite format 3", 16);
     if (octets.size() < Taille || !octets.startsWith(magie)
         || mot(octets, PositionApplication) != static_cast<quint32>(nature))
-        throw Error(Error::Sorte::Etrangere, Textes::tr("Ce fichier n'est pas une base de Bulleo."), chemin);
+        throw Error(Error::Sorte::Etrangere, Tr::tr("Ce fichier n'est pas une base de Bulleo."), chemin);
     const int palier = Version::Palier(static_cast<int>(mot(octets, PositionVersion)));
     if (nature == Nature::Collection && palier > Version::DernierPalier)
         throw Error(Error::Sorte::PlusRecente,
-            Textes::tr(
-                "Cette base vient d'une version plus récente de Bulleo : il faut celle-là pour l'ouvrir."),
+            Tr::tr("Cette base vient d'une version plus récente de Bulleo : il faut celle-là pour l'ouvrir."),
             chemin);
     // After a crash the length may be wrong until the engine has rolled the journal back.
     const bool enSuspens = QFileInfo::exists(chemin + QStringLiteral("-journal"));
     if (!enSuspens && fichier.size() < longueurPromise(octets))
         throw Error(Error::Sorte::Abimee,
-            Textes::tr("Le fichier est abîmé : il est plus court qu'il ne devrait."), chemin);
+            Tr::tr("Le fichier est abîmé : il est plus court qu'il ne devrait."), chemin);
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Base)
 };
@@ -20,15 +20,15 @@ Error Refus::Dire(const SQLite::Exception &e, const QString &chemin)
     switch (e.getErrorCode()) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return {Sorte::EnUsage, Textes::tr("La base est utilisée par un autre programme."), chemin};
+        return {Sorte::EnUsage, Tr::tr("La base est utilisée par un autre programme."), chemin};
     case SQLITE_READONLY:
-        return {Sorte::LectureSeule, Textes::tr("La base est en lecture seule."), chemin};
+        return {Sorte::LectureSeule, Tr::tr("La base est en lecture seule."), chemin};
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
-        return {Sorte::Abimee, Textes::tr("La base est abîmée."), chemin, mots};
+        return {Sorte::Abimee, Tr::tr("La base est abîmée."), chemin, mots};
     case SQLITE_FULL:
-        return {Textes::tr("Le disque est plein."), chemin, mots};
+        return {Tr::tr("Le disque est plein."), chemin, mots};
     default:
-        return {Textes::tr("La base a refusé l'opération."), chemin, mots};
+        return {Tr::tr("La base a refusé l'opération."), chemin, mots};
     }
 }

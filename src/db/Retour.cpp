@@ -16,7 +16,7 @@
 
 namespace {
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Journal)
 };
@@ -61,7 +61,7 @@ public:
     {
         if (empreinteActuelle(note.cle) != (note.apres ? std::optional(note.apres) : std::nullopt))
             throw Error(Error::Sorte::Perimee,
-                Textes::tr("Cette modification ne peut plus être reprise : la fiche a changé depuis."), {});
+                Tr::tr("Cette modification ne peut plus être reprise : la fiche a changé depuis."), {});
         if (note.sorte == Bande::Sorte::Ajout)
             retirer(note.cle);
         else if (note.sorte == Bande::Sorte::Retrait)

@@ -56,10 +56,10 @@ QString motDe(Vue vue, const QVariant &stockee)
     return connu ? texte(mots.textes[static_cast<std::size_t>(rang)]) : QString();
 }
 
-QString dire(const char *texte)
+struct Tr
 {
-    return QCoreApplication::translate("Fiche", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Fiche)
+};
 
 QString nombreOuRien(const QVariant &valeur)
 {
@@ -202,13 +202,13 @@ QString Fiche::RaisonDuRefus(const Champ &champ)
 {
     switch (champ.regle) {
     case Regle::Tome:
-        return dire(QT_TRANSLATE_NOOP("Fiche", "Le numéro est un nombre entier de 0 à 999."));
+        return Tr::tr("Le numéro est un nombre entier de 0 à 999.");
     case Regle::Prix:
-        return dire(QT_TRANSLATE_NOOP("Fiche", "Le prix est un nombre, comme 12,50."));
+        return Tr::tr("Le prix est un nombre, comme 12,50.");
     case Regle::Pages:
-        return dire(QT_TRANSLATE_NOOP("Fiche", "Le nombre de pages est un nombre."));
+        return Tr::tr("Le nombre de pages est un nombre.");
     default:
-        return dire(QT_TRANSLATE_NOOP("Fiche", "Il faut ici un nombre entier."));
+        return Tr::tr("Il faut ici un nombre entier.");
     }
 }
 

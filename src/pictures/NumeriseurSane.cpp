@@ -11,10 +11,10 @@ namespace {
 constexpr int PointsParPouce = 200;
 constexpr int Morceau = 1 << 16;
 
-QString dire(const char *texte)
+struct Tr
 {
-    return QCoreApplication::translate("Numeriseur", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Numeriseur)
+};
 
 /// The library, loaded when a scanner is first wanted: it brings a dozen others along.
 class Sane
@@ -43,8 +43,7 @@ public:
     bool la() const { return m_la; }
     Error echec(SANE_Status statut) const
     {
-        return Error(dire(QT_TRANSLATE_NOOP("Numeriseur", "Le scanner a refusé l'opération.")), {},
-            QString::fromLocal8Bit(status(statut)));
+        return Error(Tr::tr("Le scanner a refusé l'opération."), {}, QString::fromLocal8Bit(status(statut)));
     }
     void verifier(SANE_Status statut) const
     {
@@ -138,8 +137,7 @@ QImage composer(const SANE_Parameters &p, const QByteArray &octets)
         && p.bytes_per_line >= p.pixels_per_line * (couleur ? 3 : 1);
     const int lignes = connu ? static_cast<int>(octets.size() / p.bytes_per_line) : 0;
     if (lignes == 0)
-        throw Error(
-            dire(QT_TRANSLATE_NOOP("Numeriseur", "Le scanner a rendu une image d'un format inconnu.")), {});
+        throw Error(Tr::tr("Le scanner a rendu une image d'un format inconnu."), {});
     return QImage(reinterpret_cast<const uchar *>(octets.constData()), p.pixels_per_line, lignes,
         p.bytes_per_line, couleur ? QImage::Format_RGB888 : QImage::Format_Grayscale8)
         .convertToFormat(QImage::Format_RGB32);
@@ -168,7 +166,7 @@ public:
     {
         const Sane sane;
         if (!sane.la())
-            throw Error(dire(QT_TRANSLATE_NOOP("Numeriseur", "Il n'y a pas de scanner.")), {});
+            throw Error(Tr::tr("Il n'y a pas de scanner."), {});
         const Appareil appareil(sane, source);
         appareil.regler(SANE_NAME_SCAN_MODE, SANE_VALUE_SCAN_MODE_COLOR);
         appareil.regler(SANE_NAME_BIT_DEPTH, 8);

@@ -374,7 +374,7 @@ void Impression::montrerApercu()
             });
         } catch (const Error &e) {
             // The dialog is in the middle of its own work: told once that is over.
-            QTimer::singleShot(0, this, [e] { throw e; });
+            Messages::Signaler(e);
         }
     });
     dialogue.exec();

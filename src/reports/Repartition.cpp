@@ -17,14 +17,14 @@ namespace {
 
 constexpr std::size_t PlusGrands = 15;
 
-QString dire(const char *texte)
+struct Tr
 {
-    return QCoreApplication::translate("Repartition", texte);
-}
+    Q_DECLARE_TR_FUNCTIONS(Repartition)
+};
 
 Part inconnue()
 {
-    return {dire(QT_TRANSLATE_NOOP("Repartition", "Inconnu")), {}, {}, true};
+    return {Tr::tr("Inconnu"), {}, {}, true};
 }
 
 void compterAlbums(Graphique &graphique)
@@ -69,7 +69,7 @@ void regrouper(std::vector<Part> &parts)
         return;
     const auto debut = parts.begin() + static_cast<std::ptrdiff_t>(PlusGrands);
     const auto fin = parts.begin() + static_cast<std::ptrdiff_t>(connues);
-    Part reste{dire(QT_TRANSLATE_NOOP("Repartition", "Autres (%1)")).arg(fin - debut), {}, {}, false};
+    Part reste{Tr::tr("Autres (%1)").arg(fin - debut), {}, {}, false};
     for (auto part = debut; part != fin; ++part)
         reste.albums.insert(reste.albums.end(), part->albums.begin(), part->albums.end());
     std::sort(reste.albums.begin(), reste.albums.end());
@@ -207,8 +207,7 @@ Graphique lireValeurs()
         const auto cote = cotes.find(achat.album);
         return {achat.prix, cote == cotes.end() ? 0 : cote->second};
     };
-    return {dire(QT_TRANSLATE_NOOP("Repartition", "Valeur par année d'achat")), true, true,
-        {{dire(QT_TRANSLATE_NOOP("Repartition", "Payé"))}, {dire(QT_TRANSLATE_NOOP("Repartition", "Coté"))}},
+    return {Tr::tr("Valeur par année d'achat"), true, true, {{Tr::tr("Payé")}, {Tr::tr("Coté")}},
         repartir(lireAnnees("DA"), 1, valeurs)};
 }
 
@@ -220,13 +219,13 @@ Graphique Repartition::Lire(Sujet sujet)
     Graphique g;
     switch (sujet) {
     case Sujet::Genres:
-        g = {dire(QT_TRANSLATE_NOOP("Repartition", "Albums par genre")), false, false, {albums},
+        g = {Tr::tr("Albums par genre"), false, false, {albums},
             lireLiens("SELECT g.Nom, a.Num From Album a left join GenreAlbums l on l.NAlbum = a.Num"
                       " left join Genre g on g.NGenre = l.NGenre where a.Num > 0")};
         compterAlbums(g);
         break;
     case Sujet::Editeurs:
-        g = {dire(QT_TRANSLATE_NOOP("Repartition", "Albums par éditeur")), false, false, {albums},
+        g = {Tr::tr("Albums par éditeur"), false, false, {albums},
             lireLiens("SELECT e.Nom, a.Num From Album a left join EditeurAlbums l on l.NAlbum = a.Num"
                       " left join Editeur e on e.NEdit = l.NEdit where a.Num > 0")};
         regrouper(g.parts);
@@ -234,16 +233,13 @@ Graphique Repartition::Lire(Sujet sujet)
         break;
     case Sujet::Decennies: {
         constexpr int Decennie = 10;
-        g = {dire(QT_TRANSLATE_NOOP("Repartition", "Albums par décennie de parution")), true, false, {albums},
+        g = {Tr::tr("Albums par décennie de parution"), true, false, {albums},
             repartir(lireAnnees("Dateparu"), Decennie, un)};
         break;
     }
     case Sujet::Croissance:
-        g = {dire(QT_TRANSLATE_NOOP("Repartition", "Croissance de la collection, par date d'achat")), true,
-            false,
-            {{dire(QT_TRANSLATE_NOOP("Repartition", "Achetés dans l'année"))},
-                {dire(QT_TRANSLATE_NOOP("Repartition", "En tout")), true}},
-            repartir(lireAnnees("DA"), 1, un)};
+        g = {Tr::tr("Croissance de la collection, par date d'achat"), true, false,
+            {{Tr::tr("Achetés dans l'année")}, {Tr::tr("En tout"), true}}, repartir(lireAnnees("DA"), 1, un)};
         cumuler(g.parts);
         break;
     case Sujet::Valeurs:

@@ -14,8 +14,10 @@ class tst_couches : public QObject
 private Q_SLOTS:
     void initTestCase();
     void lesDossiersSeConnaissentDansUnSeulSens();
+    void aucunCercleEntreModulesNiDossiers();
     void laLogiqueNeVoitAucunWidget();
     void lesFormesNeParlentPasSql();
+    void lesFormesNEcriventQueParUnActe();
     void seulLeBureauConnaitLaFenetre();
 
 private:
@@ -32,20 +34,67 @@ private:
 
 namespace {
 
-/// core, db, model, acts, then the rooms, which do not know each other, then app, which knows them all.
-int rangDe(const QString &dossier)
-{
-    static const QStringList ordre{
-        QStringLiteral("core"), QStringLiteral("db"), QStringLiteral("model"), QStringLiteral("acts")};
-    if (dossier == QLatin1String("app"))
-        return static_cast<int>(ordre.size()) + 1;
-    const qsizetype rang = ordre.indexOf(dossier);
-    return static_cast<int>(rang < 0 ? ordre.size() : rang);
-}
+/// The floors, each knowing those above it in this list; what is not named is a room of the top floor.
+const QStringList Etages{QStringLiteral("core"), QStringLiteral("core/ui"), QStringLiteral("db/schema"),
+    QStringLiteral("db"), QStringLiteral("db/files"), QStringLiteral("db/conversion"),
+    QStringLiteral("model"), QStringLiteral("acts")};
+const QString Sommet = QStringLiteral("app");
 
 QString dossierDe(const QString &fichier)
 {
-    return fichier.section(u'/', 0, 0);
+    return fichier.section(u'/', 0, -2);
+}
+
+qsizetype rangDe(const QString &dossier)
+{
+    if (dossier == Sommet)
+        return Etages.size() + 1;
+    const qsizetype rang = Etages.indexOf(dossier);
+    return rang < 0 ? Etages.size() : rang;
+}
+
+/// A folder and what is under it are one room; a module of a room may have programs of its own under it.
+bool memePiece(const QString &dossier, const QString &autre)
+{
+    return dossier == autre
+        || (rangDe(dossier) == Etages.size() && dossier.section(u'/', 0, 0) == autre.section(u'/', 0, 0));
+}
+
+/// A header and its source are one module.
+QString moduleDe(const QString &fichier)
+{
+    return fichier.section(u'.', 0, 0);
+}
+
+using Graphe = QMap<QString, QSet<QString>>;
+
+/// The way from a place back to itself; empty when there is none.
+QStringList chercherCercle(const Graphe &graphe, const QString &lieu, QStringList chemin, QSet<QString> &sus)
+{
+    const qsizetype debut = chemin.indexOf(lieu);
+    chemin << lieu;
+    if (debut >= 0)
+        return chemin.mid(debut);
+    if (sus.contains(lieu))
+        return {};
+    for (const QString &suivant : graphe.value(lieu)) {
+        const QStringList cercle = chercherCercle(graphe, suivant, chemin, sus);
+        if (!cercle.isEmpty())
+            return cercle;
+    }
+    sus << lieu;
+    return {};
+}
+
+QString unCercle(const Graphe &graphe)
+{
+    QSet<QString> sus;
+    for (auto lieu = graphe.keyBegin(); lieu != graphe.keyEnd(); ++lieu) {
+        const QStringList cercle = chercherCercle(graphe, *lieu, {}, sus);
+        if (!cercle.isEmpty())
+            return cercle.join(QStringLiteral(" -> "));
+    }
+    return {};
 }
 
 }
@@ -89,10 +138,29 @@ void tst_couches::lesDossiersSeConnaissentDansUnSeulSens()
         const QString dossier = dossierDe(fichier);
         const QStringList chemins = inclusions(fichier);
         for (const QString &chemin : chemins) {
-            const bool permis = dossierDe(chemin) == dossier || rangDe(dossierDe(chemin)) < rangDe(dossier);
+            const QString vu = dossierDe(chemin);
+            const bool permis = memePiece(dossier, vu) || rangDe(vu) < rangDe(dossier);
             QVERIFY2(chemin.contains(u'/') && permis, qPrintable(fichier + QStringLiteral(" -> ") + chemin));
         }
     }
+}
+
+void tst_couches::aucunCercleEntreModulesNiDossiers()
+{
+    Graphe modules;
+    Graphe dossiers;
+    for (const QString &fichier : std::as_const(m_fichiers)) {
+        const QStringList chemins = inclusions(fichier);
+        for (const QString &chemin : chemins) {
+            if (moduleDe(chemin) != moduleDe(fichier))
+                modules[moduleDe(fichier)] << moduleDe(chemin);
+            if (dossierDe(chemin) != dossierDe(fichier))
+                dossiers[dossierDe(fichier)] << dossierDe(chemin);
+        }
+    }
+    QVERIFY(modules.size() > 60 && dossiers.size() > 12);
+    QCOMPARE(unCercle(modules), QString());
+    QCOMPARE(unCercle(dossiers), QString());
 }
 
 void tst_couches::laLogiqueNeVoitAucunWidget()
@@ -101,7 +169,7 @@ void tst_couches::laLogiqueNeVoitAucunWidget()
     QVERIFY2(!m_maison[QStringLiteral("liensLogique")].contains(QStringLiteral("Widgets")),
         qPrintable(m_maison[QStringLiteral("liensLogique")]));
     for (const QString &fichier : std::as_const(m_fichiers)) {
-        if (estForme(fichier) || dossierDe(fichier) == QLatin1String("app"))
+        if (estForme(fichier) || dossierDe(fichier) == Sommet)
             continue;
         const QStringList chemins = inclusions(fichier);
         for (const QString &chemin : chemins)
@@ -116,6 +184,21 @@ void tst_couches::lesFormesNeParlentPasSql()
     for (const QString &fichier : std::as_const(m_formes)) {
         QVERIFY2(!contenu(fichier).contains(sql), qPrintable(fichier));
         QVERIFY2(!inclusions(fichier).contains(QStringLiteral("db/Base.h")), qPrintable(fichier));
+    }
+}
+
+/// What writes rows without an act is for acts alone.
+void tst_couches::lesFormesNEcriventQueParUnActe()
+{
+    static const QStringList nus{QStringLiteral("acts/Creer.h"), QStringLiteral("acts/EcrireFiche.h"),
+        QStringLiteral("acts/EcrireGrilles.h"), QStringLiteral("db/AccesBase.h"),
+        QStringLiteral("db/Recordset.h"), QStringLiteral("db/Transaction.h")};
+    for (const QString &fichier : std::as_const(m_fichiers)) {
+        if (!estForme(fichier) && dossierDe(fichier) != Sommet)
+            continue;
+        const QStringList chemins = inclusions(fichier);
+        for (const QString &chemin : chemins)
+            QVERIFY2(!nus.contains(chemin), qPrintable(fichier + QStringLiteral(" -> ") + chemin));
     }
 }
 

@@ -1,9 +1,12 @@
 #include "core/ui/Messages.h"
 
+#include "core/Error.h"
 #include "core/Traduction.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QTimer>
 
 namespace {
 
@@ -74,6 +77,12 @@ void Messages::Arreter(QWidget *parent, const QString &texte)
 bool Messages::Demander(QWidget *parent, const QString &question)
 {
     return choisir(parent, QMessageBox::Question, question, QMessageBox::Yes, QMessageBox::No);
+}
+
+void Messages::Signaler(const Error &erreur)
+{
+    // The application's gate makes a box of it, as of any other error.
+    QTimer::singleShot(0, QCoreApplication::instance(), [erreur] { throw erreur; });
 }
 
 bool Messages::Reessayer(QWidget *parent, const QString &texte)

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+class Error;
 class QWidget;
 
 /// The one door for message boxes and file dialogs; all bear the program's title.
@@ -14,6 +15,8 @@ void Avertir(QWidget *parent, const QString &texte);
 void Arreter(QWidget *parent, const QString &texte);
 /// Yes or no, with the question icon. False when the box is closed in another way.
 bool Demander(QWidget *parent, const QString &question);
+/// Tells what broke from the event loop, once whatever is under way is over.
+void Signaler(const Error &erreur);
 /// Try again or give up.
 bool Reessayer(QWidget *parent, const QString &texte);
 

@@ -24,7 +24,7 @@ using Conversion::Fini;
 using Conversion::Rapport;
 using Conversion::TableLue;
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Conversion)
 };
@@ -132,18 +132,18 @@ void suivreJusquAuBout(
         entendre();
         if (suivre && !suivre(rapport.avance)) {
             Outil::Arreter(processus);
-            return echouer(rapport, Code::Annulee, Textes::tr("La conversion a été annulée."));
+            return echouer(rapport, Code::Annulee, Tr::tr("La conversion a été annulée."));
         }
         if (limite.hasExpired()) {
             Outil::Arreter(processus);
             return echouer(
-                rapport, Code::Abimee, Textes::tr("La conversion ne finit pas : le fichier est abîmé."));
+                rapport, Code::Abimee, Tr::tr("La conversion ne finit pas : le fichier est abîmé."));
         }
     }
     entendre();
     if (!Outil::AReussi(processus) || rapport.nature.isEmpty())
-        echouer(rapport, Code::Abimee,
-            Textes::tr("La conversion s'est arrêtée en chemin : le fichier est abîmé."));
+        echouer(
+            rapport, Code::Abimee, Tr::tr("La conversion s'est arrêtée en chemin : le fichier est abîmé."));
 }
 
 }
@@ -194,7 +194,7 @@ Conversion::Rapport Conversion::Convertir(
     processus.setStandardErrorFile(QProcess::nullDevice());
     Outil::Lancer(processus, QStringLiteral("bulleo-convertir"), {ancien, nouveau});
     if (!processus.waitForStarted()) {
-        echouer(rapport, Code::Absent, Textes::tr("Le programme de conversion est introuvable."));
+        echouer(rapport, Code::Absent, Tr::tr("Le programme de conversion est introuvable."));
         return rapport;
     }
     suivreJusquAuBout(processus, rapport, suivre, silenceMs);

@@ -14,7 +14,7 @@
 
 namespace {
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Base)
 };
@@ -22,10 +22,10 @@ struct Textes
 void creer(const QString &chemin, Entete::Nature nature, int palier, const QStringList &instructions)
 {
     const auto echec = [&](const QString &details) {
-        throw Error(Textes::tr("La base ne peut pas être créée."), chemin, details);
+        throw Error(Tr::tr("La base ne peut pas être créée."), chemin, details);
     };
     if (QFileInfo::exists(chemin))
-        echec(Textes::tr("Ce fichier existe déjà."));
+        echec(Tr::tr("Ce fichier existe déjà."));
     try {
         SQLite::Database db(chemin.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         Collation::Enregistrer(db.getHandle());

@@ -25,7 +25,7 @@
 
 namespace {
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Livraison)
 };
@@ -70,12 +70,12 @@ bool estVide(const QString &dossier)
 void creerDossier(const QString &chemin)
 {
     if (!QDir().mkpath(chemin))
-        throw Error(Textes::tr("Ce dossier ne peut pas être créé."), chemin);
+        throw Error(Tr::tr("Ce dossier ne peut pas être créé."), chemin);
 }
 
 [[noreturn]] void refuser(const QString &cible, const QString &details)
 {
-    throw Error(Textes::tr("Ce fichier ne peut pas être copié."), cible, details);
+    throw Error(Tr::tr("Ce fichier ne peut pas être copié."), cible, details);
 }
 
 /// Copies a shipped file to where there is none. The copy has no name before it is whole, so that a first start

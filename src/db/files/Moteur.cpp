@@ -17,7 +17,7 @@
 
 namespace {
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Base)
 };
@@ -86,8 +86,8 @@ void Moteur::Remplacer(const QString &neuf, const QString &cible)
     std::error_code erreur;
     std::filesystem::rename(enChemin(neuf), enChemin(cible), erreur);
     if (erreur)
-        throw Error(Textes::tr("Ce fichier ne peut pas être remplacé."), cible,
-            QString::fromStdString(erreur.message()));
+        throw Error(
+            Tr::tr("Ce fichier ne peut pas être remplacé."), cible, QString::fromStdString(erreur.message()));
 }
 
 void Moteur::Doubler(const QString &chemin, const QString &autre)

@@ -26,7 +26,7 @@ namespace {
 
 const QString Journal = QStringLiteral("-journal");
 
-struct Textes
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(Restauration)
 };
@@ -77,7 +77,7 @@ void lireContenu(const QString &chemin, Examen &examen)
     const QString manquante = tableManquante(*db);
     if (!manquante.isEmpty()) {
         examen.etat = Etat::Abimee;
-        examen.mots = Textes::tr("Une table manque :") + u' ' + manquante;
+        examen.mots = Tr::tr("Une table manque :") + u' ' + manquante;
         return;
     }
     examen.albums = db->execAndGet("SELECT count(*) FROM Album").getInt();
@@ -98,7 +98,7 @@ void controler(const QString &chemin, Examen &examen)
         // Taking back what a crash left unfinished would write into a file that is only looked at.
         if (e.sorte() != Error::Sorte::LectureSeule)
             throw;
-        examen.mots = Textes::tr("Une écriture y est restée inachevée : ouvrez-la d'abord à sa place.");
+        examen.mots = Tr::tr("Une écriture y est restée inachevée : ouvrez-la d'abord à sa place.");
     }
 }
 
@@ -167,18 +167,18 @@ QString Remplacement::RaisonDuRefus(Etat etat)
     case Etat::Vierge:
         return {};
     case Etat::Courante:
-        return Textes::tr("C'est la base en service.");
+        return Tr::tr("C'est la base en service.");
     case Etat::Ancienne:
-        return Textes::tr("Cette base est d'une ancienne version : elle est à convertir d'abord.");
+        return Tr::tr("Cette base est d'une ancienne version : elle est à convertir d'abord.");
     case Etat::Catalogue:
-        return Textes::tr("C'est un catalogue de référence, pas une base.");
+        return Tr::tr("C'est un catalogue de référence, pas une base.");
     case Etat::PlusRecente:
-        return Textes::tr(
+        return Tr::tr(
             "Cette base vient d'une version plus récente de Bulleo : il faut celle-là pour l'ouvrir.");
     case Etat::Abimee:
-        return Textes::tr("Cette base est abîmée.");
+        return Tr::tr("Cette base est abîmée.");
     case Etat::Etrangere:
-        return Textes::tr("Ce fichier n'est pas une base de Bulleo.");
+        return Tr::tr("Ce fichier n'est pas une base de Bulleo.");
     }
     Q_UNREACHABLE();
 }

@@ -1,0 +1,16 @@
+#pragma once
+
+class Dossier;
+
+/// What is done before the first window is filled.
+namespace Demarrage {
+
+/// Takes hold of the application folder and prepares it; false when another copy of the program has it, which the
+/// user was told.
+bool PrendreLeDossier(Dossier &dossier);
+
+/// Looks after a collection that was damaged, brings it up to the last schema step, and takes in a settings file that
+/// lies in the folder. What fails is told once the window is there: the start goes on with what there is.
+void MettreEnEtat();
+
+}
