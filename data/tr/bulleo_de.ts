@@ -283,6 +283,10 @@
         <source>Ce fichier ne peut pas être remplacé.</source>
         <translation>Diese Datei kann nicht ersetzt werden.</translation>
     </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite.</source>
+        <translation>Die Kopie konnte nicht erstellt werden.</translation>
+    </message>
 </context>
 <context>
     <name>Bureau</name>
@@ -359,6 +363,13 @@
     </message>
 </context>
 <context>
+    <name>Dossier</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>Dieser Ordner kann nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -398,6 +409,10 @@
     <message>
         <source>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</source>
         <translation>Die Datei ist beschädigt: Sie ist kürzer, als sie sein sollte.</translation>
+    </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Diese Datenbank stammt von einer neueren Version von Bulleo: Nur mit dieser lässt sie sich öffnen.</translation>
     </message>
 </context>
 <context>
@@ -532,20 +547,6 @@
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
         <translation>Der soeben eingegebene Text kann nicht gespeichert werden. Verwerfen?</translation>
-    </message>
-</context>
-<context>
-    <name>General</name>
-    <message>
-        <source>La copie n&apos;a pas pu être faite.</source>
-        <translation>Die Kopie konnte nicht erstellt werden.</translation>
-    </message>
-</context>
-<context>
-    <name>Historique</name>
-    <message>
-        <source>Modification</source>
-        <translation>Änderung</translation>
     </message>
 </context>
 <context>
@@ -755,6 +756,14 @@
     <message>
         <source>Cette modification ne peut plus être reprise : la fiche a changé depuis.</source>
         <translation>Diese Änderung kann nicht mehr rückgängig gemacht oder wiederholt werden: Die Karte wurde inzwischen geändert.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être écrit.</source>
+        <translation>Die Datei, die das Rückgängigmachen ermöglicht, kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être relu.</source>
+        <translation>Die Datei, die das Rückgängigmachen ermöglicht, kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1168,10 @@
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
         <translation>Diese Datei ist keine Datenbank von Bulleo.</translation>
     </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Diese Datenbank stammt von einer neueren Version von Bulleo: Nur mit dieser lässt sie sich öffnen.</translation>
+    </message>
 </context>
 <context>
     <name>Saisie</name>
@@ -1235,6 +1248,10 @@
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
         <translation>Die Statistikseite kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Liens sans fiche ôtés : %1</source>
+        <translation>Entfernte Verknüpfungen ohne Karte: %1</translation>
     </message>
 </context>
 <context>

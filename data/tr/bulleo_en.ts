@@ -283,6 +283,10 @@
         <source>Ce fichier ne peut pas être remplacé.</source>
         <translation>This file cannot be replaced.</translation>
     </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite.</source>
+        <translation>The copy could not be made.</translation>
+    </message>
 </context>
 <context>
     <name>Bureau</name>
@@ -359,6 +363,13 @@
     </message>
 </context>
 <context>
+    <name>Dossier</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>This folder cannot be created.</translation>
+    </message>
+</context>
+<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -398,6 +409,10 @@
     <message>
         <source>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</source>
         <translation>The file is damaged: it is shorter than it should be.</translation>
+    </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>This database comes from a newer version of Bulleo: it takes that one to open it.</translation>
     </message>
 </context>
 <context>
@@ -532,20 +547,6 @@
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
         <translation>The text that you have just typed cannot be saved. Lose it?</translation>
-    </message>
-</context>
-<context>
-    <name>General</name>
-    <message>
-        <source>La copie n&apos;a pas pu être faite.</source>
-        <translation>The copy could not be made.</translation>
-    </message>
-</context>
-<context>
-    <name>Historique</name>
-    <message>
-        <source>Modification</source>
-        <translation>Change</translation>
     </message>
 </context>
 <context>
@@ -755,6 +756,14 @@
     <message>
         <source>Cette modification ne peut plus être reprise : la fiche a changé depuis.</source>
         <translation>This change can no longer be undone or redone: the record has changed since.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être écrit.</source>
+        <translation>The file that keeps what undo needs cannot be written.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être relu.</source>
+        <translation>The file that keeps what undo needs cannot be read.</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1168,10 @@
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
         <translation>This file is not a Bulleo database.</translation>
     </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>This database comes from a newer version of Bulleo: it takes that one to open it.</translation>
+    </message>
 </context>
 <context>
     <name>Saisie</name>
@@ -1235,6 +1248,10 @@
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
         <translation>The statistics page cannot be written.</translation>
+    </message>
+    <message>
+        <source>Liens sans fiche ôtés : %1</source>
+        <translation>Links without a record removed: %1</translation>
     </message>
 </context>
 <context>

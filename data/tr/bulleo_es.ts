@@ -283,6 +283,10 @@
         <source>Ce fichier ne peut pas être remplacé.</source>
         <translation>Este archivo no se puede reemplazar.</translation>
     </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite.</source>
+        <translation>No se ha podido hacer la copia.</translation>
+    </message>
 </context>
 <context>
     <name>Bureau</name>
@@ -359,6 +363,13 @@
     </message>
 </context>
 <context>
+    <name>Dossier</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>Esta carpeta no se puede crear.</translation>
+    </message>
+</context>
+<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -398,6 +409,10 @@
     <message>
         <source>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</source>
         <translation>El archivo está dañado: es más corto de lo que debería.</translation>
+    </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Esta base viene de una versión más reciente de Bulleo: se necesita esa para abrirla.</translation>
     </message>
 </context>
 <context>
@@ -532,20 +547,6 @@
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
         <translation>El texto que acaba de escribir no se puede guardar. ¿Perderlo?</translation>
-    </message>
-</context>
-<context>
-    <name>General</name>
-    <message>
-        <source>La copie n&apos;a pas pu être faite.</source>
-        <translation>No se ha podido hacer la copia.</translation>
-    </message>
-</context>
-<context>
-    <name>Historique</name>
-    <message>
-        <source>Modification</source>
-        <translation>Cambio</translation>
     </message>
 </context>
 <context>
@@ -755,6 +756,14 @@
     <message>
         <source>Cette modification ne peut plus être reprise : la fiche a changé depuis.</source>
         <translation>Este cambio ya no se puede deshacer ni rehacer: la ficha ha cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être écrit.</source>
+        <translation>No se puede escribir el archivo que guarda lo necesario para deshacer.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être relu.</source>
+        <translation>No se puede leer el archivo que guarda lo necesario para deshacer.</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1168,10 @@
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
         <translation>Este archivo no es una base de datos de Bulleo.</translation>
     </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Esta base viene de una versión más reciente de Bulleo: se necesita esa para abrirla.</translation>
+    </message>
 </context>
 <context>
     <name>Saisie</name>
@@ -1235,6 +1248,10 @@
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
         <translation>No se puede escribir la página de estadísticas.</translation>
+    </message>
+    <message>
+        <source>Liens sans fiche ôtés : %1</source>
+        <translation>Enlaces sin ficha quitados: %1</translation>
     </message>
 </context>
 <context>

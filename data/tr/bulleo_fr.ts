@@ -283,6 +283,10 @@
         <source>Ce fichier ne peut pas être remplacé.</source>
         <translation>Ce fichier ne peut pas être remplacé.</translation>
     </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite.</source>
+        <translation>La copie n&apos;a pas pu être faite.</translation>
+    </message>
 </context>
 <context>
     <name>Bureau</name>
@@ -359,6 +363,13 @@
     </message>
 </context>
 <context>
+    <name>Dossier</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>Ce dossier ne peut pas être créé.</translation>
+    </message>
+</context>
+<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -398,6 +409,10 @@
     <message>
         <source>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</source>
         <translation>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</translation>
+    </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</translation>
     </message>
 </context>
 <context>
@@ -532,20 +547,6 @@
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
         <translation>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</translation>
-    </message>
-</context>
-<context>
-    <name>General</name>
-    <message>
-        <source>La copie n&apos;a pas pu être faite.</source>
-        <translation>La copie n&apos;a pas pu être faite.</translation>
-    </message>
-</context>
-<context>
-    <name>Historique</name>
-    <message>
-        <source>Modification</source>
-        <translation>Modification</translation>
     </message>
 </context>
 <context>
@@ -755,6 +756,14 @@
     <message>
         <source>Cette modification ne peut plus être reprise : la fiche a changé depuis.</source>
         <translation>Cette modification ne peut plus être reprise : la fiche a changé depuis.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être écrit.</source>
+        <translation>Le fichier qui garde de quoi annuler ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être relu.</source>
+        <translation>Le fichier qui garde de quoi annuler ne peut pas être relu.</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1168,10 @@
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
         <translation>Ce fichier n&apos;est pas une base de Bulleo.</translation>
     </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</translation>
+    </message>
 </context>
 <context>
     <name>Saisie</name>
@@ -1235,6 +1248,10 @@
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
         <translation>La page des statistiques ne peut pas être écrite.</translation>
+    </message>
+    <message>
+        <source>Liens sans fiche ôtés : %1</source>
+        <translation>Liens sans fiche ôtés : %1</translation>
     </message>
 </context>
 <context>

@@ -283,6 +283,10 @@
         <source>Ce fichier ne peut pas être remplacé.</source>
         <translation>Impossibile sostituire questo file.</translation>
     </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite.</source>
+        <translation>Non è stato possibile fare la copia.</translation>
+    </message>
 </context>
 <context>
     <name>Bureau</name>
@@ -359,6 +363,13 @@
     </message>
 </context>
 <context>
+    <name>Dossier</name>
+    <message>
+        <source>Ce dossier ne peut pas être créé.</source>
+        <translation>Impossibile creare questa cartella.</translation>
+    </message>
+</context>
+<context>
     <name>Edition</name>
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
@@ -398,6 +409,10 @@
     <message>
         <source>Le fichier est abîmé : il est plus court qu&apos;il ne devrait.</source>
         <translation>Il file è danneggiato: è più corto del dovuto.</translation>
+    </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Questo archivio viene da una versione più recente di Bulleo: serve quella per aprirlo.</translation>
     </message>
 </context>
 <context>
@@ -532,20 +547,6 @@
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
         <translation>Il testo appena scritto non può essere salvato. Perderlo?</translation>
-    </message>
-</context>
-<context>
-    <name>General</name>
-    <message>
-        <source>La copie n&apos;a pas pu être faite.</source>
-        <translation>Non è stato possibile fare la copia.</translation>
-    </message>
-</context>
-<context>
-    <name>Historique</name>
-    <message>
-        <source>Modification</source>
-        <translation>Modifica</translation>
     </message>
 </context>
 <context>
@@ -755,6 +756,14 @@
     <message>
         <source>Cette modification ne peut plus être reprise : la fiche a changé depuis.</source>
         <translation>Questa modifica non può più essere annullata né ripetuta: nel frattempo la scheda è cambiata.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être écrit.</source>
+        <translation>Il file che conserva quanto serve per annullare non può essere scritto.</translation>
+    </message>
+    <message>
+        <source>Le fichier qui garde de quoi annuler ne peut pas être relu.</source>
+        <translation>Il file che conserva quanto serve per annullare non può essere riletto.</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1168,10 @@
         <source>Ce fichier n&apos;est pas une base de Bulleo.</source>
         <translation>Questo file non è una base dati di Bulleo.</translation>
     </message>
+    <message>
+        <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
+        <translation>Questo archivio viene da una versione più recente di Bulleo: serve quella per aprirlo.</translation>
+    </message>
 </context>
 <context>
     <name>Saisie</name>
@@ -1235,6 +1248,10 @@
     <message>
         <source>La page des statistiques ne peut pas être écrite.</source>
         <translation>La pagina delle statistiche non può essere scritta.</translation>
+    </message>
+    <message>
+        <source>Liens sans fiche ôtés : %1</source>
+        <translation>Collegamenti senza scheda tolti: %1</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,8 @@ void Moteur::Copier(SQLite::Database &source, const QString &cible)
     try {
         copier(source, enCours);
     } catch (const SQLite::Exception &e) {
-        throw Refus::Dire(e, cible);
+        const Error refus = Refus::Dire(e, {});
+        throw Error(refus.sorte(), Tr::tr("La copie n'a pas pu être faite."), cible, refus.message());
     }
     Remplacer(enCours, cible);
 }
