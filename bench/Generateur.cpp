@@ -44,7 +44,7 @@ private:
 class Insertion
 {
 public:
-    Insertion(const Base &base, const std::string &sql)
+    Insertion(Base &base, const std::string &sql)
         : m_instruction(base.connexion().db(), sql)
     {
     }
@@ -61,7 +61,7 @@ private:
     SQLite::Statement m_instruction;
 };
 
-void remplirEntites(const Base &base, Tirage &tirage, int albums)
+void remplirEntites(Base &base, Tirage &tirage, int albums)
 {
     const int series = std::max(1, albums / 20);
     const int auteurs = std::max(1, albums * 8 / 100);
@@ -92,7 +92,7 @@ void remplirEntites(const Base &base, Tirage &tirage, int albums)
     }
 }
 
-void remplirAlbums(const Base &base, Tirage &tirage, int albums)
+void remplirAlbums(Base &base, Tirage &tirage, int albums)
 {
     const int series = std::max(1, albums / 20);
     const int auteurs = std::max(1, albums * 8 / 100);

@@ -3,6 +3,8 @@
 
 #include "Generateur.h"
 #include "acts/Creer.h"
+#include "acts/Historique.h"
+#include "acts/Importer.h"
 #include "core/Annonces.h"
 #include "core/Dossier.h"
 #include "core/Reglages.h"
@@ -10,6 +12,7 @@
 #include "db/Base.h"
 #include "db/Comparaison.h"
 #include "db/files/Livraison.h"
+#include "db/files/MiseANiveau.h"
 #include "db/schema/Tables.h"
 #include "model/ChargerAlbums.h"
 #include "model/ChargerAuteurs.h"
@@ -230,6 +233,52 @@ void preparer(benchmark::State &etat)
     }
 }
 
+/// A file of so many albums: series of ten, two thousand authors, the other columns as lists have them.
+void ecrireAlbums(const QString &chemin, int albums)
+{
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::WriteOnly))
+        qFatal("%s", qPrintable(fichier.errorString()));
+    fichier.write("Titre,Tome,Série,Date de "
+                  "parution,Éditeur,Broché,Couleur,Genre,Dessinateur,Scénariste,Résumé,Prix\n");
+    for (int i = 0; i < albums; ++i)
+        fichier.write(
+            QStringLiteral("L'album %1,%2,La série %3,%4,Éditeur %5,non,oui,Genre %6,Auteur %7,Auteur %8,"
+                           "\"Où l'on voit, une fois de plus, le héros %1.\",12.50\n")
+                .arg(i)
+                .arg(i % 10 + 1)
+                .arg(i / 10)
+                .arg(1950 + i % 70)
+                .arg(i % 50)
+                .arg(i % 20)
+                .arg(i % 2000)
+                .arg(i * 7 % 2000)
+                .toUtf8());
+}
+
+/// An import into an empty collection with what undo keeps of it, and with 1 its way back, too.
+void importer(benchmark::State &etat)
+{
+    const QTemporaryDir lieu;
+    const QString albums = lieu.filePath(QStringLiteral("albums.csv"));
+    ecrireAlbums(albums, static_cast<int>(etat.range(0)));
+    for (auto _ : etat) {
+        etat.PauseTiming();
+        const Dossier dossier(lieu.filePath(QStringLiteral("bulleo")), Dossier::Livre());
+        const Reglages reglages(lieu.filePath(QStringLiteral("reglages")));
+        const Traduction traduction;
+        Annonces annonces;
+        QDir(dossier.racine()).removeRecursively();
+        Livraison::Preparer();
+        Historique histoire(annonces);
+        etat.ResumeTiming();
+        Importer::ImporterAlbums(
+            albums, Importer::Proposer(Importer::Lire(albums).entete), Importer::Doublons::Prendre);
+        if (etat.range(1) == 1)
+            histoire.annuler();
+    }
+}
+
 /// A copy of the terrain's collection, which a measure may change.
 struct Copie
 {
@@ -338,6 +387,11 @@ BENCHMARK(chargerFicheDe)
     ->UseRealTime();
 BENCHMARK(mettreANiveau)->Apply(tailles);
 BENCHMARK(preparer)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(importer)
+    ->ArgsProduct({{10'000, 100'000}, {0, 1}})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->UseRealTime();
 BENCHMARK(totaux)->Apply(tailles);
 BENCHMARK(validationsNues)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(creer)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();
