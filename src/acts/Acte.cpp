@@ -28,10 +28,16 @@ Acte::Acte(const QString &titre, General::Entree lieu, int visite)
     , m_transaction(m_base)
 {
     Connexion &connexion = m_base.connexion();
+    // A bare transaction around it could take back what was announced.
+    Q_ASSERT(!m_notes.miennes() || connexion.profondeur == 1);
     connexion.avantEcriture = [&connexion] { Sauvegardes::AvantEcriture(connexion.db()); };
 }
 
-Acte::~Acte() = default;
+Acte::~Acte()
+{
+    if (m_notes.miennes())
+        m_base.connexion().avantEcriture = nullptr;
+}
 
 void Acte::valider()
 {
@@ -40,6 +46,7 @@ void Acte::valider()
 
 std::shared_ptr<Bande> Acte::validerSansEtape()
 {
+    Q_ASSERT(m_notes.miennes());
     conclure(false);
     return m_etape.bande;
 }

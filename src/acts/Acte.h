@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/Annonces.h"
 #include "db/Base.h"
 #include "db/Journal.h"
 #include "db/Transaction.h"
@@ -39,7 +38,8 @@ public:
     /// Throws Error, and nothing stays.
     void valider();
 
-    /// The same of an act that takes a step back: no step is made of it, its tape is handed over.
+    /// The same of an act that takes a step back, which is never an inner one: no step is made of it, its tape is
+    /// handed over.
     std::shared_ptr<Bande> validerSansEtape();
 
 private:

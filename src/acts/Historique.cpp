@@ -29,7 +29,12 @@ public:
         const Etape &suite = static_cast<const Marche *>(autre)->m_etape;
         if (suite.visite != m_etape.visite || suite.titre != m_etape.titre || suite.lieu != m_etape.lieu)
             return false;
-        m_etape.bande->prolonger(*suite.bande);
+        try {
+            m_etape.bande->prolonger(*suite.bande);
+        } catch (const Error &) {
+            // They stay two steps, then.
+            return false;
+        }
         // A visit that ends where it began is no step.
         setObsolete(m_etape.bande->vide());
         return true;
@@ -91,6 +96,7 @@ Etape Historique::jouer(int rang, void (QUndoStack::*avancer)())
         Acte acte(etape.titre, etape.lieu);
         Retour::Refaire(acte.base(), *etape.bande);
         marche->poser(acte.validerSansEtape());
+        alleger();
     } catch (const Error &e) {
         if (e.sorte() == Error::Sorte::Perimee) {
             marche->setObsolete(true);

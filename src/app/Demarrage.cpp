@@ -10,6 +10,7 @@
 #include "db/files/MiseANiveau.h"
 
 #include <QDir>
+#include <functional>
 
 namespace {
 
@@ -46,15 +47,14 @@ bool Demarrage::PrendreLeDossier(Dossier &dossier)
 
 void Demarrage::MettreEnEtat()
 {
-    try {
-        Secours::Examiner(nullptr, Dossier::courant().finBrutale());
-    } catch (const Error &e) {
-        Messages::Signaler(e);
-    }
-    MiseANiveau::Executer();
-    try {
-        importerIni();
-    } catch (const Error &e) {
-        Messages::Signaler(e);
-    }
+    const auto essayer = [](const std::function<void()> &etape) {
+        try {
+            etape();
+        } catch (const Error &e) {
+            Messages::Signaler(e);
+        }
+    };
+    essayer([] { Secours::Examiner(nullptr, Dossier::courant().finBrutale()); });
+    essayer(MiseANiveau::Executer);
+    essayer(importerIni);
 }

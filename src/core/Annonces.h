@@ -24,7 +24,8 @@ struct Changement
     QString table;
     qint64 cle = 0; ///< row number, which is the identifier in the tables of entries
     Sorte sorte = Sorte::Tout;
-    quint64 champs = ~quint64(0); ///< of an edited row: bit n is set when its n-th field differs
+    quint64 champs
+        = ~quint64(0); ///< of an edited row: bit n is set when its n-th field differs, 63 for those behind
 };
 
 /// What one action changed, in the order in which it happened.

@@ -6,9 +6,11 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QStringDecoder>
+#include <algorithm>
 #include <array>
 #include <csv.h>
 #include <exception>
+#include <utility>
 
 namespace {
 
@@ -73,17 +75,27 @@ void finDeLigne(int caractere, void *donnees)
     throw Error(QCoreApplication::translate("Csv", "Ce fichier ne peut pas être lu."), chemin, details);
 }
 
+/// The next piece of a file that is not at its end.
+QByteArray lireMorceau(QFile &fichier)
+{
+    const QByteArray octets = fichier.read(Morceau);
+    if (octets.isEmpty())
+        echec(fichier.fileName(), fichier.errorString());
+    return octets;
+}
+
 /// Whether all of a file is UTF-8. It stands behind its byte-order mark, if it has one, afterwards.
 bool estEnUtf8(QFile &fichier)
 {
     QStringDecoder decodeur(QStringDecoder::Utf8);
     while (!fichier.atEnd() && !decodeur.hasError()) {
-        [[maybe_unused]] const QString morceau = decodeur(fichier.read(Morceau));
+        [[maybe_unused]] const QString morceau = decodeur(lireMorceau(fichier));
     }
     // A character that is cut off at the end shows when something follows it.
     [[maybe_unused]] const QString fin = decodeur(QByteArrayLiteral("\n"));
     const QByteArray marque("\xEF\xBB\xBF");
-    fichier.seek(0);
+    if (!fichier.seek(0))
+        echec(fichier.fileName(), fichier.errorString());
     if (!decodeur.hasError() && fichier.peek(marque.size()) == marque)
         fichier.skip(marque.size());
     return !decodeur.hasError();
@@ -140,7 +152,7 @@ QStringList Csv::Lire(const QString &chemin, const std::function<void(const Rang
     bool lu = true;
     while (lu && !fichier.atEnd()) {
         const QByteArray octets
-            = utf8 ? fichier.read(Morceau) : Texte::Decoder1252(fichier.read(Morceau)).toUtf8();
+            = utf8 ? lireMorceau(fichier) : Texte::Decoder1252(lireMorceau(fichier)).toUtf8();
         const auto taille = static_cast<size_t>(octets.size());
         lu = csv_parse(&analyseur.parser, octets.constData(), taille, finDeCellule, finDeLigne, &lecture)
             == taille;

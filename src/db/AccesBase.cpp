@@ -155,6 +155,7 @@ void AccesBase::SupprimerLignes(const QString &table, const QString &champ, int 
 
 int AccesBase::CompterLignes(const QString &table, const QString &champ, const QVariant &valeur)
 {
-    Base base;
-    return ouvrirLigne(base, table, champ, valeur).AtEnd() ? 0 : 1;
+    const Base base;
+    const QString sql = QStringLiteral("SELECT 1 From %1 where %2 = ?").arg(connu(table, champ), champ);
+    return base.read(sql, {valeur}).AtEnd() ? 0 : 1;
 }

@@ -26,6 +26,9 @@ enum class Sorte { Image, Dedicace };
 void EcrireImage(
     const QString &table, Rang rang, const QString &champCle, int cle, const QString &valeur, Sorte sorte);
 
+// What nothing in the program calls any more stays under its name: ChercherOuCreer, EnregistrerOuSupprimer and
+// CompterLignes.
+
 /// The field of the row with this identifier. Without such a row one is made with the value given, under a
 /// new identifier, which is handed back.
 struct Entree

@@ -64,6 +64,19 @@ std::map<quint16, std::string> champs(std::string_view valeurs)
     return tous;
 }
 
+/// The same as bits; the last one stands for all further fields.
+quint64 champsSignales(std::string_view valeurs)
+{
+    quint64 signales = 0;
+    while (!valeurs.empty()) {
+        const auto numero = extraire<quint16>(valeurs);
+        valeurs.remove_prefix(sizeof numero);
+        Rangee::Prendre(valeurs);
+        signales |= quint64(1) << std::min<quint16>(numero, ChampsSignales - 1);
+    }
+    return signales;
+}
+
 /// A note that keeps its own bytes.
 struct NoteGardee
 {
@@ -72,11 +85,14 @@ struct NoteGardee
     Bande::Note note;
 };
 
-bool suit(const Bande::Note &edition, const NoteGardee &autre)
+/// The last note on the row of an edit, when that is an edit which it goes on from.
+NoteGardee *amorceDe(const Bande::Note &edition, std::vector<NoteGardee> &notes)
 {
-    const Bande::Note &n = autre.note;
-    return n.sorte == Bande::Sorte::Edition && edition.sorte == Bande::Sorte::Edition && n.cle == edition.cle
-        && autre.table == edition.table && n.apres == edition.avant;
+    const auto derniere = std::find_if(notes.rbegin(), notes.rend(),
+        [&](const NoteGardee &g) { return g.note.cle == edition.cle && g.table == edition.table; });
+    const bool suit = derniere != notes.rend() && edition.sorte == Bande::Sorte::Edition
+        && derniere->note.sorte == Bande::Sorte::Edition && derniere->note.apres == edition.avant;
+    return suit ? &*derniere : nullptr;
 }
 
 /// The earlier values of a field are what it is taken back to.
@@ -125,7 +141,7 @@ void Bande::deposer()
     if (m_memoire.empty())
         return;
     if (!m_fichier) {
-        // Opened before it is asked for its name, it has none.
+        // Opened before it is asked for its name, it has none, where the disk knows such files.
         m_fichier = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/bulleo-XXXXXX"));
         if (!m_fichier->open())
             echouer(*m_fichier);
@@ -203,21 +219,21 @@ void Bande::prolonger(const Bande &suite)
     };
     parcourir(garder);
     suite.parcourir([&](const Note &n) {
-        const auto amorce
-            = std::find_if(notes.begin(), notes.end(), [&](const NoteGardee &g) { return suit(n, g); });
-        if (amorce == notes.end())
-            garder(n);
-        else
+        if (NoteGardee *amorce = amorceDe(n, notes))
             fondre(*amorce, n);
+        else
+            garder(n);
     });
-    couper({});
+    // This one stays as it is when the new one cannot be written.
+    Bande nouvelle(m_limite);
     for (NoteGardee &g : notes) {
         if (g.note.sorte == Sorte::Edition && g.note.avant == g.note.apres)
             continue;
         g.note.table = g.table;
         g.note.valeurs = g.valeurs;
-        ajouter(g.note);
+        nouvelle.ajouter(g.note);
     }
+    *this = std::move(nouvelle);
 }
 
 Changements Bande::avis() const
@@ -229,12 +245,7 @@ Changements Bande::avis() const
         return avis;
     }
     parcourir([&](const Note &n) {
-        quint64 signales = ~quint64(0);
-        if (n.sorte == Sorte::Edition) {
-            signales = 0;
-            for (const auto &[numero, valeur] : champs(n.valeurs))
-                signales |= quint64(1) << std::min<quint16>(numero, ChampsSignales - 1);
-        }
+        const quint64 signales = n.sorte == Sorte::Edition ? champsSignales(n.valeurs) : ~quint64(0);
         avis.push_back(
             {QString::fromUtf8(n.table.data(), qsizetype(n.table.size())), n.cle, n.sorte, signales});
     });

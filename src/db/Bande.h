@@ -11,8 +11,8 @@
 
 /// What was done to the rows of a collection, in its order: as much of it as taking it back needs. A row that was
 /// added is noted by a digest alone, one that was edited by the values that its fields had, one that was taken away
-/// whole. A tape that grows past a limit goes on in one temporary file without a name, of which nothing is left
-/// however the program ends. What writes to it throws Error when that file cannot be written.
+/// whole. A tape that grows past a limit goes on in one temporary file, without a name where the disk knows such
+/// files, so that nothing is left of it however the program ends. What writes to it throws Error when that file cannot be written.
 class Bande
 {
 public:

@@ -68,6 +68,7 @@ Bande Journal::terminer()
 
 void Journal::couper(const Bande::Marque &marque)
 {
+    m_echec = nullptr; // of what is forgotten
     if (m_bande)
         m_bande->couper(marque);
 }

@@ -15,8 +15,12 @@ namespace {
 QString numeros(const QString &table, const QString &where)
 {
     const bool ordonnee = where.contains(QLatin1String("order by"), Qt::CaseInsensitive);
+    const bool toutes = where.trimmed().startsWith(QLatin1String("order by"), Qt::CaseInsensitive);
     return QStringLiteral("SELECT rowid FROM %1%2%3")
-        .arg(table, where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + Sql::Normaliser(where),
+        .arg(table,
+            where.isEmpty()
+                ? QString()
+                : (toutes ? QStringLiteral(" ") : QStringLiteral(" WHERE ")) + Sql::Normaliser(where),
             ordonnee ? QString() : QStringLiteral(" ORDER BY rowid"));
 }
 

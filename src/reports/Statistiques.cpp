@@ -6,7 +6,6 @@
 #include "core/Fonds.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
-#include "db/Journal.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -150,18 +149,35 @@ void ecrireSection(const Base &base, const Section &section, qint64 total, QByte
     }
 }
 
+/// The row numbers of the links of a kind whose entry or album is gone.
+QString perdus(const Liens &l)
+{
+    return QStringLiteral(
+        "SELECT l.rowid From %1 l left join %2 e on e.%3 = l.%3"
+        " left join LAlbums a on a.NAlbum = l.NAlbum where e.%3 is null or a.NAlbum is null")
+        .arg(QLatin1String(l.liens), QLatin1String(l.table), QLatin1String(l.cle));
+}
+
+bool aDesLiensPerdus()
+{
+    const Base base;
+    return std::any_of(std::begin(TousLesLiens), std::end(TousLesLiens), [&](const Liens &l) {
+        return base.read(QStringLiteral("SELECT exists (%1)").arg(perdus(l))).Int64(0) != 0;
+    });
+}
+
 }
 
 int Statistiques::Nettoyer()
 {
+    // Looking alone is no act: it makes no backup and leaves what can be made again.
+    if (!aDesLiensPerdus())
+        return 0;
     Acte acte({});
     int otes = 0;
     for (const Liens &l : TousLesLiens)
         otes += acte.base().Execute(
-            QStringLiteral("DELETE From %1 where rowid in (SELECT l.rowid From %1 l"
-                           " left join %2 e on e.%3 = l.%3 left join LAlbums a on a.NAlbum = l.NAlbum"
-                           " where e.%3 is null or a.NAlbum is null)")
-                .arg(QLatin1String(l.liens), QLatin1String(l.table), QLatin1String(l.cle)));
+            QStringLiteral("DELETE From %1 where rowid in (%2)").arg(QLatin1String(l.liens), perdus(l)));
     acte.intituler(QCoreApplication::translate("Statistiques", "Liens sans fiche ôtés : %1").arg(otes));
     acte.valider();
     return otes;

@@ -86,9 +86,10 @@ void tst_coupures::uneSauvegardeCoupee()
         QVERIFY(estEntiere(bac.collection()));
         QVERIFY(sontEntieres(Sauvegardes::Lister()));
     }
+    QVERIFY(!Sauvegardes::Lister().isEmpty());
     // The next copy clears what the dead left; of fifty days few copies are kept.
     bac.annonces.sauvegardes.maintenant = [] { return QDateTime({2026, 12, 1}, {8, 0}); };
-    Bac::executer("UPDATE Auteurs SET Nom = 'fin'");
+    Bac::agir("UPDATE Auteurs SET Nom = 'fin'");
     const QStringList restes = QDir(bac.chemin("sauvegardes")).entryList(QDir::Files);
     QCOMPARE(restes.filter(".tmp"), QStringList());
     QVERIFY2(restes.size() < 30, qPrintable(restes.join(u'\n')));
@@ -150,7 +151,7 @@ void sauverSansFin(Annonces &annonces, int jour)
     QDateTime heure = QDateTime({2026, 10, 1}, {8, 0}).addDays(jour);
     annonces.sauvegardes.maintenant = [&heure] { return heure; };
     for (int i = 1;; ++i, heure = heure.addSecs(3600))
-        Bac::executer("UPDATE Auteurs SET Commentaire = ?",
+        Bac::agir("UPDATE Auteurs SET Commentaire = ?",
             {QStringLiteral("%1 %2").arg(jour).arg(i).leftJustified(4000)});
 }
 

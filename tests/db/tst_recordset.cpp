@@ -48,7 +48,7 @@ void tst_recordset::unParcoursSurvitASesPropresEcritures()
     Base base;
     remplirGenres(20);
     int vus = 0;
-    for (auto rs = base.edit("Genre", "true order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
         QVERIFY(++vus <= 20);
         rs.Edit();
         rs.SetField("Nom", QStringLiteral("z%1").arg(vus));
@@ -64,7 +64,7 @@ void tst_recordset::unParcoursSurvitASesSuppressions()
     Base base;
     remplirGenres(9);
     QVariantList vus;
-    for (auto rs = base.edit("Genre", "true order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
+    for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
         vus << rs.Fields(0);
         rs.Delete();
         QVERIFY(refus([&] { rs.Fields(0); }).has_value());
@@ -89,7 +89,7 @@ void tst_recordset::unParcoursSurvitAUneAnnulation()
         return noms;
     };
     const QStringList attendus{"a01", "a02", "a03"};
-    QCOMPARE(noms(base.edit("Genre", "true order by NGenre")), attendus);
+    QCOMPARE(noms(base.edit("Genre", "order by NGenre")), attendus);
     QCOMPARE(noms(base.read("SELECT Nom FROM Genre ORDER BY NGenre")), attendus);
 }
 
@@ -129,7 +129,7 @@ void tst_recordset::leNombreDeLignesEstEntierDesDeuxSortes()
             rs.MoveFirst();
             QCOMPARE(rs.AtEnd(), nombre == 0);
         };
-        compter(base.edit("Genre", "true order by Nom asc "));
+        compter(base.edit("Genre", "order by Nom asc "));
         compter(base.OpenRecordset("SELECT Nom FROM Genre ;"));
     }
 }

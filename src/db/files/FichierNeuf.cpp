@@ -8,6 +8,7 @@
 #include "db/schema/Version.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
@@ -36,6 +37,7 @@ void creer(const QString &chemin, Entete::Nature nature, int palier, const QStri
             db.exec(instruction.toStdString());
         db.exec("COMMIT");
     } catch (const SQLite::Exception &e) {
+        QFile::remove(chemin);
         echec(QString::fromUtf8(e.what()));
     }
 }

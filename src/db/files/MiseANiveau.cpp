@@ -11,7 +11,7 @@
 #include "db/schema/Version.h"
 
 #include <QScopedValueRollback>
-#include <utility>
+#include <optional>
 
 namespace {
 
@@ -31,14 +31,14 @@ void franchir(Base &base, const Paliers::Palier &palier)
     transaction.Commit();
 }
 
-void executer()
+void franchirTous(Base &base)
 {
-    Base base;
     const int palier = Version::Palier(inscrite(base));
     if (palier >= Version::DernierPalier)
         return;
-    if (!Moteur::EstVierge(base.connexion().db()))
-        Sauvegardes::Faire(base.connexion().db());
+    SQLite::Database &db = base.connexion().db();
+    if (!Moteur::EstVierge(db))
+        Sauvegardes::Garder(db);
     for (const Paliers::Palier &p : Paliers::Tous()) {
         if (p.numero > palier)
             franchir(base, p);
@@ -49,11 +49,14 @@ void executer()
 
 void MiseANiveau::Executer()
 {
-    // The first operation that follows asks the user about a file in use; once is enough.
-    const QScopedValueRollback demande(Annonces::courant().reessayer, {});
+    std::optional<Base> base;
     try {
-        executer();
+        // The first operation that follows asks the user about a file in use; once is enough.
+        const QScopedValueRollback demande(Annonces::courant().reessayer, {});
+        base.emplace();
     } catch (const Error &) {
-        // As said: told by whoever misses what could not be added.
+        // A file that does not open is told of by whoever opens it next.
+        return;
     }
+    franchirTous(*base);
 }

@@ -197,7 +197,7 @@ QString Remplacement::Restaurer(const QString &chemin)
     // Who still has the old file open would go on writing into what is no longer there.
     Q_ASSERT(!Connexion::estOuverte(collection));
     Moteur::Remplacer(neuve, collection);
-    MiseANiveau::Executer();
     Annonces::courant().remplacer();
+    MiseANiveau::Executer();
     return {};
 }

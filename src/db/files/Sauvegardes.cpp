@@ -177,6 +177,14 @@ QString Sauvegardes::Faire(SQLite::Database &db)
     }
 }
 
+void Sauvegardes::Garder(SQLite::Database &db)
+{
+    auto &suivi = Annonces::courant().sauvegardes;
+    suivi.derniere = suivi.maintenant();
+    Faire(db);
+    elaguer(suivi.derniere);
+}
+
 void Sauvegardes::AvantEcriture(SQLite::Database &db)
 {
     auto &suivi = Annonces::courant().sauvegardes;
@@ -188,10 +196,8 @@ void Sauvegardes::AvantEcriture(SQLite::Database &db)
         return;
     suivi.derniere = maintenant;
     try {
-        if (!Moteur::EstVierge(db)) {
-            Faire(db);
-            elaguer(maintenant);
-        }
+        if (!Moteur::EstVierge(db))
+            Garder(db);
         suivi.enEchec = false;
     } catch (const Error &e) {
         if (!std::exchange(suivi.enEchec, true) && suivi.manquee)

@@ -30,6 +30,8 @@ QDateTime DateDe(const QString &chemin);
 
 /// Makes a copy of the open collection; returns its path. Throws Error.
 QString Faire(SQLite::Database &db);
+/// Makes one now, whether it is due or not, and deletes those that have had their time. Throws Error.
+void Garder(SQLite::Database &db);
 /// Called before each write of the user: makes the copy that is due, at the first write of a run and then once
 /// an hour, and deletes those that have had their time. A failure is told to Annonces and stops nothing.
 void AvantEcriture(SQLite::Database &db);
