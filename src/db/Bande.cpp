@@ -142,7 +142,7 @@ void Bande::deposer()
         return;
     if (!m_fichier) {
         // Opened before it is asked for its name, it has none, where the disk knows such files.
-        m_fichier = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/bulleo-XXXXXX"));
+        m_fichier = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/bulleo"));
         if (!m_fichier->open())
             echouer(*m_fichier);
     }

@@ -78,7 +78,7 @@ private:
     qint64 m_deposes = 0; ///< bytes that stand in the file, before those in memory
     std::unique_ptr<QTemporaryFile> m_fichier;
 
-    // The part of the file that was read last.
+    // The stretch of the file that was read last.
     mutable QByteArray m_fenetre;
     mutable qint64 m_debutFenetre = 0;
 };

@@ -1,6 +1,6 @@
 #include "acts/Historique.h"
-#include "core/Dates.h"
 #include "acts/Preter.h"
+#include "core/Dates.h"
 #include "loans/Prets.h"
 #include "support/Apres.h"
 

@@ -1,6 +1,6 @@
-#include "db/Base.h"
 #include "acts/EcrireFiche.h"
 #include "acts/EcrireGrilles.h"
+#include "db/Base.h"
 #include "model/ChargerAuteurs.h"
 #include "support/Bac.h"
 
