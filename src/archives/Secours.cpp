@@ -10,7 +10,6 @@
 #include "db/files/Verification.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace {
 
