@@ -43,7 +43,7 @@ Textures::Textures()
     construireListe(ligne);
     construireApercu(ligne);
     corps()->addLayout(ligne, 1);
-    m_message = ajouterMessage();
+    ajouterMessage();
     m_valider = ajouterAuPied(QStringLiteral("Valider"), true);
     connect(m_liste, &QListWidget::currentItemChanged, this, &Textures::choisir);
     connect(m_suppl, &QPushButton::clicked, this, &Textures::ajouterTexture);
@@ -84,7 +84,7 @@ void Textures::construireApercu(QBoxLayout *ligne)
 
 void Textures::charger()
 {
-    m_message->clear();
+    dire({});
     m_apercu->setChecked(Reglages::courant().entier(Cle::Apercu) != 0);
     m_defilement->setChecked(Reglages::courant().booleen(Cle::Defilement));
     const QString choisie = Fonds::CheminChoisi();
@@ -133,9 +133,9 @@ void Textures::ajouterTexture()
     const QString suffixe = QFileInfo(chemin).suffix().toLower();
     const bool jpeg = suffixe == QLatin1String("jpg") || suffixe == QLatin1String("jpeg");
     if (!jpeg || Images::Decoder(chemin, TailleEssai).isNull())
-        return m_message->setText(tr("Ce fichier n'est pas une image JPEG lisible."));
+        return dire(tr("Ce fichier n'est pas une image JPEG lisible."));
     const QString fichier = Fonds::Ajouter(chemin);
-    m_message->clear();
+    dire({});
     for (int i = 0; i < m_liste->count(); ++i) {
         if (m_liste->item(i)->data(Fichier).toString() == fichier)
             return m_liste->setCurrentRow(i);

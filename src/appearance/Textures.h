@@ -42,6 +42,5 @@ private:
     QCheckBox *m_apercu = nullptr;
     QCheckBox *m_defilement = nullptr;
     CadreImage *m_visu = nullptr;
-    QLabel *m_message = nullptr;
     QPushButton *m_valider = nullptr;
 };

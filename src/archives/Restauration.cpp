@@ -77,13 +77,13 @@ Restauration::Restauration()
     : FormeOutil(QStringLiteral("Restauration"), TailleDessinee, Mini | Progression)
 {
     construireListe();
-    m_message = ajouterMessage();
+    ajouterMessage();
     m_choisir = ajouterAuPied(QStringLiteral("Choisir"));
     m_valider = ajouterAuPied(QStringLiteral("Valider"), true);
     connect(m_choisir, &QPushButton::clicked, this, &Restauration::choisirFichier);
     connect(m_valider, &QPushButton::clicked, this, &Restauration::restaurer);
     connect(m_sauvegardes, &QTreeWidget::currentItemChanged, this, &Restauration::expliquerChoix);
-    connect(m_sauvegardes, &QTreeWidget::itemActivated, this, &Restauration::restaurer);
+    connect(m_sauvegardes, &QTreeWidget::itemDoubleClicked, this, &Restauration::restaurer);
     Restauration::Traduire();
     expliquerChoix();
 }
@@ -113,7 +113,7 @@ void Restauration::construireListe()
 void Restauration::charger()
 {
     m_sauvegardes->clear();
-    m_message->clear();
+    dire({});
     m_rapport->hide();
     int rang = 0;
     for (const Sauvegardes::Sauvegarde &s : Sauvegardes::Lister()) {
@@ -158,7 +158,7 @@ void Restauration::proposer(const QString &chemin)
     const Examen examen = Remplacement::Examiner(chemin);
     const QString raison = Remplacement::RaisonDuRefus(examen.etat);
     if (!estUtilisable(examen.etat)) {
-        m_message->setText(examen.mots.isEmpty() ? raison : raison + u' ' + examen.mots);
+        dire(examen.mots.isEmpty() ? raison : raison + u' ' + examen.mots);
         return;
     }
     Reglages::courant().ecrire(Cle::DossierCopies, QFileInfo(chemin).absolutePath());
@@ -181,8 +181,8 @@ void Restauration::expliquerChoix()
     const auto etat = ligne ? static_cast<Etat>(ligne->data(0, EtatDuFichier).toInt()) : Etat::Etrangere;
     m_valider->setEnabled(ligne && estUtilisable(etat));
     if (!ligne)
-        return m_message->clear();
-    m_message->setText(etat == Etat::Ancienne
+        return dire({});
+    dire(etat == Etat::Ancienne
             ? tr("Une ancienne base : elle sera convertie, son fichier reste comme il est.")
             : estUtilisable(etat) ? tr("La base en service est gardée parmi les sauvegardes.")
                                   : Remplacement::RaisonDuRefus(etat));
@@ -202,7 +202,7 @@ void Restauration::restaurer()
         return;
     const QString refus = Remplacement::Restaurer(chemin);
     if (!refus.isEmpty())
-        return m_message->setText(refus);
+        return dire(refus);
     charger();
     Messages::Informer(this, texte(Txt::RestaurationEffectuee));
 }
@@ -218,7 +218,7 @@ void Restauration::convertir(const QString &chemin)
         rapport = Reprise::Reprendre(chemin, [&](int pourcent) { return suivi.avancer(pourcent); });
     }
     if (rapport.erreur != Conversion::Code::Aucun)
-        return m_message->setText(raisonDe(rapport));
+        return dire(raisonDe(rapport));
     charger();
     montrerRapport(rapport);
     Messages::Informer(this, texte(Txt::RestaurationEffectuee));
@@ -238,9 +238,8 @@ void Restauration::montrerRapport(const Conversion::Rapport &rapport)
     m_rapport->setPlainText(lignes.join(u'\n'));
     m_rapport->show();
     if (rapport.nature == QLatin1String("catalogue"))
-        m_message->setText(
-            tr("C'était un catalogue de référence : ses textes sont repris tels quels, leur code"
-               " n'étant pas connu."));
+        dire(tr("C'était un catalogue de référence : ses textes sont repris tels quels, leur code"
+                " n'étant pas connu."));
 }
 
 void Restauration::Traduire()

@@ -40,7 +40,6 @@ private:
     QTreeWidget *m_sauvegardes = nullptr;
     QLabel *m_vide = nullptr;
     QPlainTextEdit *m_rapport = nullptr;
-    QLabel *m_message = nullptr;
     QPushButton *m_choisir = nullptr;
     QPushButton *m_valider = nullptr;
 };

@@ -15,19 +15,26 @@
 
 namespace {
 
+constexpr QSize TailleDessinee(1100, 660);
 constexpr int LargeurCatalogue = 300;
 
 }
 
 Facile::Facile()
-    : FormeCreation(QStringLiteral("Facile"), Txt::CreationFacileDUnAlbum, false)
+    : FormeCreation(QStringLiteral("Facile"), TailleDessinee, Txt::CreationFacileDUnAlbum, false)
 {
-    resize(1100, 660);
     m_modele.poserPrefixe(QStringLiteral("A"));
-    corps()->insertWidget(0, construireCatalogue());
+    ligne()->insertWidget(0, construireCatalogue());
     m_carton = nommer(new QCheckBox(this), QStringLiteral("Carton"));
     QHBoxLayout *cases = formulaire()->ligneDesCases();
     cases->insertWidget(cases->count() - 1, m_carton);
+    // One picks from the catalogue first.
+    QWidget *precedent = this;
+    for (QWidget *suivant : {static_cast<QWidget *>(m_filtre), static_cast<QWidget *>(m_liste),
+             static_cast<QWidget *>(m_sel), static_cast<QWidget *>(m_carton)}) {
+        setTabOrder(precedent, suivant);
+        precedent = suivant;
+    }
     Facile::Traduire();
 }
 

@@ -2,15 +2,14 @@
 
 #include "acts/Saisie.h"
 #include "core/Txt.h"
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 
 class FormulaireAlbum;
-class QBoxLayout;
-class QLabel;
+class QHBoxLayout;
 class QPushButton;
 
-/// What both creation forms share: the fields, the line that says what is refused, and the buttons.
-class FormeCreation : public Forme
+/// What both creation forms share: the fields, and the button that makes an album of them.
+class FormeCreation : public FormeOutil
 {
     Q_OBJECT
 
@@ -22,26 +21,20 @@ Q_SIGNALS:
     void albumCree(int num);
 
 protected:
-    FormeCreation(const QString &nom, Txt titre, bool date);
+    FormeCreation(const QString &nom, const QSize &taille, Txt titre, bool date);
 
     void Traduire() override;
-    void keyPressEvent(QKeyEvent *evenement) override;
 
     FormulaireAlbum *formulaire() const { return m_formulaire; }
     /// Where a form puts what it has beside the fields.
-    QBoxLayout *corps() const { return m_corps; }
-    void dire(const QString &ligne);
+    QHBoxLayout *ligne() const { return m_ligne; }
 
 private:
-    QWidget *construirePied();
     void creer();
 
     Txt m_titre;
     FormulaireAlbum *m_formulaire = nullptr;
-    QBoxLayout *m_corps = nullptr;
-    QLabel *m_entete = nullptr;
+    QHBoxLayout *m_ligne = nullptr;
     QLabel *m_refus = nullptr;
     QPushButton *m_creer = nullptr;
-    QPushButton *m_mini = nullptr;
-    QPushButton *m_quit = nullptr;
 };

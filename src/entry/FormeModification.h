@@ -1,15 +1,13 @@
 #pragma once
 
 #include "acts/Ecrire.h"
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 
-class QLabel;
 class QPushButton;
-class QVBoxLayout;
 
-/// What the two editing forms share: which field is edited, the line that says what is refused, and the
-/// buttons. Modal; it opens beside the field. Enter validates, Escape leaves.
-class FormeModification : public Forme
+/// What the two editing forms share: which field is edited, what is said of what was entered, and the button that
+/// validates. Modal; it opens beside the field. Enter validates, Escape leaves.
+class FormeModification : public FormeOutil
 {
     Q_OBJECT
 
@@ -30,10 +28,8 @@ protected:
     virtual void valider() = 0;
 
     void Traduire() override;
-    void keyPressEvent(QKeyEvent *evenement) override;
 
     const Edition &edition() const { return m_edition; }
-    QVBoxLayout *corps() const { return m_corps; }
     /// Says in one line why nothing was written; the form stays.
     void refuser(const QString &raison);
     /// Says in the same line what validating will do.
@@ -43,9 +39,5 @@ private:
     void placer();
 
     Edition m_edition;
-    QLabel *m_champ = nullptr;
-    QVBoxLayout *m_corps = nullptr;
-    QLabel *m_refus = nullptr;
     QPushButton *m_valider = nullptr;
-    QPushButton *m_quit = nullptr;
 };

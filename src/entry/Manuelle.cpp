@@ -1,7 +1,6 @@
 #include "entry/Manuelle.h"
 
 Manuelle::Manuelle()
-    : FormeCreation(QStringLiteral("Manuelle"), Txt::CreationManuelleDUnAlbum, true)
+    : FormeCreation(QStringLiteral("Manuelle"), {820, 640}, Txt::CreationManuelleDUnAlbum, true)
 {
-    resize(820, 640);
 }

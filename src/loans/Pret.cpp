@@ -247,15 +247,17 @@ void Pret::Traduire()
     QTimer::singleShot(0, this, [this] { actualiser({}); });
 }
 
+/// Enter on a loan shows its album.
+void Pret::entrer()
+{
+    if (m_lPret->hasFocus() && pret() > 0)
+        Q_EMIT entreeDemandee({General::Tri::Albums, pret()});
+}
+
 void Pret::keyPressEvent(QKeyEvent *evenement)
 {
-    const bool entree = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
     if (evenement->key() == Qt::Key_Delete && m_del->isEnabled())
         supprimer();
-    else if (entree && m_lPret->hasFocus() && pret() > 0)
-        Q_EMIT entreeDemandee({General::Tri::Albums, pret()});
-    else if (auto *bouton = qobject_cast<QPushButton *>(focusWidget()); entree && bouton)
-        bouton->click();
     else
-        Forme::keyPressEvent(evenement);
+        FormeOutil::keyPressEvent(evenement);
 }

@@ -31,6 +31,7 @@ Q_SIGNALS:
 
 protected:
     void Traduire() override;
+    void entrer() override;
     void keyPressEvent(QKeyEvent *evenement) override;
 
 private:

@@ -29,6 +29,7 @@ namespace {
 constexpr QSize TailleDessinee(980, 680);
 constexpr QSize TailleDestination(220, 220);
 constexpr int LargeurProgression = 180;
+constexpr QSize TailleAnnuler(96, 32);
 
 struct Outil
 {
@@ -55,17 +56,14 @@ constexpr const Champs::Champ *ChampsDImage[] = {&Champs::De(Album, "Photo1"), &
 }
 
 Acquisition::Acquisition()
-    : Forme(QStringLiteral("Acquisition"))
+    : FormeOutil(QStringLiteral("Acquisition"), TailleDessinee, Mini | Progression, Serre)
     , m_acquereur(Numeriseur::DuSysteme())
 {
-    setWindowIcon(Icones::Programme());
-    resize(TailleDessinee);
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(Theme::Moyen, Theme::Moyen, Theme::Moyen, Theme::Moyen);
-    page->setSpacing(Theme::Petit);
-    construireOutils(page);
-    construireBoites(page);
-    construirePied(page);
+    construireOutils(corps());
+    construireBoites(corps());
+    ajouterMessageAuPied(QStringLiteral("Message"), Cote::Avant);
+    progression()->setFixedWidth(LargeurProgression);
+    annuler()->setMinimumSize(TailleAnnuler);
     brancher();
     Acquisition::Traduire();
     occuper(false);
@@ -129,35 +127,12 @@ void Acquisition::construireBoites(QBoxLayout *page)
     page->addLayout(boites, 1);
 }
 
-void Acquisition::construirePied(QBoxLayout *page)
-{
-    auto *pied = new QHBoxLayout;
-    m_message = nommer(new QLabel(this), QStringLiteral("Message"));
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
-    m_progression->setFixedWidth(LargeurProgression);
-    m_progression->setTextVisible(false);
-    m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
-    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
-    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
-    pied->addWidget(m_message, 1);
-    pied->addWidget(m_progression);
-    for (QPushButton *bouton : {m_annuler, m_mini, m_quit}) {
-        bouton->setMinimumSize(96, 32);
-        pied->addWidget(bouton);
-    }
-    page->addLayout(pied);
-}
-
 void Acquisition::brancher()
 {
     connect(m_photo, &BoiteImage::fichierDepose, this, &Acquisition::ouvrirFichier);
-    connect(m_annuler, &QPushButton::clicked, &m_acquereur, &Acquereur::annuler);
-    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
-    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
+    connect(annuler(), &QPushButton::clicked, &m_acquereur, &Acquereur::annuler);
     connect(&m_acquereur, &Acquereur::listee, this, &Acquisition::montrerSources);
-    connect(&m_acquereur, &Acquereur::avance, m_progression, &QProgressBar::setValue);
+    connect(&m_acquereur, &Acquereur::avance, progression(), &QProgressBar::setValue);
     connect(&m_acquereur, &Acquereur::acquise, this, [this](const QImage &image) {
         occuper(false);
         if (image.isNull())
@@ -202,7 +177,8 @@ void Acquisition::nommerAbsence()
 
 void Acquisition::Traduire()
 {
-    setWindowTitle(texte(Txt::Acquisition) + QStringLiteral(" - ") + titre());
+    FormeOutil::Traduire();
+    poserTitre(texte(Txt::Acquisition));
     for (std::size_t i = 0; i < m_outils.size(); ++i) {
         m_outils[i]->setText(texte(Outils[i].libelle));
         expliquer(m_outils[i], texte(Outils[i].libelle));
@@ -219,10 +195,6 @@ void Acquisition::Traduire()
         tr("Utiliser comme dédicace 1"), tr("Utiliser comme dédicace 2")};
     for (std::size_t i = 0; i < m_utiliser.size(); ++i)
         libeller(m_utiliser[i], usages[i]);
-    m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
-    libeller(m_annuler, tr("Annuler"));
-    libeller(m_mini, texte(Txt::Minimiser));
-    libeller(m_quit, texte(Txt::Fermer));
     poserEtat();
 }
 
@@ -280,7 +252,7 @@ void Acquisition::numeriser()
         return dire(texte(Txt::VerifierScanner));
     }
     occuper(true);
-    m_annuler->show();
+    annuler()->show();
     m_acquereur.acquerir(source);
 }
 
@@ -376,21 +348,16 @@ void Acquisition::poserImage(const QImage &image, const QString &fichier)
 void Acquisition::occuper(bool occupe)
 {
     m_occupee = occupe;
-    m_progression->setVisible(occupe);
-    m_progression->setValue(0);
-    m_annuler->hide();
+    progression()->setVisible(occupe);
+    progression()->setValue(0);
+    annuler()->hide();
     poserEtat();
-}
-
-void Acquisition::dire(const QString &ligne)
-{
-    m_message->setText(ligne);
 }
 
 void Acquisition::keyPressEvent(QKeyEvent *evenement)
 {
     if (m_occupee)
-        Forme::keyPressEvent(evenement);
+        FormeOutil::keyPressEvent(evenement);
     else if (evenement->matches(QKeySequence::Paste))
         coller();
     else if (evenement->matches(QKeySequence::Open))
@@ -398,11 +365,11 @@ void Acquisition::keyPressEvent(QKeyEvent *evenement)
     else if (evenement->matches(QKeySequence::Save) && !m_photo->image().isNull())
         enregistrer();
     else
-        Forme::keyPressEvent(evenement);
+        FormeOutil::keyPressEvent(evenement);
 }
 
 void Acquisition::closeEvent(QCloseEvent *evenement)
 {
     m_acquereur.annuler();
-    Forme::closeEvent(evenement);
+    FormeOutil::closeEvent(evenement);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 #include "model/General.h"
 #include "pictures/Acquereur.h"
 
@@ -8,13 +8,12 @@ class BoiteImage;
 class QBoxLayout;
 class QComboBox;
 class QLabel;
-class QProgressBar;
 class QPushButton;
 class QToolButton;
 
 /// The picture workshop: a picture comes from a scanner, a file or the clipboard, is turned and mirrored, and
 /// becomes a file or a picture of the album that the main window shows.
-class Acquisition : public Forme
+class Acquisition : public FormeOutil
 {
     Q_OBJECT
 
@@ -33,7 +32,6 @@ protected:
 private:
     void construireOutils(QBoxLayout *page);
     void construireBoites(QBoxLayout *page);
-    void construirePied(QBoxLayout *page);
     void brancher();
 
     void agir(int rang);
@@ -50,7 +48,6 @@ private:
     void nommerAbsence();
     void occuper(bool occupe);
     void poserEtat();
-    void dire(const QString &ligne);
 
     Acquereur m_acquereur;
     QString m_fichier; ///< where the picture came from or went to; empty for none
@@ -64,9 +61,4 @@ private:
     QLabel *m_libelleDestination = nullptr;
     QLabel *m_album = nullptr;
     std::vector<QPushButton *> m_utiliser;
-    QLabel *m_message = nullptr;
-    QProgressBar *m_progression = nullptr;
-    QPushButton *m_annuler = nullptr;
-    QPushButton *m_mini = nullptr;
-    QPushButton *m_quit = nullptr;
 };

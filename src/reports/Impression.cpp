@@ -78,10 +78,10 @@ Impression::Impression()
     droite->addWidget(construireSorties());
     moities->addLayout(droite, 1);
     corps()->addLayout(moities, 1);
-    m_message = ajouterMessage();
-    m_message->setTextFormat(Qt::RichText);
-    m_message->setTextInteractionFlags(Qt::TextBrowserInteraction);
-    connect(m_message, &QLabel::linkActivated, this,
+    QLabel *message = ajouterMessage();
+    message->setTextFormat(Qt::RichText);
+    message->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    connect(message, &QLabel::linkActivated, this,
         [](const QString &lien) { QDesktopServices::openUrl(QUrl(lien)); });
     Impression::Traduire();
 }
@@ -384,11 +384,6 @@ void Impression::preparer(QPrinter &imprimante, const Tableau &liste)
     imprimante.setDocName(liste.titre);
     imprimante.setPageOrientation(
         MiseEnPage::EstLarge(liste) ? QPageLayout::Landscape : QPageLayout::Portrait);
-}
-
-void Impression::dire(const QString &message)
-{
-    m_message->setText(message);
 }
 
 void Impression::Traduire()

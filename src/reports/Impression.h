@@ -55,7 +55,6 @@ private:
     bool accepterLargeur(const Listage::Tableau &liste);
     static void preparer(QPrinter &imprimante, const Listage::Tableau &liste);
     bool travailler(const std::function<bool(const Sorties::Avance &)> &travail);
-    void dire(const QString &message);
 
     std::function<General::Liste()> m_liste;
     General::Entree m_courante;
@@ -70,5 +69,4 @@ private:
     std::array<QPushButton *, 4> m_sorties{};
     QPushButton *m_imprimer = nullptr;
     QPushButton *m_apercu = nullptr;
-    QLabel *m_message = nullptr;
 };

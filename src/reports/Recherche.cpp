@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -164,21 +163,14 @@ void Recherche::aller(const QModelIndex &index)
     Q_EMIT entreeDemandee(entree);
 }
 
-/// Enter in the list shows the hit, on a button it is the button's, anywhere else it searches.
-void Recherche::keyPressEvent(QKeyEvent *evenement)
+/// Enter in the list shows the hit, anywhere else it searches.
+void Recherche::entrer()
 {
-    const bool entree = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
-    if (!entree)
-        return Forme::keyPressEvent(evenement);
     if (m_liste->hasFocus())
-        aller(m_liste->currentIndex());
-    else if (auto *bouton = qobject_cast<QPushButton *>(focusWidget()))
-        bouton->click();
-    else {
-        chercher();
-        if (m_modele.rowCount() > 0) {
-            m_liste->setFocus();
-            m_liste->setCurrentIndex(m_modele.index(0));
-        }
+        return aller(m_liste->currentIndex());
+    chercher();
+    if (m_modele.rowCount() > 0) {
+        m_liste->setFocus();
+        m_liste->setCurrentIndex(m_modele.index(0));
     }
 }

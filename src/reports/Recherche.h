@@ -29,7 +29,7 @@ Q_SIGNALS:
 
 protected:
     void Traduire() override;
-    void keyPressEvent(QKeyEvent *evenement) override;
+    void entrer() override;
 
 private:
     QWidget *construireCriteres();

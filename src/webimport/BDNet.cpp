@@ -10,7 +10,6 @@
 #include "webimport/DetailBDNet.h"
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -34,16 +33,11 @@ QUrl adresseEntiere(const QString &texte)
 }
 
 BDNet::BDNet()
-    : Forme(QStringLiteral("BDNet"))
+    : FormeOutil(QStringLiteral("BDNet"), TailleDessinee, Mini | Progression, Serre)
 {
-    setWindowIcon(Icones::Programme());
-    resize(TailleDessinee);
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(Theme::Moyen, Theme::Moyen, Theme::Moyen, Theme::Moyen);
-    page->setSpacing(Theme::Petit);
-    construireBarre(page);
-    construireVues(page);
-    construirePied(page);
+    construireBarre(corps());
+    construireVues(corps());
+    construirePied();
     brancher();
     BDNet::Traduire();
     revenir();
@@ -89,32 +83,14 @@ void BDNet::construireVues(QBoxLayout *page)
     page->addWidget(m_vues, 1);
 }
 
-void BDNet::construirePied(QBoxLayout *page)
+void BDNet::construirePied()
 {
-    auto *pied = new QHBoxLayout;
-    m_chargement = nommer(new QLabel(this), QStringLiteral("Lbl_Chargement"));
-    m_refus = nommer(new QLabel(this), QStringLiteral("Refus"));
-    m_refus->setForegroundRole(QPalette::BrightText);
-    m_refus->setTextFormat(Qt::PlainText);
-    m_refus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
-    m_progression->setFixedWidth(LargeurProgression);
-    m_progression->setTextVisible(false);
-    m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
-    m_creer = nommer(new QPushButton(this), QStringLiteral("BtnCreer"));
-    m_revenir = nommer(new QPushButton(this), QStringLiteral("REvenir"));
-    m_mini = nommer(new QPushButton(this), QStringLiteral("Mini"));
-    m_quit = nommer(new QPushButton(this), QStringLiteral("Quit"));
-    pied->addWidget(m_chargement);
-    pied->addWidget(m_progression);
-    pied->addWidget(m_annuler);
-    pied->addWidget(m_refus, 1);
-    Theme::Accentuer(m_creer);
-    for (QPushButton *bouton : {m_creer, m_revenir, m_mini, m_quit}) {
-        bouton->setMinimumSize(96, 32);
-        pied->addWidget(bouton);
-    }
-    page->addLayout(pied);
+    ajouterMessageAuPied(QStringLiteral("Refus"), Cote::Apres)->setForegroundRole(QPalette::BrightText);
+    m_chargement = ajouterEtat(QStringLiteral("Lbl_Chargement"));
+    progression()->setFixedWidth(LargeurProgression);
+    m_creer = ajouterAuPied(QStringLiteral("BtnCreer"), true);
+    m_revenir = ajouterAuPied(QStringLiteral("REvenir"));
+    reserverEntree();
 }
 
 void BDNet::brancher()
@@ -126,7 +102,6 @@ void BDNet::brancher()
     connect(m_adresse, &QLineEdit::textChanged, this, [this](const QString &adresse) {
         m_analyse->setVisible(!estSurDetail() && Importation::EstUneFiche(adresseEntiere(adresse)));
     });
-    m_adresse->installEventFilter(this);
     connect(m_web, &VueWeb::adresseChangee, this, &BDNet::poserAdresse);
     connect(m_web, &VueWeb::avance, this,
         [this](int pourcent) { poserCharge(texte(Txt::ChargementEnCours), pourcent); });
@@ -139,11 +114,9 @@ void BDNet::brancher()
         m_navigation[1]->setEnabled(peutAvancer);
     });
     connect(m_analyse, &QPushButton::clicked, this, &BDNet::analyser);
-    connect(m_annuler, &QPushButton::clicked, &m_importation, &Importation::annuler);
+    connect(annuler(), &QPushButton::clicked, &m_importation, &Importation::annuler);
     connect(m_creer, &QPushButton::clicked, this, &BDNet::creer);
     connect(m_revenir, &QPushButton::clicked, this, &BDNet::revenir);
-    connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
-    connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
     connect(&m_importation, &Importation::avance, this, [this](qint64 recus, qint64 total) {
         poserCharge(texte(Txt::ChargementEnCours), total > 0 ? static_cast<int>(100 * recus / total) : 0);
     });
@@ -164,20 +137,17 @@ void BDNet::charger()
 
 void BDNet::Traduire()
 {
-    setWindowTitle(texte(Txt::CreationDesAlbumsAvecBDNet) + QStringLiteral(" - ") + titre());
+    FormeOutil::Traduire();
+    poserTitre(texte(Txt::CreationDesAlbumsAvecBDNet));
     libeller(m_accueil, texte(Txt::VisiterLeSite));
     expliquer(m_navigation[0], texte(Txt::Precedent));
     expliquer(m_navigation[1], texte(Txt::Suivant));
     m_adresse->setAccessibleName(texte(Txt::Adresse));
     m_adresse->setPlaceholderText(tr("Adresse d'une page"));
     libeller(m_analyse, texte(Txt::Analyse));
-    m_progression->setAccessibleName(texte(Txt::ChargementEnCours));
-    libeller(m_annuler, tr("Annuler"));
     libeller(m_creer, texte(Txt::Creer));
     m_creer->setToolTip(tr("Ctrl+Entrée"));
     libeller(m_revenir, texte(Txt::RetourAuNavigateur));
-    libeller(m_mini, texte(Txt::Minimiser));
-    libeller(m_quit, texte(Txt::Fermer));
     m_detail->Traduire();
     poserNotice();
 }
@@ -214,10 +184,10 @@ void BDNet::poserCharge(const QString &quoi, int pourcent)
 {
     m_chargement->setText(quoi);
     m_chargement->setVisible(pourcent >= 0);
-    m_progression->setVisible(pourcent >= 0);
-    m_progression->setRange(0, pourcent == 0 && m_importation.enCours() ? 0 : 100);
-    m_progression->setValue(pourcent);
-    m_annuler->setVisible(m_importation.enCours());
+    progression()->setVisible(pourcent >= 0);
+    progression()->setRange(0, pourcent == 0 && m_importation.enCours() ? 0 : 100);
+    progression()->setValue(pourcent);
+    annuler()->setVisible(m_importation.enCours());
 }
 
 void BDNet::analyser()
@@ -317,41 +287,19 @@ void BDNet::poserVue(bool detail)
     m_revenir->setVisible(detail);
 }
 
-void BDNet::dire(const QString &ligne)
+/// Enter in the address goes there, or reads the page where there is no browser.
+void BDNet::entrer()
 {
-    m_refus->setText(ligne);
-}
-
-/// Enter on a button is that button's; with Ctrl it creates.
-void BDNet::keyPressEvent(QKeyEvent *evenement)
-{
-    const bool entree = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
-    if (!entree)
-        return Forme::keyPressEvent(evenement);
-    if (estSurDetail() && evenement->modifiers().testFlag(Qt::ControlModifier))
-        creer();
-    else if (auto *bouton = qobject_cast<QAbstractButton *>(focusWidget()))
-        bouton->click();
-}
-
-/// Enter in the address goes there, or reads the page where there is no browser. The key ends here: what it
-/// begins takes the focus away, and it must not press the button that gets it.
-bool BDNet::eventFilter(QObject *objet, QEvent *evenement)
-{
-    if (objet != m_adresse || evenement->type() != QEvent::KeyPress || estSurDetail())
-        return Forme::eventFilter(objet, evenement);
-    const int touche = static_cast<QKeyEvent *>(evenement)->key();
-    if (touche != Qt::Key_Return && touche != Qt::Key_Enter)
-        return false;
+    if (focusWidget() != m_adresse || estSurDetail())
+        return;
     if (m_navigateur)
         allerA(m_adresse->text());
     else
         analyser();
-    return true;
 }
 
 void BDNet::closeEvent(QCloseEvent *evenement)
 {
     m_importation.annuler();
-    Forme::closeEvent(evenement);
+    FormeOutil::closeEvent(evenement);
 }

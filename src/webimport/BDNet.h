@@ -1,13 +1,12 @@
 #pragma once
 
-#include "core/ui/Forme.h"
+#include "core/ui/FormeOutil.h"
 #include "webimport/Importation.h"
 
 class DetailBDNet;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
-class QProgressBar;
 class QPushButton;
 class QStackedWidget;
 class QToolButton;
@@ -15,7 +14,7 @@ class VueWeb;
 
 /// Creation from the pages of the online catalogue: a browser to find an album's page, and the fields that the
 /// page gives. Where there is no browser, the page's address is enough.
-class BDNet : public Forme
+class BDNet : public FormeOutil
 {
     Q_OBJECT
 
@@ -29,14 +28,13 @@ Q_SIGNALS:
 
 protected:
     void Traduire() override;
-    void keyPressEvent(QKeyEvent *evenement) override;
-    bool eventFilter(QObject *objet, QEvent *evenement) override;
+    void entrer() override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:
     void construireBarre(QBoxLayout *page);
     void construireVues(QBoxLayout *page);
-    void construirePied(QBoxLayout *page);
+    void construirePied();
     void brancher();
 
     void allerA(const QString &adresse);
@@ -51,7 +49,6 @@ private:
     void poserNotice();
     void poserVue(bool detail);
     bool estSurDetail() const;
-    void dire(const QString &ligne);
 
     Importation m_importation;
     bool m_navigateur = false; ///< there is a browser
@@ -64,11 +61,6 @@ private:
     QLabel *m_notice = nullptr;
     DetailBDNet *m_detail = nullptr;
     QLabel *m_chargement = nullptr;
-    QLabel *m_refus = nullptr;
-    QProgressBar *m_progression = nullptr;
-    QPushButton *m_annuler = nullptr;
     QPushButton *m_creer = nullptr;
     QPushButton *m_revenir = nullptr;
-    QPushButton *m_mini = nullptr;
-    QPushButton *m_quit = nullptr;
 };

@@ -5,10 +5,12 @@
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -16,40 +18,52 @@ namespace {
 
 constexpr QSize TailleBouton(96, 32);
 
+/// What Enter presses; it leaves boxes to tick alone.
+QAbstractButton *boutonSous(QWidget *focus)
+{
+    auto *bouton = qobject_cast<QAbstractButton *>(focus);
+    const bool presse = qobject_cast<QPushButton *>(bouton) || qobject_cast<QToolButton *>(bouton);
+    return presse ? bouton : nullptr;
 }
 
-FormeOutil::FormeOutil(const QString &nom, const QSize &taille, int elements)
+}
+
+const FormeOutil::Cadre FormeOutil::Large{Theme::Grand, Theme::Moyen, Theme::Moyen, Theme::Moyen, 1.3};
+const FormeOutil::Cadre FormeOutil::Serre{Theme::Moyen, Theme::Moyen, Theme::Petit, Theme::Petit, 0};
+
+FormeOutil::FormeOutil(const QString &nom, const QSize &taille, int elements, const Cadre &cadre)
     : Forme(nom)
 {
     setWindowIcon(Icones::Programme());
-    resize(taille.boundedTo(screen()->availableSize()));
+    if (taille.isValid())
+        resize(taille.boundedTo(screen()->availableSize()));
     m_page = new QVBoxLayout(this);
-    m_page->setContentsMargins(Theme::Grand, Theme::Moyen, Theme::Grand, Theme::Moyen);
-    m_page->setSpacing(Theme::Moyen);
-    m_titre = new QLabel(this);
-    m_titre->setFont(Theme::Taille(font(), 1.3, QFont::Bold));
-    m_titre->setForegroundRole(QPalette::Link);
-    m_page->addWidget(m_titre);
+    m_page->setContentsMargins(cadre.cotes, cadre.bords, cadre.cotes, cadre.bords);
+    m_page->setSpacing(cadre.ecart);
+    if (cadre.titre > 0) {
+        m_titre = new QLabel(this);
+        m_titre->setFont(Theme::Taille(font(), cadre.titre, QFont::Bold));
+        m_titre->setForegroundRole(QPalette::Link);
+        m_page->addWidget(m_titre);
+    }
     m_corps = new QVBoxLayout;
-    m_corps->setSpacing(Theme::Moyen);
+    m_corps->setSpacing(cadre.ecart);
     m_page->addLayout(m_corps, 1);
+    construirePied(elements, cadre.ecartDuPied);
+}
 
+void FormeOutil::construirePied(int elements, int ecart)
+{
     auto *pied = new QHBoxLayout;
+    pied->setSpacing(ecart);
     m_gauche = new QHBoxLayout;
     m_gauche->addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
     pied->addLayout(m_gauche, 1);
     m_boutons = new QHBoxLayout;
     pied->addLayout(m_boutons);
     m_page->addLayout(pied);
-    if (elements & Progression) {
-        m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
-        m_progression->setTextVisible(false);
-        m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
-        m_gauche->addWidget(m_progression, 1);
-        m_gauche->addWidget(m_annuler);
-        m_progression->hide();
-        m_annuler->hide();
-    }
+    if (elements & Progression)
+        construireProgression();
     if (elements & Mini) {
         m_mini = ajouterAuPied(QStringLiteral("Mini"));
         connect(m_mini, &QPushButton::clicked, this, &QWidget::showMinimized);
@@ -58,46 +72,138 @@ FormeOutil::FormeOutil(const QString &nom, const QSize &taille, int elements)
     connect(m_quit, &QPushButton::clicked, this, &QWidget::close);
 }
 
+void FormeOutil::construireProgression()
+{
+    m_progression = nommer(new QProgressBar(this), QStringLiteral("Progression"));
+    m_progression->setTextVisible(false);
+    m_annuler = nommer(new QPushButton(this), QStringLiteral("Annuler"));
+    m_gauche->addWidget(m_progression, 1);
+    m_gauche->addWidget(m_annuler);
+    m_progression->hide();
+    m_annuler->hide();
+}
+
 QPushButton *FormeOutil::ajouterAuPied(const QString &nom, bool accent)
 {
     auto *bouton = nommer(new QPushButton(this), nom);
     bouton->setMinimumSize(TailleBouton);
-    if (accent)
+    if (accent) {
         Theme::Accentuer(bouton);
+        m_principal = bouton;
+    }
     // The form's own buttons stand before those of the frame.
     const bool propre = m_quit != nullptr;
     m_boutons->insertWidget(propre ? m_boutons->count() - (m_mini ? 2 : 1) : m_boutons->count(), bouton);
     return bouton;
 }
 
-QLabel *FormeOutil::ajouterMessage()
+QLabel *FormeOutil::ajouterMessage(const QString &nom)
 {
-    auto *message = nommer(new QLabel(this), QStringLiteral("Message"));
-    message->setWordWrap(true);
+    m_message = nommer(new QLabel(this), nom);
+    m_message->setWordWrap(true);
     // Room for one line, so that the form does not jump when there is something to say.
-    message->setMinimumHeight(message->fontMetrics().height());
-    m_page->insertWidget(m_page->count() - 1, message);
-    return message;
+    m_message->setMinimumHeight(m_message->fontMetrics().height());
+    m_page->insertWidget(m_page->count() - 1, m_message);
+    return m_message;
 }
 
-/// The foot was made before what stands above it: the keyboard comes to it last.
+QLabel *FormeOutil::ajouterMessageAuPied(const QString &nom, Cote cote)
+{
+    m_message = nommer(new QLabel(this), nom);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_gauche->insertWidget(cote == Cote::Avant ? 0 : m_gauche->count(), m_message, 1);
+    return m_message;
+}
+
+QLabel *FormeOutil::ajouterEtat(const QString &nom)
+{
+    auto *etat = nommer(new QLabel(this), nom);
+    m_gauche->insertWidget(0, etat);
+    return etat;
+}
+
+void FormeOutil::dire(const QString &ligne)
+{
+    m_message->setText(ligne);
+}
+
+void FormeOutil::dire(const QString &ligne, QPalette::ColorRole encre)
+{
+    m_message->setForegroundRole(encre);
+    dire(ligne);
+}
+
+void FormeOutil::keyPressEvent(QKeyEvent *evenement)
+{
+    if (evenement->key() != Qt::Key_Return && evenement->key() != Qt::Key_Enter)
+        return Forme::keyPressEvent(evenement);
+    if (!m_entreeSeule && evenement->modifiers().testFlag(Qt::ControlModifier))
+        presserPrincipal();
+    else if (QAbstractButton *bouton = boutonSous(focusWidget()))
+        bouton->click();
+    else
+        entrer();
+}
+
+void FormeOutil::entrer()
+{
+    if (m_entreeSeule)
+        presserPrincipal();
+}
+
+void FormeOutil::presserPrincipal()
+{
+    if (m_principal && m_principal->isVisible())
+        m_principal->click();
+}
+
+/// The foot was made before what stands above it: the keyboard comes to it last, and begins above it.
 void FormeOutil::showEvent(QShowEvent *evenement)
 {
     Forme::showEvent(evenement);
     if (std::exchange(m_ordonnee, true))
         return;
+    const std::vector<QWidget *> dessus = auDessusDuPied();
+    QWidget *dernier = dessus.empty() ? this : dessus.back();
+    for (QWidget *bouton : boutonsDuPied()) {
+        setTabOrder(dernier, bouton);
+        dernier = bouton;
+    }
+    const auto premier = std::find_if(dessus.begin(), dessus.end(),
+        [](const QWidget *controle) { return controle->isVisible() && controle->isEnabled(); });
+    if (!focusWidget() && premier != dessus.end())
+        (*premier)->setFocus(Qt::TabFocusReason);
+}
+
+std::vector<QWidget *> FormeOutil::boutonsDuPied() const
+{
+    std::vector<QWidget *> boutons;
     if (m_annuler)
-        setTabOrder(previousInFocusChain(), m_annuler);
+        boutons.push_back(m_annuler);
     for (int i = 0; i < m_boutons->count(); ++i)
-        setTabOrder(previousInFocusChain(), m_boutons->itemAt(i)->widget());
-    if (!focusWidget())
-        focusNextPrevChild(true);
+        boutons.push_back(m_boutons->itemAt(i)->widget());
+    return boutons;
+}
+
+/// What the keyboard comes to elsewhere than in the foot, in its order.
+std::vector<QWidget *> FormeOutil::auDessusDuPied() const
+{
+    const std::vector<QWidget *> pied = boutonsDuPied();
+    std::vector<QWidget *> dessus;
+    for (QWidget *suivant = nextInFocusChain(); suivant != this; suivant = suivant->nextInFocusChain()) {
+        const bool duPied = std::find(pied.begin(), pied.end(), suivant) != pied.end();
+        if (!duPied && suivant->focusPolicy() & Qt::TabFocus)
+            dessus.push_back(suivant);
+    }
+    return dessus;
 }
 
 void FormeOutil::poserTitre(const QString &texte)
 {
     setWindowTitle(texte + QStringLiteral(" - ") + ::titre());
-    m_titre->setText(texte);
+    if (m_titre)
+        m_titre->setText(texte);
 }
 
 void FormeOutil::Traduire()
