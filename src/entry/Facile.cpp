@@ -21,20 +21,15 @@ constexpr int LargeurCatalogue = 300;
 }
 
 Facile::Facile()
-    : FormeCreation(QStringLiteral("Facile"), TailleDessinee, Txt::CreationFacileDUnAlbum, false)
+    : FormeCreation(QStringLiteral("Facile"), TailleDessinee, Txt::CreationFacileDUnAlbum)
 {
     m_modele.poserPrefixe(QStringLiteral("A"));
-    ligne()->insertWidget(0, construireCatalogue());
+    // The keyboard comes to what is made first: one picks from the catalogue, then looks at the fields.
+    ligne()->addWidget(construireCatalogue());
     m_carton = nommer(new QCheckBox(this), QStringLiteral("Carton"));
+    construireFormulaire(false);
     QHBoxLayout *cases = formulaire()->ligneDesCases();
     cases->insertWidget(cases->count() - 1, m_carton);
-    // One picks from the catalogue first.
-    QWidget *precedent = this;
-    for (QWidget *suivant : {static_cast<QWidget *>(m_filtre), static_cast<QWidget *>(m_liste),
-             static_cast<QWidget *>(m_sel), static_cast<QWidget *>(m_carton)}) {
-        setTabOrder(precedent, suivant);
-        precedent = suivant;
-    }
     Facile::Traduire();
 }
 

@@ -16,14 +16,12 @@ constexpr int EcartDesBoutons = 6;
 
 }
 
-FormeCreation::FormeCreation(const QString &nom, const QSize &taille, Txt titre, bool date)
+FormeCreation::FormeCreation(const QString &nom, const QSize &taille, Txt titre)
     : FormeOutil(nom, taille, Mini, {Large.cotes, Large.bords, Large.ecart, EcartDesBoutons, Large.titre})
     , m_titre(titre)
 {
     m_ligne = new QHBoxLayout;
     m_ligne->setSpacing(Theme::Grand);
-    m_formulaire = new FormulaireAlbum(date, this);
-    m_ligne->addWidget(m_formulaire, 1);
     corps()->addLayout(m_ligne, 1);
     m_refus = ajouterMessageAuPied(QStringLiteral("Refus"), Cote::Avant);
     m_refus->setForegroundRole(QPalette::BrightText);
@@ -32,6 +30,12 @@ FormeCreation::FormeCreation(const QString &nom, const QSize &taille, Txt titre,
     m_creer = ajouterAuPied(QStringLiteral("BtnCreer"), true);
     reserverEntree();
     connect(m_creer, &QPushButton::clicked, this, &FormeCreation::creer);
+}
+
+void FormeCreation::construireFormulaire(bool date)
+{
+    m_formulaire = new FormulaireAlbum(date, this);
+    m_ligne->addWidget(m_formulaire, 1);
     connect(m_formulaire, &FormulaireAlbum::refusOte, this, [this] { dire({}); });
     connect(m_formulaire, &FormulaireAlbum::serieChoisie, this, [this](const QString &serie) {
         if (const auto tome = Saisie::ProchainTome(serie))

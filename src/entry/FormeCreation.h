@@ -21,7 +21,9 @@ Q_SIGNALS:
     void albumCree(int num);
 
 protected:
-    FormeCreation(const QString &nom, const QSize &taille, Txt titre, bool date);
+    FormeCreation(const QString &nom, const QSize &taille, Txt titre);
+    /// Makes the fields; with `date` the publication date has choices beside it.
+    void construireFormulaire(bool date);
 
     void Traduire() override;
 

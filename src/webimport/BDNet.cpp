@@ -103,6 +103,7 @@ void BDNet::brancher()
     connect(m_adresse, &QLineEdit::textChanged, this, [this](const QString &adresse) {
         m_analyse->setVisible(!estSurDetail() && Importation::EstUneFiche(adresseEntiere(adresse)));
     });
+    surEntree(m_adresse, [this] { suivreAdresse(); });
     connect(m_web, &VueWeb::adresseChangee, this, &BDNet::poserAdresse);
     connect(m_web, &VueWeb::avance, this,
         [this](int pourcent) { poserCharge(texte(Txt::ChargementEnCours), pourcent); });
@@ -172,6 +173,17 @@ void BDNet::allerA(const QString &adresse)
         m_vues->setCurrentWidget(m_web);
         m_web->aller(url);
     }
+}
+
+/// Enter in the address goes there, or reads the page where there is no browser.
+void BDNet::suivreAdresse()
+{
+    if (estSurDetail())
+        return;
+    if (m_navigateur)
+        allerA(m_adresse->text());
+    else
+        analyser();
 }
 
 void BDNet::poserAdresse(const QUrl &url)
@@ -286,17 +298,6 @@ void BDNet::poserVue(bool detail)
     m_analyse->setVisible(!detail && Importation::EstUneFiche(adresseEntiere(m_adresse->text())));
     m_creer->setVisible(detail);
     m_revenir->setVisible(detail);
-}
-
-/// Enter in the address goes there, or reads the page where there is no browser.
-void BDNet::entrer()
-{
-    if (focusWidget() != m_adresse || estSurDetail())
-        return;
-    if (m_navigateur)
-        allerA(m_adresse->text());
-    else
-        analyser();
 }
 
 void BDNet::closeEvent(QCloseEvent *evenement)

@@ -28,7 +28,6 @@ Q_SIGNALS:
 
 protected:
     void Traduire() override;
-    void entrer() override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:
@@ -38,6 +37,7 @@ private:
     void brancher();
 
     void allerA(const QString &adresse);
+    void suivreAdresse();
     void poserAdresse(const QUrl &url);
     void poserCharge(const QString &quoi, int pourcent);
     void analyser();

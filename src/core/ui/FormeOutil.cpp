@@ -18,6 +18,11 @@ namespace {
 
 constexpr QSize TailleBouton(96, 32);
 
+bool estEntree(const QKeyEvent &evenement)
+{
+    return evenement.key() == Qt::Key_Return || evenement.key() == Qt::Key_Enter;
+}
+
 /// What Enter presses; it leaves boxes to tick alone.
 QAbstractButton *boutonSous(QWidget *focus)
 {
@@ -136,7 +141,7 @@ void FormeOutil::dire(const QString &ligne, QPalette::ColorRole encre)
 
 void FormeOutil::keyPressEvent(QKeyEvent *evenement)
 {
-    if (evenement->key() != Qt::Key_Return && evenement->key() != Qt::Key_Enter)
+    if (!estEntree(*evenement))
         return Forme::keyPressEvent(evenement);
     if (!m_entreeSeule && evenement->modifiers().testFlag(Qt::ControlModifier))
         presserPrincipal();
@@ -144,6 +149,22 @@ void FormeOutil::keyPressEvent(QKeyEvent *evenement)
         bouton->click();
     else
         entrer();
+}
+
+void FormeOutil::surEntree(QWidget *champ, std::function<void()> acte)
+{
+    m_entrees[champ] = std::move(acte);
+    champ->installEventFilter(this);
+}
+
+bool FormeOutil::eventFilter(QObject *objet, QEvent *evenement)
+{
+    const auto entree = m_entrees.find(objet);
+    if (evenement->type() != QEvent::KeyPress || entree == m_entrees.end()
+        || !estEntree(*static_cast<QKeyEvent *>(evenement)))
+        return Forme::eventFilter(objet, evenement);
+    entree->second();
+    return true;
 }
 
 void FormeOutil::entrer()
@@ -165,8 +186,12 @@ void FormeOutil::showEvent(QShowEvent *evenement)
     if (std::exchange(m_ordonnee, true))
         return;
     const std::vector<QWidget *> dessus = auDessusDuPied();
-    QWidget *dernier = dessus.empty() ? this : dessus.back();
+    if (dessus.empty())
+        return;
+    QWidget *dernier = dessus.back();
     for (QWidget *bouton : boutonsDuPied()) {
+        // By way of the first: the order is a ring, and what stands before it seems to stand behind the last.
+        setTabOrder(dessus.front(), bouton);
         setTabOrder(dernier, bouton);
         dernier = bouton;
     }

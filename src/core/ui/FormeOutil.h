@@ -3,6 +3,8 @@
 #include "core/ui/Forme.h"
 
 #include <QPalette>
+#include <functional>
+#include <map>
 #include <vector>
 
 class QBoxLayout;
@@ -63,11 +65,15 @@ protected:
     QProgressBar *progression() const { return m_progression; }
     QPushButton *annuler() const { return m_annuler; }
 
+    /// What Enter does in this field instead. The key ends there: what it begins may take the focus away, and it must
+    /// not press the button that gets it.
+    void surEntree(QWidget *champ, std::function<void()> acte);
     /// What Enter does where no button has the focus: the main button's work, unless a form knows better.
     virtual void entrer();
 
     /// The captions of the foot; forms go on from here.
     void Traduire() override;
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
     void showEvent(QShowEvent *evenement) override;
 
@@ -89,6 +95,7 @@ private:
     QPushButton *m_principal = nullptr;
     QPushButton *m_mini = nullptr;
     QPushButton *m_quit = nullptr;
+    std::map<QObject *, std::function<void()>> m_entrees;
     bool m_entreeSeule = true;
     bool m_ordonnee = false;
 };
