@@ -172,6 +172,7 @@ QWidget *FormulaireAlbum::construireImages()
         const ChampDeCreation &champ = ChampsDeCreation::De(rubrique);
         auto *cadre = nommer(new CadreImage(zone), QString::fromLatin1(champ.controle));
         m_champs[rubrique] = cadre;
+        m_images[rubrique].clear();
         cadre->setFixedSize(TailleCadre);
         cadre->setAcceptDrops(true);
         auto *bouton = m_boutons[rubrique] = nommer(new QPushButton(zone), nom);
