@@ -4,8 +4,8 @@
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/schema/Tables.h"
+#include "model/Trouver.h"
 
-#include <array>
 #include <initializer_list>
 
 namespace {
@@ -30,12 +30,6 @@ void poser(Recordset &rs, std::initializer_list<Valeur> valeurs)
         rs.SetField(QLatin1String(v.champ), v.valeur);
 }
 
-void poserVides(Recordset &rs, std::initializer_list<const char *> champs)
-{
-    for (const char *champ : champs)
-        rs.SetField(QLatin1String(champ), Vide);
-}
-
 /// A text field that has no value holds one blank.
 QString texteOuVide(const QString &texte)
 {
@@ -47,46 +41,25 @@ QString titreDe(const Creer::Album &album)
     return texteOuVide(album.titre).left(LongueurTitre);
 }
 
-/// The tables of one kind of named entry, and how an album is linked to it.
-struct Lien
-{
-    const char *table;
-    const char *cle;
-    const char *recherche;
-    const char *liens;
-};
-constexpr Lien Genre{"Genre", "NGenre", "SELECT * From Genre where Nom = ? order by Nom asc", "GenreAlbums"};
-constexpr Lien Editeur{
-    "Editeur", "NEdit", "SELECT * From Editeur where Nom  = ? order by Nom asc", "EditeurAlbums"};
-constexpr Lien Serie{"Serie", "NSerie", "SELECT * From Serie where Nom = ? order by Nom asc", "SerieAlbums"};
-
-/// Finds the entry of this name or makes it, with the fields that `garnir` adds, and links the album to it.
-/// Nothing for a blank name.
-template <class Garnir>
-QVariant lier(Base &base, const Lien &lien, const QString &nom, int album, const Garnir &garnir)
+/// Finds the entry of this name or makes it, and links the album to it. Nothing for a blank name.
+QVariant lier(Base &base, const Especes::Espece &espece, const QString &nom, int album)
 {
     if (nom.trimmed().isEmpty())
         return {};
-    const QString cle = QLatin1String(lien.cle);
-    const auto trouvee = base.read(QLatin1String(lien.recherche), {nom});
-    int numero = 0;
-    if (trouvee.AtEnd()) {
-        numero = AccesBase::NouvelIdentifiant(QLatin1String(lien.table), cle);
-        auto rs = base.edit(QLatin1String(lien.table));
-        rs.AddNew();
-        rs.SetField(cle, numero);
-        rs.SetField(QStringLiteral("Nom"), nom);
-        garnir(rs);
-        rs.Update();
-    } else {
-        numero = trouvee.Fields(cle).toInt();
-    }
-    auto rs = base.edit(QLatin1String(lien.liens));
-    rs.AddNew();
-    rs.SetField(cle, numero);
-    rs.SetField(QStringLiteral("NAlbum"), album);
-    rs.Update();
+    int numero = Trouver::ParNom(base, espece, nom);
+    if (numero == 0)
+        numero = Creer::CreerEntree(espece, nom);
+    Creer::Lier(base, espece, numero, album);
     return numero;
+}
+
+/// A series that comes to be with an album has the genre and the publisher of that album.
+void garnirSerie(Base &base, int serie, const QVariant &genre, const QVariant &editeur)
+{
+    auto rs = base.edit(QStringLiteral("Serie"), QStringLiteral("NSerie = ?"), {serie});
+    rs.Edit();
+    poser(rs, {{"NGenre", genre}, {"NEditeur", editeur}});
+    rs.Update();
 }
 
 /// What an earlier album of the same number left behind would seem to belong to the new one.
@@ -109,19 +82,13 @@ void poserAlbum(Recordset &rs, int num, const Creer::Album &album)
 
 void lierSerie(Base &base, Recordset &rs, int num, const Creer::Album &album)
 {
-    const QVariant genre = lier(base, Genre, album.genre, num, [](Recordset &) {});
-    rs.SetField(QStringLiteral("NGenre"), genre);
-    const QVariant editeur = lier(base, Editeur, album.editeur, num, [](Recordset &neuf) {
-        poserVides(neuf, {"adresse1", "adresse2", "ville", "CP", "Tel", "Site", "Photo1", "Photo2"});
-        poser(neuf, {{"NPays", 0}});
-    });
-    rs.SetField(QStringLiteral("NEdit"), editeur);
-    rs.SetField(QStringLiteral("NumSerie"), lier(base, Serie, album.serie, num, [&](Recordset &neuve) {
-        poser(neuve,
-            {{"NGenre", genre}, {"NoteG", NoteNeuve}, {"NoteD", NoteNeuve}, {"NoteS", NoteNeuve},
-                {"cote", NoteNeuve}, {"NEditeur", editeur}});
-        poserVides(neuve, {"SiteWeb1", "SiteWeb2", "Commentaire", "Histoire", "Photo1", "Photo2"});
-    }));
+    const QVariant genre = lier(base, Especes::Genre, album.genre, num);
+    const QVariant editeur = lier(base, Especes::Editeur, album.editeur, num);
+    const bool neuve = Trouver::ParNom(base, Especes::Serie, album.serie) == 0;
+    const QVariant serie = lier(base, Especes::Serie, album.serie, num);
+    if (neuve && serie.isValid())
+        garnirSerie(base, serie.toInt(), genre, editeur);
+    poser(rs, {{"NGenre", genre}, {"NEdit", editeur}, {"NumSerie", serie}});
 }
 
 QVariant numeroOuRien(int numero)
@@ -144,17 +111,12 @@ void ajouterAuxListes(Base &base, int num, const Creer::Album &album)
 /// The author of this name. A text with a comma that is nobody's name is read as "name, first name".
 int chercherAuteur(const Base &base, const QString &nom)
 {
-    const auto entier
-        = base.read(QStringLiteral("SELECT * From Auteurs where Nom = ? order by Nom asc"), {nom});
-    if (!entier.AtEnd())
-        return entier.Fields(0).toInt();
     const qsizetype virgule = nom.indexOf(u',');
-    if (virgule < 0)
-        return 0;
-    const auto coupe = base.read(QStringLiteral("SELECT * From Auteurs where Nom = ? and trim(Prenom) = ?"
-                                                " collate FRANCAIS order by Nom asc"),
-        {nom.left(virgule).trimmed(), nom.mid(virgule + 1).trimmed()});
-    return coupe.AtEnd() ? 0 : coupe.Fields(0).toInt();
+    const int entier = Trouver::ParNom(base, Especes::Auteur, nom);
+    if (entier > 0 || virgule < 0)
+        return entier;
+    return Trouver::Personne(
+        base, Especes::Auteur, nom.left(virgule).trimmed(), nom.mid(virgule + 1).trimmed());
 }
 
 }
@@ -211,18 +173,21 @@ int Creer::AjouterAuteur(const QString &nom, Role role, int album)
     return auteur;
 }
 
-int Creer::CreerEntree(const QString &table, const QString &nom)
+int Creer::CreerEntree(const Especes::Espece &espece, const QString &nom, const QString &suite)
 {
     Base base;
+    const QString table = QLatin1String(espece.table);
     const QVariantList blanc = Schema::Blanc(table);
-    const int numero = AccesBase::NouvelIdentifiant(table, Schema::Champs(table).first());
+    const int numero = AccesBase::NouvelIdentifiant(table, QLatin1String(espece.cle));
     auto rs = base.edit(table);
     rs.AddNew();
     for (int i = 0; i < blanc.size(); ++i)
         rs.SetField(i, blanc.at(i));
-    rs.SetField(0, numero);
-    rs.SetField(1, nom);
-    if (table.compare(QLatin1String("Serie"), Qt::CaseInsensitive) == 0)
+    rs.SetField(QLatin1String(espece.cle), numero);
+    rs.SetField(QLatin1String(espece.nom), nom);
+    if (!suite.trimmed().isEmpty())
+        rs.SetField(QLatin1String(espece.suite), suite);
+    if (&espece == &Especes::Serie)
         poser(rs, {{"NoteG", NoteNeuve}, {"NoteD", NoteNeuve}, {"NoteS", NoteNeuve}, {"cote", NoteNeuve}});
     rs.Update();
     return numero;
@@ -230,14 +195,18 @@ int Creer::CreerEntree(const QString &table, const QString &nom)
 
 int Creer::CreerAuteur(const QString &nom, const QString &prenom, Role role)
 {
-    Base base;
-    const int numero = CreerEntree(QStringLiteral("Auteurs"), nom);
-    auto rs = base.edit(QStringLiteral("Auteurs"), QStringLiteral("NAuteur = ?"), {numero});
-    rs.Edit();
-    poser(rs, {{"Prenom", texteOuVide(prenom)}});
-    rs.SetField(AccesBase::NomDuRole(role), true);
-    rs.Update();
+    const int numero = CreerEntree(Especes::Auteur, nom, prenom);
+    AccesBase::PoserRole(numero, role);
     return numero;
+}
+
+void Creer::Lier(Base &base, const Especes::Espece &espece, int numero, int album)
+{
+    auto rs = base.edit(QLatin1String(espece.liens));
+    rs.AddNew();
+    rs.SetField(QLatin1String(espece.cle), numero);
+    rs.SetField(QStringLiteral("NAlbum"), album);
+    rs.Update();
 }
 
 void Creer::LierAuteur(int auteur, Role role, int album)

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "db/AccesBase.h"
+#include "model/Especes.h"
 
 #include <QString>
+
+class Base;
 
 /// The creation of an album with its link rows: the one way in which albums come to be, whatever they come from.
 namespace Creer {
@@ -43,12 +45,15 @@ int CreerEnUnActe(const Album &album);
 /// has. Returns his number, 0 for a blank name. Throws Error.
 int AjouterAuteur(const QString &nom, AccesBase::Role role, int album);
 
-/// A new entry of a table of named entries, with the defaults of a creation: blank texts, 0, marks of 5.
-/// Returns its number. Throws Error.
-int CreerEntree(const QString &table, const QString &nom);
+/// A new entry of a kind that has names, with the defaults of a creation: blank texts, 0, marks of 5; `suite` is
+/// what stands behind the name, a first name. Returns its number. Throws Error.
+int CreerEntree(const Especes::Espece &espece, const QString &nom, const QString &suite = {});
 
 /// A new author with one trade; returns his number. Throws Error.
 int CreerAuteur(const QString &nom, const QString &prenom, AccesBase::Role role);
+
+/// Ties an album to an entry by a row of links. Throws Error.
+void Lier(Base &base, const Especes::Espece &espece, int numero, int album);
 
 /// Gives an author a role of an album, beside those he has there. Throws Error.
 void LierAuteur(int auteur, AccesBase::Role role, int album);

@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 
 using Champs::Champ;
-using Champs::Feuille;
 using Champs::Regle;
 using Champs::Vue;
 using Ecrire::Resultat;
@@ -17,31 +16,58 @@ namespace {
 
 constexpr qsizetype LongueurMontree = 40;
 
-Feuille feuilleDe(const Edition &edition)
+QString libelle(const Champ *champ)
 {
-    return General::GenreDe(edition.entree.tri).feuille;
+    return champ ? texte(champ->libelle) : QString();
 }
 
-/// The fields that no row of the table describes: the grids' columns, and an author's trades.
-struct HorsTable
+QString libelle(const CelluleIntervenant &cellule)
 {
-    const char *nom;
-    Txt libelle;
-};
-constexpr HorsTable HorsTables[] = {
-    {"NomI", Txt::Intervenants},
-    {"ActI", Txt::Activite},
-    {"Mois", Txt::Mois},
-    {"Cotes", Txt::Cote},
-    {"Métiers", Txt::Activites},
-};
+    return texte(cellule.activite ? Txt::Activite : Txt::Intervenants);
+}
+
+QString libelle(const CelluleCote &cellule)
+{
+    return texte(cellule.mois ? Txt::Mois : Txt::Cote);
+}
+
+QString libelle(const Metiers &)
+{
+    return texte(Txt::Activites);
+}
+
+/// How a step that gives something a value is called: "Scénariste: Caumery".
+QString titre(const Edition &edition, const QString &valeur)
+{
+    const QString quoi = Ecrire::LibelleDe(edition);
+    const QString ligne = valeur.simplified();
+    if (ligne.isEmpty())
+        return quoi;
+    const bool longue = ligne.size() > LongueurMontree;
+    return quoi + QStringLiteral(": ") + (longue ? ligne.left(LongueurMontree) + QChar(0x2026) : ligne);
+}
 
 /// Writes a cell of the grid of quotes, which is the line with this cell replaced.
-void ecrireCote(const Edition &edition, const QString &saisie)
+void ecrireCote(int album, const CelluleCote &cellule, const QString &saisie)
 {
-    ChargerAlbums::Cote cote = edition.cote;
-    (Ecrire::NomDe(edition) == QLatin1String("Mois") ? cote.mois : cote.cote) = saisie;
-    ChargerAlbums::EcrireCote(edition.entree.id, edition.cote, cote);
+    ChargerAlbums::Cote cote = cellule.ligne;
+    (cellule.mois ? cote.mois : cote.cote) = saisie;
+    ChargerAlbums::EcrireCote(album, cellule.ligne, cote);
+}
+
+/// Why the text is refused; empty when it is written. A contributor's cell is chosen, never typed.
+QString ecrire(const Edition &edition, const QString &saisie)
+{
+    Q_ASSERT(!std::holds_alternative<CelluleIntervenant>(edition.quoi));
+    const int id = edition.entree.id;
+    const Champ *champ = Ecrire::ChampDe(edition);
+    if (const auto *cote = std::get_if<CelluleCote>(&edition.quoi))
+        ecrireCote(id, *cote, saisie);
+    else if (std::holds_alternative<Metiers>(edition.quoi))
+        EcrireFiche::PoserMetiers(id, saisie);
+    else if (!EcrireFiche::PoserSaisie(*champ, id, saisie))
+        return Fiche::RaisonDuRefus(*champ);
+    return {};
 }
 
 /// What the field will show; a memo's title says only that it was edited, so that a visit is one step.
@@ -59,7 +85,7 @@ QString avisDe(const Champ &champ, const QString &saisie)
     const QString voulue = saisie.trimmed();
     if (champ.regle == Regle::Titre && ecrite != voulue)
         return QCoreApplication::translate("Edition", "Le titre a été coupé à 50 caractères.");
-    if (champ.regle == Regle::Tome && voulue.size() > 3)
+    if (champ.regle == Regle::Tome && voulue.size() > Fiche::LongueurTome)
         return QCoreApplication::translate("Edition", "Le numéro a été coupé à 3 caractères : %1")
             .arg(ecrite);
     return {};
@@ -67,62 +93,62 @@ QString avisDe(const Champ &champ, const QString &saisie)
 
 }
 
-const Champ *Ecrire::ChampDe(const Edition &edition)
+Edition Ecrire::EditionDe(General::Entree entree, const Champ &champ)
 {
-    return Champs::Chercher(feuilleDe(edition), edition.champ.toUtf8().constData());
+    Edition edition{entree, &champ};
+    if (const auto valeurs = Fiche::Lire(champ.feuille, entree.id)) {
+        const ValeurDeChamp &valeur = valeurs->at(QLatin1String(champ.nom));
+        edition.affichee = valeur.affichee;
+        edition.stockee = valeur.stockee;
+    }
+    return edition;
 }
 
-QString Ecrire::NomDe(const Edition &edition)
+const Champ *Ecrire::ChampDe(const Edition &edition)
 {
-    return edition.champ.section(u'(', 0, 0);
+    const auto *champ = std::get_if<const Champ *>(&edition.quoi);
+    return champ ? *champ : nullptr;
+}
+
+const Sources::Source *Ecrire::SourceDe(const Edition &edition)
+{
+    if (const auto *cellule = std::get_if<CelluleIntervenant>(&edition.quoi))
+        return cellule->activite ? &Sources::Activite : &Sources::Intervenant;
+    const Champ *champ = ChampDe(edition);
+    return champ ? champ->source : nullptr;
 }
 
 QString Ecrire::LibelleDe(const Edition &edition)
 {
-    if (const Champ *champ = ChampDe(edition))
-        return texte(champ->libelle);
-    for (const HorsTable &hors : HorsTables) {
-        if (NomDe(edition) == QString::fromUtf8(hors.nom))
-            return texte(hors.libelle);
-    }
-    return {};
-}
-
-QString Ecrire::Titre(const QString &quoi, const QString &valeur)
-{
-    const QString ligne = valeur.simplified();
-    if (ligne.isEmpty())
-        return quoi;
-    const bool longue = ligne.size() > LongueurMontree;
-    return quoi + QStringLiteral(": ") + (longue ? ligne.left(LongueurMontree) + QChar(0x2026) : ligne);
-}
-
-QString Ecrire::TitreDe(const Edition &edition, const QString &valeur)
-{
-    return Titre(LibelleDe(edition), valeur);
+    return std::visit([](const auto &quoi) { return libelle(quoi); }, edition.quoi);
 }
 
 QString Ecrire::RaisonSiAbsente(const Edition &edition)
 {
     const Champ *champ = ChampDe(edition);
-    const Feuille feuille = feuilleDe(edition);
+    const Champs::Feuille feuille = General::GenreDe(edition.entree.tri).feuille;
     const int id = edition.entree.id;
     return Fiche::Existe(feuille, id) && (!champ || Fiche::Existe(feuille, id, champ->table))
         ? QString()
         : QCoreApplication::translate("Edition", "Cette fiche n'existe plus.");
 }
 
+QString Ecrire::EnUnActe(
+    const Edition &edition, const QString &montree, const std::function<QString(Base &)> &ecrire, int visite)
+{
+    Acte acte(titre(edition, montree), edition.entree, visite);
+    QString refus = RaisonSiAbsente(edition);
+    if (refus.isEmpty())
+        refus = ecrire(acte.base());
+    if (refus.isEmpty())
+        acte.valider();
+    return refus;
+}
+
 Resultat Ecrire::EcrireSaisie(const Edition &edition, const QString &saisie, int visite)
 {
     const Champ *champ = ChampDe(edition);
-    Acte acte(TitreDe(edition, valeurMontree(champ, saisie)), edition.entree, visite);
-    if (const QString absente = RaisonSiAbsente(edition); !absente.isEmpty())
-        return {absente, {}};
-    const bool grille = !champ && NomDe(edition) != QStringLiteral("Métiers");
-    if (grille)
-        ecrireCote(edition, saisie);
-    else if (!EcrireFiche::PoserSaisie(feuilleDe(edition), edition.entree.id, edition.champ, saisie))
-        return {Fiche::RaisonDuRefus(*champ), {}};
-    acte.valider();
-    return {{}, champ ? avisDe(*champ, saisie) : QString()};
+    const QString refus = EnUnActe(
+        edition, valeurMontree(champ, saisie), [&](Base &) { return ecrire(edition, saisie); }, visite);
+    return {refus, champ && refus.isEmpty() ? avisDe(*champ, saisie) : QString()};
 }

@@ -1,9 +1,10 @@
 #include "acts/EcrireGrilles.h"
 
+#include "acts/Creer.h"
 #include "core/Texte.h"
-#include "db/AccesBase.h"
 #include "db/Base.h"
 #include "db/Transaction.h"
+#include "model/Trouver.h"
 
 namespace {
 
@@ -13,42 +14,21 @@ QString nu(const QString &texte)
     return Texte::EstVide(texte) ? QString() : texte.trimmed();
 }
 
-/// The row of a named entry that a query finds, or a new one with these names; 0 for a blank name.
-int trouverOuFaire(
-    Base &base, const QString &table, const QString &cle, const QString &recherche, const QStringList &noms)
+/// The contributor or trade of a cell's text, made when there is none; 0 for a blank one. A surname alone is looked
+/// up alone; with a first name before the comma both must agree.
+int trouverOuFaire(Base &base, const Especes::Espece &espece, const QString &texte)
 {
-    if (noms.first().isEmpty())
-        return 0;
-    QVariantList valeurs;
-    for (const QString &nom : noms)
-        valeurs << nom;
-    const auto trouve = base.read(recherche, valeurs);
-    if (!trouve.AtEnd())
-        return trouve.Fields(cle).toInt();
-    const int numero = AccesBase::NouvelIdentifiant(table, cle);
-    auto rs = base.edit(table);
-    rs.AddNew();
-    rs.SetField(cle, numero);
-    rs.SetField(QStringLiteral("Nom"), noms.first());
-    if (noms.size() > 1)
-        rs.SetField(QStringLiteral("Prenom"), noms.at(1));
-    rs.Update();
-    return numero;
-}
-
-/// A surname alone is looked up alone; with a first name before the comma both must agree.
-int trouverIntervenant(Base &base, const QString &texte)
-{
-    const QString table = QStringLiteral("Inter");
-    const QString cle = QStringLiteral("NInter");
     const qsizetype virgule = texte.indexOf(u',');
-    if (virgule < 0 || texte.mid(virgule + 1).trimmed().isEmpty())
-        return trouverOuFaire(base, table, cle,
-            QStringLiteral("SELECT * From Inter where Nom = ? order by NInter asc"), {texte});
-    return trouverOuFaire(base, table, cle,
-        QStringLiteral("SELECT * From Inter where Nom = ? and trim(coalesce(Prenom, '')) = ? collate FRANCAIS"
-                       " order by NInter asc"),
-        {texte.mid(virgule + 1).trimmed(), texte.left(virgule).trimmed()});
+    const bool deux = espece.suite && virgule >= 0 && !texte.mid(virgule + 1).trimmed().isEmpty();
+    const QString nom = deux ? texte.mid(virgule + 1).trimmed() : texte;
+    if (nom.isEmpty())
+        return 0;
+    const QString prenom = deux ? texte.left(virgule).trimmed() : QString();
+    const int connu
+        = deux ? Trouver::Personne(base, espece, nom, prenom) : Trouver::ParNom(base, espece, nom);
+    if (connu > 0)
+        return connu;
+    return Creer::CreerEntree(espece, nom, prenom);
 }
 
 /// Takes away the first of the rows of a table that are such.
@@ -69,13 +49,12 @@ ChargerAlbums::Intervenant ChargerAlbums::EcrireIntervenant(
     Transaction transaction(base);
     Intervenant neuf = nouveau;
     if (neuf.intervenant == 0)
-        neuf.intervenant = trouverIntervenant(base, nu(neuf.nom));
+        neuf.intervenant = trouverOuFaire(base, Especes::Intervenant, nu(neuf.nom));
     const bool perdu = ancien.intervenant > 0 && neuf.intervenant == 0;
     if (perdu)
         neuf.metier = 0;
     else if (neuf.metier == 0)
-        neuf.metier = trouverOuFaire(base, QStringLiteral("Metier"), QStringLiteral("NMetier"),
-            QStringLiteral("SELECT * From Metier where Nom = ? order by NMetier asc"), {nu(neuf.activite)});
+        neuf.metier = trouverOuFaire(base, Especes::Activite, nu(neuf.activite));
     const bool change = neuf.intervenant != ancien.intervenant || neuf.metier != ancien.metier;
     if (change)
         oterUne(base, "InterMetier", telle, {num, ancien.intervenant, ancien.metier});

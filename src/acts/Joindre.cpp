@@ -1,11 +1,9 @@
 #include "acts/Joindre.h"
 
-#include "acts/Acte.h"
+#include "acts/EcrireFiche.h"
 #include "core/Error.h"
 #include "core/Images.h"
 #include "core/Texte.h"
-#include "db/AccesBase.h"
-#include "db/schema/Tables.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -15,17 +13,15 @@ namespace {
 
 constexpr QSize TailleDEssai(64, 64);
 
-void ecrire(const Edition &edition, const QString &valeur, const QString &titre)
+/// Throws Error when the entry is gone.
+void ecrire(const Edition &edition, const QString &valeur)
 {
-    const Champs::Champ *champ = Ecrire::ChampDe(edition);
-    const QString table = QLatin1String(champ->table);
-    const bool dedicace = champ->vue != Champs::Vue::Image;
-    const bool seconde = QString::fromLatin1(champ->colonne).endsWith(u'2');
-    Acte acte(Ecrire::TitreDe(edition, titre), edition.entree);
-    AccesBase::EcrireImage(table, seconde ? AccesBase::Rang::Seconde : AccesBase::Rang::Premiere,
-        Schema::Champs(table).first(), edition.entree.id, valeur,
-        dedicace ? AccesBase::Sorte::Dedicace : AccesBase::Sorte::Image);
-    acte.valider();
+    const QString refus = Ecrire::EnUnActe(edition, valeur, [&](Base &) {
+        EcrireFiche::Poser(*Ecrire::ChampDe(edition), edition.entree.id, valeur);
+        return QString();
+    });
+    if (!refus.isEmpty())
+        throw Error(refus, {});
 }
 
 }
@@ -33,10 +29,10 @@ void ecrire(const Edition &edition, const QString &valeur, const QString &titre)
 QString Joindre::QuestionSurLaNote(const Edition &edition)
 {
     constexpr qsizetype LongueurMontree = 60;
-    if (Ecrire::NomDe(edition) != QLatin1String("Dedi"))
+    const Champs::Champ &champ = *Ecrire::ChampDe(edition);
+    if (champ.vue != Champs::Vue::Dedicace)
         return {};
-    const auto valeurs = Fiche::Lire(General::GenreDe(edition.entree.tri).feuille, edition.entree.id);
-    const QString note = valeurs ? valeurs->at(edition.champ).affichee : QString();
+    const QString note = Ecrire::EditionDe(edition.entree, champ).affichee;
     if (Texte::EstVide(note) || Images::EstUneImage(note))
         return {};
     return QCoreApplication::translate(
@@ -51,8 +47,7 @@ void Joindre::Poser(const Edition &edition, const QString &chemin)
             QCoreApplication::translate("PhotosFiche", "Ce fichier n'est pas une image lisible."), chemin);
     if (const QString absente = Ecrire::RaisonSiAbsente(edition); !absente.isEmpty())
         throw Error(absente, {});
-    const QString nom = Images::Copier(chemin);
-    ecrire(edition, nom, nom);
+    ecrire(edition, Images::Copier(chemin));
 }
 
 void Joindre::PoserImage(const Edition &edition, const QImage &image)
@@ -61,7 +56,8 @@ void Joindre::PoserImage(const Edition &edition, const QImage &image)
     const QString entree = General::LireTexte(edition.entree.tri, edition.entree.id);
     const QTemporaryDir passage;
     const QString chemin = passage.filePath(
-        Images::NomDeFichier(entree.isEmpty() ? edition.champ : entree) + QStringLiteral(".jpg"));
+        Images::NomDeFichier(entree.isEmpty() ? QLatin1String(Ecrire::ChampDe(edition)->nom) : entree)
+        + QStringLiteral(".jpg"));
     if (!passage.isValid() || !image.save(chemin, "JPG", BonneQualite))
         throw Error(
             QCoreApplication::translate("PhotosFiche", "L'image ne peut pas être enregistrée."), chemin);
@@ -70,5 +66,5 @@ void Joindre::PoserImage(const Edition &edition, const QImage &image)
 
 void Joindre::Oter(const Edition &edition)
 {
-    ecrire(edition, QStringLiteral(" "), {});
+    ecrire(edition, QStringLiteral(" "));
 }

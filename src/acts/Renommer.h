@@ -20,9 +20,6 @@ struct Ajout
 };
 Ajout AjouterEntree(General::Tri tri, const QString &libelle);
 
-/// The field of the sheet that a label of this kind of list stands for.
-const Champs::Champ &ChampDe(General::Tri tri);
-
 /// Name and number of a press item as its label shows them; no number when the label has none.
 struct DePresse
 {

@@ -1,5 +1,6 @@
 #include "app/Bureau.h"
 
+#include "acts/Choisir.h"
 #include "app/Demarrage.h"
 #include "appearance/Polices.h"
 #include "appearance/Textures.h"
@@ -172,10 +173,8 @@ void Bureau::brancherParticuliers()
 /// The two ways to enter a value in a form of its own: chosen among entries or days, or typed in one line.
 void Bureau::editer(const Edition &edition)
 {
-    const Champs::Champ *champ = Ecrire::ChampDe(edition);
-    const bool tapee
-        = champ ? champ->voie == Champs::Voie::Saisie : Ecrire::NomDe(edition) == QLatin1String("Cotes");
-    const Nom nom = tapee ? Nom::FrmModif2 : Nom::FrmModif;
+    const bool choisie = Ecrire::SourceDe(edition) || Choisir::EstUneDate(edition);
+    const Nom nom = choisie ? Nom::FrmModif : Nom::FrmModif2;
     static_cast<FormeModification *>(ouvrir(nom))->editer(edition);
     montrer(nom);
 }
@@ -380,16 +379,11 @@ void Bureau::montrerPourCapture(Nom nom)
 {
     if (nom != Nom::FrmModif && nom != Nom::FrmModif2)
         return nom == Nom::Frmmain ? void() : montrer(nom);
-    Edition edition;
-    edition.entree = forme<Frmmain>(Nom::Frmmain)->courante();
-    edition.champ = nom == Nom::FrmModif ? QStringLiteral("Scena") : QStringLiteral("PrixA");
-    const Champs::Champ *champ = Ecrire::ChampDe(edition);
-    const auto valeurs = champ ? Fiche::Lire(champ->feuille, edition.entree.id) : std::nullopt;
-    if (!valeurs)
-        return;
-    edition.affichee = valeurs->at(edition.champ).affichee;
-    edition.stockee = valeurs->at(edition.champ).stockee;
-    editer(edition);
+    constexpr Champs::Feuille Album = Champs::Feuille::Album;
+    const General::Entree courante = forme<Frmmain>(Nom::Frmmain)->courante();
+    if (courante.tri == General::Tri::Albums && courante.id > 0)
+        editer(Ecrire::EditionDe(
+            courante, nom == Nom::FrmModif ? Champs::De(Album, "Scena") : Champs::De(Album, "PrixA")));
 }
 
 void Bureau::capturerEntree(Frmmain &fenetre, int id)

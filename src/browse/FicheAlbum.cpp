@@ -17,6 +17,9 @@
 
 namespace {
 
+/// The two dedications: notes, or pictures that stand below.
+constexpr const Champs::Champ *Dedicaces[]
+    = {&Champs::De(Champs::Feuille::Album, "Dedi(0)"), &Champs::De(Champs::Feuille::Album, "Dedi(1)")};
 constexpr int LargeursImage[] = {216, 290, 380};
 constexpr qreal ProportionImage = 4.0 / 3.0;
 constexpr int HauteurMemo = 84;
@@ -249,7 +252,7 @@ void FicheAlbum::construireDedicaces(QBoxLayout *colonne)
     for (int i = 0; i < 2; ++i) {
         m_photosD[i] = nommer(new CadreImage(this), QStringLiteral("PhotoD"), i);
         m_photosD[i]->setFixedHeight(HauteurDedicace);
-        brancherCadre(QStringLiteral("Dedi(%1)").arg(i), m_photosD[i]);
+        brancherCadre(*Dedicaces[i], m_photosD[i]);
         images->addWidget(m_photosD[i]);
     }
     colonne->addLayout(images);
@@ -266,24 +269,27 @@ void FicheAlbum::construireGrilles(QBoxLayout *colonne)
         colonne->addWidget(titreDe(titre));
         colonne->addWidget(grille);
         connect(grille, &GrilleFiche::celluleFaite, this, &FicheAlbum::inscrire);
-        connect(grille, &GrilleFiche::celluleActionnee, this, [this](int rang, const Legende *cellule) {
-            Q_EMIT editionDemandee(editionDeCellule(rang, cellule));
-        });
+        connect(
+            grille, &GrilleFiche::celluleActionnee, this, [this, grille = grille](const Legende *cellule) {
+                Q_EMIT editionDemandee(editionDeCellule(grille, cellule));
+            });
         // The first line is made now, so that the keyboard comes to the grid before the texts below it.
         grille->montrer({});
     }
 }
 
 /// A cell is changed together with its line, which is what the collection keeps.
-Edition FicheAlbum::editionDeCellule(int rang, const Legende *cellule) const
+Edition FicheAlbum::editionDeCellule(const GrilleFiche *grille, const Legende *cellule) const
 {
-    Edition edition = editionDe(cellule->objectName(), cellule);
+    const auto ligneDe = [rang = static_cast<std::size_t>(grille->rangDe(cellule))](const auto &lignes) {
+        return rang < lignes.size() ? lignes[rang] : std::decay_t<decltype(lignes[rang])>();
+    };
+    const bool seconde = grille->estSeconde(cellule);
+    const Edite quoi = grille == m_intervenants
+        ? Edite(CelluleIntervenant{ligneDe(m_fiche.intervenants), seconde})
+        : Edite(CelluleCote{ligneDe(m_fiche.cotes), !seconde});
+    Edition edition = editionDe(quoi, cellule);
     edition.affichee = cellule->estVide() ? QString() : cellule->text();
-    const auto ligne = static_cast<std::size_t>(rang);
-    if (ligne < m_fiche.intervenants.size())
-        edition.intervenant = m_fiche.intervenants[ligne];
-    if (ligne < m_fiche.cotes.size())
-        edition.cote = m_fiche.cotes[ligne];
     return edition;
 }
 
@@ -292,12 +298,12 @@ Edition FicheAlbum::editionSous(const QWidget *controle) const
     for (const GrilleFiche *grille : {m_intervenants, m_cotes}) {
         if (grille->isAncestorOf(controle)) {
             if (const auto *cellule = qobject_cast<const Legende *>(controle))
-                return editionDeCellule(grille->rangDe(cellule), cellule);
+                return editionDeCellule(grille, cellule);
         }
     }
     for (int i = 0; i < 2; ++i) {
         if (controle == m_photosD[i])
-            return editionDe(QStringLiteral("Dedi(%1)").arg(i), controle);
+            return editionDe(Dedicaces[i], controle);
     }
     return FicheForme::editionSous(controle);
 }
@@ -384,11 +390,10 @@ void FicheAlbum::montrerInfos(const InfosAlbum &infos)
 
 void FicheAlbum::montrerDedicaces(const Valeurs &valeurs)
 {
-    int rang = 0;
-    for (const char *champ : {"Dedi(0)", "Dedi(1)"}) {
-        const auto trouvee = valeurs.find(QLatin1String(champ));
+    for (int i = 0; i < 2; ++i) {
+        const auto trouvee = valeurs.find(QLatin1String(Dedicaces[i]->nom));
         const QString valeur = trouvee == valeurs.end() ? QString() : trouvee->second.affichee;
-        CadreImage *cadre = m_photosD[rang++];
+        CadreImage *cadre = m_photosD[i];
         const bool image = Images::EstUneImage(valeur);
         cadre->setVisible(image);
         cadre->montrer(image ? valeur : QString());

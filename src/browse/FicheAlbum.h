@@ -41,7 +41,7 @@ private:
     void construireCases(QBoxLayout *colonne);
     void construireDedicaces(QBoxLayout *colonne);
     void construireGrilles(QBoxLayout *colonne);
-    Edition editionDeCellule(int rang, const Legende *cellule) const;
+    Edition editionDeCellule(const GrilleFiche *grille, const Legende *cellule) const;
 
     void montrerInfos(const InfosAlbum &infos);
     void montrerDedicaces(const Valeurs &valeurs);

@@ -167,7 +167,7 @@ void FicheEntite::construireMetiers(QBoxLayout *colonne)
         m_metiers[i] = nommer(new QCheckBox(this), QStringLiteral("M_tiers"), i);
         inscrire(m_metiers[i]);
         connect(m_metiers[i], &QCheckBox::clicked, this, [this] {
-            ecrire(QStringLiteral("Métiers"),
+            ecrire(Metiers(),
                 ChargerAuteurs::TexteDesMetiers(m_tri, m_metiers[0]->isChecked(), m_metiers[1]->isChecked()));
         });
         colonne->addWidget(m_metiers[i]);
@@ -181,13 +181,13 @@ void FicheEntite::construireTypes(QBoxLayout *colonne)
     colonne->addWidget(titreDe(Txt::ExLibris));
     auto *grille = new QGridLayout;
     grille->setContentsMargins(0, Theme::Fin, 0, 0);
-    for (const Fiche::Option &option : Fiche::Options(*Champs::Chercher(Feuille::ExLibris, "TypeExlibris"))) {
+    for (const Fiche::Option &option : Fiche::Options(Champs::De(Feuille::ExLibris, "TypeExlibris"))) {
         const int i = option.valeur;
         auto *bouton = nommer(new QRadioButton(this), QStringLiteral("TypeExlibris"), i);
         inscrire(bouton);
         grille->addWidget(bouton, i / Colonnes, i % Colonnes);
         connect(bouton, &QRadioButton::clicked, this,
-            [this, i] { ecrire(QStringLiteral("TypeExlibris"), QString::number(i)); });
+            [this, i] { ecrire(&Champs::De(Feuille::ExLibris, "TypeExlibris"), QString::number(i)); });
         m_types.push_back(bouton);
     }
     colonne->addLayout(grille);
@@ -217,7 +217,7 @@ void FicheEntite::Traduire()
     m_genre->setText(texte(General::GenreDe(m_tri).bouton));
     for (const auto &[titre, numero] : m_titres)
         titre->setText(texte(numero));
-    const auto types = Fiche::Options(*Champs::Chercher(Feuille::ExLibris, "TypeExlibris"));
+    const auto types = Fiche::Options(Champs::De(Feuille::ExLibris, "TypeExlibris"));
     for (std::size_t i = 0; i < m_types.size(); ++i)
         libeller(m_types[i], types[i].mot);
     if (m_plan.images) {

@@ -98,62 +98,70 @@ FicheForme::FicheForme(Feuille feuille, const QString &nom, QWidget *parent)
 
 QWidget *FicheForme::creer(const char *nom)
 {
-    const Champ *champ = Chercher(m_feuille, nom);
-    Q_ASSERT(champ);
-    QWidget *controle = nommer(fabriquer(champ->vue, this), QString::fromLatin1(champ->controle));
+    const Champ &voulu = champ(nom);
+    QWidget *controle = nommer(fabriquer(voulu.vue, this), QString::fromLatin1(voulu.controle));
     m_controles[nom] = controle;
-    brancher(*champ, controle);
+    brancher(voulu, controle);
     return controle;
 }
 
 /// What the user does to a control is written at once, or asked for in a form of its own.
 void FicheForme::brancher(const Champ &champ, QWidget *controle)
 {
-    const QString nom = QString::fromLatin1(champ.nom);
+    const Champ *quoi = &champ;
     if (auto *legende = qobject_cast<Legende *>(controle)) {
         connect(legende, &Legende::actionnee, this,
-            [this, nom, legende] { Q_EMIT editionDemandee(editionDe(nom, legende)); });
+            [this, quoi, legende] { Q_EMIT editionDemandee(editionDe(quoi, legende)); });
         connect(legende, &Legende::ouvertureDemandee, this, &Liens::Ouvrir);
     } else if (auto *memo = qobject_cast<Memo *>(controle)) {
         connect(memo, &Memo::modifie, this,
-            [this, nom](const QString &texte, int visite) { ecrire(nom, texte, visite); });
+            [this, quoi](const QString &texte, int visite) { ecrire(quoi, texte, visite); });
     } else if (auto *etoiles = qobject_cast<Etoiles *>(controle)) {
-        connect(
-            etoiles, &Etoiles::choisie, this, [this, nom](int note) { ecrire(nom, QString::number(note)); });
+        connect(etoiles, &Etoiles::choisie, this,
+            [this, quoi](int note) { ecrire(quoi, QString::number(note)); });
     } else if (auto *boite = qobject_cast<QCheckBox *>(controle)) {
         connect(boite, &QCheckBox::clicked, this,
-            [this, nom](bool coche) { ecrire(nom, QString::number(coche ? 1 : 0)); });
+            [this, quoi](bool coche) { ecrire(quoi, QString::number(coche ? 1 : 0)); });
     } else if (auto *choix = qobject_cast<ChoixPlat *>(controle)) {
         connect(choix, &QComboBox::activated, this,
-            [this, nom, choix] { ecrire(nom, choix->currentData().toString()); });
+            [this, quoi, choix] { ecrire(quoi, choix->currentData().toString()); });
     } else if (auto *cadre = qobject_cast<CadreImage *>(controle)) {
-        brancherCadre(nom, cadre);
+        brancherCadre(champ, cadre);
     }
 }
 
-void FicheForme::brancherCadre(const QString &champ, CadreImage *cadre)
+void FicheForme::brancherCadre(const Champ &champ, CadreImage *cadre)
 {
+    const Champ *quoi = &champ;
     cadre->poserModifiable();
     connect(cadre, &CadreImage::fichierDepose, this,
-        [this, champ, cadre](const QString &chemin) { Joindre::Poser(editionDe(champ, cadre), chemin); });
+        [this, quoi, cadre](const QString &chemin) { Joindre::Poser(editionDe(quoi, cadre), chemin); });
     connect(cadre, &CadreImage::imageCollee, this,
-        [this, champ, cadre](const QImage &image) { Joindre::PoserImage(editionDe(champ, cadre), image); });
+        [this, quoi, cadre](const QImage &image) { Joindre::PoserImage(editionDe(quoi, cadre), image); });
     connect(cadre, &CadreImage::ouvertureDemandee, this,
-        [this, champ, cadre] { Liens::OuvrirImage(editionDe(champ, cadre).affichee); });
+        [this, quoi, cadre] { Liens::OuvrirImage(editionDe(quoi, cadre).affichee); });
     // A click on an empty frame fills it; one on a picture is only a look.
-    connect(cadre, &CadreImage::actionnee, this, [this, champ, cadre] {
+    connect(cadre, &CadreImage::actionnee, this, [this, quoi, cadre] {
         if (!cadre->aUneImage())
-            Q_EMIT imageDemandee(editionDe(champ, cadre));
+            Q_EMIT imageDemandee(editionDe(quoi, cadre));
     });
 }
 
-Edition FicheForme::editionDe(const QString &champ, const QWidget *controle) const
+const Champ &FicheForme::champ(const char *nom) const
 {
-    Edition edition;
-    edition.entree = m_entree;
-    edition.champ = champ;
+    const Champ *champ = Chercher(m_feuille, nom);
+    Q_ASSERT_X(champ, "FicheForme", nom);
+    return *champ;
+}
+
+Edition FicheForme::editionDe(const Edite &quoi, const QWidget *controle) const
+{
+    Edition edition{m_entree, quoi};
     edition.place = QRect(controle->mapToGlobal(QPoint()), controle->size());
-    if (const auto valeur = m_valeurs.find(champ); valeur != m_valeurs.end()) {
+    const Champ *champ = Ecrire::ChampDe(edition);
+    if (!champ)
+        return edition;
+    if (const auto valeur = m_valeurs.find(QLatin1String(champ->nom)); valeur != m_valeurs.end()) {
         edition.affichee = valeur->second.affichee;
         edition.stockee = valeur->second.stockee;
     }
@@ -164,9 +172,9 @@ Edition FicheForme::editionSous(const QWidget *controle) const
 {
     for (const auto &[nom, valeur] : m_controles) {
         if (valeur == controle || valeur->isAncestorOf(controle))
-            return editionDe(QString::fromStdString(nom), valeur);
+            return editionDe(&champ(nom.c_str()), valeur);
     }
-    return editionDe({}, this);
+    return editionDe(nullptr, this);
 }
 
 void FicheForme::contextMenuEvent(QContextMenuEvent *evenement)
@@ -180,11 +188,11 @@ void FicheForme::contextMenuEvent(QContextMenuEvent *evenement)
         Q_EMIT menuDemande(editionSous(sous), point);
 }
 
-void FicheForme::ecrire(const QString &champ, const QString &saisie, int visite)
+void FicheForme::ecrire(const Edite &quoi, const QString &saisie, int visite)
 {
     Ecrire::Resultat resultat;
     try {
-        resultat = Ecrire::EcrireSaisie(editionDe(champ, this), saisie, visite);
+        resultat = Ecrire::EcrireSaisie(editionDe(quoi, this), saisie, visite);
     } catch (...) {
         remontrer();
         throw;

@@ -68,11 +68,13 @@ protected:
     General::Entree entree() const { return m_entree; }
     const Valeurs &valeurs() const { return m_valeurs; }
 
-    Edition editionDe(const QString &champ, const QWidget *controle) const;
+    Edition editionDe(const Edite &quoi, const QWidget *controle) const;
+    /// The field of this sheet of that name.
+    const Champs::Champ &champ(const char *nom) const;
     /// Connects a frame: what is dropped on it or pasted into it becomes the picture of the field.
-    void brancherCadre(const QString &champ, CadreImage *cadre);
+    void brancherCadre(const Champs::Champ &champ, CadreImage *cadre);
     /// Writes a value that was entered on the sheet itself. Throws Error.
-    void ecrire(const QString &champ, const QString &saisie, int visite = 0);
+    void ecrire(const Edite &quoi, const QString &saisie, int visite = 0);
 
 private:
     void brancher(const Champs::Champ &champ, QWidget *controle);

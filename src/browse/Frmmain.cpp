@@ -103,11 +103,8 @@ void Frmmain::brancher()
     connect(m_volet, &VoletListes::entreeChoisie, this, &Frmmain::choisir);
     connect(m_volet, &VoletListes::renommageDemande, this, &Frmmain::renommer);
     connect(m_volet, &VoletListes::suppressionDemandee, this, &Frmmain::suppressionDemandee);
-    connect(m_volet, &VoletListes::menuDemande, this, [this](Entree entree, const QPoint &point) {
-        Edition edition;
-        edition.entree = entree;
-        Q_EMIT menuDemande(edition, point);
-    });
+    connect(m_volet, &VoletListes::menuDemande, this,
+        [this](Entree entree, const QPoint &point) { Q_EMIT menuDemande({entree}, point); });
     connect(m_fiches, &PileFiches::formeDemandee, this, &Frmmain::formeDemandee);
     connect(m_fiches, &PileFiches::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
     connect(m_fiches, &PileFiches::editionDemandee, this, &Frmmain::editionDemandee);

@@ -31,8 +31,7 @@ void GrilleFiche::ajouterLigne()
             setTabOrder(m_derniere, cellule);
         m_derniere = cellule;
         m_cellules[i].push_back(cellule);
-        connect(cellule, &Legende::actionnee, this,
-            [this, rang, cellule] { Q_EMIT celluleActionnee(rang, cellule); });
+        connect(cellule, &Legende::actionnee, this, [this, cellule] { Q_EMIT celluleActionnee(cellule); });
         Q_EMIT celluleFaite(cellule);
     }
 }
@@ -66,4 +65,9 @@ int GrilleFiche::rangDe(const Legende *cellule) const
             return static_cast<int>(trouvee - colonne.begin());
     }
     return -1;
+}
+
+bool GrilleFiche::estSeconde(const Legende *cellule) const
+{
+    return std::find(m_cellules[1].begin(), m_cellules[1].end(), cellule) != m_cellules[1].end();
 }

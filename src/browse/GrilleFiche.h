@@ -25,10 +25,12 @@ public:
     void Traduire();
     /// The line of a cell.
     int rangDe(const Legende *cellule) const;
+    /// True for a cell of the right column.
+    bool estSeconde(const Legende *cellule) const;
 
 Q_SIGNALS:
     void celluleFaite(Legende *cellule);
-    void celluleActionnee(int rang, Legende *cellule);
+    void celluleActionnee(Legende *cellule);
 
 private:
     void ajouterLigne();

@@ -20,14 +20,14 @@ int NouvelIdentifiant(const QString &table, const QString &champ);
 /// The names (second field) of a table, in order.
 QStringList LireNoms(const QString &table);
 
+// What nothing in the program calls any more stays under its name: EcrireImage, ChercherOuCreer,
+// EnregistrerOuSupprimer and CompterLignes.
+
 enum class Rang { Premiere, Seconde };
 enum class Sorte { Image, Dedicace };
 /// Writes a picture's file name or a dedication into the row with this key. Nothing happens without such a row.
 void EcrireImage(
     const QString &table, Rang rang, const QString &champCle, int cle, const QString &valeur, Sorte sorte);
-
-// What nothing in the program calls any more stays under its name: ChercherOuCreer, EnregistrerOuSupprimer and
-// CompterLignes.
 
 /// The field of the row with this identifier. Without such a row one is made with the value given, under a
 /// new identifier, which is handed back.

@@ -52,7 +52,8 @@ QString pourMenu(const QString &texte)
 
 bool estDedicace(const Edition &edition)
 {
-    return Ecrire::NomDe(edition) == QLatin1String("Dedi");
+    const Champ *champ = Ecrire::ChampDe(edition);
+    return champ && champ->vue == Vue::Dedicace;
 }
 
 }
@@ -93,7 +94,7 @@ void Pop::remplir()
         premiere->setFont(gras);
         addSeparator();
     }
-    if (!m_edition.champ.isEmpty())
+    if (m_edition.viseUneValeur())
         remplirValeur();
     else if (entree.id > 0)
         remplirEntree();

@@ -223,14 +223,8 @@ void Pret::poserCourante(General::Entree entree)
 
 void Pret::preter()
 {
-    Edition edition;
-    edition.entree = m_courante;
-    edition.champ = QStringLiteral("NPret");
+    Edition edition = Ecrire::EditionDe(m_courante, Champs::De(Champs::Feuille::Album, "NPret"));
     edition.place = QRect(m_preter->mapToGlobal(QPoint()), m_preter->size());
-    if (const auto valeurs = Fiche::Lire(Champs::Feuille::Album, m_courante.id)) {
-        edition.affichee = valeurs->at(edition.champ).affichee;
-        edition.stockee = valeurs->at(edition.champ).stockee;
-    }
     Q_EMIT editionDemandee(edition);
 }
 

@@ -5,22 +5,15 @@
 
 namespace {
 
+/// "first name , name", as the grid shows a contributor.
 QString lireIntervenant(const Base &base, int numero)
 {
-    const auto rs
-        = base.read(QStringLiteral("SELECT * From Inter where NInter= ? order by Nom asc"), {numero});
+    const auto rs = base.read(QStringLiteral("SELECT Nom, Prenom From Inter where NInter = ?"), {numero});
     if (rs.AtEnd())
         return {};
-    const QString prenom = rs.Fields(2).toString().trimmed();
-    const QString nom = rs.Fields(1).toString().trimmed();
+    const QString prenom = rs.Fields(1).toString().trimmed();
+    const QString nom = rs.Fields(0).toString().trimmed();
     return prenom.isEmpty() ? nom : prenom + QStringLiteral(" , ") + nom;
-}
-
-QString lireMetier(const Base &base, int numero)
-{
-    const auto rs
-        = base.read(QStringLiteral("SELECT * From Metier where NMetier = ? order by Nom asc"), {numero});
-    return rs.AtEnd() ? QString() : rs.Fields(1).toString().trimmed();
 }
 
 /// An album without a summary of its own shows the copy that its list row keeps.
@@ -72,7 +65,8 @@ std::vector<ChargerAlbums::Intervenant> ChargerAlbums::AfficherIntervenants(int 
          !rs.AtEnd(); rs.MoveNext()) {
         const int intervenant = rs.Fields(QStringLiteral("NInter")).toInt();
         const int metier = rs.Fields(QStringLiteral("NMetier")).toInt();
-        lignes.push_back({intervenant, metier, lireIntervenant(base, intervenant), lireMetier(base, metier)});
+        lignes.push_back({intervenant, metier, lireIntervenant(base, intervenant),
+            Sources::LireNom(Sources::Activite, metier)});
     }
     return lignes;
 }

@@ -2,40 +2,30 @@
 
 #include "db/Base.h"
 
+using Especes::Metier;
 using General::Tri;
 
 namespace {
 
-constexpr ChargerAuteurs::Metier Tous[] = {
-    {Tri::Dessinateurs, Txt::Dessinateur, "Dessin", "Dessinateur"},
-    {Tri::Scenaristes, Txt::Scenariste, "Scena", "Scénariste"},
-    {Tri::Coloristes, Txt::Coloriste, "Color", "Coloriste"},
-};
-
 Cursor ouvrir(const Base &base, int nAuteur)
 {
-    return base.read(QStringLiteral("SELECT * From Auteurs where NAuteur = ?"), {nAuteur});
+    return base.read(Especes::Lecture(Especes::Auteur.fiche.front()), {nAuteur});
 }
 
-}
-
-std::span<const ChargerAuteurs::Metier> ChargerAuteurs::TousLesMetiers()
-{
-    return Tous;
 }
 
 ChargerAuteurs::Metiers ChargerAuteurs::LireMetiers(int nAuteur, Tri liste)
 {
     const Base base;
     const auto rs = ouvrir(base, nAuteur);
-    Metiers metiers{Tous[0].libelle, {}};
+    Metiers metiers{Especes::Metiers[0].libelle, {}};
     int rang = 0;
-    for (const Metier &metier : Tous) {
-        if (metier.liste == liste)
+    for (const Metier &metier : Especes::Metiers) {
+        if (metier.role == General::GenreDe(liste).role)
             metiers.titre = metier.libelle;
         else if (rang < 2)
             metiers.autres[rang++]
-                = {metier.libelle, !rs.AtEnd() && rs.Fields(QLatin1String(metier.drapeau)).toBool()};
+                = {metier.libelle, !rs.AtEnd() && rs.Fields(AccesBase::NomDuRole(metier.role)).toBool()};
     }
     return metiers;
 }
@@ -44,8 +34,8 @@ QString ChargerAuteurs::TexteDesMetiers(Tri liste, bool premier, bool second)
 {
     QStringList mots;
     int rang = 0;
-    for (const Metier &metier : Tous) {
-        if (metier.liste == liste || (rang++ == 0 ? premier : second))
+    for (const Metier &metier : Especes::Metiers) {
+        if (metier.role == General::GenreDe(liste).role || (rang++ == 0 ? premier : second))
             mots << QString::fromUtf8(metier.mot);
     }
     return mots.join(u'|');

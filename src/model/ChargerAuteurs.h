@@ -3,20 +3,8 @@
 #include "model/Fiche.h"
 #include "model/General.h"
 
-#include <span>
-
 /// The author sheet: his trades.
 namespace ChargerAuteurs {
-
-/// A trade: the list of those who have it, its caption, the flag in their rows, its word in a text of trades.
-struct Metier
-{
-    General::Tri liste;
-    Txt libelle;
-    const char *drapeau;
-    const char *mot;
-};
-std::span<const Metier> TousLesMetiers();
 
 /// The trades area, as it stands for an author who was chosen from the list of one trade.
 struct Metiers

@@ -13,8 +13,6 @@ using namespace Champs;
 
 namespace {
 
-constexpr qsizetype LongueurTitre = 50;
-constexpr qsizetype LongueurTome = 3;
 const QString Http = QStringLiteral("http://");
 
 constexpr std::array Formats{Txt::FormatNormal, Txt::GrandFormat, Txt::FormatItalienne, Txt::AutreFormat};
@@ -40,7 +38,7 @@ Mots motsDe(Vue vue)
         return {Couleurs, 1};
     case Vue::Parution:
         return {Parutions};
-    case Vue::Genre:
+    case Vue::Type:
         return {Types};
     default:
         return {};
@@ -85,9 +83,9 @@ QString note(const QVariant &valeur)
 
 QString nomDe(const Champ &champ, int id, const QVariant &stockee)
 {
-    if (champ.source->liens)
-        return Fiche::LireNomsLies(*champ.source, id);
-    return Fiche::LireNom(*champ.source, stockee.toInt());
+    if (champ.source->lien == Sources::Lien::Tous)
+        return Sources::LireNomsLies(*champ.source, id);
+    return Sources::LireNom(*champ.source, stockee.toInt());
 }
 
 std::optional<QVariant> entier(const QString &saisie, const QVariant &siVide)
@@ -106,13 +104,11 @@ std::optional<Valeurs> Fiche::Lire(Feuille feuille, int id)
     const Base base;
     Valeurs valeurs;
     bool trouvee = false;
-    for (const Ligne &ligne : Lignes()) {
-        if (ligne.feuille != feuille)
-            continue;
-        const auto rs = base.read(QLatin1String(ligne.lecture), {id});
+    for (const Especes::Rangs &rangs : Especes::De(feuille).fiche) {
+        const auto rs = base.read(Especes::Lecture(rangs), {id});
         trouvee = trouvee || !rs.AtEnd();
-        for (const Champ &champ : Tous()) {
-            if (champ.feuille != feuille || qstrcmp(champ.table, ligne.table) != 0)
+        for (const Champ &champ : Tous) {
+            if (champ.feuille != feuille || qstrcmp(champ.table, rangs.table) != 0)
                 continue;
             ValeurDeChamp &valeur = valeurs[QLatin1String(champ.nom)];
             if (champ.colonne && !rs.AtEnd())
@@ -137,7 +133,7 @@ QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
         return texte(stockee.toBool() ? Txt::Oui : Txt::Non);
     case Vue::Format:
     case Vue::Couleur:
-    case Vue::Genre:
+    case Vue::Type:
         return motDe(champ.vue, stockee);
     case Vue::Memo:
         return Texte::EstVide(stockee.toString()) ? QString() : stockee.toString();
@@ -152,6 +148,7 @@ QString Fiche::Afficher(const Champ &champ, const QVariant &stockee)
     case Vue::Texte:
     case Vue::Nom:
     case Vue::Lien:
+    case Vue::Dedicace:
     case Vue::Image:
         break;
     }
@@ -215,10 +212,10 @@ QString Fiche::RaisonDuRefus(const Champ &champ)
 bool Fiche::Existe(Feuille feuille, int id, const char *table)
 {
     const Base base;
-    const auto ligne = std::find_if(Lignes().begin(), Lignes().end(), [feuille, table](const Ligne &l) {
-        return l.feuille == feuille && (!table || qstrcmp(l.table, table) == 0);
-    });
-    return !base.read(QLatin1String(ligne->lecture), {id}).AtEnd();
+    const auto fiche = Especes::De(feuille).fiche;
+    const auto rangs = std::find_if(fiche.begin(), fiche.end(),
+        [table](const Especes::Rangs &r) { return !table || qstrcmp(r.table, table) == 0; });
+    return !base.read(Especes::Lecture(*rangs), {id}).AtEnd();
 }
 
 std::optional<double> Fiche::LireMontant(const QString &saisie)
@@ -228,47 +225,6 @@ std::optional<double> Fiche::LireMontant(const QString &saisie)
     bool sur = false;
     const double valeur = net.replace(u',', u'.').toDouble(&sur);
     return sur && std::isfinite(valeur) ? std::optional(valeur) : std::nullopt;
-}
-
-QString Fiche::LireNom(const Source &source, int id)
-{
-    const Base base;
-    const auto rs = base.read(QLatin1String(source.lecture), {id});
-    if (rs.AtEnd())
-        return {};
-    const QString nom = rs.Fields(1).toString().trimmed();
-    const QString prenom = source.prenom == Prenom::Sans ? QString() : rs.Fields(2).toString().trimmed();
-    if (prenom.isEmpty())
-        return nom;
-    return source.prenom == Prenom::Apres ? Texte::NomPrenom(nom, prenom)
-                                          : prenom + QStringLiteral(", ") + nom;
-}
-
-QString Fiche::LireNomsLies(const Source &source, int album)
-{
-    const Base base;
-    QStringList noms;
-    for (auto liens = base.read(QLatin1String(source.liens), {album}); !liens.AtEnd(); liens.MoveNext())
-        noms << LireNom(source, liens.Fields(0).toInt());
-    noms.removeAll(QString());
-    return noms.join(QStringLiteral(", "));
-}
-
-std::unordered_map<int, QString> Fiche::LireTousLesNomsLies(const Source &source)
-{
-    const Base base;
-    const QString tous = QString::fromLatin1(source.liens).remove(QStringLiteral(" where NAlbum = ?"));
-    std::unordered_map<int, QString> noms;
-    std::unordered_map<int, QString> parAlbum;
-    for (auto liens = base.read(tous); !liens.AtEnd(); liens.MoveNext()) {
-        const auto [nom, neuf] = noms.try_emplace(liens.Fields(0).toInt());
-        if (neuf)
-            nom->second = LireNom(source, nom->first);
-        QString &texte = parAlbum[liens.Fields(1).toInt()];
-        if (!nom->second.isEmpty())
-            texte += (texte.isEmpty() ? QString() : QStringLiteral(", ")) + nom->second;
-    }
-    return parAlbum;
 }
 
 QString Fiche::MotDeLaNote(int note)

@@ -6,7 +6,6 @@
 #include <QVariant>
 #include <map>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 /// What a sheet holds for one field: the value as stored and the text to show, empty where there is none.
@@ -21,6 +20,10 @@ using Valeurs = std::map<QString, ValeurDeChamp>;
 
 /// The routines that every sheet shares; they walk the field table. All throw Error.
 namespace Fiche {
+
+/// Longer titles and tome numbers are cut, in characters.
+constexpr qsizetype LongueurTitre = 50;
+constexpr qsizetype LongueurTome = 3;
 
 /// The values of an entry's sheet, or nothing when there is no such entry.
 std::optional<Valeurs> Lire(Champs::Feuille feuille, int id);
@@ -46,13 +49,6 @@ bool Existe(Champs::Feuille feuille, int id, const char *table = nullptr);
 
 /// A typed amount, with a comma or a point, with or without the euro sign; nothing when it is none.
 std::optional<double> LireMontant(const QString &saisie);
-
-/// The name of an entry that a choice offers, or empty.
-QString LireNom(const Champs::Source &source, int id);
-/// The names of all entries that an album is linked to, joined by ", ".
-QString LireNomsLies(const Champs::Source &source, int album);
-/// The same of all albums at once, by the number of the album.
-std::unordered_map<int, QString> LireTousLesNomsLies(const Champs::Source &source);
 
 /// The word for a grade of 1 to 5 stars; any other value is the lowest.
 QString MotDeLaNote(int note);

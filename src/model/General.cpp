@@ -7,12 +7,12 @@
 #include "db/Base.h"
 #include "db/Connexion.h"
 #include "db/files/Moteur.h"
-#include "db/schema/Tables.h"
 
 #include <array>
 
 using namespace General;
 using Champs::Feuille;
+using Especes::Libelle;
 
 namespace {
 
@@ -21,11 +21,11 @@ constexpr std::array Genres{
         Tri::Albums, Txt::ListeDesAlbums, Txt::AlbumsNombre, Txt::AlbumsDeBD, Feuille::Album, "liste-albums"},
     Genre{Tri::Series, Txt::ListeDesSeries, Txt::SeriesNombre, Txt::Series, Feuille::Serie, "liste-series"},
     Genre{Tri::Dessinateurs, Txt::ListeDesDessinateurs, Txt::DessinateursNombre, Txt::Dessinateurs,
-        Feuille::Auteur, "liste-dessinateurs"},
+        Feuille::Auteur, "liste-dessinateurs", AccesBase::Role::Dessin},
     Genre{Tri::Scenaristes, Txt::ListeDesScenaristes, Txt::ScenaristesNombre, Txt::Scenaristes,
-        Feuille::Auteur, "liste-scenaristes"},
+        Feuille::Auteur, "liste-scenaristes", AccesBase::Role::Scena},
     Genre{Tri::Coloristes, Txt::ListeDesColoristes, Txt::ColoristesNombre, Txt::Coloristes, Feuille::Auteur,
-        "liste-coloristes"},
+        "liste-coloristes", AccesBase::Role::Color},
     Genre{Tri::ExLibris, Txt::ListeDesExLibris, Txt::ExLibrisNombre, Txt::ExLibris, Feuille::ExLibris,
         "liste-exlibris"},
     Genre{Tri::Presse, Txt::ListeDesPressesBD, Txt::PressesBDNombre, Txt::PressesBD, Feuille::Presse,
@@ -36,61 +36,17 @@ constexpr std::array Genres{
         "liste-collections"},
 };
 
-/// How the second part of a line's text is joined to the first.
-enum class Forme { Nom, NomPrenom, PrenomNom, NomNumero };
-
-/// The queries of a kind. Each names the columns that the lines show, so that an index covers it.
-struct Requetes
+/// The lines of a list as far as a condition goes, which an index covers: no more columns than they show.
+QString requete(const Especes::Espece &espece, const QString &condition)
 {
-    const char *table;
-    const char *liste;
-    const char *ligne; ///< one line, by identifier
-    const char *albums; ///< identifier and title of the linked albums, or null
-    Forme forme;
-};
+    return QStringLiteral("SELECT %1 From %2 %3")
+        .arg(Especes::Colonnes(espece), QLatin1String(espece.table),
+            condition.isEmpty() ? QString() : QStringLiteral("where ") + condition);
+}
 
-constexpr std::array<Requetes, NombreDeTris> ToutesLesRequetes{
-    Requetes{"LAlbums", "SELECT NAlbum, TAlbum From LAlbums order by TAlbum asc",
-        "SELECT NAlbum, TAlbum From LAlbums where NAlbum = ?", nullptr, Forme::Nom},
-    Requetes{"Serie", "SELECT NSerie, Nom From Serie order by Nom asc",
-        "SELECT NSerie, Nom From Serie where NSerie = ?",
-        "SELECT l.NAlbum, l.TAlbum From SerieAlbums s join LAlbums l on l.NAlbum = s.NAlbum"
-        " where s.NSerie = ? order by s.NumeroAlbum2 asc",
-        Forme::Nom},
-    Requetes{"Auteurs", "SELECT NAuteur, Nom, Prenom From Auteurs where Dessin <> 0 order by Nom asc",
-        "SELECT NAuteur, Nom, Prenom From Auteurs where NAuteur = ?",
-        "SELECT l.NAlbum, l.TAlbum From AuteursAlbums a join LAlbums l on l.NAlbum = a.NAlbum"
-        " where a.NAuteur= ? and a.Dessin <> 0 order by a.rowid asc",
-        Forme::NomPrenom},
-    Requetes{"Auteurs", "SELECT NAuteur, Nom, Prenom From Auteurs where Scena <> 0 order by Nom asc",
-        "SELECT NAuteur, Nom, Prenom From Auteurs where NAuteur = ?",
-        "SELECT l.NAlbum, l.TAlbum From AuteursAlbums a join LAlbums l on l.NAlbum = a.NAlbum"
-        " where a.NAuteur= ? and a.Scena = -1 order by a.rowid asc",
-        Forme::NomPrenom},
-    Requetes{"Auteurs", "SELECT NAuteur, Nom, Prenom From Auteurs where Color <> 0 order by Nom asc",
-        "SELECT NAuteur, Nom, Prenom From Auteurs where NAuteur = ?",
-        "SELECT l.NAlbum, l.TAlbum From AuteursAlbums a join LAlbums l on l.NAlbum = a.NAlbum"
-        " where a.NAuteur= ? and a.Color <> 0 order by a.rowid asc",
-        Forme::NomPrenom},
-    Requetes{"ExLibris", "SELECT NExLibris, Nom From ExLibris order by Nom asc",
-        "SELECT NExLibris, Nom From ExLibris where NExLibris = ?", nullptr, Forme::Nom},
-    Requetes{"PresseBD", "SELECT NPressBD, Nom, NPresseBD From PresseBD order by Nom asc",
-        "SELECT NPressBD, Nom, NPresseBD From PresseBD where NPressBD = ?", nullptr, Forme::NomNumero},
-    Requetes{"Editeur", "SELECT NEdit, Nom From editeur order by Nom asc",
-        "SELECT NEdit, Nom From editeur where NEdit = ?",
-        "SELECT l.NAlbum, l.TAlbum From EditeurAlbums e join LAlbums l on l.NAlbum = e.NAlbum"
-        " where e.NEdit = ? order by e.rowid asc",
-        Forme::Nom},
-    Requetes{"Coll", "SELECT NColl, Nom From Coll order by Nom asc",
-        "SELECT NColl, Nom From Coll where NColl = ?",
-        "SELECT l.NAlbum, l.TAlbum From CollAlbums c join LAlbums l on l.NAlbum = c.NAlbum"
-        " where c.NColl = ? order by c.rowid asc",
-        Forme::Nom},
-};
-
-const Requetes &requetes(Tri tri)
+QString parNom(const Especes::Espece &espece, const QString &condition)
 {
-    return ToutesLesRequetes[static_cast<std::size_t>(tri)];
+    return requete(espece, condition) + QStringLiteral(" order by %1 asc").arg(QLatin1String(espece.nom));
 }
 
 std::string_view sansBlancs(std::string_view texte)
@@ -101,23 +57,23 @@ std::string_view sansBlancs(std::string_view texte)
     return texte.substr(debut, texte.find_last_not_of(' ') - debut + 1);
 }
 
-void ajouterLigne(Entrees &entrees, const Cursor &rs, Forme forme)
+void ajouterLigne(Entrees &entrees, const Cursor &rs, Libelle forme)
 {
     const int id = static_cast<int>(rs.Int64(0));
-    const std::string_view second = forme == Forme::Nom ? std::string_view() : sansBlancs(rs.Utf8(2));
-    if (forme == Forme::PrenomNom && !second.empty()) {
+    const std::string_view second = forme == Libelle::Nom ? std::string_view() : sansBlancs(rs.Utf8(2));
+    if (forme == Libelle::PrenomNom && !second.empty()) {
         entrees.ajouter(id, second);
         entrees.prolonger(" , ");
         return entrees.prolonger(rs.Utf8(1));
     }
     entrees.ajouter(id, rs.Utf8(1));
-    if (forme == Forme::NomNumero || !second.empty()) {
-        entrees.prolonger(forme == Forme::NomNumero ? " - " : ", ");
+    if (forme == Libelle::NomNumero || !second.empty()) {
+        entrees.prolonger(forme == Libelle::NomNumero ? " - " : ", ");
         entrees.prolonger(second);
     }
 }
 
-Entrees remplir(Cursor rs, Forme forme, const Avance &avance)
+Entrees remplir(Cursor rs, Libelle forme, const Avance &avance)
 {
     constexpr int Pas = 1 << 16;
     Entrees entrees;
@@ -137,33 +93,8 @@ Entrees remplir(Cursor rs, Forme forme, const Avance &avance)
 bool garde(const Changement &c)
 {
     constexpr quint64 ChampsMontres = 0b111;
-    const bool auteur = c.table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0;
+    const bool auteur = c.table.compare(QLatin1String(Especes::Auteur.table), Qt::CaseInsensitive) == 0;
     return !auteur && c.sorte == Changement::Sorte::Edition && (c.champs & ChampsMontres) == 0;
-}
-
-bool touche(const Changements &changements, std::initializer_list<const char *> tables)
-{
-    for (const Changement &changement : changements) {
-        if (changement.table.isEmpty())
-            return true;
-        if (garde(changement))
-            continue;
-        for (const char *table : tables) {
-            if (changement.table.compare(QLatin1String(table), Qt::CaseInsensitive) == 0)
-                return true;
-        }
-    }
-    return false;
-}
-
-/// How a line of a pick-list is made of what its table holds.
-Forme formeDuChoix(const QString &liste, const QString &table)
-{
-    if (table.compare(QLatin1String("Auteurs"), Qt::CaseInsensitive) == 0)
-        return Forme::NomPrenom;
-    if (table.compare(QLatin1String("Inter"), Qt::CaseInsensitive) == 0)
-        return Forme::PrenomNom;
-    return liste == QLatin1String("LPresseBD") ? Forme::NomNumero : Forme::Nom;
 }
 
 }
@@ -173,17 +104,10 @@ const Genre &General::GenreDe(Tri tri)
     return Genres[static_cast<std::size_t>(tri)];
 }
 
-QString General::TableDe(Tri tri)
+QString General::ConditionDe(Tri tri)
 {
-    return QLatin1String(requetes(tri).table);
-}
-
-QString General::DrapeauDe(Tri tri)
-{
-    if (GenreDe(tri).feuille != Feuille::Auteur)
-        return {};
-    const int rang = static_cast<int>(tri) - static_cast<int>(Tri::Dessinateurs);
-    return AccesBase::NomDuRole(static_cast<AccesBase::Role>(rang));
+    const auto role = GenreDe(tri).role;
+    return role ? AccesBase::NomDuRole(*role) + QStringLiteral(" <> 0") : QString();
 }
 
 Tri General::TriDe(int numero)
@@ -194,16 +118,26 @@ Tri General::TriDe(int numero)
 Entrees General::LireListe(Tri tri, const Avance &avance)
 {
     const Base base;
-    return remplir(base.read(QLatin1String(requetes(tri).liste)), requetes(tri).forme, avance);
+    const Especes::Espece &espece = EspeceDe(tri);
+    return remplir(base.read(parNom(espece, ConditionDe(tri))), espece.libelle, avance);
 }
 
 Entrees General::LireAlbums(Tri tri, int id)
 {
-    const char *sql = requetes(tri).albums;
-    if (!sql)
+    const Especes::Espece &espece = EspeceDe(tri);
+    if (!espece.liens)
         return {};
+    const auto role = GenreDe(tri).role;
     const Base base;
-    return remplir(base.read(QLatin1String(sql), {id}), Forme::Nom, {});
+    return remplir(
+        base.read(
+            QStringLiteral("SELECT l.NAlbum, l.TAlbum From %1 a join LAlbums l on l.NAlbum = a.NAlbum"
+                           " where a.%2 = ?%3 order by a.%4 asc")
+                .arg(QLatin1String(espece.liens), QLatin1String(espece.cle),
+                    role ? QStringLiteral(" and a.%1 <> 0").arg(AccesBase::NomDuRole(*role)) : QString(),
+                    QLatin1String(espece.ordre)),
+            {id}),
+        Libelle::Nom, {});
 }
 
 std::vector<Volume> General::LireVolumes(const std::vector<int> &albums)
@@ -223,24 +157,17 @@ std::vector<Volume> General::LireVolumes(const std::vector<int> &albums)
 Entrees General::LirePresse(int editeur)
 {
     const Base base;
-    return remplir(
-        base.read(QStringLiteral("SELECT * From PresseBD where NEdit = ? order by NPressBD asc"), {editeur}),
-        Forme::NomNumero, {});
+    const QString sql
+        = requete(Especes::Presse, QStringLiteral("NEdit = ?")) + QStringLiteral(" order by NPressBD asc");
+    return remplir(base.read(sql, {editeur}), Especes::Presse.libelle, {});
 }
 
-Choix General::LireChoix(const QString &liste, const QString &table, const QString &valeur)
+Choix General::LireChoix(const Sources::Source &source, const QString &valeur)
 {
-    static const QStringList roles{
-        QStringLiteral("Scena"), QStringLiteral("Dessin"), QStringLiteral("Color")};
-    const QString role = liste.startsWith(u'L') ? liste.mid(1) : liste;
-    const Forme forme = formeDuChoix(liste, table);
-    const QString champs
-        = Schema::Champs(table).mid(0, forme == Forme::Nom ? 2 : 3).join(QStringLiteral(", "));
-    const QString sql = roles.contains(role)
-        ? QStringLiteral("SELECT %1 From %2 where  %3 = -1 order by Nom asc").arg(champs, table, role)
-        : QStringLiteral("SELECT %1 From %2 order by Nom asc").arg(champs, table);
+    const QString condition
+        = source.role ? AccesBase::NomDuRole(*source.role) + QStringLiteral(" = -1") : QString();
     const Base base;
-    Choix choix{remplir(base.read(sql), forme, {}), -1};
+    Choix choix{remplir(base.read(parNom(*source.espece, condition)), source.espece->libelle, {}), -1};
     const QString voulu = Texte::EstVide(valeur) ? QString() : valeur.trimmed().toUpper();
     for (int i = 0; i < choix.entrees.size() && !voulu.isEmpty() && choix.choisie < 0; ++i) {
         if (choix.entrees.texte(i).trimmed().toUpper() == voulu)
@@ -263,20 +190,19 @@ std::vector<int> General::LirePretes()
 QString General::LireTexte(Tri tri, int id)
 {
     const Base base;
-    const Entrees ligne
-        = remplir(base.read(QLatin1String(requetes(tri).ligne), {id}), requetes(tri).forme, {});
+    const Especes::Espece &espece = EspeceDe(tri);
+    const QString sql = requete(espece, QLatin1String(espece.cle) + QStringLiteral(" = ?"));
+    const Entrees ligne = remplir(base.read(sql, {id}), espece.libelle, {});
     return ligne.empty() ? QString() : ligne.texte(0);
 }
 
 bool General::EstDansLaListe(Tri tri, int id)
 {
-    const QString table = TableDe(tri);
-    const QString role = DrapeauDe(tri);
-    QString sql = QStringLiteral("SELECT 1 From %1 where %2 = ?").arg(table, Schema::Champs(table).first());
-    if (!role.isEmpty())
-        sql += QStringLiteral(" and %1 <> 0").arg(role);
+    QString condition = QLatin1String(EspeceDe(tri).cle) + QStringLiteral(" = ?");
+    if (const QString role = ConditionDe(tri); !role.isEmpty())
+        condition += QStringLiteral(" and ") + role;
     const Base base;
-    return !base.read(sql, {id}).AtEnd();
+    return !base.read(requete(EspeceDe(tri), condition), {id}).AtEnd();
 }
 
 Totaux General::LireTotaux()
@@ -292,13 +218,18 @@ bool General::EstVierge()
 {
     const Base base;
     return std::all_of(Genres.begin(), Genres.end(), [&](const Genre &genre) {
-        return base.read(QStringLiteral("SELECT 1 From %1 limit 1").arg(TableDe(genre.tri))).AtEnd();
+        return base
+            .read(QStringLiteral("SELECT 1 From %1 limit 1").arg(QLatin1String(EspeceDe(genre.tri).table)))
+            .AtEnd();
     });
 }
 
 bool General::Concerne(const Changements &changements, Tri tri)
 {
-    return touche(changements, {requetes(tri).table});
+    const QLatin1String table(EspeceDe(tri).table);
+    return std::any_of(changements.begin(), changements.end(), [table](const Changement &c) {
+        return c.table.isEmpty() || (!garde(c) && c.table.compare(table, Qt::CaseInsensitive) == 0);
+    });
 }
 
 QString General::VerifierCopie(const QString &chemin)

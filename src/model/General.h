@@ -6,7 +6,6 @@
 
 #include <QString>
 #include <functional>
-#include <span>
 
 /// The lists of the collection.
 namespace General {
@@ -49,12 +48,15 @@ struct Genre
     Txt bouton;
     Champs::Feuille feuille;
     const char *icone;
+    std::optional<AccesBase::Role> role = {}; ///< the trade of the authors that it lists
 };
 const Genre &GenreDe(Tri tri);
-/// The table in which the entries of a kind stand.
-QString TableDe(Tri tri);
-/// The flag that the authors of a kind have; empty for the other kinds.
-QString DrapeauDe(Tri tri);
+inline const Especes::Espece &EspeceDe(Tri tri)
+{
+    return Especes::De(GenreDe(tri).feuille);
+}
+/// What the entries of a kind must have to be in its list: "Scena <> 0"; empty where the table holds no others.
+QString ConditionDe(Tri tri);
 /// The kind of a stored number; albums when there is no such kind.
 Tri TriDe(int numero);
 
@@ -75,14 +77,14 @@ struct Volume
 std::vector<Volume> LireVolumes(const std::vector<int> &albums);
 /// The press items of a publisher. Throws Error.
 Entrees LirePresse(int editeur);
-/// The entries that a choice offers, and the line of the value to preselect (-1 for none). `liste` names the
-/// pick-list ("LScena", "Dessin", "NomI", ...), `table` what it lists; a value of dots is none. Throws Error.
+/// The entries that a choice offers, and the line of the value to preselect (-1 for none); a value of dots is none.
+/// Throws Error.
 struct Choix
 {
     Entrees entrees;
     int choisie = -1;
 };
-Choix LireChoix(const QString &liste, const QString &table, const QString &valeur);
+Choix LireChoix(const Sources::Source &source, const QString &valeur);
 /// Numbers of the albums that are lent, in rising order. Throws Error.
 std::vector<int> LirePretes();
 /// One line of a list, read anew; its text is empty when the entry is gone. Throws Error.

@@ -48,8 +48,10 @@ constexpr Outil Outils[] = {
 constexpr int Numeriser = 0;
 constexpr int Ouvrir = 1;
 
+constexpr Champs::Feuille Album = Champs::Feuille::Album;
 /// The fields that a picture of the workshop can go into.
-constexpr const char *ChampsDImage[] = {"Photo1", "Photo2", "Dedi(0)", "Dedi(1)"};
+constexpr const Champs::Champ *ChampsDImage[] = {&Champs::De(Album, "Photo1"), &Champs::De(Album, "Photo2"),
+    &Champs::De(Album, "Dedi(0)"), &Champs::De(Album, "Dedi(1)")};
 
 }
 
@@ -328,9 +330,7 @@ void Acquisition::coller()
 
 void Acquisition::utiliser(int rang)
 {
-    Edition edition;
-    edition.entree = m_courante;
-    edition.champ = QLatin1String(ChampsDImage[rang]);
+    const Edition edition{m_courante, ChampsDImage[rang]};
     const QString question = Joindre::QuestionSurLaNote(edition);
     if (!question.isEmpty() && !Messages::Demander(this, question))
         return;

@@ -3,7 +3,6 @@
 #include "core/Images.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
-#include "db/schema/Tables.h"
 #include "model/ChargerAlbums.h"
 #include "model/ChargerAuteurs.h"
 #include "model/Fiche.h"
@@ -15,6 +14,7 @@
 
 using namespace Listage;
 using Champs::Champ;
+using Champs::De;
 using Champs::Feuille;
 using Champs::Vue;
 using General::Tri;
@@ -22,30 +22,23 @@ using General::Tri;
 namespace {
 
 /// The columns of albums that have a name of their own in a list; they come first and are chosen at first.
-struct Intitulee
-{
-    const char *champ;
-    Txt libelle;
-    std::optional<Txt> suite = {};
-    bool contraire = false;
-};
-constexpr Intitulee DAlbums[] = {
-    {"TAlbum", Txt::TitreAlbum},
-    {"NumBD", Txt::NumeroAlbum},
-    {"Serie", Txt::TitreSerie},
-    {"Qualite", Txt::Qualite},
-    {"DateParu", Txt::DateParution},
-    {"LSerieLim", Txt::SerieLimiteeAbregee},
-    {"LBrochee", Txt::Cartonnee, {}, true},
-    {"LEditionOri", Txt::Edition, Txt::Originale},
-    {"Format", Txt::FormatCouverture},
-    {"LCoffret", Txt::FaitPartieDuCoffret},
+constexpr Colonne DAlbums[] = {
+    {&De(Feuille::Album, "TAlbum"), Txt::TitreAlbum, {}, false, true},
+    {&De(Feuille::Album, "NumBD"), Txt::NumeroAlbum, {}, false, true},
+    {&De(Feuille::Album, "Serie"), Txt::TitreSerie, {}, false, true},
+    {&De(Feuille::Album, "Qualite"), Txt::Qualite, {}, false, true},
+    {&De(Feuille::Album, "DateParu"), Txt::DateParution, {}, false, true},
+    {&De(Feuille::Album, "LSerieLim"), Txt::SerieLimiteeAbregee, {}, false, true},
+    {&De(Feuille::Album, "LBrochee"), Txt::Cartonnee, {}, true, true},
+    {&De(Feuille::Album, "LEditionOri"), Txt::Edition, Txt::Originale, false, true},
+    {&De(Feuille::Album, "Format"), Txt::FormatCouverture, {}, false, true},
+    {&De(Feuille::Album, "LCoffret"), Txt::FaitPartieDuCoffret, {}, false, true},
 };
 
 bool estIntitulee(const Champ &champ)
 {
     return std::any_of(std::begin(DAlbums), std::end(DAlbums),
-        [&](const Intitulee &i) { return !i.contraire && qstrcmp(i.champ, champ.nom) == 0; });
+        [&](const Colonne &c) { return !c.contraire && c.champ == &champ; });
 }
 
 bool estUnNombre(const Champ &champ)
@@ -64,23 +57,24 @@ bool estUnNombre(const Champ &champ)
 class Noms
 {
 public:
-    explicit Noms(const Champs::Source &source)
+    explicit Noms(const Sources::Source &source)
         : m_source(source)
-        , m_lies(source.liens ? Fiche::LireTousLesNomsLies(source) : std::unordered_map<int, QString>())
+        , m_lies(source.lien == Sources::Lien::Tous ? Sources::LireTousLesNomsLies(source)
+                                                    : std::unordered_map<int, QString>())
     {
     }
     const QString &de(int id, int cle)
     {
-        if (m_source.liens)
+        if (m_source.lien == Sources::Lien::Tous)
             return m_lies[id];
         const auto [place, neuf] = m_connus.try_emplace(cle);
         if (neuf && cle > 0)
-            place->second = Fiche::LireNom(m_source, cle);
+            place->second = Sources::LireNom(m_source, cle);
         return place->second;
     }
 
 private:
-    const Champs::Source &m_source;
+    const Sources::Source &m_source;
     std::unordered_map<int, QString> m_lies;
     std::unordered_map<int, QString> m_connus;
 };
@@ -124,12 +118,20 @@ private:
     std::unique_ptr<Noms> m_noms;
 };
 
+/// Where the entries of a list stand.
+QString dans(Tri tri)
+{
+    const QString condition = General::ConditionDe(tri);
+    return QStringLiteral(" From ") + QLatin1String(General::EspeceDe(tri).table)
+        + (condition.isEmpty() ? QString() : QStringLiteral(" where ") + condition);
+}
+
 /// What the rows of a kind are read from; the first column is the identifier, the second the series of an album.
 QString requete(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre)
 {
     const bool albums = tri == Tri::Albums;
-    const QString table = General::TableDe(tri);
-    QStringList champs{albums ? QStringLiteral("l.NAlbum") : Schema::Champs(table).first(),
+    const Especes::Espece &espece = General::EspeceDe(tri);
+    QStringList champs{albums ? QStringLiteral("l.NAlbum") : QString::fromLatin1(espece.cle),
         albums ? QStringLiteral("a.NumSerie") : QStringLiteral("0")};
     for (const Colonne &c : colonnes) {
         const QString nom = QLatin1String(c.champ->colonne ? c.champ->colonne : "NULL");
@@ -143,11 +145,7 @@ QString requete(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre)
     }
     QString sql = QStringLiteral("SELECT ") + champs.join(QStringLiteral(", "));
     if (!albums) {
-        const QString drapeau = General::DrapeauDe(tri);
-        sql += QStringLiteral(" From %1").arg(table);
-        if (!drapeau.isEmpty())
-            sql += QStringLiteral(" where %1 <> 0").arg(drapeau);
-        return sql + QStringLiteral(" order by Nom asc");
+        return sql + dans(tri) + QStringLiteral(" order by Nom asc");
     }
     sql += QStringLiteral(" From LAlbums l left join Album a on a.Num = l.NAlbum");
     if (ordre == Ordre::Albums)
@@ -159,12 +157,8 @@ QString requete(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre)
 
 qint64 compter(Tri tri)
 {
-    const QString drapeau = General::DrapeauDe(tri);
     const Base base;
-    return base
-        .read(QStringLiteral("SELECT count(*) From ") + General::TableDe(tri)
-            + (drapeau.isEmpty() ? QString() : QStringLiteral(" where %1 <> 0").arg(drapeau)))
-        .Int64(0);
+    return base.read(QStringLiteral("SELECT count(*)") + dans(tri)).Int64(0);
 }
 
 /// What a walk counts for the lines below the table.
@@ -216,7 +210,7 @@ using Lignes = std::vector<QStringList>;
 
 void ajouterChamps(Lignes &lignes, Feuille feuille, const Valeurs &valeurs)
 {
-    for (const Champ &champ : Champs::Tous()) {
+    for (const Champ &champ : Champs::Tous) {
         if (champ.feuille != feuille || champ.vue == Vue::Image)
             continue;
         const auto valeur = valeurs.find(QLatin1String(champ.nom));
@@ -270,12 +264,9 @@ std::vector<Colonne> Listage::ColonnesDe(Tri tri)
     std::vector<Colonne> colonnes;
     const Feuille feuille = General::GenreDe(tri).feuille;
     const bool albums = feuille == Feuille::Album;
-    if (albums) {
-        for (const Intitulee &i : DAlbums)
-            colonnes.push_back(
-                {Champs::Chercher(Feuille::Album, i.champ), i.libelle, i.suite, i.contraire, true});
-    }
-    for (const Champ &champ : Champs::Tous()) {
+    if (albums)
+        colonnes.assign(std::begin(DAlbums), std::end(DAlbums));
+    for (const Champ &champ : Champs::Tous) {
         if (champ.feuille == feuille && champ.vue != Vue::Image && !(albums && estIntitulee(champ)))
             colonnes.push_back({&champ, champ.libelle, {}, false, !albums && champ.vue != Vue::Memo});
     }

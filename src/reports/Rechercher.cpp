@@ -1,7 +1,6 @@
 #include "reports/Rechercher.h"
 
 #include "db/Base.h"
-#include "db/schema/Tables.h"
 
 namespace {
 
@@ -32,13 +31,11 @@ private:
 /// The list's own query, limited to true entries; the "+" lets the index of the names go on giving the order.
 QString requete(General::Tri tri)
 {
-    const QString table = General::TableDe(tri);
-    const QStringList champs = Schema::Champs(table);
-    QString condition = QStringLiteral("+%1 > 0 ").arg(champs[0]);
-    if (General::GenreDe(tri).feuille == Champs::Feuille::Auteur)
-        condition += QStringLiteral("and %1 = -1 ").arg(General::DrapeauDe(tri));
-    return QStringLiteral("SELECT %1, %2 From %3 where %4  order by %2 asc")
-        .arg(champs[0], champs[1], table, condition);
+    const Especes::Espece &espece = General::EspeceDe(tri);
+    const QString dansLaListe = General::ConditionDe(tri);
+    return QStringLiteral("SELECT %1, %2 From %3 where +%1 > 0 %4 order by %2 asc")
+        .arg(QLatin1String(espece.cle), QLatin1String(espece.nom), QLatin1String(espece.table),
+            dansLaListe.isEmpty() ? QString() : QStringLiteral("and ") + dansLaListe);
 }
 
 }

@@ -6,6 +6,7 @@
 #include "core/Fonds.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
+#include "model/Especes.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,20 +16,9 @@
 
 namespace {
 
-/// A kind of link between entries and albums.
-struct Liens
-{
-    const char *liens;
-    const char *table;
-    const char *cle;
-};
-constexpr Liens TousLesLiens[] = {
-    {"AuteursAlbums", "Auteurs", "NAuteur"},
-    {"CollAlbums", "Coll", "NColl"},
-    {"EditeurAlbums", "Editeur", "NEdit"},
-    {"GenreAlbums", "Genre", "NGenre"},
-    {"SerieAlbums", "Serie", "NSerie"},
-};
+/// The kinds whose links are cleaned.
+constexpr const Especes::Espece *Nettoyees[]
+    = {&Especes::Auteur, &Especes::Coll, &Especes::Editeur, &Especes::Genre, &Especes::Serie};
 
 /// A section of the page: heading count, entries by name, albums of each.
 struct Section
@@ -150,18 +140,18 @@ void ecrireSection(const Base &base, const Section &section, qint64 total, QByte
 }
 
 /// The row numbers of the links of a kind whose entry or album is gone.
-QString perdus(const Liens &l)
+QString perdus(const Especes::Espece *l)
 {
     return QStringLiteral(
         "SELECT l.rowid From %1 l left join %2 e on e.%3 = l.%3"
         " left join LAlbums a on a.NAlbum = l.NAlbum where e.%3 is null or a.NAlbum is null")
-        .arg(QLatin1String(l.liens), QLatin1String(l.table), QLatin1String(l.cle));
+        .arg(QLatin1String(l->liens), QLatin1String(l->table), QLatin1String(l->cle));
 }
 
 bool aDesLiensPerdus()
 {
     const Base base;
-    return std::any_of(std::begin(TousLesLiens), std::end(TousLesLiens), [&](const Liens &l) {
+    return std::any_of(std::begin(Nettoyees), std::end(Nettoyees), [&](const Especes::Espece *l) {
         return base.read(QStringLiteral("SELECT exists (%1)").arg(perdus(l))).Int64(0) != 0;
     });
 }
@@ -175,9 +165,9 @@ int Statistiques::Nettoyer()
         return 0;
     Acte acte({});
     int otes = 0;
-    for (const Liens &l : TousLesLiens)
+    for (const Especes::Espece *l : Nettoyees)
         otes += acte.base().Execute(
-            QStringLiteral("DELETE From %1 where rowid in (%2)").arg(QLatin1String(l.liens), perdus(l)));
+            QStringLiteral("DELETE From %1 where rowid in (%2)").arg(QLatin1String(l->liens), perdus(l)));
     acte.intituler(QCoreApplication::translate("Statistiques", "Liens sans fiche ôtés : %1").arg(otes));
     acte.valider();
     return otes;

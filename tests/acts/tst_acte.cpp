@@ -62,12 +62,7 @@ void peupler()
 
 Edition edition(Tri tri, const char *champ, const QString &affichee = {}, const QVariant &stockee = {})
 {
-    Edition e;
-    e.entree = {tri, 1};
-    e.champ = champ;
-    e.affichee = affichee;
-    e.stockee = stockee;
-    return e;
+    return {{tri, 1}, Champs::Chercher(GenreDe(tri).feuille, champ), affichee, stockee};
 }
 
 Saisie::Textes nouveau()
@@ -106,12 +101,11 @@ void tst_acte::chaqueActeEstUneEtapeEnSonLieu_data()
     const Entree album{Tri::Albums, 1};
     cas("valeur tapee", album, [](auto &) { Ecrire::EcrireSaisie(edition(Tri::Albums, "PrixA"), "12,50"); });
     cas("resume", album, [](auto &) { Ecrire::EcrireSaisie(edition(Tri::Albums, "Hist"), "Une vague.", 5); });
-    cas("metiers", {Tri::Dessinateurs, 1},
-        [](auto &) { Ecrire::EcrireSaisie(edition(Tri::Dessinateurs, "Métiers"), "Dessinateur|Coloriste"); });
+    cas("metiers", {Tri::Dessinateurs, 1}, [](auto &) {
+        Ecrire::EcrireSaisie({{Tri::Dessinateurs, 1}, Metiers()}, "Dessinateur|Coloriste");
+    });
     cas("cote", album, [](auto &) {
-        Edition e = edition(Tri::Albums, "Cotes(0)");
-        e.cote = {"2026", "12"};
-        Ecrire::EcrireSaisie(e, "15");
+        Ecrire::EcrireSaisie({{Tri::Albums, 1}, CelluleCote{{"2026", "12"}}}, "15");
     });
     cas("choix nouveau", album, [](auto &) {
         Choisir::Valider(edition(Tri::Albums, "Scena"), {0, "Sel, Anne"});
@@ -122,7 +116,7 @@ void tst_acte::chaqueActeEstUneEtapeEnSonLieu_data()
     cas("choix vide", album, [](auto &) { Choisir::Vider(edition(Tri::Albums, "Serie", "Écume", 1)); });
     cas("date", album, [](auto &) { Choisir::Valider(edition(Tri::Albums, "DA"), {0, "mai 2026"}); });
     cas("intervenant", album, [](auto &) {
-        Choisir::Valider(edition(Tri::Albums, "NomI(0)"), {0, "Luc , Lettre"});
+        Choisir::Valider({{Tri::Albums, 1}, CelluleIntervenant()}, {0, "Luc , Lettre"});
     });
     cas("emprunteur", album, [](auto &) { Choisir::Valider(edition(Tri::Albums, "NPret"), {0, "Cousine"}); });
     cas("ajout au choix", album, [](auto &) { Choisir::Ajouter(edition(Tri::Albums, "Genre"), "Conte"); });

@@ -393,7 +393,7 @@ void tst_edition::chaqueChampSEditeOuIlEst_data()
                                                                   : "0";
         ajouter(cas);
     }
-    for (const Champs::Champ &champ : Champs::Tous()) {
+    for (const Champs::Champ &champ : Champs::Tous) {
         const auto concerne = [&](const Cas &cas) {
             return General::GenreDe(General::TriDe(cas.tri)).feuille == champ.feuille
                 && cas.controle.startsWith(QLatin1String(champ.controle));

@@ -12,21 +12,33 @@ class tst_fiche : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void chaqueChampAUneColonneDuSchema();
+    void lesDescriptionsNommentCeQuAUnSchema();
     void laFicheDitSesListes();
     void laFicheVideNeDitRien();
     void lAlbumDansSaSerie();
 };
 
-/// A misspelt column would be found only when its sheet is opened.
-void tst_fiche::chaqueChampAUneColonneDuSchema()
+/// A misspelt table or column would be found only when its sheet, list or choice is opened.
+void tst_fiche::lesDescriptionsNommentCeQuAUnSchema()
 {
-    for (const Champ &champ : Tous()) {
+    const auto a = [](const char *table, const char *colonne) {
+        return Schema::Champs(QLatin1String(table)).contains(QLatin1String(colonne));
+    };
+    for (const Champ &champ : Tous) {
         QVERIFY2(Chercher(champ.feuille, champ.nom) == &champ, champ.nom);
-        if (champ.colonne)
-            QVERIFY2(
-                Schema::Champs(QLatin1String(champ.table)).contains(QLatin1String(champ.colonne)), champ.nom);
+        QVERIFY2(!champ.colonne || a(champ.table, champ.colonne), champ.nom);
     }
+    namespace E = Especes;
+    for (const E::Espece *e : {&E::Album, &E::Serie, &E::Auteur, &E::Editeur, &E::ExLibris, &E::Presse,
+             &E::Coll, &E::Genre, &E::Pays, &E::Emprunteur, &E::Librairie, &E::Intervenant, &E::Activite}) {
+        QVERIFY2(
+            a(e->table, e->cle) && a(e->table, e->nom) && (!e->suite || a(e->table, e->suite)), e->table);
+        QVERIFY2(!e->liens || (a(e->liens, e->cle) && a(e->liens, "NAlbum")), e->table);
+        for (const E::Rangs &rangs : e->fiche)
+            QVERIFY2(a(rangs.table, rangs.cle), rangs.table);
+    }
+    for (int i = 0; i < 7; ++i)
+        QVERIFY(DuNom(static_cast<Feuille>(i)).feuille == static_cast<Feuille>(i));
 }
 
 void tst_fiche::laFicheDitSesListes()
@@ -72,7 +84,7 @@ void tst_fiche::laFicheVideNeDitRien()
     Bac::executer(QStringLiteral("INSERT INTO Album(Num) VALUES (1)"));
     const auto fiche = ChargerAlbums::AfficherAlbum(1);
     QVERIFY(fiche);
-    for (const Champ &champ : Tous()) {
+    for (const Champ &champ : Tous) {
         if (champ.feuille == Feuille::Album && champ.vue != Vue::Case)
             QCOMPARE(fiche->valeurs.at(QLatin1String(champ.nom)).affichee, QString());
     }
