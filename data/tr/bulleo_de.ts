@@ -70,10 +70,6 @@
         <translation>Als Widmung 2 verwenden</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
         <translation>Zeigen Sie im Hauptfenster ein Album an, um ihm dieses Bild zuzuordnen.</translation>
     </message>
@@ -162,10 +158,6 @@
         <translation>Adresse einer Seite</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>Ctrl+Entrée</source>
         <translation>Strg+Eingabe</translation>
     </message>
@@ -207,10 +199,6 @@
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
         <translation>Titelbild und Rückseite abwechselnd zeigen</translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Noch nicht verfügbar</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>
@@ -291,10 +279,6 @@
 <context>
     <name>Bureau</name>
     <message>
-        <source>Cette fiche n&apos;existe pas.</source>
-        <translation>Diese Karte existiert nicht.</translation>
-    </message>
-    <message>
         <source>%1 — Ctrl+Z pour annuler</source>
         <translation>%1 – Strg+Z macht es rückgängig</translation>
     </message>
@@ -305,6 +289,13 @@
     <message>
         <source>Rétabli : %1</source>
         <translation>Wiederholt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Capture</name>
+    <message>
+        <source>Cette fiche n&apos;existe pas.</source>
+        <translation>Diese Karte existiert nicht.</translation>
     </message>
 </context>
 <context>
@@ -1229,10 +1220,6 @@
     <message>
         <source> Sélectionner la liste des </source>
         <translation> Liste auswählen: </translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Noch nicht verfügbar</translation>
     </message>
     <message>
         <source>Importer des albums</source>

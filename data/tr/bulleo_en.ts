@@ -70,10 +70,6 @@
         <translation>Use as dedication 2</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
         <translation>Show an album in the main window to give it this picture.</translation>
     </message>
@@ -162,10 +158,6 @@
         <translation>Address of a page</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>Ctrl+Entrée</source>
         <translation>Ctrl+Enter</translation>
     </message>
@@ -207,10 +199,6 @@
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
         <translation>Show the cover and the back in turn</translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Not available yet</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>
@@ -291,10 +279,6 @@
 <context>
     <name>Bureau</name>
     <message>
-        <source>Cette fiche n&apos;existe pas.</source>
-        <translation>This record does not exist.</translation>
-    </message>
-    <message>
         <source>%1 — Ctrl+Z pour annuler</source>
         <translation>%1 — Ctrl+Z to undo</translation>
     </message>
@@ -305,6 +289,13 @@
     <message>
         <source>Rétabli : %1</source>
         <translation>Redone: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Capture</name>
+    <message>
+        <source>Cette fiche n&apos;existe pas.</source>
+        <translation>This record does not exist.</translation>
     </message>
 </context>
 <context>
@@ -1229,10 +1220,6 @@
     <message>
         <source> Sélectionner la liste des </source>
         <translation> Select the list of </translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Not available yet</translation>
     </message>
     <message>
         <source>Importer des albums</source>

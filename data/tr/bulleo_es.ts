@@ -70,10 +70,6 @@
         <translation>Usar como dedicatoria 2</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
         <translation>Muestre un álbum en la ventana principal para asignarle esta imagen.</translation>
     </message>
@@ -162,10 +158,6 @@
         <translation>Dirección de una página</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>Ctrl+Entrée</source>
         <translation>Ctrl+Intro</translation>
     </message>
@@ -207,10 +199,6 @@
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
         <translation>Mostrar por turno la cubierta y la contracubierta</translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Aún no disponible</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>
@@ -291,10 +279,6 @@
 <context>
     <name>Bureau</name>
     <message>
-        <source>Cette fiche n&apos;existe pas.</source>
-        <translation>Esta ficha no existe.</translation>
-    </message>
-    <message>
         <source>%1 — Ctrl+Z pour annuler</source>
         <translation>%1 — Ctrl+Z para deshacer</translation>
     </message>
@@ -305,6 +289,13 @@
     <message>
         <source>Rétabli : %1</source>
         <translation>Rehecho: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Capture</name>
+    <message>
+        <source>Cette fiche n&apos;existe pas.</source>
+        <translation>Esta ficha no existe.</translation>
     </message>
 </context>
 <context>
@@ -1229,10 +1220,6 @@
     <message>
         <source> Sélectionner la liste des </source>
         <translation> Seleccionar la lista de </translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Aún no disponible</translation>
     </message>
     <message>
         <source>Importer des albums</source>

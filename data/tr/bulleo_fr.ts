@@ -70,10 +70,6 @@
         <translation>Utiliser comme dédicace 2</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
         <translation>Montrez un album dans la fenêtre principale pour lui donner cette image.</translation>
     </message>
@@ -162,10 +158,6 @@
         <translation>Adresse d&apos;une page</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>Ctrl+Entrée</source>
         <translation>Ctrl+Entrée</translation>
     </message>
@@ -207,10 +199,6 @@
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
         <translation>Montrer tour à tour la couverture et le dos</translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Pas encore disponible</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>
@@ -291,10 +279,6 @@
 <context>
     <name>Bureau</name>
     <message>
-        <source>Cette fiche n&apos;existe pas.</source>
-        <translation>Cette fiche n&apos;existe pas.</translation>
-    </message>
-    <message>
         <source>%1 — Ctrl+Z pour annuler</source>
         <translation>%1 — Ctrl+Z pour annuler</translation>
     </message>
@@ -305,6 +289,13 @@
     <message>
         <source>Rétabli : %1</source>
         <translation>Rétabli : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Capture</name>
+    <message>
+        <source>Cette fiche n&apos;existe pas.</source>
+        <translation>Cette fiche n&apos;existe pas.</translation>
     </message>
 </context>
 <context>
@@ -1229,10 +1220,6 @@
     <message>
         <source> Sélectionner la liste des </source>
         <translation> Sélectionner la liste des </translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Pas encore disponible</translation>
     </message>
     <message>
         <source>Importer des albums</source>

@@ -70,10 +70,6 @@
         <translation>Usa come dedica 2</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
         <translation>Mostrate un album nella finestra principale per assegnargli questa immagine.</translation>
     </message>
@@ -162,10 +158,6 @@
         <translation>Indirizzo di una pagina</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
         <source>Ctrl+Entrée</source>
         <translation>Ctrl+Invio</translation>
     </message>
@@ -207,10 +199,6 @@
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
         <translation>Mostra a turno la copertina e il retro</translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Non ancora disponibile</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>
@@ -291,10 +279,6 @@
 <context>
     <name>Bureau</name>
     <message>
-        <source>Cette fiche n&apos;existe pas.</source>
-        <translation>Questa scheda non esiste.</translation>
-    </message>
-    <message>
         <source>%1 — Ctrl+Z pour annuler</source>
         <translation>%1 — Ctrl+Z per annullare</translation>
     </message>
@@ -305,6 +289,13 @@
     <message>
         <source>Rétabli : %1</source>
         <translation>Ripetuto: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Capture</name>
+    <message>
+        <source>Cette fiche n&apos;existe pas.</source>
+        <translation>Questa scheda non esiste.</translation>
     </message>
 </context>
 <context>
@@ -1229,10 +1220,6 @@
     <message>
         <source> Sélectionner la liste des </source>
         <translation> Selezionare l&apos;elenco: </translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Non ancora disponibile</translation>
     </message>
     <message>
         <source>Importer des albums</source>

@@ -70,10 +70,6 @@
         <translation>Als dedicatie 2 gebruiken</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Annuleren</translation>
-    </message>
-    <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
         <translation>Toon een album in het hoofdvenster om er deze afbeelding aan toe te wijzen.</translation>
     </message>
@@ -162,10 +158,6 @@
         <translation>Adres van een pagina</translation>
     </message>
     <message>
-        <source>Annuler</source>
-        <translation>Annuleren</translation>
-    </message>
-    <message>
         <source>Ctrl+Entrée</source>
         <translation>Ctrl+Enter</translation>
     </message>
@@ -207,10 +199,6 @@
     <message>
         <source>Montrer tour à tour la couverture et le dos</source>
         <translation>Cover en achterplat om de beurt tonen</translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Nog niet beschikbaar</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>
@@ -291,10 +279,6 @@
 <context>
     <name>Bureau</name>
     <message>
-        <source>Cette fiche n&apos;existe pas.</source>
-        <translation>Deze fiche bestaat niet.</translation>
-    </message>
-    <message>
         <source>%1 — Ctrl+Z pour annuler</source>
         <translation>%1 – Ctrl+Z om ongedaan te maken</translation>
     </message>
@@ -305,6 +289,13 @@
     <message>
         <source>Rétabli : %1</source>
         <translation>Opnieuw uitgevoerd: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Capture</name>
+    <message>
+        <source>Cette fiche n&apos;existe pas.</source>
+        <translation>Deze fiche bestaat niet.</translation>
     </message>
 </context>
 <context>
@@ -1229,10 +1220,6 @@
     <message>
         <source> Sélectionner la liste des </source>
         <translation> Kies de lijst van </translation>
-    </message>
-    <message>
-        <source>Pas encore disponible</source>
-        <translation>Nog niet beschikbaar</translation>
     </message>
     <message>
         <source>Importer des albums</source>

@@ -28,133 +28,155 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QMetaEnum>
-#include <QTextStream>
 #include <QTimer>
 
 using Nom = Forme::Nom;
-
-namespace {
-
-constexpr int AttenteCaptureMs = 700;
-/// A page takes its time to be drawn.
-constexpr int AttentePageMs = 2500;
-
-}
+using General::Entree;
 
 Bureau::Bureau(const Options &options)
     : m_options(options)
     , m_historique(Annonces::courant())
 {
-    declarer<Frmmain>(Nom::Frmmain);
-    declarer<Splash>(Nom::Splash);
-    declarer<Manuelle>(Nom::Manuelle);
-    declarer<Facile>(Nom::Facile);
-    declarer<Acquisition>(Nom::Acquisition);
-    declarer<BDNet>(Nom::BDNet);
-    declarer<Polices>(Nom::Polices);
-    declarer<Pret>(Nom::Pret);
-    declarer<Import>(Nom::Import);
-    declarer<Impression>(Nom::Impression);
-    declarer<Recherche>(Nom::Recherche);
-    declarer<Restauration>(Nom::Restauration);
-    declarer<Stats>(Nom::Stats);
-    declarer<Textures>(Nom::Textures);
-    declarer<FrmModif>(Nom::FrmModif);
-    declarer<FrmModif2>(Nom::FrmModif2);
+    repondre();
+    repondreAuxFiches();
+    Q_ASSERT(m_demandes.malBranchees().isEmpty());
 }
 
-Bureau::~Bureau() = default;
-
-template <class F>
-void Bureau::declarer(Nom nom)
+Bureau::~Bureau()
 {
-    m_fabriques[nom] = [this, nom] {
-        auto *forme = new F;
-        brancher(forme);
-        if constexpr (requires { forme->charger(); } && !std::is_same_v<F, Frmmain>)
-            m_chargements[nom] = [forme] { forme->charger(); };
-        return forme;
-    };
+    // What a form still wishes while it goes is nobody's any more.
+    m_demandes.disconnect();
 }
 
-template <class F>
-void Bureau::brancher(F *forme)
+void Bureau::repondre()
 {
-    if constexpr (requires { &F::formeDemandee; })
-        connect(forme, &F::formeDemandee, this, &Bureau::montrer);
-    if constexpr (requires { &F::entreeDemandee; })
-        connect(forme, &F::entreeDemandee, this,
-            [this](General::Entree entree) { this->forme<Frmmain>(Nom::Frmmain)->montrerEntree(entree); });
-    if constexpr (requires { &F::editionDemandee; })
-        connect(forme, &F::editionDemandee, this, &Bureau::editer);
-    if constexpr (requires { &F::dite; })
-        connect(forme, &F::dite, this,
-            [this](const QString &message) { this->forme<Frmmain>(Nom::Frmmain)->dire(message); });
-    if constexpr (requires { &F::menuDemande; })
-        connect(forme, &F::menuDemande, this,
-            [this](const Edition &edition, const QPoint &point) { pop().ouvrir(edition, point); });
-    if constexpr (requires { &F::imageDemandee; })
-        connect(
-            forme, &F::imageDemandee, this, [this](const Edition &edition) { pop().choisirImage(edition); });
-    if constexpr (requires { &F::suppressionDemandee; })
-        connect(forme, &F::suppressionDemandee, this,
-            [this](General::Entree entree) { pop().supprimer(entree); });
-    if constexpr (requires { &F::poserCourante; }) {
-        auto *fenetre = this->forme<Frmmain>(Nom::Frmmain);
-        connect(fenetre, &Frmmain::entreeMontree, forme, &F::poserCourante);
-        forme->poserCourante(fenetre->courante());
-    }
-    if constexpr (requires { &F::triDemande; })
-        connect(forme, &F::triDemande, this, [this](auto tri) {
-            this->forme<Frmmain>(Nom::Frmmain)->montrerTri(General::TriDe(static_cast<int>(tri)));
-        });
-    if constexpr (requires { &F::albumCree; })
-        connect(forme, &F::albumCree, this, [this](int num) {
-            auto *fenetre = this->forme<Frmmain>(Nom::Frmmain);
-            fenetre->montrerTri(General::Tri::Albums);
-            fenetre->montrerEntree({General::Tri::Albums, num});
-        });
-    if constexpr (requires { &F::selectionDemandee; })
-        connect(forme, &F::selectionDemandee, this,
-            [this](const QString &libelle, const std::vector<int> &albums) {
-                this->forme<Frmmain>(Nom::Frmmain)->montrerSelection(libelle, albums);
-                montrer(Nom::Frmmain);
-            });
-    if constexpr (requires { &F::poserListe; })
-        forme->poserListe([this] { return this->forme<Frmmain>(Nom::Frmmain)->listeMontree(); });
-    if constexpr (requires { &F::langueDemandee; })
-        connect(forme, &F::langueDemandee, this, &Bureau::choisirLangue);
-    if constexpr (requires { &F::retourDemande; })
-        connect(forme, &F::retourDemande, this, [this] {
+    connect(&m_demandes, &Demandes::forme, this, &Bureau::montrer);
+    connect(
+        &m_demandes, &Demandes::entree, this, [this](Entree entree) { fenetre().montrerEntree(entree); },
+        Qt::QueuedConnection);
+    connect(&m_demandes, &Demandes::liste, this, [this](General::Tri tri) { fenetre().montrerTri(tri); });
+    connect(&m_demandes, &Demandes::selection, this,
+        [this](const QString &libelle, const std::vector<int> &albums) {
+            fenetre().montrerSelection(libelle, albums);
             montrer(Nom::Frmmain);
-            this->forme<Frmmain>(Nom::Frmmain)
-                ->montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris)));
         });
-    if constexpr (requires { &F::apparenceChangee; })
-        connect(forme, &F::apparenceChangee, this, &Bureau::appliquerApparence);
-    if constexpr (requires { forme->appliquerApparence(); })
-        m_apparences.push_back([forme] { forme->appliquerApparence(); });
-    if constexpr (requires { &F::copieDemandee; })
-        connect(forme, &F::copieDemandee, this, &Bureau::sauvegarderCopie);
-    if constexpr (requires { &F::actualiser; })
-        connect(&Annonces::courant(), &Annonces::changee, forme, &F::actualiser);
-    if constexpr (requires { &F::poserDisponibles; })
-        forme->poserDisponibles([this](Nom nom) { return existe(nom); });
+    connect(&m_demandes, &Demandes::retour, this, &Bureau::retourner);
+    connect(&m_demandes, &Demandes::langue, this, &Bureau::choisirLangue);
+    connect(&m_demandes, &Demandes::apparence, this, &Bureau::appliquerApparence);
+    connect(&m_demandes, &Demandes::copie, this, &Bureau::sauvegarderCopie);
+    connect(&m_demandes, &Demandes::fichier, this, &Bureau::recevoirFichier);
+    connect(&m_demandes, &Demandes::sortie, this, [this] { fenetre().close(); });
+    connect(&m_demandes, &Demandes::fin, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
-void Bureau::brancherParticuliers()
+/// What is wished where entries and their values are shown.
+void Bureau::repondreAuxFiches()
 {
-    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
-    connect(fenetre, &Frmmain::triChange, this, [this](int tri) {
+    connect(&m_demandes, &Demandes::edition, this, &Bureau::editer);
+    connect(
+        &m_demandes, &Demandes::image, this, [this](const Edition &edition) { pop().choisirImage(edition); });
+    connect(&m_demandes, &Demandes::menu, this,
+        [this](const Edition &edition, const QPoint &point) { pop().ouvrir(edition, point); });
+    connect(
+        &m_demandes, &Demandes::renommage, this, [this](Entree entree) { fenetre().renommerEntree(entree); });
+    connect(&m_demandes, &Demandes::ajout, this, [this](General::Tri tri) { fenetre().ajouterEntree(tri); });
+    connect(&m_demandes, &Demandes::suppression, this, [this](Entree entree) { pop().supprimer(entree); });
+    connect(&m_demandes, &Demandes::annulation, &m_historique, &Historique::annuler);
+    connect(&m_demandes, &Demandes::retablissement, &m_historique, &Historique::refaire);
+    connect(&m_demandes, &Demandes::message, this, [this](const QString &ligne) { fenetre().dire(ligne); });
+}
+
+std::unique_ptr<Forme> Bureau::fabriquer(Nom nom)
+{
+    switch (nom) {
+    case Nom::Frmmain:
+        return std::make_unique<Frmmain>(m_demandes);
+    case Nom::Splash:
+        return std::make_unique<Splash>(m_demandes);
+    case Nom::Manuelle:
+        return std::make_unique<Manuelle>(m_demandes);
+    case Nom::Facile:
+        return std::make_unique<Facile>(m_demandes);
+    case Nom::BDNet:
+        return std::make_unique<BDNet>(m_demandes);
+    case Nom::Polices:
+        return std::make_unique<Polices>(m_demandes);
+    case Nom::Textures:
+        return std::make_unique<Textures>(m_demandes);
+    case Nom::Stats:
+        return std::make_unique<Stats>(m_demandes);
+    case Nom::Impression:
+        return suivre(std::make_unique<Impression>([this] { return fenetre().listeMontree(); }));
+    case Nom::Acquisition:
+        return suivre(std::make_unique<Acquisition>());
+    case Nom::Pret:
+        return suivre(std::make_unique<Pret>(m_demandes));
+    case Nom::Restauration:
+        return std::make_unique<Restauration>();
+    case Nom::Recherche:
+        return std::make_unique<Recherche>(m_demandes);
+    case Nom::FrmModif:
+        return std::make_unique<FrmModif>(m_demandes);
+    case Nom::FrmModif2:
+        return std::make_unique<FrmModif2>(m_demandes);
+    case Nom::Import:
+        return std::make_unique<Import>(m_demandes);
+    }
+    Q_UNREACHABLE();
+}
+
+template <class F>
+std::unique_ptr<Forme> Bureau::suivre(std::unique_ptr<F> forme)
+{
+    connect(&fenetre(), &Frmmain::entreeMontree, forme.get(), &F::poserCourante);
+    forme->poserCourante(courante());
+    return forme;
+}
+
+Forme *Bureau::ouvrir(Nom nom)
+{
+    if (const auto faite = m_formes.find(nom); faite != m_formes.end())
+        return faite->second.get();
+    std::unique_ptr<Forme> forme = fabriquer(nom);
+    connect(&Annonces::courant(), &Annonces::changee, forme.get(), &Forme::actualiser);
+    return m_formes.emplace(nom, std::move(forme)).first->second.get();
+}
+
+template <class F>
+F &Bureau::forme(Nom nom)
+{
+    auto *forme = qobject_cast<F *>(ouvrir(nom));
+    Q_ASSERT(forme);
+    return *forme;
+}
+
+Frmmain &Bureau::fenetre()
+{
+    return forme<Frmmain>(Nom::Frmmain);
+}
+
+Entree Bureau::courante()
+{
+    return fenetre().courante();
+}
+
+void Bureau::brancherFenetre()
+{
+    connect(&fenetre(), &Frmmain::triChange, this, [this](int tri) {
         if (m_formes.contains(Nom::Splash))
-            forme<Splash>(Nom::Splash)->poserTri(tri);
+            forme<Splash>(Nom::Splash).poserTri(tri);
     });
-    connect(fenetre, &Frmmain::annulationDemandee, &m_historique, &Historique::annuler);
-    connect(fenetre, &Frmmain::retablissementDemande, &m_historique, &Historique::refaire);
+    connect(
+        &Annonces::courant(), &Annonces::remplacee, &fenetre(),
+        [this] { fenetre().montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris))); },
+        Qt::QueuedConnection);
+}
+
+void Bureau::brancherHistorique()
+{
     connect(&m_historique, &Historique::change, this, &Bureau::poserEtapes);
-    connect(&m_historique, &Historique::inscrite, fenetre,
-        [fenetre](const Etape &etape) { fenetre->dire(tr("%1 — Ctrl+Z pour annuler").arg(etape.titre)); });
+    connect(&m_historique, &Historique::inscrite, this,
+        [this](const Etape &etape) { fenetre().dire(tr("%1 — Ctrl+Z pour annuler").arg(etape.titre)); });
     // Queued, so that the lists show the rows again before one of them is looked for.
     connect(
         &m_historique, &Historique::annulee, this,
@@ -162,12 +184,6 @@ void Bureau::brancherParticuliers()
     connect(
         &m_historique, &Historique::refaite, this,
         [this](const Etape &etape) { montrerEtape(etape, tr("Rétabli : %1")); }, Qt::QueuedConnection);
-    connect(
-        &Annonces::courant(), &Annonces::remplacee, fenetre,
-        [fenetre] { fenetre->montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris))); },
-        Qt::QueuedConnection);
-    connect(fenetre, &Frmmain::fichierDepose, this, &Bureau::recevoirFichier);
-    connect(fenetre, &Frmmain::sortie, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
 /// The two ways to enter a value in a form of its own: chosen among entries or days, or typed in one line.
@@ -175,60 +191,48 @@ void Bureau::editer(const Edition &edition)
 {
     const bool choisie = Ecrire::SourceDe(edition) || Choisir::EstUneDate(edition);
     const Nom nom = choisie ? Nom::FrmModif : Nom::FrmModif2;
-    static_cast<FormeModification *>(ouvrir(nom))->editer(edition);
+    forme<FormeModification>(nom).editer(edition);
     montrer(nom);
 }
 
 Pop &Bureau::pop()
 {
-    if (!m_pop) {
-        m_pop = std::make_unique<Pop>();
-        brancher(m_pop.get());
-        auto *fenetre = forme<Frmmain>(Nom::Frmmain);
-        connect(m_pop.get(), &Pop::renommageDemande, fenetre, &Frmmain::renommerEntree);
-        connect(m_pop.get(), &Pop::ajoutDemande, fenetre, &Frmmain::ajouterEntree);
-        connect(m_pop.get(), &Pop::sortieDemandee, fenetre, &QWidget::close);
-    }
+    if (!m_pop)
+        m_pop = std::make_unique<Pop>(m_demandes);
     return *m_pop;
 }
 
 void Bureau::poserEtapes()
 {
-    forme<Frmmain>(Nom::Frmmain)->poserEtapes(m_historique.aAnnuler(), m_historique.aRefaire());
+    fenetre().poserEtapes(m_historique.aAnnuler(), m_historique.aRefaire());
 }
 
 /// Shows where a step was taken back or made again.
 void Bureau::montrerEtape(const Etape &etape, const QString &message)
 {
-    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
-    const General::Entree entree = etape.lieu;
-    if (entree.id > 0 && entree != fenetre->courante() && General::EstDansLaListe(entree.tri, entree.id))
-        fenetre->montrerEntree(entree);
-    fenetre->dire(message.arg(etape.titre));
-}
-
-Forme *Bureau::ouvrir(Nom nom)
-{
-    auto &forme = m_formes[nom];
-    if (!forme)
-        forme.reset(m_fabriques.at(nom)());
-    return forme.get();
+    const Entree entree = etape.lieu;
+    if (entree.id > 0 && entree != courante() && General::EstDansLaListe(entree.tri, entree.id))
+        fenetre().montrerEntree(entree);
+    fenetre().dire(message.arg(etape.titre));
 }
 
 void Bureau::montrer(Nom nom)
 {
-    if (!existe(nom))
-        return;
     Forme *voulue = ouvrir(nom);
     // Shown anew, a form starts afresh; brought back from the task bar, it goes on where it was.
-    if (!voulue->isVisible() && m_chargements.contains(nom))
-        QTimer::singleShot(0, voulue, m_chargements[nom]);
-    if (nom == Nom::Splash)
-        forme<Splash>(nom)->poserTri(Reglages::courant().entier(Cle::Tris));
+    if (!voulue->isVisible())
+        QTimer::singleShot(0, voulue, [voulue] { voulue->charger(); });
     voulue->setWindowState(voulue->windowState() & ~Qt::WindowMinimized);
     voulue->show();
     voulue->raise();
     voulue->activateWindow();
+}
+
+/// From the launcher to the list that was chosen there.
+void Bureau::retourner()
+{
+    montrer(Nom::Frmmain);
+    fenetre().montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris)));
 }
 
 void Bureau::demarrer()
@@ -243,15 +247,13 @@ void Bureau::demarrer()
         QTimer::singleShot(0, this, [e] { Messages::Avertir(QApplication::activeWindow(), e.message()); });
     };
     Demarrage::MettreEnEtat();
-    auto *fenetre = forme<Frmmain>(Nom::Frmmain);
-    brancherParticuliers();
-    fenetre->charger();
-    fenetre->show();
+    brancherFenetre();
+    brancherHistorique();
+    fenetre().commencer();
+    fenetre().show();
     proposerReprise();
     if (m_options.capture.isEmpty())
         premierDemarrage();
-    else
-        QTimer::singleShot(AttenteCaptureMs, this, &Bureau::capturer);
 }
 
 /// A collection or a catalogue in the old format is offered to be converted.
@@ -268,7 +270,7 @@ void Bureau::proposerFichier(const QString &chemin)
 {
     montrer(Nom::Restauration);
     // After the form has listed the backups.
-    QTimer::singleShot(0, this, [this, chemin] { forme<Restauration>(Nom::Restauration)->proposer(chemin); });
+    QTimer::singleShot(0, this, [this, chemin] { forme<Restauration>(Nom::Restauration).proposer(chemin); });
 }
 
 /// A collection or a list of albums, dropped on the window.
@@ -279,7 +281,7 @@ void Bureau::recevoirFichier(const QString &chemin)
     if (!listes.contains(suffixe))
         return proposerFichier(chemin);
     montrer(Nom::Import);
-    QTimer::singleShot(0, this, [this, chemin] { forme<Import>(Nom::Import)->ouvrir(chemin); });
+    QTimer::singleShot(0, this, [this, chemin] { forme<Import>(Nom::Import).ouvrir(chemin); });
 }
 
 void Bureau::chargerTextes()
@@ -316,8 +318,8 @@ void Bureau::annoncerLangue()
 /// Fonts, colours and background, in every form that has been made.
 void Bureau::appliquerApparence()
 {
-    for (const auto &appliquer : m_apparences)
-        appliquer();
+    for (const auto &[nom, forme] : m_formes)
+        forme->appliquerApparence();
 }
 
 /// The launcher comes by itself when the user wants it, and the first time of all.
@@ -354,50 +356,4 @@ void Bureau::sauvegarderCopie()
     General::CopierBase(chemin);
     reglages.ecrire(Cle::DossierCopies, QFileInfo(chemin).absolutePath());
     Messages::Informer(devant, texte(Txt::SauvegardeEffectuee));
-}
-
-void Bureau::capturer()
-{
-    bool connue = false;
-    const int valeur = QMetaEnum::fromType<Nom>().keyToValue(m_options.forme.toLatin1().constData(), &connue);
-    const auto nom = static_cast<Nom>(valeur);
-    if (!connue || !existe(nom)) {
-        QTextStream(stderr) << m_options.forme << QStringLiteral(" ?\n");
-        return QCoreApplication::exit(2);
-    }
-    // Whatever happens to the entry, the picture ends the program.
-    const bool page = nom == Nom::BDNet || nom == Nom::Stats;
-    QTimer::singleShot(
-        page ? AttentePageMs : AttenteCaptureMs, this, [this, nom] { enregistrerCapture(ouvrir(nom)); });
-    if (m_options.entree)
-        capturerEntree(*forme<Frmmain>(Nom::Frmmain), *m_options.entree);
-    montrerPourCapture(nom);
-}
-
-/// A form by itself; those that edit a field on one of the sheet shown.
-void Bureau::montrerPourCapture(Nom nom)
-{
-    if (nom != Nom::FrmModif && nom != Nom::FrmModif2)
-        return nom == Nom::Frmmain ? void() : montrer(nom);
-    constexpr Champs::Feuille Album = Champs::Feuille::Album;
-    const General::Entree courante = forme<Frmmain>(Nom::Frmmain)->courante();
-    if (courante.tri == General::Tri::Albums && courante.id > 0)
-        editer(Ecrire::EditionDe(
-            courante, nom == Nom::FrmModif ? Champs::De(Album, "Scena") : Champs::De(Album, "PrixA")));
-}
-
-void Bureau::capturerEntree(Frmmain &fenetre, int id)
-{
-    const General::Entree entree{General::TriDe(Reglages::courant().entier(Cle::Tris)), id};
-    fenetre.montrerEntree(entree);
-    if (fenetre.courante() != entree)
-        throw Error(tr("Cette fiche n'existe pas."), QStringLiteral("N %1").arg(id));
-}
-
-void Bureau::enregistrerCapture(QWidget *fenetre)
-{
-    const bool ecrite = fenetre->grab().save(m_options.capture);
-    if (!ecrite)
-        QTextStream(stderr) << m_options.capture << QStringLiteral(" ?\n");
-    QCoreApplication::exit(ecrite ? 0 : 1);
 }

@@ -1,19 +1,17 @@
 #pragma once
 
+#include "acts/Demandes.h"
 #include "acts/Historique.h"
 #include "app/Options.h"
 #include "core/Catalogues.h"
 #include "core/ui/Forme.h"
 
-#include <functional>
 #include <map>
 
-struct Edition;
 class Frmmain;
 class Pop;
-class Splash;
 
-/// The one place that knows all forms: it makes each on first use and connects what they wish to what there is.
+/// The one place that knows all forms: it makes each on first use, and answers what they wish.
 class Bureau : public QObject
 {
     Q_OBJECT
@@ -24,24 +22,26 @@ public:
 
     void demarrer();
 
-private:
-    /// Says how a form is made; only forms that were said so exist.
-    template <class F>
-    void declarer(Forme::Nom nom);
-    template <class F>
-    F *forme(Forme::Nom nom)
-    {
-        return static_cast<F *>(ouvrir(nom));
-    }
-    /// Connects the wishes and slots that a form has, whichever they are.
-    template <class F>
-    void brancher(F *forme);
-    void brancherParticuliers();
-
-    bool existe(Forme::Nom nom) const { return m_fabriques.contains(nom); }
-    /// The form, made if need be; not shown.
+    Demandes &demandes() { return m_demandes; }
+    /// The form, made if need be; not shown. Throws Error, and then there is none.
     Forme *ouvrir(Forme::Nom nom);
+    /// The entry whose sheet the main window shows; its identifier is 0 when there is none.
+    General::Entree courante();
+
+private:
+    template <class F>
+    F &forme(Forme::Nom nom);
+    Frmmain &fenetre();
+    std::unique_ptr<Forme> fabriquer(Forme::Nom nom);
+    /// Lets a form follow the entry that the main window shows.
+    template <class F>
+    std::unique_ptr<Forme> suivre(std::unique_ptr<F> forme);
     void montrer(Forme::Nom nom);
+
+    void repondre();
+    void repondreAuxFiches();
+    void brancherFenetre();
+    void brancherHistorique();
 
     /// Opens the form in which a field's value is entered or chosen.
     void editer(const Edition &edition);
@@ -49,6 +49,7 @@ private:
     Pop &pop();
     void poserEtapes();
     void montrerEtape(const Etape &etape, const QString &message);
+    void retourner();
 
     void chargerTextes();
     void choisirLangue(const QString &fichier);
@@ -59,17 +60,11 @@ private:
     void appliquerApparence();
     void premierDemarrage();
     void sauvegarderCopie();
-    void capturer();
-    void montrerPourCapture(Forme::Nom nom);
-    void capturerEntree(Frmmain &fenetre, int id);
-    void enregistrerCapture(QWidget *fenetre);
 
     Options m_options;
     Catalogues m_catalogues;
     Historique m_historique;
-    std::map<Forme::Nom, std::function<Forme *()>> m_fabriques;
-    std::map<Forme::Nom, std::unique_ptr<Forme>> m_formes;
-    std::vector<std::function<void()>> m_apparences; ///< of the forms that have been made
+    Demandes m_demandes;
+    std::map<Forme::Nom, std::unique_ptr<Forme>> m_formes; ///< those that have been made
     std::unique_ptr<Pop> m_pop;
-    std::map<Forme::Nom, std::function<void()>> m_chargements; ///< what is to be read when a form is shown
 };

@@ -1,5 +1,6 @@
 #include "app/Application.h"
 #include "app/Bureau.h"
+#include "app/Capture.h"
 #include "app/Demarrage.h"
 #include "app/Options.h"
 #include "core/Annonces.h"
@@ -22,6 +23,7 @@ int capturer(const Options &options, Dossier &dossier)
     if (Demarrage::PrendreLeDossier(dossier)) {
         Bureau bureau(options);
         bureau.demarrer();
+        const Capture capture(bureau, options);
         code = QApplication::exec();
     }
     for (const QString &dit : personne.textes)

@@ -1,5 +1,6 @@
 #include "appearance/Polices.h"
 
+#include "acts/Demandes.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Habillage.h"
@@ -47,8 +48,9 @@ int nombreDe(const QColor &couleur)
 
 }
 
-Polices::Polices()
+Polices::Polices(Demandes &demandes)
     : FormeOutil(QStringLiteral("Polices"), TailleDessinee)
+    , m_demandes(demandes)
 {
     construireListes();
     corps()->addWidget(construireOptions());
@@ -194,7 +196,7 @@ void Polices::valider()
     reglages.ecrire(Cle::FontName, m_choisie.family());
     reglages.ecrire(Cle::Theme, m_theme->currentIndex());
     Habillage::Relire();
-    Q_EMIT apparenceChangee();
+    Q_EMIT m_demandes.apparence();
     charger();
 }
 

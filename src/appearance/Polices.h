@@ -5,6 +5,7 @@
 #include <QColor>
 #include <array>
 
+class Demandes;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -18,13 +19,10 @@ class Polices : public FormeOutil
     Q_OBJECT
 
 public:
-    Polices();
+    explicit Polices(Demandes &demandes);
 
     /// Shows what the settings hold.
-    void charger();
-
-Q_SIGNALS:
-    void apparenceChangee();
+    void charger() override;
 
 protected:
     void Traduire() override;
@@ -39,6 +37,7 @@ private:
     void montrerExemple();
     void valider();
 
+    Demandes &m_demandes;
     QTreeWidget *m_police = nullptr;
     QTreeWidget *m_taille = nullptr;
     std::array<QCheckBox *, 2> m_options{};

@@ -1,5 +1,6 @@
 #include "appearance/Textures.h"
 
+#include "acts/Demandes.h"
 #include "core/Fonds.h"
 #include "core/Images.h"
 #include "core/Reglages.h"
@@ -35,8 +36,9 @@ void mettreEnGras(QListWidgetItem *ligne, bool gras)
 
 }
 
-Textures::Textures()
+Textures::Textures(Demandes &demandes)
     : FormeOutil(QStringLiteral("Textures"), TailleDessinee)
+    , m_demandes(demandes)
 {
     auto *ligne = new QHBoxLayout;
     ligne->setSpacing(Theme::Grand);
@@ -151,7 +153,7 @@ void Textures::valider()
     if (ligne && m_liste->currentRow() != m_presente)
         Fonds::Choisir(ligne->data(Fichier).toString());
     m_presente = m_liste->currentRow();
-    Q_EMIT apparenceChangee();
+    Q_EMIT m_demandes.apparence();
 }
 
 void Textures::Traduire()

@@ -3,6 +3,7 @@
 #include "core/ui/FormeOutil.h"
 
 class CadreImage;
+class Demandes;
 class QCheckBox;
 class QLabel;
 class QListWidget;
@@ -15,13 +16,10 @@ class Textures : public FormeOutil
     Q_OBJECT
 
 public:
-    Textures();
+    explicit Textures(Demandes &demandes);
 
     /// Lists the textures there are.
-    void charger();
-
-Q_SIGNALS:
-    void apparenceChangee();
+    void charger() override;
 
 protected:
     void Traduire() override;
@@ -35,6 +33,7 @@ private:
     void ajouterTexture();
     void valider();
 
+    Demandes &m_demandes;
     TitreGroupe *m_titreListe = nullptr;
     QListWidget *m_liste = nullptr;
     int m_presente = 0; ///< line of the background as it is

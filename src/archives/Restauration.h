@@ -18,7 +18,7 @@ public:
     Restauration();
 
     /// Lists the backups there are. Throws Error.
-    void charger();
+    void charger() override;
     /// Adds a file to the list and chooses it. Throws Error.
     void proposer(const QString &chemin);
 

@@ -1,5 +1,6 @@
 #include "browse/Accueil.h"
 
+#include "acts/Demandes.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
@@ -17,18 +18,18 @@ constexpr int HauteurBouton = 44;
 struct Chemin
 {
     const char *icone;
-    Forme::Nom forme;
+    Formes::Nom forme;
 };
 constexpr Chemin Chemins[] = {
-    {"creation-manuelle", Forme::Nom::Manuelle},
-    {"creation-facile", Forme::Nom::Facile},
-    {"ouvrir", Forme::Nom::Import},
-    {"restauration", Forme::Nom::Restauration},
+    {"creation-manuelle", Formes::Nom::Manuelle},
+    {"creation-facile", Formes::Nom::Facile},
+    {"ouvrir", Formes::Nom::Import},
+    {"restauration", Formes::Nom::Restauration},
 };
 
 }
 
-Accueil::Accueil(QWidget *parent)
+Accueil::Accueil(Demandes &demandes, QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("Accueil"));
@@ -60,7 +61,7 @@ Accueil::Accueil(QWidget *parent)
         if (premier)
             Theme::Accentuer(bouton);
         connect(bouton, &QPushButton::clicked, this,
-            [this, forme = chemin.forme] { Q_EMIT formeDemandee(forme); });
+            [&demandes, forme = chemin.forme] { Q_EMIT demandes.forme(forme); });
         choix->addWidget(bouton);
         m_boutons.push_back(bouton);
     }

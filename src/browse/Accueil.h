@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/ui/Forme.h"
-
+#include <QWidget>
 #include <vector>
 
+class Demandes;
 class QLabel;
 class QPushButton;
 
@@ -13,14 +13,11 @@ class Accueil : public QWidget
     Q_OBJECT
 
 public:
-    explicit Accueil(QWidget *parent);
+    Accueil(Demandes &demandes, QWidget *parent);
 
     /// Shows the ways to begin, or just that nothing is chosen.
     void poserVierge(bool vierge);
     void Traduire();
-
-Q_SIGNALS:
-    void formeDemandee(Forme::Nom forme);
 
 private:
     QLabel *m_titre = nullptr;

@@ -1,5 +1,6 @@
 #include "browse/Bandeau.h"
 
+#include "acts/Demandes.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
@@ -22,17 +23,17 @@ namespace {
 struct Commande
 {
     const char *icone;
-    std::optional<Forme::Nom> forme;
+    std::optional<Formes::Nom> forme;
     bool titre; ///< the caption is followed by the program's title
     Txt libelle;
     Txt mot; ///< under the icon, where the table of texts has a short word
 };
 
 constexpr std::array<Commande, 7> Commandes{
-    Commande{"lanceur", Forme::Nom::Splash, true, Txt::AccederAuMenuPrincipal, Txt::Tris},
-    Commande{"creation", Forme::Nom::Manuelle, false, Txt::Creation, Txt::Creation},
-    Commande{"recherche", Forme::Nom::Recherche, false, Txt::AccederAuPanneauDeRecherche, Txt::Recherche},
-    Commande{"impression", Forme::Nom::Impression, false, Txt::AccederAuMenuDImpression, Txt::Impression},
+    Commande{"lanceur", Formes::Nom::Splash, true, Txt::AccederAuMenuPrincipal, Txt::Tris},
+    Commande{"creation", Formes::Nom::Manuelle, false, Txt::Creation, Txt::Creation},
+    Commande{"recherche", Formes::Nom::Recherche, false, Txt::AccederAuPanneauDeRecherche, Txt::Recherche},
+    Commande{"impression", Formes::Nom::Impression, false, Txt::AccederAuMenuDImpression, Txt::Impression},
     Commande{"aide", std::nullopt, true, Txt::AccederALAide, Txt::AccederALAide},
     Commande{"web", std::nullopt, false, Txt::SiteWeb, Txt::SiteWeb},
     Commande{"apropos", std::nullopt, true, Txt::AProposDe, Txt::APropos},
@@ -64,8 +65,9 @@ QString motDe(int rang)
 
 }
 
-Bandeau::Bandeau(QWidget *parent)
+Bandeau::Bandeau(Demandes &demandes, QWidget *parent)
     : QWidget(parent)
+    , m_demandes(demandes)
 {
     auto *ligne = new QHBoxLayout(this);
     ligne->setContentsMargins(Theme::Moyen, Theme::Fin, Theme::Moyen, Theme::Fin);
@@ -127,7 +129,7 @@ void Bandeau::construireDroite()
     }
     connect(m_loops, &QToolButton::toggled, this, &Bandeau::loopBascule);
     connect(m_menuLangues, &QMenu::aboutToShow, this, [this] {
-        RemplirLangues(*m_menuLangues, [this](const QString &fichier) { Q_EMIT langueDemandee(fichier); });
+        RemplirLangues(*m_menuLangues, [this](const QString &fichier) { Q_EMIT m_demandes.langue(fichier); });
     });
 }
 
@@ -141,9 +143,9 @@ void Bandeau::agir(int rang)
     case APropos:
         return Q_EMIT aProposDemande();
     case Quitter:
-        return Q_EMIT sortieDemandee();
+        return Q_EMIT m_demandes.sortie();
     default:
-        return Q_EMIT formeDemandee(*Commandes[static_cast<std::size_t>(rang)].forme);
+        return Q_EMIT m_demandes.forme(*Commandes[static_cast<std::size_t>(rang)].forme);
     }
 }
 
@@ -161,21 +163,6 @@ void Bandeau::Traduire()
     libeller(m_langues, QFileInfo(Traduction::LangueCourante()).completeBaseName());
     m_langues->setToolTip(texte(Txt::SelectionnerLaLangue));
     m_menu[Web]->setVisible(!Reglages::courant().texte(Cle::Site).isEmpty());
-    if (m_disponible)
-        poserDisponibles(m_disponible);
-}
-
-void Bandeau::poserDisponibles(const std::function<bool(Forme::Nom)> &disponible)
-{
-    m_disponible = disponible;
-    for (std::size_t i = 0; i < Commandes.size(); ++i) {
-        if (!Commandes[i].forme)
-            continue;
-        const bool la = disponible(*Commandes[i].forme);
-        m_menu[i]->setEnabled(la);
-        if (!la)
-            m_menu[i]->setToolTip(libelleDe(static_cast<int>(i)) + u'\n' + tr("Pas encore disponible"));
-    }
 }
 
 void Bandeau::poserLoop(bool actif)

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "core/ui/Forme.h"
-
 #include <QWidget>
 #include <array>
-#include <functional>
 
+class Demandes;
 class QLabel;
 class QMenu;
 class QToolButton;
@@ -16,11 +14,9 @@ class Bandeau : public QWidget
     Q_OBJECT
 
 public:
-    explicit Bandeau(QWidget *parent = nullptr);
+    explicit Bandeau(Demandes &demandes, QWidget *parent);
 
     void Traduire();
-    /// Which forms there are; the buttons of the others are disabled and say so.
-    void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
     void poserLoop(bool actif);
     /// Titles of the steps that undo and redo would take; empty where there is none.
     void poserEtapes(const QString &aAnnuler, const QString &aRefaire);
@@ -28,15 +24,12 @@ public:
     void poserLargeurTitre(int largeur);
 
 Q_SIGNALS:
-    void formeDemandee(Forme::Nom forme);
     void aideDemandee();
     void siteDemande();
     void aProposDemande();
-    void sortieDemandee();
     void loopBascule(bool actif);
     void annulationDemandee();
     void retablissementDemande();
-    void langueDemandee(const QString &fichier);
 
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
@@ -47,6 +40,7 @@ private:
     void construireDroite();
     void agir(int rang);
 
+    Demandes &m_demandes;
     QLabel *m_titre = nullptr;
     std::array<QToolButton *, 8> m_menu{};
     QToolButton *m_defaire = nullptr;
@@ -56,5 +50,4 @@ private:
     QToolButton *m_loops = nullptr;
     QToolButton *m_langues = nullptr;
     QMenu *m_menuLangues = nullptr;
-    std::function<bool(Forme::Nom)> m_disponible;
 };

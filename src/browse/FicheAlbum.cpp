@@ -1,5 +1,6 @@
 #include "browse/FicheAlbum.h"
 
+#include "acts/Demandes.h"
 #include "browse/BandeSerie.h"
 #include "browse/GrilleFiche.h"
 #include "core/Images.h"
@@ -58,8 +59,8 @@ QToolButton *lienVoisin(QWidget *parent, const QString &nom, Qt::ToolButtonStyle
 
 }
 
-FicheAlbum::FicheAlbum(QWidget *parent)
-    : FicheForme(Champs::Feuille::Album, QStringLiteral("FicheAlbum"), parent)
+FicheAlbum::FicheAlbum(Demandes &demandes, QWidget *parent)
+    : FicheForme(Champs::Feuille::Album, QStringLiteral("FicheAlbum"), demandes, parent)
 {
     auto *page = new QGridLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
@@ -118,10 +119,10 @@ QWidget *FicheAlbum::construireEnTete()
     lignes->addLayout(serie);
 
     connect(m_precedent, &QToolButton::clicked, this, [this] {
-        Q_EMIT entreeDemandee({General::Tri::Albums, m_fiche.infos.precedent->num});
+        Q_EMIT m_demandes.entree({General::Tri::Albums, m_fiche.infos.precedent->num});
     });
     connect(m_suivant, &QToolButton::clicked, this, [this] {
-        Q_EMIT entreeDemandee({General::Tri::Albums, m_fiche.infos.suivant->num});
+        Q_EMIT m_demandes.entree({General::Tri::Albums, m_fiche.infos.suivant->num});
     });
     return zone;
 }
@@ -166,7 +167,7 @@ QWidget *FicheAlbum::construireCouverture()
     m_manquants->setWordWrap(true);
     colonne->addWidget(m_manquants);
     connect(m_bande, &BandeSerie::albumDemande, this, [this](int num) {
-        Q_EMIT entreeDemandee({General::Tri::Albums, num});
+        Q_EMIT m_demandes.entree({General::Tri::Albums, num});
     });
     return zone;
 }
@@ -271,7 +272,7 @@ void FicheAlbum::construireGrilles(QBoxLayout *colonne)
         connect(grille, &GrilleFiche::celluleFaite, this, &FicheAlbum::inscrire);
         connect(
             grille, &GrilleFiche::celluleActionnee, this, [this, grille = grille](const Legende *cellule) {
-                Q_EMIT editionDemandee(editionDeCellule(grille, cellule));
+                Q_EMIT m_demandes.edition(editionDeCellule(grille, cellule));
             });
         // The first line is made now, so that the keyboard comes to the grid before the texts below it.
         grille->montrer({});

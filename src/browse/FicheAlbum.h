@@ -20,7 +20,7 @@ class FicheAlbum : public FicheForme
     Q_OBJECT
 
 public:
-    explicit FicheAlbum(QWidget *parent = nullptr);
+    FicheAlbum(Demandes &demandes, QWidget *parent);
 
     void montrer(const ChargerAlbums::FicheAlbum &fiche);
     /// Slideshow: front and back cover take turns.

@@ -1,5 +1,6 @@
 #include "browse/FicheEntite.h"
 
+#include "acts/Demandes.h"
 #include "browse/Etagere.h"
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
@@ -76,8 +77,8 @@ const FicheEntite::Plan &FicheEntite::PlanDe(Feuille feuille)
     Q_UNREACHABLE();
 }
 
-FicheEntite::FicheEntite(Feuille feuille, QWidget *parent)
-    : FicheForme(feuille, QString::fromLatin1(PlanDe(feuille).nom), parent)
+FicheEntite::FicheEntite(Feuille feuille, Demandes &demandes, QWidget *parent)
+    : FicheForme(feuille, QString::fromLatin1(PlanDe(feuille).nom), demandes, parent)
     , m_plan(PlanDe(feuille))
 {
     auto *page = new QGridLayout(this);
@@ -101,7 +102,7 @@ FicheEntite::FicheEntite(Feuille feuille, QWidget *parent)
     page->setRowStretch(6, 1);
     page->setColumnStretch(1, 1);
     connect(m_albums, &Etagere::albumDemande, this, [this](int num) {
-        Q_EMIT entreeDemandee({General::Tri::Albums, num});
+        Q_EMIT m_demandes.entree({General::Tri::Albums, num});
     });
     FicheEntite::Traduire();
     AppliquerPolicesFiche();

@@ -19,7 +19,7 @@ class FicheEntite : public FicheForme
     Q_OBJECT
 
 public:
-    explicit FicheEntite(Champs::Feuille feuille, QWidget *parent = nullptr);
+    FicheEntite(Champs::Feuille feuille, Demandes &demandes, QWidget *parent);
 
     void montrer(General::Entree entree, const Valeurs &valeurs, const Entrees &albums);
     /// The trades area of an author.

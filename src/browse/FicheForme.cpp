@@ -1,5 +1,6 @@
 #include "browse/FicheForme.h"
 
+#include "acts/Demandes.h"
 #include "acts/Joindre.h"
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
@@ -89,8 +90,9 @@ void habiller(QWidget *valeur, const QFont &police)
 
 }
 
-FicheForme::FicheForme(Feuille feuille, const QString &nom, QWidget *parent)
+FicheForme::FicheForme(Feuille feuille, const QString &nom, Demandes &demandes, QWidget *parent)
     : Carte(parent)
+    , m_demandes(demandes)
     , m_feuille(feuille)
 {
     setObjectName(nom);
@@ -111,7 +113,7 @@ void FicheForme::brancher(const Champ &champ, QWidget *controle)
     const Champ *quoi = &champ;
     if (auto *legende = qobject_cast<Legende *>(controle)) {
         connect(legende, &Legende::actionnee, this,
-            [this, quoi, legende] { Q_EMIT editionDemandee(editionDe(quoi, legende)); });
+            [this, quoi, legende] { Q_EMIT m_demandes.edition(editionDe(quoi, legende)); });
         connect(legende, &Legende::ouvertureDemandee, this, &Liens::Ouvrir);
     } else if (auto *memo = qobject_cast<Memo *>(controle)) {
         connect(memo, &Memo::modifie, this,
@@ -143,7 +145,7 @@ void FicheForme::brancherCadre(const Champ &champ, CadreImage *cadre)
     // A click on an empty frame fills it; one on a picture is only a look.
     connect(cadre, &CadreImage::actionnee, this, [this, quoi, cadre] {
         if (!cadre->aUneImage())
-            Q_EMIT imageDemandee(editionDe(quoi, cadre));
+            Q_EMIT m_demandes.image(editionDe(quoi, cadre));
     });
 }
 
@@ -185,7 +187,7 @@ void FicheForme::contextMenuEvent(QContextMenuEvent *evenement)
         sous = this;
     const QPoint point = souris ? evenement->globalPos() : sous->mapToGlobal(sous->rect().bottomLeft());
     if (m_entree.id > 0)
-        Q_EMIT menuDemande(editionSous(sous), point);
+        Q_EMIT m_demandes.menu(editionSous(sous), point);
 }
 
 void FicheForme::ecrire(const Edite &quoi, const QString &saisie, int visite)
@@ -201,7 +203,7 @@ void FicheForme::ecrire(const Edite &quoi, const QString &saisie, int visite)
         remontrer();
     const QString mot = resultat.refus.isEmpty() ? resultat.avis : resultat.refus;
     if (!mot.isEmpty())
-        Q_EMIT dit(mot);
+        Q_EMIT m_demandes.message(mot);
 }
 
 void FicheForme::ecrireMemos()

@@ -8,6 +8,7 @@
 #include <vector>
 
 class CadreImage;
+class Demandes;
 class QGridLayout;
 
 /// What all sheets share: a control for each field of the table, made, captioned and filled by it.
@@ -16,7 +17,7 @@ class FicheForme : public Carte
     Q_OBJECT
 
 public:
-    FicheForme(Champs::Feuille feuille, const QString &nom, QWidget *parent);
+    FicheForme(Champs::Feuille feuille, const QString &nom, Demandes &demandes, QWidget *parent);
 
     /// Puts the user's font and colour on every value of the sheet.
     void AppliquerPolicesFiche();
@@ -26,17 +27,6 @@ public:
     bool memosEnAttente() const;
     /// Gives up what waits.
     void oublierMemos();
-
-Q_SIGNALS:
-    void entreeDemandee(General::Entree entree);
-    /// A value is to be entered or chosen in a form of its own.
-    void editionDemandee(const Edition &edition);
-    /// A picture file is to be chosen for the field.
-    void imageDemandee(const Edition &edition);
-    /// The context menu is asked for on a value, or beside the values when the edition names no field.
-    void menuDemande(const Edition &edition, const QPoint &point);
-    /// Something is to be said of what was written, or why nothing was.
-    void dit(const QString &message);
 
 protected:
     /// Takes all captions from the texts in force.
@@ -75,6 +65,8 @@ protected:
     void brancherCadre(const Champs::Champ &champ, CadreImage *cadre);
     /// Writes a value that was entered on the sheet itself. Throws Error.
     void ecrire(const Edite &quoi, const QString &saisie, int visite = 0);
+
+    Demandes &m_demandes;
 
 private:
     void brancher(const Champs::Champ &champ, QWidget *controle);

@@ -1,5 +1,6 @@
 #include "browse/Frmmain.h"
 
+#include "acts/Demandes.h"
 #include "acts/Renommer.h"
 #include "browse/Bandeau.h"
 #include "browse/Pied.h"
@@ -49,8 +50,9 @@ Q_LOGGING_CATEGORY(demarrage, "bulleo.demarrage", QtInfoMsg)
 
 }
 
-Frmmain::Frmmain()
+Frmmain::Frmmain(Demandes &demandes)
     : Forme(QStringLiteral("Frmmain"))
+    , m_demandes(demandes)
 {
     setWindowIcon(Icones::Programme());
     resize(TailleDessinee);
@@ -58,12 +60,12 @@ Frmmain::Frmmain()
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->setSpacing(0);
-    m_bandeau = new Bandeau(this);
+    m_bandeau = new Bandeau(m_demandes, this);
     page->addWidget(m_bandeau);
     construireCorps(page);
     m_pied = new Pied(this);
     page->addWidget(m_pied);
-    new Depot(this, [this](const QString &chemin) { Q_EMIT fichierDepose(chemin); });
+    new Depot(this, [this](const QString &chemin) { Q_EMIT m_demandes.fichier(chemin); });
     brancher();
     raccourcis();
     Frmmain::Traduire();
@@ -73,7 +75,7 @@ void Frmmain::construireCorps(QBoxLayout *page)
 {
     m_partage = nommer(new QSplitter(this), QStringLiteral("SSResizer1"));
     m_partage->setChildrenCollapsible(false);
-    m_volet = new VoletListes(m_partage);
+    m_volet = new VoletListes(m_demandes, m_partage);
     m_volet->setMinimumWidth(LargeurVolet - 18);
     m_fond = nommer(new Fond(m_partage), QStringLiteral("Fond"));
     auto *surFond = new QVBoxLayout(m_fond);
@@ -84,7 +86,7 @@ void Frmmain::construireCorps(QBoxLayout *page)
     m_defilement->setFrameShape(QFrame::NoFrame);
     m_defilement->setFocusPolicy(Qt::NoFocus);
     m_defilement->viewport()->setAutoFillBackground(false);
-    m_fiches = new PileFiches(m_defilement);
+    m_fiches = new PileFiches(m_demandes, m_defilement);
     m_defilement->setWidget(m_fiches);
     m_fiches->setAutoFillBackground(false);
     surFond->addWidget(m_defilement);
@@ -102,22 +104,10 @@ void Frmmain::brancher()
     connect(m_volet, &VoletListes::triDemande, this, &Frmmain::montrerTri);
     connect(m_volet, &VoletListes::entreeChoisie, this, &Frmmain::choisir);
     connect(m_volet, &VoletListes::renommageDemande, this, &Frmmain::renommer);
-    connect(m_volet, &VoletListes::suppressionDemandee, this, &Frmmain::suppressionDemandee);
-    connect(m_volet, &VoletListes::menuDemande, this,
-        [this](Entree entree, const QPoint &point) { Q_EMIT menuDemande({entree}, point); });
-    connect(m_fiches, &PileFiches::formeDemandee, this, &Frmmain::formeDemandee);
-    connect(m_fiches, &PileFiches::entreeDemandee, this, &Frmmain::montrerEntree, Qt::QueuedConnection);
-    connect(m_fiches, &PileFiches::editionDemandee, this, &Frmmain::editionDemandee);
-    connect(m_fiches, &PileFiches::menuDemande, this, &Frmmain::menuDemande);
-    connect(m_fiches, &PileFiches::imageDemandee, this, &Frmmain::imageDemandee);
-    connect(m_fiches, &PileFiches::dit, this, &Frmmain::dire);
-    connect(m_bandeau, &Bandeau::formeDemandee, this, &Frmmain::formeDemandee);
-    connect(m_bandeau, &Bandeau::langueDemandee, this, &Frmmain::langueDemandee);
     connect(m_bandeau, &Bandeau::aideDemandee, this, [] { Aide::Ouvrir(QStringLiteral("index")); });
     connect(
         m_bandeau, &Bandeau::siteDemande, this, [] { Liens::Ouvrir(Reglages::courant().texte(Cle::Site)); });
     connect(m_bandeau, &Bandeau::aProposDemande, this, &Frmmain::apropos);
-    connect(m_bandeau, &Bandeau::sortieDemandee, this, &Frmmain::close);
     connect(m_bandeau, &Bandeau::loopBascule, this, [this](bool actif) {
         Reglages::courant().ecrire(Cle::Loop, actif);
         m_fiches->poserDefilement(actif);
@@ -140,16 +130,16 @@ void Frmmain::raccourcis()
     if (!refaire.contains(ctrlY))
         refaire << ctrlY;
     ajouter({Qt::CTRL | Qt::Key_Q}, [this] { close(); });
-    ajouter({QKeySequence::New}, [this] { Q_EMIT formeDemandee(Nom::Manuelle); });
+    ajouter({QKeySequence::New}, [this] { Q_EMIT m_demandes.forme(Nom::Manuelle); });
     ajouter({QKeySequence::Find}, [this] { m_volet->filtrer(); });
     ajouter({QKeySequence::Undo}, [this] { annuler(); });
     ajouter(refaire, [this] { retablir(); });
-    ajouter({QKeySequence::Print}, [this] { Q_EMIT formeDemandee(Nom::Impression); });
+    ajouter({QKeySequence::Print}, [this] { Q_EMIT m_demandes.forme(Nom::Impression); });
     for (int i = 0; i < NombreDeTris; ++i)
         ajouter({Qt::CTRL | Qt::Key(Qt::Key_1 + i)}, [this, i] { montrerTri(TriDe(i)); });
 }
 
-void Frmmain::charger()
+void Frmmain::commencer()
 {
     m_fond->charger();
     restaurerTaille();
@@ -198,14 +188,19 @@ void Frmmain::montrerTri(Tri tri)
     quitterFiche();
     m_volet->montrer(tri);
     m_ouverte = true;
-    Reglages::courant().ecrire(Cle::Tris, static_cast<int>(tri));
-    Q_EMIT triChange(static_cast<int>(tri));
+    retenirTri(tri);
     m_courante = {};
     // The list that was there already keeps its entry.
     if (m_volet->liste()->choisie() > 0)
         choisirCourante();
     else
         montrerPremiere();
+}
+
+void Frmmain::retenirTri(Tri tri)
+{
+    Reglages::courant().ecrire(Cle::Tris, static_cast<int>(tri));
+    Q_EMIT triChange(static_cast<int>(tri));
 }
 
 void Frmmain::montrerSelection(const QString &libelle, const std::vector<int> &albums)
@@ -252,7 +247,7 @@ void Frmmain::montrerEntree(Entree entree)
     // An album shows beside any list that has albums; every other entry belongs to its own list.
     if (entree.tri != Tri::Albums && entree.tri != m_volet->tri()) {
         m_volet->montrer(entree.tri);
-        Reglages::courant().ecrire(Cle::Tris, static_cast<int>(entree.tri));
+        retenirTri(entree.tri);
     }
     if (entree.tri == m_volet->tri()) {
         m_volet->montrerLigne(entree.id);
@@ -298,13 +293,13 @@ void Frmmain::quitterFiche()
 void Frmmain::annuler()
 {
     m_fiches->ecrireMemos();
-    Q_EMIT annulationDemandee();
+    Q_EMIT m_demandes.annulation();
 }
 
 void Frmmain::retablir()
 {
     m_fiches->ecrireMemos();
-    Q_EMIT retablissementDemande();
+    Q_EMIT m_demandes.retablissement();
 }
 
 /// The entry shown is gone.
@@ -398,11 +393,6 @@ void Frmmain::poserEtapes(const QString &aAnnuler, const QString &aRefaire)
     m_bandeau->poserEtapes(aAnnuler, aRefaire);
 }
 
-void Frmmain::poserDisponibles(const std::function<bool(Forme::Nom)> &disponible)
-{
-    m_bandeau->poserDisponibles(disponible);
-}
-
 void Frmmain::Traduire()
 {
     setWindowTitle(titre());
@@ -465,7 +455,7 @@ void Frmmain::closeEvent(QCloseEvent *evenement)
     memoriserTaille();
     QFile::remove(Dossier::courant().chemin(QStringLiteral("temp.bmp")));
     evenement->accept();
-    Q_EMIT sortie();
+    Q_EMIT m_demandes.fin();
 }
 
 /// A text that cannot be written does not keep anybody in the program.

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "acts/Ecrire.h"
 #include "core/ui/Forme.h"
-
-#include <functional>
+#include "model/General.h"
 
 class Bandeau;
+class Demandes;
 class Fond;
 class Pied;
 class PileFiches;
@@ -20,10 +19,10 @@ class Frmmain : public Forme
     Q_OBJECT
 
 public:
-    Frmmain();
+    explicit Frmmain(Demandes &demandes);
 
     /// What is read at the start: background, size, list of the stored kind.
-    void charger();
+    void commencer();
     /// Shows a kind of list and remembers it. Throws Error.
     void montrerTri(General::Tri tri);
     /// Shows an entry's sheet, with its list when it is another one. Throws Error.
@@ -40,30 +39,17 @@ public:
     /// Shows the list's first entry, when nothing is shown yet. Throws Error.
     void montrerPremiere();
 
-    void actualiser(const Changements &changements);
-    void appliquerApparence();
+    void actualiser(const Changements &changements) override;
+    void appliquerApparence() override;
     void dire(const QString &message);
     /// Titles of the steps that undo and redo would take next; empty where there is none.
     void poserEtapes(const QString &aAnnuler, const QString &aRefaire);
-    void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
 
 Q_SIGNALS:
-    void formeDemandee(Forme::Nom forme);
-    void langueDemandee(const QString &fichier);
-    void editionDemandee(const Edition &edition);
-    void menuDemande(const Edition &edition, const QPoint &point);
-    void imageDemandee(const Edition &edition);
-    void suppressionDemandee(General::Entree entree);
     /// Another sheet is shown; its entry's number is 0 when there is none.
     void entreeMontree(General::Entree entree);
-    /// A file was dropped on the window.
-    void fichierDepose(const QString &chemin);
-    void annulationDemandee();
-    void retablissementDemande();
     /// Another kind of list is shown.
     void triChange(int tri);
-    /// The user has left the program.
-    void sortie();
 
 protected:
     void Traduire() override;
@@ -80,6 +66,7 @@ private:
 
     void choisir(General::Entree entree);
     void montrerFiche(General::Entree entree);
+    void retenirTri(General::Tri tri);
     void oublier();
     void renommer(General::Tri tri, int id, const QString &libelle);
     void ajouter(General::Tri tri, const QString &libelle);
@@ -93,6 +80,7 @@ private:
     void ouvrirMenu();
     void apropos();
 
+    Demandes &m_demandes;
     Bandeau *m_bandeau = nullptr;
     QSplitter *m_partage = nullptr;
     VoletListes *m_volet = nullptr;

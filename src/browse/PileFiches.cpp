@@ -5,11 +5,11 @@
 #include "browse/FicheEntite.h"
 #include "model/ChargerAlbums.h"
 
-PileFiches::PileFiches(QWidget *parent)
+PileFiches::PileFiches(Demandes &demandes, QWidget *parent)
     : QStackedWidget(parent)
+    , m_demandes(demandes)
 {
-    m_accueil = new Accueil(this);
-    connect(m_accueil, &Accueil::formeDemandee, this, &PileFiches::formeDemandee);
+    m_accueil = new Accueil(m_demandes, this);
     addWidget(m_accueil);
 }
 
@@ -23,8 +23,8 @@ bool PileFiches::montrer(General::Entree entree)
         return false;
     FicheEntite *&fiche = m_entites[feuille];
     if (!fiche) {
-        fiche = new FicheEntite(feuille, this);
-        inscrire(fiche);
+        fiche = new FicheEntite(feuille, m_demandes, this);
+        addWidget(fiche);
     }
     fiche->montrer(entree, *valeurs, General::LireAlbums(entree.tri, entree.id));
     if (feuille == Champs::Feuille::Auteur)
@@ -39,8 +39,8 @@ bool PileFiches::montrerAlbum(int num)
     if (!fiche)
         return false;
     if (!m_album) {
-        m_album = new FicheAlbum(this);
-        inscrire(m_album);
+        m_album = new FicheAlbum(m_demandes, this);
+        addWidget(m_album);
         m_album->poserDefilement(m_defile);
     }
     m_album->montrer(*fiche);
@@ -52,16 +52,6 @@ void PileFiches::vider(bool vierge)
 {
     m_accueil->poserVierge(vierge);
     setCurrentWidget(m_accueil);
-}
-
-void PileFiches::inscrire(FicheForme *fiche)
-{
-    addWidget(fiche);
-    connect(fiche, &FicheForme::entreeDemandee, this, &PileFiches::entreeDemandee);
-    connect(fiche, &FicheForme::editionDemandee, this, &PileFiches::editionDemandee);
-    connect(fiche, &FicheForme::menuDemande, this, &PileFiches::menuDemande);
-    connect(fiche, &FicheForme::imageDemandee, this, &PileFiches::imageDemandee);
-    connect(fiche, &FicheForme::dit, this, &PileFiches::dit);
 }
 
 FicheForme *PileFiches::montree() const

@@ -1,24 +1,23 @@
 #pragma once
 
-#include "acts/Ecrire.h"
-#include "core/ui/Forme.h"
+#include "model/General.h"
 
 #include <QStackedWidget>
 #include <map>
 
 class Accueil;
+class Demandes;
 class FicheAlbum;
 class FicheEntite;
 class FicheForme;
 
-/// The sheets of all kinds, one on top: each is made when it is first needed. What a sheet wishes, the pile
-/// announces.
+/// The sheets of all kinds, one on top: each is made when it is first needed.
 class PileFiches : public QStackedWidget
 {
     Q_OBJECT
 
 public:
-    explicit PileFiches(QWidget *parent);
+    PileFiches(Demandes &demandes, QWidget *parent);
 
     /// Shows an entry's sheet; false when the entry is gone. Throws Error.
     bool montrer(General::Entree entree);
@@ -33,19 +32,11 @@ public:
     void AppliquerPolices();
     void Traduire();
 
-Q_SIGNALS:
-    void formeDemandee(Forme::Nom forme);
-    void entreeDemandee(General::Entree entree);
-    void editionDemandee(const Edition &edition);
-    void menuDemande(const Edition &edition, const QPoint &point);
-    void imageDemandee(const Edition &edition);
-    void dit(const QString &message);
-
 private:
     bool montrerAlbum(int num);
-    void inscrire(FicheForme *fiche);
     FicheForme *montree() const;
 
+    Demandes &m_demandes;
     FicheAlbum *m_album = nullptr;
     std::map<Champs::Feuille, FicheEntite *> m_entites;
     Accueil *m_accueil = nullptr;

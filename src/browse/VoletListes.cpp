@@ -1,5 +1,7 @@
 #include "browse/VoletListes.h"
 
+#include "acts/Demandes.h"
+#include "acts/Ecrire.h"
 #include "browse/VueListe.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
@@ -36,8 +38,9 @@ QHBoxLayout *ligneDeTitre(QLabel *titre, QLabel *nombre)
 
 }
 
-VoletListes::VoletListes(QWidget *parent)
+VoletListes::VoletListes(Demandes &demandes, QWidget *parent)
     : QWidget(parent)
+    , m_demandes(demandes)
 {
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(Theme::Moyen, Theme::Petit, 0, Theme::Petit);
@@ -148,8 +151,9 @@ void VoletListes::brancher()
 {
     for (VueListe *liste : {m_liste, m_albums, m_presse}) {
         connect(liste, &VueListe::entreeChoisie, this, &VoletListes::entreeChoisie);
-        connect(liste, &VueListe::menuDemande, this, &VoletListes::menuDemande);
-        connect(liste, &VueListe::suppressionDemandee, this, &VoletListes::suppressionDemandee);
+        connect(liste, &VueListe::menuDemande, this,
+            [this](Entree entree, const QPoint &point) { Q_EMIT m_demandes.menu({entree}, point); });
+        connect(liste, &VueListe::suppressionDemandee, &m_demandes, &Demandes::suppression);
         connect(&liste->modele(), &ListeEntrees::renommageDemande, this, &VoletListes::renommageDemande,
             Qt::QueuedConnection);
     }

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <array>
 
+class Demandes;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
@@ -20,7 +21,7 @@ class VoletListes : public QWidget
     Q_OBJECT
 
 public:
-    explicit VoletListes(QWidget *parent = nullptr);
+    VoletListes(Demandes &demandes, QWidget *parent);
 
     /// Fills the main list with a kind. Throws Error.
     void montrer(General::Tri tri);
@@ -57,8 +58,6 @@ Q_SIGNALS:
     void triDemande(General::Tri tri);
     void entreeChoisie(General::Entree entree);
     void renommageDemande(General::Tri tri, int id, const QString &libelle);
-    void menuDemande(General::Entree entree, const QPoint &point);
-    void suppressionDemandee(General::Entree entree);
 
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
@@ -74,6 +73,7 @@ private:
     void poserNombre();
     void replier();
 
+    Demandes &m_demandes;
     General::Tri m_tri = General::Tri::Albums;
     bool m_remplie = false;
     General::Entree m_lies;

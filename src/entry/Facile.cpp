@@ -20,8 +20,8 @@ constexpr int LargeurCatalogue = 300;
 
 }
 
-Facile::Facile()
-    : FormeCreation(QStringLiteral("Facile"), TailleDessinee, Txt::CreationFacileDUnAlbum)
+Facile::Facile(Demandes &demandes)
+    : FormeCreation(demandes, QStringLiteral("Facile"), TailleDessinee, Txt::CreationFacileDUnAlbum)
 {
     m_modele.poserPrefixe(QStringLiteral("A"));
     // The keyboard comes to what is made first: one picks from the catalogue, then looks at the fields.

@@ -3,6 +3,7 @@
 #include "entry/FormeCreation.h"
 #include "model/ListeEntrees.h"
 
+class Demandes;
 class QCheckBox;
 class QLineEdit;
 class QListView;
@@ -13,7 +14,7 @@ class Facile : public FormeCreation
     Q_OBJECT
 
 public:
-    Facile();
+    explicit Facile(Demandes &demandes);
 
     void charger() override;
 

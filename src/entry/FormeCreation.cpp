@@ -1,5 +1,6 @@
 #include "entry/FormeCreation.h"
 
+#include "acts/Demandes.h"
 #include "core/Traduction.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
@@ -16,8 +17,9 @@ constexpr int EcartDesBoutons = 6;
 
 }
 
-FormeCreation::FormeCreation(const QString &nom, const QSize &taille, Txt titre)
+FormeCreation::FormeCreation(Demandes &demandes, const QString &nom, const QSize &taille, Txt titre)
     : FormeOutil(nom, taille, Mini, {Large.cotes, Large.bords, Large.ecart, EcartDesBoutons, Large.titre})
+    , m_demandes(demandes)
     , m_titre(titre)
 {
     m_ligne = new QHBoxLayout;
@@ -80,5 +82,6 @@ void FormeCreation::creer()
     dire({});
     Messages::Informer(this, texte(Txt::CreationEffectuee));
     charger();
-    Q_EMIT albumCree(num);
+    Q_EMIT m_demandes.liste(General::Tri::Albums);
+    Q_EMIT m_demandes.entree({General::Tri::Albums, num});
 }

@@ -4,6 +4,7 @@
 #include "core/Txt.h"
 #include "core/ui/FormeOutil.h"
 
+class Demandes;
 class FormulaireAlbum;
 class QHBoxLayout;
 class QPushButton;
@@ -15,13 +16,10 @@ class FormeCreation : public FormeOutil
 
 public:
     /// Reads the choice lists; the form is emptied. Throws Error.
-    virtual void charger();
-
-Q_SIGNALS:
-    void albumCree(int num);
+    void charger() override;
 
 protected:
-    FormeCreation(const QString &nom, const QSize &taille, Txt titre);
+    FormeCreation(Demandes &demandes, const QString &nom, const QSize &taille, Txt titre);
     /// Makes the fields; with `date` the publication date has choices beside it.
     void construireFormulaire(bool date);
 
@@ -34,6 +32,7 @@ protected:
 private:
     void creer();
 
+    Demandes &m_demandes;
     Txt m_titre;
     FormulaireAlbum *m_formulaire = nullptr;
     QHBoxLayout *m_ligne = nullptr;

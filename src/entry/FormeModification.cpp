@@ -16,8 +16,9 @@ constexpr int HauteurDuCadre = 34; ///< about what a window's own frame takes ab
 
 }
 
-FormeModification::FormeModification(const QString &nom)
+FormeModification::FormeModification(Demandes &demandes, const QString &nom)
     : FormeOutil(nom, {}, Rien, {Serre.cotes, Serre.bords, Serre.ecart, Serre.ecartDuPied, TailleDuTitre})
+    , m_demandes(demandes)
 {
     setWindowFlags(Qt::Dialog);
     setWindowModality(Qt::ApplicationModal);
@@ -42,7 +43,7 @@ void FormeModification::editer(const Edition &edition)
     m_edition = edition;
     Traduire();
     refuser({});
-    charger();
+    proposer();
     placer();
 }
 

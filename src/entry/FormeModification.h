@@ -3,6 +3,7 @@
 #include "acts/Ecrire.h"
 #include "core/ui/FormeOutil.h"
 
+class Demandes;
 class QPushButton;
 
 /// What the two editing forms share: which field is edited, what is said of what was entered, and the button that
@@ -15,15 +16,11 @@ public:
     /// Prepares the form for a field. Throws Error.
     void editer(const Edition &edition);
 
-Q_SIGNALS:
-    /// Something is to be said of what was written.
-    void dite(const QString &message);
-
 protected:
-    explicit FormeModification(const QString &nom);
+    FormeModification(Demandes &demandes, const QString &nom);
 
     /// Shows what the field holds and what may be entered.
-    virtual void charger() = 0;
+    virtual void proposer() = 0;
     /// Stores what was entered, and closes the form when it was taken.
     virtual void valider() = 0;
 
@@ -34,6 +31,8 @@ protected:
     void refuser(const QString &raison);
     /// Says in the same line what validating will do.
     void prevenir(const QString &avis);
+
+    Demandes &m_demandes;
 
 private:
     void placer();

@@ -22,8 +22,8 @@ constexpr QSize TailleListe(340, 300);
 
 }
 
-FrmModif::FrmModif()
-    : FormeModification(QStringLiteral("FrmModif"))
+FrmModif::FrmModif(Demandes &demandes)
+    : FormeModification(demandes, QStringLiteral("FrmModif"))
 {
     auto *ligne = new QHBoxLayout;
     m_saisie = nommer(new QLineEdit(this), QStringLiteral("Saisie"));
@@ -90,7 +90,7 @@ void FrmModif::Traduire()
     m_date->setLocale(Traduction::courant().locale());
 }
 
-void FrmModif::charger()
+void FrmModif::proposer()
 {
     m_choisie = {0, edition().affichee};
     m_saisie->setText(edition().affichee);

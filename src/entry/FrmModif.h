@@ -4,6 +4,7 @@
 #include "entry/FormeModification.h"
 #include "model/ListeEntrees.h"
 
+class Demandes;
 class QCalendarWidget;
 class QLineEdit;
 class QListView;
@@ -15,11 +16,11 @@ class FrmModif : public FormeModification
     Q_OBJECT
 
 public:
-    FrmModif();
+    explicit FrmModif(Demandes &demandes);
 
 protected:
     void Traduire() override;
-    void charger() override;
+    void proposer() override;
     void valider() override;
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 

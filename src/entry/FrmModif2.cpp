@@ -1,5 +1,6 @@
 #include "entry/FrmModif2.h"
 
+#include "acts/Demandes.h"
 #include "core/ui/Nommer.h"
 
 #include <QLineEdit>
@@ -11,8 +12,8 @@ constexpr int LargeurSaisie = 360;
 
 }
 
-FrmModif2::FrmModif2()
-    : FormeModification(QStringLiteral("FrmModif2"))
+FrmModif2::FrmModif2(Demandes &demandes)
+    : FormeModification(demandes, QStringLiteral("FrmModif2"))
 {
     m_saisie = nommer(new QLineEdit(this), QStringLiteral("TSaisie"));
     m_saisie->setMinimumWidth(LargeurSaisie);
@@ -27,7 +28,7 @@ void FrmModif2::Traduire()
     m_saisie->setAccessibleName(Ecrire::LibelleDe(edition()));
 }
 
-void FrmModif2::charger()
+void FrmModif2::proposer()
 {
     m_saisie->setText(edition().affichee);
     m_depart = m_saisie->text();
@@ -50,5 +51,5 @@ void FrmModif2::valider()
     }
     close();
     if (!resultat.avis.isEmpty())
-        Q_EMIT dite(resultat.avis);
+        Q_EMIT m_demandes.message(resultat.avis);
 }

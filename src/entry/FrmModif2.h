@@ -2,6 +2,7 @@
 
 #include "entry/FormeModification.h"
 
+class Demandes;
 class QLineEdit;
 
 /// The entry of a value in one line.
@@ -10,11 +11,11 @@ class FrmModif2 : public FormeModification
     Q_OBJECT
 
 public:
-    FrmModif2();
+    explicit FrmModif2(Demandes &demandes);
 
 protected:
     void Traduire() override;
-    void charger() override;
+    void proposer() override;
     void valider() override;
 
 private:

@@ -1,5 +1,6 @@
 #include "entry/Import.h"
 
+#include "acts/Demandes.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Depot.h"
@@ -56,8 +57,9 @@ std::size_t rang(Rubrique rubrique)
 
 }
 
-Import::Import()
+Import::Import(Demandes &demandes)
     : FormeOutil(QStringLiteral("Import"), TailleDessinee, Mini | Progression)
+    , m_demandes(demandes)
 {
     new Depot(this, [this](const QString &chemin) { ouvrir(chemin); });
     auto *tete = new QHBoxLayout;
@@ -263,7 +265,7 @@ void Import::montrerRapport(const Rapport &rapport)
         + QStringLiteral(", ") + tr("%n déjà présent(s)", nullptr, static_cast<int>(rapport.sautes.size()))
         + QStringLiteral(", ") + tr("%n refusé(s)", nullptr, static_cast<int>(rapport.refus.size()));
     m_message->setText(bilan);
-    Q_EMIT dite(bilan);
+    Q_EMIT m_demandes.message(bilan);
     QStringList lignes;
     for (const Rapport::Refus &refus : rapport.refus)
         lignes << tr("Ligne %1 : %2").arg(refus.ligne).arg(refus.raison);

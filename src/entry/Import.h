@@ -3,6 +3,7 @@
 #include "acts/Importer.h"
 #include "core/ui/FormeOutil.h"
 
+class Demandes;
 class QComboBox;
 class QGridLayout;
 class QLabel;
@@ -17,15 +18,12 @@ class Import : public FormeOutil
     Q_OBJECT
 
 public:
-    Import();
+    explicit Import(Demandes &demandes);
 
     /// Begins anew, without a file.
-    void charger();
+    void charger() override;
     /// Takes up a file. Throws Error.
     void ouvrir(const QString &chemin);
-
-Q_SIGNALS:
-    void dite(const QString &message);
 
 protected:
     void Traduire() override;
@@ -49,6 +47,7 @@ private:
     void montrerRapport(const Importer::Rapport &rapport);
     void importer();
 
+    Demandes &m_demandes;
     QString m_chemin;
     Importer::Apercu m_apercu;
     bool m_importe = false; ///< this file has come in

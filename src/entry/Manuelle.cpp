@@ -1,7 +1,7 @@
 #include "entry/Manuelle.h"
 
-Manuelle::Manuelle()
-    : FormeCreation(QStringLiteral("Manuelle"), {820, 640}, Txt::CreationManuelleDUnAlbum)
+Manuelle::Manuelle(Demandes &demandes)
+    : FormeCreation(demandes, QStringLiteral("Manuelle"), {820, 640}, Txt::CreationManuelleDUnAlbum)
 {
     construireFormulaire(true);
 }

@@ -1,6 +1,7 @@
 #include "entry/Pop.h"
 
 #include "acts/Choisir.h"
+#include "acts/Demandes.h"
 #include "acts/Joindre.h"
 #include "acts/Supprimer.h"
 #include "core/Images.h"
@@ -58,7 +59,8 @@ bool estDedicace(const Edition &edition)
 
 }
 
-Pop::Pop()
+Pop::Pop(Demandes &demandes)
+    : m_demandes(demandes)
 {
     setObjectName(QStringLiteral("Pop"));
 }
@@ -88,7 +90,8 @@ void Pop::remplir()
     const General::Entree entree = m_edition.entree;
     if (entree.id > 0) {
         const QString nom = General::LireTexte(entree.tri, entree.id);
-        QAction *premiere = commande("LL", pourMenu(nom), [this, entree] { Q_EMIT entreeDemandee(entree); });
+        QAction *premiere
+            = commande("LL", pourMenu(nom), [this, entree] { Q_EMIT m_demandes.entree(entree); });
         QFont gras = font();
         gras.setBold(true);
         premiere->setFont(gras);
@@ -102,24 +105,24 @@ void Pop::remplir()
     if (entree.tri != Tri::Albums) {
         const QString liste = texte(General::GenreDe(entree.tri).bouton);
         commande("ajouter", texte(Txt::Ajouter) + QStringLiteral(": ") + liste,
-            [this, entree] { Q_EMIT ajoutDemande(entree.tri); });
+            [this, entree] { Q_EMIT m_demandes.ajout(entree.tri); });
     } else {
-        commande("ajouter", texte(Txt::Ajouter), [this] { Q_EMIT formeDemandee(Forme::Nom::Manuelle); });
+        commande("ajouter", texte(Txt::Ajouter), [this] { Q_EMIT m_demandes.forme(Formes::Nom::Manuelle); });
     }
     commande("crea", texte(Txt::CreationManuelleDUnAlbum) + QStringLiteral("\tCtrl+N"),
-        [this] { Q_EMIT formeDemandee(Forme::Nom::Manuelle); });
+        [this] { Q_EMIT m_demandes.forme(Formes::Nom::Manuelle); });
     addSeparator();
     m_langues = addMenu(Icones::Charger(QStringLiteral("langue")), texte(Txt::SelectionnerLaLangue));
     m_langues->menuAction()->setObjectName(QStringLiteral("Payss"));
-    RemplirLangues(*m_langues, [this](const QString &fichier) { Q_EMIT langueDemandee(fichier); });
-    commande("quitter", tr("Quitter") + QStringLiteral("\tCtrl+Q"), [this] { Q_EMIT sortieDemandee(); });
+    RemplirLangues(*m_langues, [this](const QString &fichier) { Q_EMIT m_demandes.langue(fichier); });
+    commande("quitter", tr("Quitter") + QStringLiteral("\tCtrl+Q"), [this] { Q_EMIT m_demandes.sortie(); });
 }
 
 void Pop::remplirEntree()
 {
     const General::Entree entree = m_edition.entree;
     commande("modifie", texte(Txt::Modifier) + QStringLiteral("\tF2"),
-        [this, entree] { Q_EMIT renommageDemande(entree); });
+        [this, entree] { Q_EMIT m_demandes.renommage(entree); });
     commande("supprime", texte(Txt::Supprimer) + QLatin1Char('\t') + tr("Suppr"),
         [this, entree] { supprimer(entree); });
 }
@@ -138,7 +141,8 @@ void Pop::remplirValeur()
         remplirImage();
     const bool legende = !champ || champ->voie != Champs::Voie::Directe;
     if (legende && !dediImage)
-        commande("modifier", texte(Txt::Modifier) + libelle, [this] { Q_EMIT editionDemandee(m_edition); });
+        commande(
+            "modifier", texte(Txt::Modifier) + libelle, [this] { Q_EMIT m_demandes.edition(m_edition); });
     if (Choisir::PeutVider(m_edition) && !dediImage)
         commande("supprimer", texte(Txt::Supprimer) + libelle, [this] { Choisir::Vider(m_edition); });
 }

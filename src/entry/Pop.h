@@ -1,9 +1,10 @@
 #pragma once
 
 #include "acts/Ecrire.h"
-#include "core/ui/Forme.h"
 
 #include <QMenu>
+
+class Demandes;
 
 /// The context menu of lists and sheets: the commands that can act where it was asked for.
 class Pop : public QMenu
@@ -11,7 +12,7 @@ class Pop : public QMenu
     Q_OBJECT
 
 public:
-    Pop();
+    explicit Pop(Demandes &demandes);
 
     /// Opens on a value of a sheet, or on an entry when the edition names no field.
     void ouvrir(const Edition &edition, const QPoint &point);
@@ -20,17 +21,6 @@ public:
     void choisirImage(const Edition &edition);
     /// Deletes an entry, once the user has agreed. Throws Error.
     void supprimer(General::Entree entree);
-
-Q_SIGNALS:
-    void formeDemandee(Forme::Nom forme);
-    void entreeDemandee(General::Entree entree);
-    void editionDemandee(const Edition &edition);
-    void langueDemandee(const QString &fichier);
-    /// The label of an entry is to be edited in its list.
-    void renommageDemande(General::Entree entree);
-    /// A new entry is to be named in the list of its kind.
-    void ajoutDemande(General::Tri tri);
-    void sortieDemandee();
 
 private:
     /// Adds a command under the name that it bears.
@@ -41,6 +31,7 @@ private:
     void remplirValeur();
     void remplirImage();
 
+    Demandes &m_demandes;
     Edition m_edition;
     QMenu *m_langues = nullptr;
 };

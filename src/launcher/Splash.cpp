@@ -1,5 +1,6 @@
 #include "launcher/Splash.h"
 
+#include "acts/Demandes.h"
 #include "core/Fonds.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
@@ -184,8 +185,9 @@ protected:
 
 }
 
-Splash::Splash()
+Splash::Splash(Demandes &demandes)
     : Forme(QStringLiteral("Splash"))
+    , m_demandes(demandes)
 {
     setWindowIcon(Icones::Programme());
     const QSize ecran = screen()->availableSize();
@@ -290,7 +292,7 @@ QLayout *Splash::construireBoutons()
     }
     connect(m_mini, &QPushButton::clicked, this, &QWidget::hide);
     connect(m_quit, &QPushButton::clicked, this, [this] {
-        Q_EMIT retourDemande();
+        Q_EMIT m_demandes.retour();
         hide();
     });
     return boutons;
@@ -330,11 +332,11 @@ void Splash::construireOutils(QGridLayout *page, const QString &nom, std::span<c
     for (const Outil &outil : outils) {
         auto *bouton = ajouter(page, nom, rang++, QString::fromLatin1(outil.icone),
             {nullptr, [&outil] { return texte(outil.legende); },
-                [&outil] { return texte(outil.commentaire); }, outil.forme});
+                [&outil] { return texte(outil.commentaire); }});
         if (const auto forme = outil.forme)
-            connect(bouton, &QToolButton::clicked, this, [this, forme] { Q_EMIT formeDemandee(*forme); });
+            connect(bouton, &QToolButton::clicked, this, [this, forme] { Q_EMIT m_demandes.forme(*forme); });
         else
-            connect(bouton, &QToolButton::clicked, this, &Splash::copieDemandee);
+            connect(bouton, &QToolButton::clicked, &m_demandes, &Demandes::copie);
     }
 }
 
@@ -343,8 +345,8 @@ void Splash::construireImport(QGridLayout *page)
     auto *bouton = ajouter(page, QStringLiteral("Creation"), static_cast<int>(Creations.size()),
         QStringLiteral("ouvrir"),
         {nullptr, [] { return tr("Importer des albums"); },
-            [] { return tr("Créer beaucoup d'albums d'un coup, à partir d'un fichier CSV"); }, Nom::Import});
-    connect(bouton, &QToolButton::clicked, this, [this] { Q_EMIT formeDemandee(Nom::Import); });
+            [] { return tr("Créer beaucoup d'albums d'un coup, à partir d'un fichier CSV"); }});
+    connect(bouton, &QToolButton::clicked, this, [this] { Q_EMIT m_demandes.forme(Nom::Import); });
 }
 
 void Splash::construireTris(QGridLayout *page)
@@ -354,18 +356,18 @@ void Splash::construireTris(QGridLayout *page)
     for (const Liste &liste : Listes) {
         auto *bouton = ajouter(page, QStringLiteral("Tris"), rang, QString::fromLatin1(liste.icone),
             {nullptr, [&liste] { return texte(liste.nom); },
-                [&liste] { return tr(" Sélectionner la liste des ") + texte(liste.nom); }, std::nullopt});
+                [&liste] { return tr(" Sélectionner la liste des ") + texte(liste.nom); }});
         bouton->setCheckable(true);
         m_tris->addButton(bouton, rang++);
     }
-    connect(m_tris, &QButtonGroup::idClicked, this, &Splash::triDemande);
+    connect(m_tris, &QButtonGroup::idClicked, this,
+        [this](int tri) { Q_EMIT m_demandes.liste(General::TriDe(tri)); });
 }
 
 void Splash::construireLiens(QGridLayout *page)
 {
     auto *bouton = ajouter(page, QStringLiteral("Liens"), 0, QStringLiteral("liens"),
-        {nullptr, [] { return texte(Txt::SiteWeb); }, [] { return texte(Txt::VisitezLeSiteDeLAuteur); },
-            std::nullopt});
+        {nullptr, [] { return texte(Txt::SiteWeb); }, [] { return texte(Txt::VisitezLeSiteDeLAuteur); }});
     bouton->setObjectName(QStringLiteral("Liens"));
     connect(bouton, &QToolButton::clicked, this, [] { Liens::Ouvrir(Reglages::courant().texte(Cle::Site)); });
 }
@@ -385,16 +387,6 @@ void Splash::poserTri(int tri)
     m_tris->setExclusive(true);
 }
 
-void Splash::poserDisponibles(const std::function<bool(Nom)> &disponible)
-{
-    m_disponible = disponible;
-    for (const Bouton &bouton : m_boutons) {
-        const bool la = !bouton.forme || disponible(*bouton.forme);
-        bouton.controle->setEnabled(la);
-        bouton.controle->setToolTip(la ? QString() : tr("Pas encore disponible"));
-    }
-}
-
 void Splash::Traduire()
 {
     setWindowTitle(titre());
@@ -409,8 +401,6 @@ void Splash::Traduire()
     m_auto->setText(enDeuxLignes(texte(Txt::AfficherCetEcranAuDemarrage), m_auto->fontMetrics(), place));
     m_auto->setAccessibleName(texte(Txt::AfficherCetEcranAuDemarrage));
     m_commentaire->clear();
-    if (m_disponible)
-        poserDisponibles(m_disponible);
     const bool site = !Reglages::courant().texte(Cle::Site).isEmpty();
     m_menu->button(static_cast<int>(Groupes.size()) - 1)->setVisible(site);
     m_boutons.back().controle->setVisible(site);

@@ -9,6 +9,7 @@
 #include <span>
 #include <vector>
 
+class Demandes;
 class QButtonGroup;
 class QCheckBox;
 class QGridLayout;
@@ -34,19 +35,10 @@ public:
         std::optional<Nom> forme;
     };
 
-    Splash();
+    explicit Splash(Demandes &demandes);
 
-    /// Which forms there are; the buttons of the others are disabled and say so.
-    void poserDisponibles(const std::function<bool(Forme::Nom)> &disponible);
     /// Marks the kind of list that the main window shows.
     void poserTri(int tri);
-
-Q_SIGNALS:
-    void formeDemandee(Forme::Nom forme);
-    void triDemande(int tri);
-    void copieDemandee();
-    /// The user goes on to the main window.
-    void retourDemande();
 
 protected:
     void Traduire() override;
@@ -58,7 +50,6 @@ private:
         QToolButton *controle = nullptr;
         std::function<QString()> legende;
         std::function<QString()> commentaire;
-        std::optional<Nom> forme;
     };
 
     QWidget *construireMenu();
@@ -75,6 +66,7 @@ private:
     void survoler(QAbstractButton &bouton, bool entre);
     QString commentaireDuBouton(QAbstractButton &bouton) const;
 
+    Demandes &m_demandes;
     QStackedWidget *m_pages = nullptr;
     QLabel *m_titreGroupe = nullptr;
     QLabel *m_commentaire = nullptr;
@@ -85,5 +77,4 @@ private:
     QPushButton *m_quit = nullptr;
     QCheckBox *m_auto = nullptr;
     std::vector<Bouton> m_boutons;
-    std::function<bool(Nom)> m_disponible;
 };

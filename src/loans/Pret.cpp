@@ -1,5 +1,6 @@
 #include "loans/Pret.h"
 
+#include "acts/Demandes.h"
 #include "acts/Preter.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
@@ -52,8 +53,9 @@ void retrouver(QTreeView *liste, int id, int rang)
 
 }
 
-Pret::Pret()
+Pret::Pret(Demandes &demandes)
     : FormeOutil(QStringLiteral("Pret"), TailleDessinee)
+    , m_demandes(demandes)
 {
     construireListes(corps());
     m_preter = ajouterAuPied(QStringLiteral("Preter"), true);
@@ -98,7 +100,7 @@ void Pret::brancher()
     connect(m_lPret->selectionModel(), &QItemSelectionModel::currentChanged, this, &Pret::choisirPret);
     connect(m_lPret, &QTreeView::clicked, this, &Pret::choisirPret);
     connect(m_lPret, &QTreeView::doubleClicked, this, [this] {
-        Q_EMIT entreeDemandee({General::Tri::Albums, pret()});
+        Q_EMIT m_demandes.entree({General::Tri::Albums, pret()});
     });
     connect(m_tous, &QPushButton::clicked, this, [this] { m_lPers->setCurrentIndex({}); });
     connect(m_preter, &QPushButton::clicked, this, &Pret::preter);
@@ -225,7 +227,7 @@ void Pret::preter()
 {
     Edition edition = Ecrire::EditionDe(m_courante, Champs::De(Champs::Feuille::Album, "NPret"));
     edition.place = QRect(m_preter->mapToGlobal(QPoint()), m_preter->size());
-    Q_EMIT editionDemandee(edition);
+    Q_EMIT m_demandes.edition(edition);
 }
 
 void Pret::Traduire()
@@ -251,7 +253,7 @@ void Pret::Traduire()
 void Pret::entrer()
 {
     if (m_lPret->hasFocus() && pret() > 0)
-        Q_EMIT entreeDemandee({General::Tri::Albums, pret()});
+        Q_EMIT m_demandes.entree({General::Tri::Albums, pret()});
 }
 
 void Pret::keyPressEvent(QKeyEvent *evenement)

@@ -6,6 +6,7 @@
 
 #include <QStandardItemModel>
 
+class Demandes;
 class QBoxLayout;
 class QLabel;
 class QPushButton;
@@ -18,16 +19,12 @@ class Pret : public FormeOutil
     Q_OBJECT
 
 public:
-    Pret();
+    explicit Pret(Demandes &demandes);
 
-    void charger();
-    void actualiser(const Changements &changements);
+    void charger() override;
+    void actualiser(const Changements &changements) override;
     /// The entry that the main window shows: an album can be lent from here.
     void poserCourante(General::Entree entree);
-
-Q_SIGNALS:
-    void entreeDemandee(General::Entree entree);
-    void editionDemandee(const Edition &edition);
 
 protected:
     void Traduire() override;
@@ -48,6 +45,7 @@ private:
     int personne() const;
     int pret() const;
 
+    Demandes &m_demandes;
     QStandardItemModel m_personnes;
     QStandardItemModel m_prets;
     QLabel *m_titres[2] = {};

@@ -20,7 +20,7 @@ class Acquisition : public FormeOutil
 public:
     Acquisition();
 
-    void charger();
+    void charger() override;
     /// The entry that the main window shows: an album takes the picture.
     void poserCourante(General::Entree entree);
 

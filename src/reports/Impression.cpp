@@ -61,8 +61,9 @@ constexpr const char *Extensions[] = {"html", "txt", "pdf", "csv"};
 
 }
 
-Impression::Impression()
+Impression::Impression(std::function<Liste()> liste)
     : FormeOutil(QStringLiteral("Impression"), TailleDessinee, Mini | Progression)
+    , m_liste(std::move(liste))
 {
     for (TitreGroupe *&groupe : m_groupes)
         groupe = new TitreGroupe(this);
@@ -169,7 +170,7 @@ QWidget *Impression::construireSorties()
 void Impression::charger()
 {
     const Reglages &reglages = Reglages::courant();
-    m_montree = m_liste ? m_liste() : Liste();
+    m_montree = m_liste();
     m_ordres[reglages.entier(Cle::TriImp) == 1 ? 1 : 0]->setChecked(true);
     const int voulue = reglages.entier(Cle::PorteeImp);
     m_portees[voulue >= 0 && voulue < std::ssize(m_portees) ? static_cast<std::size_t>(voulue) : 0]
@@ -190,7 +191,7 @@ void Impression::poserCourante(Entree entree)
 /// The list of the main window may be another one by now.
 void Impression::relireListe()
 {
-    const Liste liste = m_liste ? m_liste() : Liste();
+    const Liste liste = m_liste();
     const bool memeSorte = liste.tri == m_montree.tri;
     m_montree = liste;
     proposerPortees();

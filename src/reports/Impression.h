@@ -19,14 +19,13 @@ class Impression : public FormeOutil
     Q_OBJECT
 
 public:
-    Impression();
+    /// `liste` says what the list of the main window shows.
+    explicit Impression(std::function<General::Liste()> liste);
 
     /// Takes up the list and the sheet that the main window shows. Throws Error.
-    void charger();
+    void charger() override;
     /// The entry of the sheet shown; number 0 when there is none.
     void poserCourante(General::Entree entree);
-    /// How the list that the main window shows is asked for.
-    void poserListe(std::function<General::Liste()> liste) { m_liste = std::move(liste); }
 
 protected:
     void Traduire() override;

@@ -1,5 +1,6 @@
 #include "reports/Recherche.h"
 
+#include "acts/Demandes.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
@@ -23,8 +24,9 @@ constexpr QSize TailleDessinee(560, 620);
 
 }
 
-Recherche::Recherche()
+Recherche::Recherche(Demandes &demandes)
     : FormeOutil(QStringLiteral("Recherche"), TailleDessinee)
+    , m_demandes(demandes)
 {
     corps()->addWidget(construireCriteres());
     corps()->addWidget(construireResultat(), 1);
@@ -159,8 +161,8 @@ void Recherche::aller(const QModelIndex &index)
         return;
     const Entree entree{m_modele.tri(), m_modele.id(index)};
     if (Reglages::courant().entier(Cle::Tris) != static_cast<int>(entree.tri))
-        Q_EMIT triDemande(entree.tri);
-    Q_EMIT entreeDemandee(entree);
+        Q_EMIT m_demandes.liste(entree.tri);
+    Q_EMIT m_demandes.entree(entree);
 }
 
 /// Enter in the list shows the hit, anywhere else it searches.

@@ -4,6 +4,7 @@
 #include "model/ListeEntrees.h"
 #include "reports/Rechercher.h"
 
+class Demandes;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -17,15 +18,11 @@ class Recherche : public FormeOutil
     Q_OBJECT
 
 public:
-    Recherche();
+    explicit Recherche(Demandes &demandes);
 
     /// Begins anew, with the kind that the main window shows. The text of the last search is kept.
-    void charger();
-    void actualiser(const Changements &changements);
-
-Q_SIGNALS:
-    void triDemande(General::Tri tri);
-    void entreeDemandee(General::Entree entree);
+    void charger() override;
+    void actualiser(const Changements &changements) override;
 
 protected:
     void Traduire() override;
@@ -39,6 +36,7 @@ private:
     void poserNombre();
     void aller(const QModelIndex &index);
 
+    Demandes &m_demandes;
     ListeEntrees m_modele;
     QLabel *m_libelle = nullptr;
     QComboBox *m_tris = nullptr;

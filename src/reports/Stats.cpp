@@ -1,5 +1,6 @@
 #include "reports/Stats.h"
 
+#include "acts/Demandes.h"
 #include "core/Traduction.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Suivi.h"
@@ -22,8 +23,9 @@ constexpr QSize TailleDessinee(900, 700);
 
 }
 
-Stats::Stats()
+Stats::Stats(Demandes &demandes)
     : FormeOutil(QStringLiteral("Stats"), TailleDessinee, Mini | Progression)
+    , m_demandes(demandes)
 {
     m_onglets = nommer(new QTabWidget(this), QStringLiteral("Onglets"));
     m_onglets->setDocumentMode(true);
@@ -63,7 +65,7 @@ void Stats::construireGraphiques()
         defilement->setWidget(m_graphiques[i]);
         m_onglets->addTab(defilement, {});
         connect(m_graphiques[i], &Graphique::partChoisie, this, [this, i](const Repartition::Part &part) {
-            Q_EMIT selectionDemandee(
+            Q_EMIT m_demandes.selection(
                 m_graphiques[i]->donnees().titre + QStringLiteral(" : ") + part.libelle, part.albums);
         });
     }

@@ -5,6 +5,7 @@
 
 #include <array>
 
+class Demandes;
 class Graphique;
 class QLabel;
 class QPushButton;
@@ -18,13 +19,10 @@ class Stats : public FormeOutil
     Q_OBJECT
 
 public:
-    Stats();
+    explicit Stats(Demandes &demandes);
 
     /// Computes the page and shows it. Throws Error.
-    void charger();
-
-Q_SIGNALS:
-    void selectionDemandee(const QString &libelle, const std::vector<int> &albums);
+    void charger() override;
 
 protected:
     void Traduire() override;
@@ -35,6 +33,7 @@ private:
     void tracer();
     void montrer(const QString &chemin);
 
+    Demandes &m_demandes;
     QTabWidget *m_onglets = nullptr;
     std::array<Graphique *, Repartition::NombreDeSujets> m_graphiques{};
     std::array<bool, Repartition::NombreDeSujets> m_traces{}; ///< charts that show the collection as it is

@@ -1,5 +1,6 @@
 #include "webimport/BDNet.h"
 
+#include "acts/Demandes.h"
 #include "acts/Saisie.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
@@ -33,8 +34,9 @@ QUrl adresseEntiere(const QString &texte)
 
 }
 
-BDNet::BDNet()
+BDNet::BDNet(Demandes &demandes)
     : FormeOutil(QStringLiteral("BDNet"), TailleDessinee, Mini | Progression, Serre)
+    , m_demandes(demandes)
 {
     construireBarre(corps());
     construireVues(corps());
@@ -255,7 +257,8 @@ void BDNet::creer()
     const int num = Saisie::CreerAlbum(album);
     Messages::Informer(this, texte(Txt::CreationEffectuee));
     revenir();
-    Q_EMIT albumCree(num);
+    Q_EMIT m_demandes.liste(General::Tri::Albums);
+    Q_EMIT m_demandes.entree({General::Tri::Albums, num});
 }
 
 /// What is missing for the catalogue to be browsed, and where to set it.

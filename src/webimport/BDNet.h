@@ -3,6 +3,7 @@
 #include "core/ui/FormeOutil.h"
 #include "webimport/Importation.h"
 
+class Demandes;
 class DetailBDNet;
 class QBoxLayout;
 class QLabel;
@@ -19,12 +20,9 @@ class BDNet : public FormeOutil
     Q_OBJECT
 
 public:
-    BDNet();
+    explicit BDNet(Demandes &demandes);
 
-    void charger();
-
-Q_SIGNALS:
-    void albumCree(int num);
+    void charger() override;
 
 protected:
     void Traduire() override;
@@ -50,6 +48,7 @@ private:
     void poserVue(bool detail);
     bool estSurDetail() const;
 
+    Demandes &m_demandes;
     Importation m_importation;
     bool m_navigateur = false; ///< there is a browser
     QToolButton *m_accueil = nullptr;

@@ -1,4 +1,3 @@
-#include "browse/Frmmain.h"
 #include "core/ui/Suivi.h"
 #include "support/EcrivainJet.h"
 #include "support/Seance.h"
@@ -84,7 +83,7 @@ void tst_archives::unFichierDAlbumsEntre()
     Bac::ecrire(csv,
         "Titre;Tome;S\xC3\xA9rie\nUn \xC3\xA9"
         "chappé;1;Neuve\nDeux;x;Neuve\nTrois;3;Neuve\n");
-    Q_EMIT static_cast<Frmmain *>(Seance::fenetre("Frmmain"))->fichierDepose(csv);
+    Q_EMIT s.demandes().fichier(csv);
     QTRY_VERIFY(Seance::fenetre("Import"));
     QTRY_COMPARE(
         Seance::trouver<QComboBox>("Correspondance(2)", "Import")->currentText(), QStringLiteral("Série"));

@@ -1,4 +1,3 @@
-#include "browse/Frmmain.h"
 #include "core/ui/Legende.h"
 #include "support/Seance.h"
 
@@ -34,15 +33,13 @@ private:
 namespace {
 
 /// Opens a form as the program does; the two that edit a field come by a field of the sheet.
-QWidget *ouvrir(const QByteArray &nom)
+QWidget *ouvrir(Seance &s, const QByteArray &nom)
 {
-    auto *fenetre = static_cast<Frmmain *>(Seance::fenetre("Frmmain"));
     const bool champ = nom.startsWith("FrmModif");
     if (champ) {
         QTest::mouseClick(Seance::trouver<QWidget>(nom == "FrmModif" ? "Scena" : "PrixA"), Qt::LeftButton);
     } else if (nom != "Frmmain") {
-        Q_EMIT fenetre->formeDemandee(
-            static_cast<Forme::Nom>(QMetaEnum::fromType<Forme::Nom>().keyToValue(nom)));
+        Q_EMIT s.demandes().forme(static_cast<Forme::Nom>(QMetaEnum::fromType<Forme::Nom>().keyToValue(nom)));
     }
     QTest::qWait(30);
     return Seance::fenetre(nom);
@@ -155,7 +152,7 @@ void tst_tenue::leClavierVaPartout()
     QFETCH(QByteArray, nom);
     Seance s;
     s.demarrer();
-    QWidget *forme = ouvrir(nom);
+    QWidget *forme = ouvrir(s, nom);
     QVERIFY(forme && forme->isVisible());
     forme->activateWindow();
     QTRY_VERIFY(forme->isActiveWindow());
@@ -197,12 +194,12 @@ void tst_tenue::aucuneLegendeNEstCoupee()
     QFETCH(QString, langue);
     Seance s;
     s.demarrer();
-    Q_EMIT static_cast<Frmmain *>(Seance::fenetre("Frmmain"))->langueDemandee(langue);
+    Q_EMIT s.demandes().langue(langue);
     Seance::fenetre("Frmmain")->resize(1280, 800);
     QStringList coupees;
     const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
     for (int i = 0; i < noms.keyCount(); ++i) {
-        QWidget *forme = ouvrir(noms.key(i));
+        QWidget *forme = ouvrir(s, noms.key(i));
         // A layout follows its texts from the event loop.
         QStringList ici = coupeesDans(forme);
         for (int essai = 0; !ici.isEmpty() && essai < 40; ++essai) {

@@ -32,6 +32,8 @@ struct Seance
         QTRY_VERIFY(!texteDe("TAlbum").isEmpty() || !boites.textes.isEmpty());
     }
 
+    Demandes &demandes() const { return bureau->demandes(); }
+
     static QWidget *fenetre(const char *nom)
     {
         for (QWidget *candidate : QApplication::topLevelWidgets()) {

@@ -1,38 +1,27 @@
 #pragma once
 
 #include "core/Annonces.h"
+#include "core/Formes.h"
 
 #include <QWidget>
 
 /// Base of every form: it puts its captions in when it is first shown and at each change of language, and
-/// Escape closes it, F1 opens its page of the help. A form shows values and announces wishes; Bureau connects them.
+/// Escape closes it, F1 opens its page of the help. A form shows values and tells its wishes; Bureau answers them.
 class Forme : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The forms of the program, by the names that they bear.
-    enum class Nom {
-        Frmmain,
-        Splash,
-        Manuelle,
-        Facile,
-        BDNet,
-        Polices,
-        Textures,
-        Stats,
-        Impression,
-        Acquisition,
-        Pret,
-        Restauration,
-        Recherche,
-        FrmModif,
-        FrmModif2,
-        Import,
-    };
-    Q_ENUM(Nom)
+    using Nom = Formes::Nom;
 
     explicit Forme(const QString &nom, QWidget *parent = nullptr);
+
+    /// Begins afresh, whenever the form is shown anew. Throws Error.
+    virtual void charger() { }
+    /// Shows the collection as it is after these changes. Throws Error.
+    virtual void actualiser(const Changements &) { }
+    /// Fonts, colours or background are others in the settings.
+    virtual void appliquerApparence() { }
 
 protected:
     /// Takes all captions and tool tips from the texts in force.

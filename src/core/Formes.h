@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+
+/// The forms of the program.
+namespace Formes {
+
+Q_NAMESPACE
+
+/// By the names that they bear.
+enum class Nom {
+    Frmmain,
+    Splash,
+    Manuelle,
+    Facile,
+    BDNet,
+    Polices,
+    Textures,
+    Stats,
+    Impression,
+    Acquisition,
+    Pret,
+    Restauration,
+    Recherche,
+    FrmModif,
+    FrmModif2,
+    Import,
+};
+Q_ENUM_NS(Nom)
+
+}
