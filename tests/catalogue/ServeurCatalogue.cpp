@@ -24,31 +24,16 @@ struct Fiche
 const QHash<QString, Fiche> &fiches()
 {
     static const QHash<QString, Fiche> toutes{
-        {QStringLiteral("cosinus"),
-            {QStringLiteral("L'Idée fixe du savant Cosinus"), QStringLiteral("Le Savant Cosinus"),
-                QStringLiteral("1"), QStringLiteral("/cosinus_cg")}},
-        {QStringLiteral("fenouillard"),
-            {QStringLiteral("La Famille Fenouillard"), QStringLiteral("Fenouillard"), QStringLiteral("2"),
-                QStringLiteral("/fenouillard_cg"), QStringLiteral("9.5 &euro;"), QStringLiteral("Christophe"),
-                QStringLiteral(" broché")}},
-        {QStringLiteral("sansimage"),
-            {QStringLiteral("Sans image"), QStringLiteral("Essais"), QStringLiteral("3"),
-                QStringLiteral("/absente_cg")}},
-        {QStringLiteral("fausseimage"),
-            {QStringLiteral("Fausse image"), QStringLiteral("Essais"), QStringLiteral("4"),
-                QStringLiteral("/html_cg")}},
-        {QStringLiteral("evasion"),
-            {QStringLiteral("../../evasion"), QStringLiteral("Essais"), QStringLiteral("5"),
-                QStringLiteral("/evasion_cg")}},
-        {QStringLiteral("ouverte"),
-            {QStringLiteral("Sans <b fin"), QStringLiteral("Essais"), QStringLiteral("6"),
-                QStringLiteral("/ouverte_cg")}},
-        {QStringLiteral("cher"),
-            {QStringLiteral("Trop cher"), QStringLiteral("Essais"), QStringLiteral("7"),
-                QStringLiteral("/cher_cg"), QStringLiteral("à débattre &euro;")}},
-        {QStringLiteral("occidentale"),
-            {QStringLiteral("Été à Orléans, œuvre"), QStringLiteral("Essais"), QStringLiteral("8"),
-                QStringLiteral("/ete_cg")}},
+        {"cosinus", {"L'Idée fixe du savant Cosinus", "Le Savant Cosinus", "1", "/cosinus_cg"}},
+        {"fenouillard",
+            {"La Famille Fenouillard", "Fenouillard", "2", "/fenouillard_cg", "9.5 &euro;", "Christophe",
+                " broché"}},
+        {"sansimage", {"Sans image", "Essais", "3", "/absente_cg"}},
+        {"fausseimage", {"Fausse image", "Essais", "4", "/html_cg"}},
+        {"evasion", {"../../evasion", "Essais", "5", "/evasion_cg"}},
+        {"ouverte", {"Sans <b fin", "Essais", "6", "/ouverte_cg"}},
+        {"cher", {"Trop cher", "Essais", "7", "/cher_cg", "à débattre &euro;"}},
+        {"occidentale", {"Été à Orléans, œuvre", "Essais", "8", "/ete_cg"}},
     };
     return toutes;
 }
@@ -77,7 +62,7 @@ QString accueil()
     QStringList noms = fiches().keys();
     noms.sort();
     noms << QStringLiteral("grosse") << QStringLiteral("sansfin") << QStringLiteral("renvoi")
-         << QStringLiteral("boucle") << QStringLiteral("fichier");
+         << QStringLiteral("boucle") << "fichier";
     for (const QString &nom : noms)
         liens += QStringLiteral("<li><a href=\"/catalogue_detail_%1.html\">%1</a></li>\n").arg(nom);
     return QStringLiteral("<html><head><title>BDNet</title></head><body><h1>BDNet</h1><ul>\n%1</ul>"
@@ -129,8 +114,7 @@ void ServeurCatalogue::accueillir()
 void ServeurCatalogue::repondre(QTcpSocket *client, const QByteArray &chemin)
 {
     constexpr int Grosse = 5 << 20;
-    const QString nom
-        = QString::fromLatin1(chemin).section(QStringLiteral("catalogue_detail_"), 1).section(u'.', 0, 0);
+    const QString nom = QString::fromLatin1(chemin).section("catalogue_detail_", 1).section(u'.', 0, 0);
     if (chemin == "/")
         envoyer(client, "text/html; charset=utf-8", accueil().toUtf8());
     else if (chemin.startsWith("/img/couvpage/html"))

@@ -8,17 +8,6 @@
 #include <QRegularExpression>
 #include <QTest>
 
-class tst_statistiques : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void laPageEstCelleQuOnAttend();
-    void lesLiensPerdusSontOtes();
-    void desNomsHostilesRestentDuTexte();
-    void unDossierQuiEstUnFichierEstDit();
-};
-
 namespace {
 
 constexpr auto Tete
@@ -58,7 +47,7 @@ QString attendue()
         {"Nombre De Genres", "Genre", "NGenre", "GenreAlbums", "1=1"},
         {"Nombre D'Editeurs", "Editeur", "NEdit", "EditeurAlbums", "1=1"},
         {"Nombre De Collections", "Coll", "NColl", "CollAlbums", "1=1"}};
-    const double total = Bac::valeur(QStringLiteral("SELECT count(*) FROM Album WHERE Num > 0")).toDouble();
+    const double total = Bac::valeur("SELECT count(*) FROM Album WHERE Num > 0").toDouble();
     QStringList sections;
     for (const Partie &p : parties) {
         const auto sql = [&](const char *motif) {
@@ -91,64 +80,70 @@ QString attendue()
 
 }
 
-void tst_statistiques::laPageEstCelleQuOnAttend()
+class tst_statistiques : public QObject
 {
-    const Bac bac(QStringLiteral(EXEMPLE));
-    const QString chemin = Statistiques::Calculer();
-    QCOMPARE(chemin, bac.chemin(QStringLiteral("Stats/Statistiques.htm")));
-    const QByteArray octets = Bac::lire(chemin);
-    QVERIFY(octets.startsWith("\xEF\xBB\xBF"));
-    const QStringList lues = QString::fromUtf8(octets.mid(3)).split(u'\n');
-    const QStringList voulues = attendue().split(u'\n');
-    for (qsizetype i = 0; i < std::min(lues.size(), voulues.size()); ++i)
-        QCOMPARE(lues[i], voulues[i]);
-    QCOMPARE(lues.size(), voulues.size());
-    // Ended on the way, the page that was there stays.
-    QVERIFY(Statistiques::Calculer([](int) { return false; }).isEmpty());
-    QCOMPARE(Bac::lire(chemin), octets);
-}
+    Q_OBJECT
 
-void tst_statistiques::lesLiensPerdusSontOtes()
-{
-    Bac bac(QStringLiteral(EXEMPLE));
-    Statistiques::Nettoyer();
-    const QStringList avant = Bac::toutLire();
-    for (const char *lien : {"AuteursAlbums(NAuteur", "CollAlbums(NColl", "EditeurAlbums(NEdit",
-             "GenreAlbums(NGenre", "SerieAlbums(NSerie"})
-        Bac::executer(QStringLiteral("INSERT INTO %1, NAlbum) VALUES (99999, 1), (1, 99999), (NULL, 1)")
-                          .arg(QLatin1String(lien)));
-    const QStringList perdus = Bac::toutLire();
-    Historique histoire(bac.annonces);
-    QCOMPARE(Statistiques::Nettoyer(), 15);
-    QCOMPARE(Bac::toutLire(), avant);
-    QVERIFY(histoire.aAnnuler().endsWith(QStringLiteral(": 15")));
-    QCOMPARE(Statistiques::Nettoyer(), 0); // which is no step
-    histoire.annuler();
-    QCOMPARE(Bac::toutLire(), perdus);
-    QVERIFY(!histoire.peutAnnuler());
-}
+private Q_SLOTS:
+    void laPageEstCelleQuOnAttend()
+    {
+        const Bac bac(QStringLiteral(EXEMPLE));
+        const QString chemin = Statistiques::Calculer();
+        QCOMPARE(chemin, bac.chemin("Stats/Statistiques.htm"));
+        const QByteArray octets = Bac::lire(chemin);
+        QVERIFY(octets.startsWith("\xEF\xBB\xBF"));
+        const QStringList lues = QString::fromUtf8(octets.mid(3)).split(u'\n');
+        const QStringList voulues = attendue().split(u'\n');
+        for (qsizetype i = 0; i < std::min(lues.size(), voulues.size()); ++i)
+            QCOMPARE(lues[i], voulues[i]);
+        QCOMPARE(lues.size(), voulues.size());
+        // Ended on the way, the page that was there stays.
+        QVERIFY(Statistiques::Calculer([](int) { return false; }).isEmpty());
+        QCOMPARE(Bac::lire(chemin), octets);
+    }
 
-void tst_statistiques::desNomsHostilesRestentDuTexte()
-{
-    const Bac bac;
-    Bac::executer(QStringLiteral(
-        "INSERT INTO Serie(NSerie, Nom) VALUES (0, '<script>alert(1)</script>'), (2, 'a & \"b\" ''c''')"));
-    const QString page = QString::fromUtf8(Statistiques::Page());
-    QVERIFY(!page.contains("<script") && page.contains("&lt;script&gt;"));
-    QVERIFY(page.contains("a &amp; &quot;b&quot; 'c'"));
-    // An entry without a number is listed, not counted; of an empty collection none has a share.
-    QVERIFY(page.contains("ries : 1<") && !page.contains(" %  <"));
-    QCOMPARE(page.count("<font "), 2 + 3 * (6 + 2));
-    QCOMPARE(page.count("<td"), page.count("</td>"));
-}
+    void lesLiensPerdusSontOtes()
+    {
+        Bac bac(QStringLiteral(EXEMPLE));
+        Statistiques::Nettoyer();
+        const QStringList avant = Bac::toutLire();
+        for (const char *lien : {"AuteursAlbums(NAuteur", "CollAlbums(NColl", "EditeurAlbums(NEdit",
+                 "GenreAlbums(NGenre", "SerieAlbums(NSerie"})
+            Bac::executer(QStringLiteral("INSERT INTO %1, NAlbum) VALUES (99999, 1), (1, 99999), (NULL, 1)")
+                              .arg(QLatin1String(lien)));
+        const QStringList perdus = Bac::toutLire();
+        Historique histoire(bac.annonces);
+        QCOMPARE(Statistiques::Nettoyer(), 15);
+        QCOMPARE(Bac::toutLire(), avant);
+        QVERIFY(histoire.aAnnuler().endsWith(": 15"));
+        QCOMPARE(Statistiques::Nettoyer(), 0); // which is no step
+        histoire.annuler();
+        QCOMPARE(Bac::toutLire(), perdus);
+        QVERIFY(!histoire.peutAnnuler());
+    }
 
-void tst_statistiques::unDossierQuiEstUnFichierEstDit()
-{
-    const Bac bac;
-    Bac::ecrire(bac.chemin(QStringLiteral("Stats")), "un fichier");
-    QVERIFY(refus([] { Statistiques::Calculer(); }));
-    QCOMPARE(Bac::lire(bac.chemin(QStringLiteral("Stats"))), QByteArray("un fichier"));
-}
+    void desNomsHostilesRestentDuTexte()
+    {
+        const Bac bac;
+        Bac::executer(QStringLiteral("INSERT INTO Serie(NSerie, Nom) VALUES (0, "
+                                     "'<script>alert(1)</script>'), (2, 'a & \"b\" ''c''')"));
+        const QString page = QString::fromUtf8(Statistiques::Page());
+        QVERIFY(!page.contains("<script") && page.contains("&lt;script&gt;"));
+        QVERIFY(page.contains("a &amp; &quot;b&quot; 'c'"));
+        // An entry without a number is listed, not counted; of an empty collection none has a share.
+        QVERIFY(page.contains("ries : 1<") && !page.contains(" %  <"));
+        QCOMPARE(page.count("<font "), 2 + 3 * (6 + 2));
+        QCOMPARE(page.count("<td"), page.count("</td>"));
+    }
+
+    void unDossierQuiEstUnFichierEstDit()
+    {
+        const Bac bac;
+        Bac::ecrire(bac.chemin("Stats"), "un fichier");
+        QVERIFY(refus([] { Statistiques::Calculer(); }));
+        QCOMPARE(Bac::lire(bac.chemin("Stats")), QByteArray("un fichier"));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_statistiques)
 #include "tst_statistiques.moc"
