@@ -1,8 +1,6 @@
 #include "acts/Historique.h"
-#include "db/Comparaison.h"
 #include "db/files/Remplacement.h"
 #include "db/files/Sauvegardes.h"
-#include "db/schema/Version.h"
 #include "model/General.h"
 #include "support/Autre.h"
 #include "support/Bac.h"
@@ -156,22 +154,6 @@ private Q_SLOTS:
         }
         QCOMPARE(titreEcrit(), "celle d'avant");
         QCOMPARE(fichiers(bac, "bd[. ]*"), QStringList("bd.mdb"));
-    }
-
-    void uneBaseDAvantEstMiseANiveau()
-    {
-        const Bac bac;
-        Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("été"));
-        Autre(bac.chemin("choisie.bd"))
-            .executer(
-                "DROP TRIGGER CleTomeAlbumNeuf; DROP TRIGGER CleTomeAlbum; DROP TRIGGER CleTomeLien;"
-                "DROP TRIGGER CleTomeLienNeuf; ALTER TABLE Album DROP COLUMN Coffret; PRAGMA user_version=1;"
-                "INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 1)");
-        QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
-        QCOMPARE(Bac::valeur("SELECT Coffret FROM Album"), 0);
-        QCOMPARE(Bac::valeur("SELECT NumeroAlbum2 FROM SerieAlbums"), "D");
-        QCOMPARE(Bac::valeur("PRAGMA user_version"),
-            Version::Composer(Comparaison::version(), Version::DernierPalier));
     }
 };
 
