@@ -20,7 +20,6 @@ private Q_SLOTS:
         QTest::newRow("texte sur deux lignes")
             << QByteArray("Titre,Tome\n\"a\nb\",1\nc,2\n") << "3:a\nb|1 4:c|2";
         QTest::newRow("cellules qui manquent") << QByteArray("Titre,Tome\na\n,2,3\n") << "2:a| 3:|2";
-        QTest::newRow("colonne qui manque") << QByteArray("Titre\na\n") << "2:a|";
         QTest::newRow("en-tete seul") << QByteArray("Titre,Tome\n") << "";
         QTest::newRow("ligne blanche") << QByteArray("Titre,Tome\n\na,1\n") << "3:a|1";
     }
@@ -37,22 +36,15 @@ private Q_SLOTS:
         QCOMPARE(lues.join(u' '), attendu);
     }
 
-    void unFichierFautifEstRefuse_data()
-    {
-        QTest::addColumn<QByteArray>("octets");
-        QTest::newRow("guillemet ouvert") << QByteArray("Titre\n\"a\nb\n");
-        QTest::newRow("guillemet dans un mot") << QByteArray("Titre\na\"b\n");
-        QTest::newRow("suite apres le guillemet") << QByteArray("Titre\n\"a\"b\n");
-    }
-
     void unFichierFautifEstRefuse()
     {
-        QFETCH(QByteArray, octets);
         const Bac bac;
-        Bac::ecrire(bac.chemin("a.csv"), octets);
-        const auto lire = [&](const QString &nom) { Csv::Lire(bac.chemin(nom), [](const Csv::Rangee &) {}); };
-        QVERIFY(refus([&] { lire("a.csv"); }).has_value());
-        QVERIFY(refus([&] { lire("absent.csv"); }).has_value());
+        const auto lire = [&] { Csv::Lire(bac.chemin("a.csv"), [](const Csv::Rangee &) {}); };
+        QVERIFY(refus(lire).has_value());
+        for (const char *octets : {"Titre\n\"a\nb\n", "Titre\na\"b\n", "Titre\n\"a\"b\n"}) {
+            Bac::ecrire(bac.chemin("a.csv"), octets);
+            QVERIFY2(refus(lire).has_value(), octets);
+        }
     }
 };
 

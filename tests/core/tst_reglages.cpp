@@ -1,5 +1,4 @@
 #include "support/Bac.h"
-#include "support/Colonnes.h"
 #include "support/Refus.h"
 
 #include <QTest>
@@ -25,60 +24,40 @@ class tst_reglages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void unBooleenSeLitEnPlusieursMots_data()
-    {
-        colonnes<bool, bool>();
-        QTest::newRow("Vrai") << true << true;
-        QTest::newRow("True") << true << false;
-        QTest::newRow("-1") << true << false;
-        QTest::newRow("1") << true << false;
-        QTest::newRow("Faux") << false << false;
-        QTest::newRow("False") << false << false;
-        QTest::newRow("0") << false << false;
-    }
-
     void unBooleenSeLitEnPlusieursMots()
     {
-        const auto [ordinaire, gras] = essai<bool, bool>();
-        const Magasin magasin("Settings/SplashAuto", QTest::currentDataTag());
-        QSettings(magasin.fichier, QSettings::IniFormat).setValue("Color/FontBold", QTest::currentDataTag());
-        Reglages r(magasin.fichier);
-        r.avertir = [](const QString &mots) { QFAIL(qPrintable(mots)); };
-        QCOMPARE(r.booleen(Cle::SplashAuto), ordinaire);
-        QCOMPARE(r.booleen(Cle::FontBold), gras);
-    }
-
-    void uneValeurIllisibleDonneLeDefautEtUnAvis_data()
-    {
-        colonnes<Cle, QString>();
-        QTest::newRow("Settings/Tris") << Cle::Tris << "beaucoup";
-        QTest::newRow("Settings/Loop") << Cle::Loop << "peut-être";
-        QTest::newRow("Color/Forecolor") << Cle::Forecolor << "99999999999";
-        QTest::newRow("Color/FontSize") << Cle::FontSize << "10 points";
-        QTest::newRow("Redimension/Width") << Cle::Width << "nan";
-        QTest::newRow("Redimension/Height") << Cle::Height << "inf";
+        for (const QString mot : {"Vrai", "True", "-1", "1", "Faux", "False", "0"}) {
+            const Magasin magasin("Settings/SplashAuto", mot);
+            QSettings(magasin.fichier, QSettings::IniFormat).setValue("Color/FontBold", mot);
+            Reglages r(magasin.fichier);
+            r.avertir = [](const QString &mots) { QFAIL(qPrintable(mots)); };
+            QCOMPARE(r.booleen(Cle::SplashAuto), !QStringList({"Faux", "False", "0"}).contains(mot));
+            QCOMPARE(r.booleen(Cle::FontBold), mot == "Vrai");
+        }
     }
 
     void uneValeurIllisibleDonneLeDefautEtUnAvis()
     {
-        const auto [cle, valeur] = essai<Cle, QString>();
-        const QString nom = QTest::currentDataTag();
-        const Magasin magasin(nom, valeur);
         const Magasin vide("Autre/Cle", "");
-        Reglages r(magasin.fichier);
         const Reglages defauts(vide.fichier);
-        QStringList avis;
-        r.avertir = [&](const QString &mots) { avis << mots; };
-        const auto lire = [cle](const Reglages &source) {
-            if (cle == Cle::Loop)
-                return double(source.booleen(cle));
-            return cle == Cle::Tris || cle == Cle::Apercu || cle == Cle::Forecolor ? source.entier(cle)
-                                                                                   : source.nombre(cle);
+        const auto essayer = [](const QString &nom, const QString &valeur, const auto &lire) {
+            const Magasin magasin(nom, valeur);
+            Reglages r(magasin.fichier);
+            QStringList avis;
+            r.avertir = [&](const QString &mots) { avis << mots; };
+            for (int i = 0; i < 3; ++i)
+                lire(r);
+            QCOMPARE(avis.size(), 1);
+            QVERIFY2(avis[0].contains(nom) && avis[0].contains(valeur), qPrintable(avis[0]));
         };
-        for (int i = 0; i < 3; ++i)
-            QCOMPARE(lire(r), lire(defauts));
-        QCOMPARE(avis.size(), 1);
-        QVERIFY2(avis[0].contains(nom) && avis[0].contains(valeur), qPrintable(avis[0]));
+        for (const auto &[nom, cle, valeur] : {std::tuple("Settings/Tris", Cle::Tris, "beaucoup"),
+                 {"Color/Forecolor", Cle::Forecolor, "99999999999"}})
+            essayer(nom, valeur, [&](auto &r) { QCOMPARE(r.entier(cle), defauts.entier(cle)); });
+        for (const auto &[nom, cle, valeur] : {std::tuple("Color/FontSize", Cle::FontSize, "10 points"),
+                 {"Redimension/Width", Cle::Width, "nan"}, {"Redimension/Height", Cle::Height, "inf"}})
+            essayer(nom, valeur, [&](auto &r) { QCOMPARE(r.nombre(cle), defauts.nombre(cle)); });
+        essayer("Settings/Loop", "peut-être",
+            [&](auto &r) { QCOMPARE(r.booleen(Cle::Loop), defauts.booleen(Cle::Loop)); });
     }
 
     void unIniNApporteQueLesClesConnues()
