@@ -88,14 +88,10 @@ QStringList Bac::toutLire()
     QStringList lignes;
     const QStringList tables = Schema::Tables();
     for (const QString &table : tables) {
-        const qsizetype champs = Schema::Champs(table).size();
-        for (auto rs = base.OpenRecordset("SELECT rowid, * FROM " + table + " ORDER BY rowid"); !rs.AtEnd();
-             rs.MoveNext()) {
-            QStringList ligne{table};
-            for (int i = 0; i <= champs; ++i)
-                ligne << QLatin1String(rs.Fields(i).typeName()) + u':' + rs.Fields(i).toString();
-            lignes << ligne.join(u'|');
-        }
+        const QString valeurs = "quote(" + Schema::Champs(table).join(") || '|' || quote(") + u')';
+        const QString sql = "SELECT '%1|' || rowid || '|' || %2 FROM %1 ORDER BY rowid";
+        for (auto rs = base.OpenRecordset(sql.arg(table, valeurs)); !rs.AtEnd(); rs.MoveNext())
+            lignes << rs.Fields(0).toString();
     }
     return lignes;
 }
