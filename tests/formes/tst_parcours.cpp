@@ -1,9 +1,9 @@
 #include "model/General.h"
+#include "support/Adresses.h"
 #include "support/Seance.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
@@ -11,18 +11,6 @@
 #include <QTextEdit>
 
 using namespace General;
-
-/// Takes web addresses in the desktop's place.
-class Adresses : public QObject
-{
-    Q_OBJECT
-
-public Q_SLOTS:
-    void prendre(const QUrl &url) { prises << url.toString(); }
-
-public:
-    QStringList prises;
-};
 
 class tst_parcours : public QObject, private Gestes
 {
@@ -213,14 +201,12 @@ private Q_SLOTS:
         QCOMPARE(trouver<QCheckBox>("M_tiers(0)")->text(), texte(Txt::Dessinateur));
 
         // Only web and mail addresses open, and a refusal is told.
-        Adresses ouvertes;
-        QDesktopServices::setUrlHandler("http", &ouvertes, "prendre");
+        const Adresses ouvertes;
         auto *lien = trouver<QWidget>("FicheAuteur")->findChild<QLabel *>(QStringLiteral("Liens(0)"));
         for (const char *adresse : {"a.fr:8080/x", "javascript:alert(1)", "file:///etc/passwd"}) {
             lien->setText(QLatin1String(adresse));
             QTest::keyClick(lien, Qt::Key_Return, Qt::ControlModifier);
         }
-        QDesktopServices::unsetUrlHandler("http");
         QCOMPARE(ouvertes.prises, QStringList(QStringLiteral("http://a.fr:8080/x")));
         QTRY_COMPARE(s.boites.textes.size(), 2);
     }

@@ -41,6 +41,8 @@ struct Gestes
         cliquer(groupe, "Splash");
         cliquer(bouton, "Splash");
         QTRY_VERIFY(visible(forme));
+        QVERIFY(QTest::qWaitForWindowExposed(fenetre(forme)));
+        QCoreApplication::processEvents(); // it fills after it has shown
     }
     /// Types a text, character by character, into a field or an editable list.
     static void ecrire(const char *nom, const QString &texte, const char *forme)
