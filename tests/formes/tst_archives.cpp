@@ -39,30 +39,42 @@ private Q_SLOTS:
     {
         Ouverte s;
         const QStringList avant = Bac::toutLire();
+        QVERIFY(QDir(s.bac.chemin()).mkdir("sauvegardes"));
+        Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-02 03-04-05.bd"), "abîmée");
         Bac::agir("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1");
-        QTest::qWait(50);
-        cliquer("Menu(0)");
-        cliquer("Outils(5)", "Splash");
-        QTRY_VERIFY(fenetre(Ici));
+        auto *albums = trouver<QAbstractItemView>("Liste")->model();
+        const auto changes = [&] { return albums->match(albums->index(0, 0), 0, "Changé").size(); };
+        QTRY_COMPARE(changes(), 1);
+        ouvrir("Menu(3)", "Outils(5)", Ici);
         auto *liste = trouver<QTreeWidget>("Sauvegardes", Ici);
-        QTRY_COMPARE(liste->topLevelItemCount(), 1);
+        // The newest first, and chosen; the one that cannot be read is told apart.
+        QTRY_COMPARE(liste->topLevelItemCount(), 2);
+        QVERIFY(liste->topLevelItem(1)->text(3).contains("2026-01-02"));
+        QCOMPARE(liste->currentItem(), liste->topLevelItem(0));
+        liste->setCurrentItem(liste->topLevelItem(1));
+        QVERIFY(!trouver<QWidget>("Valider", Ici)->isEnabled() && !message().isEmpty());
+        liste->setCurrentItem(liste->topLevelItem(0));
         cliquer("Valider", Ici);
         QVERIFY(Bac::toutLire() != avant);
-        s.boites.reponses.enqueue(true);
+        s.boites.reponses << true;
         cliquer("Valider", Ici);
         QCOMPARE(Bac::toutLire(), avant);
         QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
-        QTRY_COMPARE(liste->topLevelItemCount(), 2);
-        auto *albums = trouver<QAbstractItemView>("Liste");
-        QTRY_COMPARE(
-            albums->model()->match(albums->model()->index(0, 0), Qt::DisplayRole, "Changé").size(), 0);
+        QTRY_COMPARE(liste->topLevelItemCount(), 3);
+        QTRY_COMPARE(changes(), 0);
         QVERIFY(!trouver<QWidget>("Defaire")->isEnabled());
 
+        // Damaged since it was listed, and one that is none.
+        Bac::ecrire(liste->topLevelItem(0)->data(0, Qt::UserRole).toString(), "plus rien");
+        s.boites.reponses << true;
+        cliquer("Valider", Ici);
+        QVERIFY2(!message().isEmpty() && s.boites.textes.last().contains("album"), qPrintable(message()));
         Bac::ecrire(s.bac.chemin("autre.mdb"), "un texte");
-        s.boites.fichiers.enqueue(s.bac.chemin("autre.mdb"));
+        s.boites.fichiers << s.bac.chemin("autre.mdb");
         cliquer("Choisir", Ici);
-        QCOMPARE(liste->topLevelItemCount(), 2);
-        QVERIFY(trouver<QLabel>("Message", Ici)->text().contains("Bulleo"));
+        QCOMPARE(liste->topLevelItemCount(), 3);
+        QVERIFY2(message().contains("Bulleo"), qPrintable(message()));
+        QCOMPARE(Bac::toutLire(), avant);
     }
 
     void unFichierDAlbumsEntre()
@@ -138,24 +150,32 @@ private Q_SLOTS:
         QCOMPARE(QDir(s.bac.chemin()).entryList(QDir::AllEntries | QDir::Hidden), avant);
     }
 
+    /// Without a backup, with none but a damaged one, with a sound one that is declined, and with one that is taken.
     void uneBaseAbimeeRendLaDerniereSauvegarde()
     {
-        Seance s;
-        const QByteArray saine = Bac::lire(s.bac.collection());
-        QByteArray abimee = saine;
-        abimee.replace(8192, saine.size() - 8192, QByteArray(saine.size() - 8192, 'x'));
-        QVERIFY(QDir(s.bac.chemin()).mkdir("sauvegardes"));
-        Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-02 03-04-05.bd"), saine);
-        Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-03 03-04-05.bd"), abimee);
-        // The lock of a process that is no more.
-        Bac::ecrire(s.bac.chemin(".bulleo.lock"), "999999999\nbulleo\n");
-        QVERIFY(s.bac.dossier.verrouiller() && s.bac.dossier.finBrutale());
-        s.boites.reponses.enqueue(true);
-        demarrerSur(s, abimee);
-        QTRY_VERIFY(!texteDe("TAlbum").isEmpty());
-        QVERIFY2(s.boites.textes.first().contains("02/01/2026"), qPrintable(s.boites.textes.first()));
-        QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
-        QCOMPARE(QDir(s.bac.chemin()).entryList({"bd abîmée*"}).size(), 1);
+        for (const int cas : {0, 1, 2, 3}) {
+            Seance s;
+            const QByteArray saine = Bac::lire(s.bac.collection());
+            QByteArray abimee = saine;
+            abimee.replace(8192, saine.size() - 8192, QByteArray(saine.size() - 8192, 'x'));
+            QVERIFY(QDir(s.bac.chemin()).mkdir("sauvegardes"));
+            if (cas > 0)
+                Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-03 03-04-05.bd"), abimee);
+            if (cas > 1)
+                Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-02 03-04-05.bd"), saine);
+            // The lock of a process that is no more.
+            Bac::ecrire(s.bac.chemin(".bulleo.lock"), "999999999\nbulleo\n");
+            QVERIFY(s.bac.dossier.verrouiller() && s.bac.dossier.finBrutale());
+            s.boites.reponses << (cas == 3);
+            demarrerSur(s, abimee);
+            QTRY_VERIFY(!s.boites.textes.isEmpty());
+            const QString dit = s.boites.textes.first();
+            QVERIFY2(dit.contains(cas > 1 ? "02/01/2026" : "aucune sauvegarde"), qPrintable(dit));
+            if (cas == 3)
+                QTRY_VERIFY(!texteDe("TAlbum").isEmpty());
+            QCOMPARE(Bac::lire(s.bac.collection()) == abimee, cas < 3);
+            QCOMPARE(QDir(s.bac.chemin()).entryList({"bd abîmée*"}).size(), cas == 3 ? 1 : 0);
+        }
     }
 };
 
