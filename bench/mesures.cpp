@@ -338,16 +338,13 @@ void creer(benchmark::State &etat)
     const Terrain terrain(static_cast<int>(etat.range(0)));
     const Copie copie(terrain);
     const Dossier dossier(copie.dossier.path(), Dossier::Livre());
-    Creer::Album album;
-    album.titre = QStringLiteral("Un album de plus");
-    album.tome = 7;
-    album.serie = General::LireTexte(General::Tri::Series, 1);
-    album.editeur = General::LireTexte(General::Tri::Editeurs, 1);
-    album.genre = AccesBase::LireNoms(QStringLiteral("Genre")).first();
     const Entrees auteurs = General::LireListe(General::Tri::Dessinateurs);
-    album.dessin = auteurs.texte(0);
-    album.scena = auteurs.texte(1);
-    album.color = auteurs.texte(2);
+    const Album album{{Rubrique::Titre, QStringLiteral("Un album de plus")},
+        {Rubrique::Tome, QStringLiteral("7")}, {Rubrique::Serie, General::LireTexte(General::Tri::Series, 1)},
+        {Rubrique::Editeur, General::LireTexte(General::Tri::Editeurs, 1)},
+        {Rubrique::Genre, AccesBase::LireNoms(QStringLiteral("Genre")).first()},
+        {Rubrique::Dessin, auteurs.texte(0)}, {Rubrique::Scena, auteurs.texte(1)},
+        {Rubrique::Color, auteurs.texte(2)}};
     Creer::CreerAlbum(album); // the authors now have the roles that they lacked
     for (auto _ : etat)
         Creer::CreerAlbum(album);

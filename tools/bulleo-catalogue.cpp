@@ -10,6 +10,7 @@
 #include "db/Transaction.h"
 #include "db/files/FichierNeuf.h"
 #include "db/files/Livraison.h"
+#include "model/ChampsDeCreation.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -17,11 +18,34 @@
 #include <QSet>
 #include <QTextStream>
 
+using ChampsDeCreation::ChampDeCreation;
+
 namespace {
 
 constexpr int TomeMax = 999;
-constexpr const char *Colonnes[] = {"Numero", "Titre", "Tome", "Serie", "Dateparu", "Genre", "Dessin",
-    "Scena", "Editeur", "Couleur", "Integrale", "Carton"};
+/// The columns that say nothing that a field of the album holds as such.
+constexpr const char *Propres[] = {"Numero", "Carton"};
+
+bool estUnDrapeau(const ChampDeCreation &champ)
+{
+    return champ.maniere == ChampsDeCreation::Case;
+}
+
+bool estUnTome(const ChampDeCreation &champ)
+{
+    return champ.champ->regle == Champs::Regle::Tome;
+}
+
+/// The columns that fill a field of the album.
+std::vector<const ChampDeCreation *> colonnes()
+{
+    std::vector<const ChampDeCreation *> champs;
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        if (champ.catalogue)
+            champs.push_back(&champ);
+    }
+    return champs;
+}
 
 /// Adds the rows of the source to an open catalogue, and counts.
 class Import
@@ -59,12 +83,18 @@ private:
         return nombre ? 0 : tome.toInt(&nombre);
     }
 
+    static void exiger(const Csv::Rangee &r, const char *colonne)
+    {
+        if (!r.entete->contains(QLatin1String(colonne)))
+            throw Error(QStringLiteral("Il manque la colonne %1.").arg(QLatin1String(colonne)), {});
+    }
+
     QString chercherFaute(const Csv::Rangee &r) const
     {
-        for (const char *colonne : Colonnes) {
-            if (!r.entete->contains(QLatin1String(colonne)))
-                throw Error(QStringLiteral("Il manque la colonne %1.").arg(QLatin1String(colonne)), {});
-        }
+        for (const char *colonne : Propres)
+            exiger(r, colonne);
+        for (const ChampDeCreation *champ : colonnes())
+            exiger(r, champ->catalogue);
         if (r.cellules.size() != r.entete->size())
             return QStringLiteral("%1 cellules au lieu de %2").arg(r.cellules.size()).arg(r.entete->size());
         bool nombre = false;
@@ -78,10 +108,10 @@ private:
             return QStringLiteral("tome « %1 »").arg(r[QStringLiteral("Tome")]);
         if (r[QStringLiteral("Titre")].trimmed().isEmpty())
             return QStringLiteral("sans titre");
-        for (const char *drapeau : {"Couleur", "Integrale"}) {
-            const QString valeur = r[QLatin1String(drapeau)];
-            if (valeur != QLatin1String("0") && valeur != QLatin1String("1"))
-                return QStringLiteral("%1 « %2 »").arg(QLatin1String(drapeau), valeur);
+        for (const ChampDeCreation *champ : colonnes()) {
+            const QString valeur = r[QLatin1String(champ->catalogue)];
+            if (estUnDrapeau(*champ) && valeur != QLatin1String("0") && valeur != QLatin1String("1"))
+                return QStringLiteral("%1 « %2 »").arg(QLatin1String(champ->catalogue), valeur);
         }
         for (const QString &cellule : r.cellules) {
             if (!Module2::Coder(cellule))
@@ -91,17 +121,24 @@ private:
         return {};
     }
 
+    static QVariant valeurDe(const ChampDeCreation &champ, const Csv::Rangee &r)
+    {
+        const QString texte = r[QLatin1String(champ.catalogue)];
+        bool nombre = false;
+        if (estUnTome(champ))
+            return tomeDe(r, nombre);
+        if (estUnDrapeau(champ))
+            return texte == QLatin1String("1");
+        return *Module2::Coder(texte.trimmed());
+    }
+
     void ajouter(const Csv::Rangee &r)
     {
         m_rs.AddNew();
         m_rs.SetField(QStringLiteral("Numero"), r[QStringLiteral("Numero")].toInt());
-        bool nombre = false;
-        m_rs.SetField(QStringLiteral("Tome"), tomeDe(r, nombre));
-        for (const char *drapeau : {"Couleur", "Integrale"})
-            m_rs.SetField(QLatin1String(drapeau), r[QLatin1String(drapeau)] == QLatin1String("1"));
-        for (const char *texte :
-            {"Titre", "Serie", "Dateparu", "Genre", "Dessin", "Scena", "Editeur", "Carton"})
-            m_rs.SetField(QLatin1String(texte), *Module2::Coder(r[QLatin1String(texte)].trimmed()));
+        m_rs.SetField(QStringLiteral("Carton"), *Module2::Coder(r[QStringLiteral("Carton")].trimmed()));
+        for (const ChampDeCreation *champ : colonnes())
+            m_rs.SetField(QLatin1String(champ->catalogue), valeurDe(*champ, r));
         m_rs.Update();
     }
 

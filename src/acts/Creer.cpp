@@ -1,22 +1,19 @@
 #include "acts/Creer.h"
 
 #include "acts/Acte.h"
+#include "core/Dates.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/schema/Tables.h"
+#include "model/Fiche.h"
 #include "model/Trouver.h"
 
-#include <initializer_list>
+using AccesBase::Role;
+using ChampsDeCreation::ChampDeCreation;
 
 namespace {
 
-using AccesBase::Role;
-
-constexpr qsizetype LongueurTitre = 50;
 constexpr int NoteNeuve = 5;
-constexpr int EnCouleur = 1;
-constexpr int NoirEtBlanc = 2;
-const QString Vide = QStringLiteral(" ");
 
 struct Valeur
 {
@@ -30,26 +27,18 @@ void poser(Recordset &rs, std::initializer_list<Valeur> valeurs)
         rs.SetField(QLatin1String(v.champ), v.valeur);
 }
 
-/// A text field that has no value holds one blank.
-QString texteOuVide(const QString &texte)
-{
-    return texte.trimmed().isEmpty() ? Vide : texte;
-}
-
-QString titreDe(const Creer::Album &album)
-{
-    return texteOuVide(album.titre).left(LongueurTitre);
-}
-
-/// Finds the entry of this name or makes it, and links the album to it. Nothing for a blank name.
-QVariant lier(Base &base, const Especes::Espece &espece, const QString &nom, int album)
+/// The entry of this name, made when there is none, with the album tied to it; nothing for a blank name.
+QVariant lier(Base &base, const Sources::Source &source, const QString &nom, int album)
 {
     if (nom.trimmed().isEmpty())
         return {};
-    int numero = Trouver::ParNom(base, espece, nom);
+    if (source.role)
+        return Creer::AjouterAuteur(nom, *source.role, album);
+    int numero = Trouver::ParNom(base, *source.espece, nom);
     if (numero == 0)
-        numero = Creer::CreerEntree(espece, nom);
-    Creer::Lier(base, espece, numero, album);
+        numero = Creer::CreerEntree(*source.espece, nom);
+    if (source.lien != Sources::Lien::Aucun)
+        Creer::Lier(base, *source.espece, numero, album);
     return numero;
 }
 
@@ -69,43 +58,65 @@ void oterRestes(Base &base, int album)
         base.Execute(QStringLiteral("DELETE From %1 where NAlbum = ?").arg(QLatin1String(table)), {album});
 }
 
-void poserAlbum(Recordset &rs, int num, const Creer::Album &album)
+/// What is stored for an entered text; nothing where nothing was entered and nothing stands for that.
+QVariant valeurDe(const ChampDeCreation &champ, const Album &album)
 {
-    poser(rs,
-        {{"Num", num}, {"NAlbum", album.tome}, {"QualBD", NoteNeuve}, {"NbPage", Vide}, {"ISBN", Vide},
-            {"Histoire", texteOuVide(album.histoire)}, {"Commentaire", Vide}, {"NPays", 0},
-            {"EtatBD", NoteNeuve}, {"DepotL", Vide}, {"NCouverture", 0}, {"DPret", Vide}, {"NPret", 0},
-            {"DA", Vide}, {"PrixA", album.prix}, {"ISSN", Vide}, {"Dateparu", texteOuVide(album.dateparu)},
-            {"Broche", album.broche}, {"Couleur", album.couleur ? EnCouleur : NoirEtBlanc},
-            {"Integrale", album.integrale}});
+    const bool entre = album.a(champ.rubrique);
+    if (!entre && !champ.siVide)
+        return {};
+    const QString texte = entre ? album[champ.rubrique] : QString::fromLatin1(champ.siVide);
+    return texte.trimmed().isEmpty() ? QVariant(texte) : *Fiche::Verifier(*champ.champ, texte);
 }
 
-void lierSerie(Base &base, Recordset &rs, int num, const Creer::Album &album)
+/// The values of the album's row of a table; what names another entry comes with its links.
+void poserValeurs(Recordset &rs, const char *table, const Album &album)
 {
-    const QVariant genre = lier(base, Especes::Genre, album.genre, num);
-    const QVariant editeur = lier(base, Especes::Editeur, album.editeur, num);
-    const bool neuve = Trouver::ParNom(base, Especes::Serie, album.serie) == 0;
-    const QVariant serie = lier(base, Especes::Serie, album.serie, num);
-    if (neuve && serie.isValid())
-        garnirSerie(base, serie.toInt(), genre, editeur);
-    poser(rs, {{"NGenre", genre}, {"NEdit", editeur}, {"NumSerie", serie}});
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        const bool nomme = champ.champ->source && album.a(champ.rubrique);
+        if (nomme || !champ.champ->colonne || qstrcmp(champ.champ->table, table) != 0)
+            continue;
+        if (const QVariant valeur = valeurDe(champ, album); valeur.isValid())
+            rs.SetField(QLatin1String(champ.champ->colonne), valeur);
+    }
 }
 
-QVariant numeroOuRien(int numero)
+/// Ties the album to what it names; the numbers go into its row.
+void lierEntrees(Base &base, Recordset &rs, int num, const Album &album)
 {
-    return numero == 0 ? QVariant() : QVariant(numero);
+    const bool serieNeuve
+        = album.a(Rubrique::Serie) && Trouver::ParNom(base, Especes::Serie, album[Rubrique::Serie]) == 0;
+    std::array<QVariant, NombreDeRubriques> numeros;
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        if (!champ.champ->source || !album.a(champ.rubrique))
+            continue;
+        const QVariant numero = lier(base, *champ.champ->source, album[champ.rubrique], num);
+        numeros[static_cast<std::size_t>(champ.rubrique)] = numero;
+        if (champ.champ->colonne)
+            rs.SetField(QLatin1String(champ.champ->colonne), numero);
+    }
+    const auto numeroDe = [&](Rubrique r) { return numeros[static_cast<std::size_t>(r)]; };
+    if (serieNeuve)
+        garnirSerie(
+            base, numeroDe(Rubrique::Serie).toInt(), numeroDe(Rubrique::Genre), numeroDe(Rubrique::Editeur));
 }
 
-/// The row of the list, which lists and sheets read first.
-void ajouterAuxListes(Base &base, int num, const Creer::Album &album)
+/// The row of the list, which lists and sheets read first; it has a copy of the summary.
+void ajouterAuxListes(Base &base, int num, const Album &album)
 {
     auto rs = base.edit(QStringLiteral("LAlbums"));
     rs.AddNew();
-    poser(rs,
-        {{"NAlbum", num}, {"TAlbum", titreDe(album)}, {"Photo1", texteOuVide(album.photo1)},
-            {"Photo2", texteOuVide(album.photo2)}, {"Histoire", texteOuVide(album.histoire)}, {"dedi1", Vide},
-            {"dedi2", Vide}});
+    rs.SetField(QStringLiteral("NAlbum"), num);
+    poserValeurs(rs, "LAlbums", album);
+    rs.SetField(QStringLiteral("Histoire"), valeurDe(ChampsDeCreation::De(Rubrique::Histoire), album));
     rs.Update();
+}
+
+/// A loan begins today unless its date is known.
+Album dateDuPretComprise(Album album)
+{
+    if (album.a(Rubrique::Emprunteur) && !album.a(Rubrique::DatePret))
+        album[Rubrique::DatePret] = Dates::Ecrire(QDate::currentDate());
+    return album;
 }
 
 /// The author of this name. A text with a comma that is nobody's name is read as "name, first name".
@@ -128,23 +139,23 @@ bool Creer::Existe(const Album &album)
         QStringLiteral("SELECT a.Num From LAlbums l join Album a on a.Num = l.NAlbum"
                        " left join Serie s on s.NSerie = a.NumSerie where l.TAlbum = ? and a.NAlbum = ?"
                        " and trim(coalesce(s.Nom, '')) = ? collate FRANCAIS"),
-        {titreDe(album), album.tome, album.serie.trimmed()});
+        {valeurDe(ChampsDeCreation::De(Rubrique::Titre), album),
+            valeurDe(ChampsDeCreation::De(Rubrique::Tome), album), album[Rubrique::Serie].trimmed()});
     return !rs.AtEnd();
 }
 
-int Creer::CreerAlbum(const Album &album)
+int Creer::CreerAlbum(const Album &saisi)
 {
     Base base;
+    const Album album = dateDuPretComprise(saisi);
     const int num = AccesBase::NouvelIdentifiant(QStringLiteral("Album"), QStringLiteral("Num"));
     oterRestes(base, num);
     auto rs = base.edit(QStringLiteral("Album"));
     rs.AddNew();
-    poserAlbum(rs, num, album);
+    rs.SetField(QStringLiteral("Num"), num);
+    poserValeurs(rs, "Album", album);
     // The links are made, and stay, before the album itself is written.
-    lierSerie(base, rs, num, album);
-    rs.SetField(QStringLiteral("NDessin"), numeroOuRien(AjouterAuteur(album.dessin, Role::Dessin, num)));
-    rs.SetField(QStringLiteral("NScen"), numeroOuRien(AjouterAuteur(album.scena, Role::Scena, num)));
-    rs.SetField(QStringLiteral("NColor"), numeroOuRien(AjouterAuteur(album.color, Role::Color, num)));
+    lierEntrees(base, rs, num, album);
     rs.Update();
     ajouterAuxListes(base, num, album);
     return num;
@@ -152,7 +163,7 @@ int Creer::CreerAlbum(const Album &album)
 
 int Creer::CreerEnUnActe(const Album &album)
 {
-    Acte acte(texte(Txt::Creation) + QStringLiteral(": ") + album.titre.trimmed());
+    Acte acte(texte(Txt::Creation) + QStringLiteral(": ") + album[Rubrique::Titre].trimmed());
     const int num = CreerAlbum(album);
     acte.placer({General::Tri::Albums, num});
     acte.valider();

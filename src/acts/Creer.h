@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Especes.h"
+#include "model/Album.h"
 
 #include <QString>
 
@@ -9,32 +9,12 @@ class Base;
 /// The creation of an album with its link rows: the one way in which albums come to be, whatever they come from.
 namespace Creer {
 
-/// What a new album is made of. Names are looked up and made when there are none; a blank one is none.
-struct Album
-{
-    QString titre; ///< cut at 50 characters
-    int tome = 0;
-    QString serie;
-    QString dateparu;
-    QString editeur;
-    bool broche = false;
-    bool couleur = false;
-    bool integrale = false;
-    QString genre;
-    QString dessin;
-    QString color;
-    QString scena;
-    QString histoire;
-    QString photo1;
-    QString photo2;
-    double prix = 0;
-};
-
 /// True when the collection has an album of this title, tome and series, texts compared as the engine does.
 /// Throws Error.
 bool Existe(const Album &album);
 
-/// Makes the album and all that ties it to the collection; returns its number. Every row is committed by
+/// Makes the album and all that ties it to the collection; returns its number. Titles are cut at 50 characters; names
+/// are looked up and made when there are none; the texts must be such as their fields take. Every row is committed by
 /// itself unless a Transaction holds it, so what was made before an error stays. Throws Error.
 int CreerAlbum(const Album &album);
 

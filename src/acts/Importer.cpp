@@ -16,57 +16,12 @@
 #include <optional>
 
 using namespace Importer;
+using ChampsDeCreation::ChampDeCreation;
+using ChampsDeCreation::Maniere;
 
 namespace {
 
 constexpr int RangeesDApercu = 20;
-
-/// How a field's column may be called: the words of the program, in the language in force, and common ones of its
-/// six languages, folded; those that fit best come first.
-struct Appellation
-{
-    std::vector<Txt> textes;
-    const char *mots;
-};
-const std::array<Appellation, NombreDeChamps> &appellations()
-{
-    static const std::array<Appellation, NombreDeChamps> toutes{
-        Appellation{{Txt::TitreAlbum, Txt::TitreDeLAlbum},
-            "titre titrealbum titredelalbum title albumtitle titel albumtitel titulo tituloalbum"
-            " titulodelalbum titolo titoloalbum titolodellalbum album nom name"},
-        {{Txt::NumeroAlbum, Txt::NumeroDeLAlbum, Txt::NumeroAbrege, Txt::Numero},
-            "tome tomo volume band deel numero number nummer numeroalbum nalbum issue vol num no nr n"},
-        {{Txt::TitreSerie, Txt::TitreDeLaSerie, Txt::NomDeLaSerie, Txt::Serie},
-            "serie series titreserie titredelaserie seriestitle serientitel tituloserie titoloserie"
-            " reekstitel reeks reihe saga"},
-        {{Txt::DateParution, Txt::DateDeParution},
-            "dateparu dateparution datedeparution parution publdate publicationdate published"
-            " erscheinungsdatum erschienen fechapublicacion fechadepublicacion datauscita"
-            " datadipubblicazione datumuitgave date datum fecha data annee year jahr ano anno jaar"},
-        {{Txt::Editeur, Txt::NomDeLEditeur},
-            "editeur publisher verlag editorial editore uitgever uitgeverij"},
-        {{Txt::Broche, Txt::Brochee},
-            "broche brochee paperback softcover broschiert rustica brossura ingenaaid"},
-        {{Txt::Couleur}, "couleur couleurs colour color farbe farbig colores colore colori kleur"},
-        {{Txt::Integrale}, "integrale omnibus gesamtausgabe integral integraal"},
-        {{Txt::Genre, Txt::GenreDeBD}, "genre genero genere categorie category kategorie categoria"},
-        {{Txt::Dessinateur, Txt::NomDuDessinateur},
-            "dessin dessinateur artist art zeichner zeichnung zeichnungen dibujante dibujo disegnatore"
-            " disegni disegno tekenaar tekeningen"},
-        {{Txt::Coloriste}, "coloriste colorist colourist kolorist colorista inkleurder color"},
-        {{Txt::Scenariste, Txt::NomDuScenariste},
-            "scena scenario scenariste writer script szenarist szenario texter guionista guion"
-            " sceneggiatore sceneggiatura scenarist schrijver auteur author autor autore"},
-        {{Txt::Resume},
-            "histoire resume synopsis summary plot story handlung inhalt zusammenfassung resumen argumento"
-            " riassunto trama storia samenvatting verhaal description"},
-        {{}, "photo1 recto couverture photo image cover frontcover front titelbild portada copertina omslag"},
-        {{}, "photo2 verso dos backcover back ruckseite contraportada retro achterkant"},
-        {{Txt::PrixDAchat, Txt::Prix},
-            "prix prixa prixdachat prixachat price preis kaufpreis precio prezzo prijs aankoopprijs"},
-    };
-    return toutes;
-}
 
 constexpr const char *Oui
     = "oui o yes y 1 vrai true ja j si s wahr verdadero vero waar x broche couleur integrale";
@@ -77,11 +32,6 @@ struct Tr
     Q_DECLARE_TR_FUNCTIONS(ImporterAlbums)
 };
 
-std::size_t rang(Champ champ)
-{
-    return static_cast<std::size_t>(champ);
-}
-
 /// A name with only its letters and digits, without case and accents.
 QString plier(const QString &nom)
 {
@@ -90,11 +40,11 @@ QString plier(const QString &nom)
     return plie;
 }
 
-QStringList nomsPossibles(const Appellation &appellation)
+QStringList nomsPossibles(const ChampsDeCreation::Appellation &appellation)
 {
     QStringList noms = QString::fromLatin1(appellation.mots).split(u' ');
-    for (const Txt t : appellation.textes)
-        noms << plier(texte(t));
+    for (std::size_t i = 0; i < appellation.nombre; ++i)
+        noms << plier(texte(appellation.textes[i]));
     return noms;
 }
 
@@ -136,51 +86,33 @@ bool estUnFichier(const QString &chemin)
     return QFileInfo(chemin).isAbsolute() && QFileInfo(chemin).isFile();
 }
 
-/// The cells of a row by field.
-struct Cellules
+/// What a cell says, as it is entered; notes the first cell that is neither yes nor no.
+QString lire(const ChampDeCreation &champ, const QString &cellule, QString &refus)
 {
-    const QStringList &cellules;
-    const Correspondance &correspondance;
-
-    QString texte(Champ champ) const
-    {
-        const int colonne = correspondance[rang(champ)];
-        return colonne < 0 ? QString() : cellules.value(colonne).trimmed();
-    }
-    QString ligne(Champ champ) const { return texte(champ).simplified(); }
-    /// Notes the first cell that is neither yes nor no.
-    bool booleen(Champ champ, Txt libelle, QString &refus) const
-    {
-        const auto valeur = lireBooleen(texte(champ));
+    switch (champ.maniere) {
+    case Maniere::Case: {
+        const auto valeur = lireBooleen(cellule);
         if (!valeur && refus.isEmpty())
-            refus = Tr::tr("%1 : « %2 » n'est ni oui ni non.").arg(::texte(libelle), texte(champ));
-        return valeur.value_or(false);
+            refus = Tr::tr("%1 : « %2 » n'est ni oui ni non.").arg(texte(champ.libelle), cellule);
+        return QLatin1String(ChampsDeCreation::TexteDeCase(champ, valeur.value_or(false)));
     }
-};
+    case Maniere::Memo:
+        return QString(cellule).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    case Maniere::Image:
+        return cellule;
+    default:
+        return champ.champ->regle == Champs::Regle::Prix ? lirePrix(cellule) : cellule.simplified();
+    }
+}
 
-Saisie::Textes lireTextes(const Cellules &c, QString &refus)
+/// A picture is looked for only under the path of a file: one by its bare name may come later.
+Album sansImagesAVenir(Album album)
 {
-    Saisie::Textes t;
-    t.album.titre = c.ligne(Champ::Titre);
-    t.album.serie = c.ligne(Champ::Serie);
-    t.album.dateparu = c.ligne(Champ::Dateparu);
-    t.album.editeur = c.ligne(Champ::Editeur);
-    t.album.genre = c.ligne(Champ::Genre);
-    t.album.dessin = c.ligne(Champ::Dessin);
-    t.album.color = c.ligne(Champ::Color);
-    t.album.scena = c.ligne(Champ::Scena);
-    t.album.histoire = c.texte(Champ::Histoire).replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    t.album.photo1 = c.texte(Champ::Photo1);
-    t.album.photo2 = c.texte(Champ::Photo2);
-    t.album.broche = c.booleen(Champ::Broche, Txt::Broche, refus);
-    t.album.couleur = c.booleen(Champ::Couleur, Txt::Couleur, refus);
-    t.album.integrale = c.booleen(Champ::Integrale, Txt::Integrale, refus);
-    t.tome = c.texte(Champ::Tome);
-    t.prix = lirePrix(c.texte(Champ::Prix));
-    // A bare name is not looked for here: the picture may come later.
-    t.photo1 = estUnFichier(t.album.photo1) ? t.album.photo1 : QString();
-    t.photo2 = estUnFichier(t.album.photo2) ? t.album.photo2 : QString();
-    return t;
+    for (const Rubrique photo : {Rubrique::Photo1, Rubrique::Photo2}) {
+        if (!estUnFichier(album[photo]))
+            album[photo].clear();
+    }
+    return album;
 }
 
 /// The pictures that an import takes; unless it keeps them, those that were not there before go again.
@@ -243,14 +175,14 @@ void importer(const Ligne &ligne, const Correspondance &correspondance, Doublons
     ImagesPrises &images, Rapport &rapport)
 {
     Composee composee = Composer(ligne.cellules, correspondance);
-    Creer::Album &album = composee.album;
+    Album &album = composee.album;
     if (!composee.refus.isEmpty()) {
         rapport.refus.push_back({ligne.numero, composee.refus});
     } else if (doublons == Doublons::Sauter && Creer::Existe(album)) {
         rapport.sautes << ligne.numero;
     } else {
-        album.photo1 = images.prendre(album.photo1);
-        album.photo2 = images.prendre(album.photo2);
+        for (const Rubrique photo : {Rubrique::Photo1, Rubrique::Photo2})
+            album[photo] = images.prendre(album[photo]);
         Creer::CreerAlbum(album);
         rapport.crees << ligne.numero;
     }
@@ -268,20 +200,29 @@ Apercu Importer::Lire(const QString &chemin)
     return apercu;
 }
 
+std::vector<Rubrique> Importer::Rubriques()
+{
+    std::vector<Rubrique> rubriques;
+    for (std::size_t i = 0; i < NombreDeRubriques; ++i) {
+        const auto rubrique = static_cast<Rubrique>(i);
+        if (ChampsDeCreation::De(rubrique).appellation.mots)
+            rubriques.push_back(rubrique);
+    }
+    return rubriques;
+}
+
 Correspondance Importer::Proposer(const QStringList &entete)
 {
     QStringList colonnes;
     for (const QString &nom : entete)
         colonnes << plier(nom);
-    Correspondance correspondance;
-    correspondance.fill(-1);
-    for (std::size_t champ = 0; champ < NombreDeChamps; ++champ) {
-        const QStringList noms = nomsPossibles(appellations()[champ]);
-        for (const QString &nom : noms) {
+    Correspondance correspondance = Aucune();
+    for (const Rubrique rubrique : Rubriques()) {
+        for (const QString &nom : nomsPossibles(ChampsDeCreation::De(rubrique).appellation)) {
             const qsizetype colonne = nom.isEmpty() ? -1 : colonnes.indexOf(nom);
             if (colonne < 0)
                 continue;
-            correspondance[champ] = static_cast<int>(colonne);
+            correspondance[static_cast<std::size_t>(rubrique)] = static_cast<int>(colonne);
             colonnes[colonne].clear(); // one column is one field
             break;
         }
@@ -291,11 +232,16 @@ Correspondance Importer::Proposer(const QStringList &entete)
 
 Composee Importer::Composer(const QStringList &cellules, const Correspondance &correspondance)
 {
-    QString refus;
-    const Saisie::Textes textes = lireTextes({cellules, correspondance}, refus);
-    if (const auto autre = Saisie::Verifier(textes); autre && refus.isEmpty())
-        refus = autre->raison;
-    return refus.isEmpty() ? Composee{Saisie::Composer(textes), {}} : Composee{textes.album, refus};
+    Composee composee;
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        const int colonne = correspondance[static_cast<std::size_t>(champ.rubrique)];
+        if (colonne >= 0)
+            composee.album[champ.rubrique] = lire(champ, cellules.value(colonne).trimmed(), composee.refus);
+    }
+    const auto autre = Saisie::Verifier(sansImagesAVenir(composee.album));
+    if (autre && composee.refus.isEmpty())
+        composee.refus = autre->raison;
+    return composee;
 }
 
 Rapport Importer::ImporterAlbums(

@@ -1,39 +1,27 @@
 #pragma once
 
-#include "acts/Creer.h"
+#include "model/Album.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <array>
 #include <functional>
+#include <vector>
 
 /// Many albums at once from a file of separated values.
 namespace Importer {
 
-/// What an album is made of, in the order of the creation's arguments.
-enum class Champ {
-    Titre,
-    Tome,
-    Serie,
-    Dateparu,
-    Editeur,
-    Broche,
-    Couleur,
-    Integrale,
-    Genre,
-    Dessin,
-    Color,
-    Scena,
-    Histoire,
-    Photo1,
-    Photo2,
-    Prix
-};
-constexpr std::size_t NombreDeChamps = 16;
-
-/// The column of each field, the first is 0; -1 for a field that the file does not have.
-using Correspondance = std::array<int, NombreDeChamps>;
+/// The column of each thing that an album is made of, the first is 0; -1 for what the file does not have.
+using Correspondance = std::array<int, NombreDeRubriques>;
+inline Correspondance Aucune()
+{
+    Correspondance aucune;
+    aucune.fill(-1);
+    return aucune;
+}
+/// What can be imported, in the order of the creation's arguments.
+std::vector<Rubrique> Rubriques();
 
 /// A file before it is imported: its columns and first rows.
 struct Apercu
@@ -51,7 +39,7 @@ Correspondance Proposer(const QStringList &entete);
 /// What a row gives: an album, or why there is none, in one line. A picture's path stays as it is.
 struct Composee
 {
-    Creer::Album album;
+    Album album;
     QString refus;
 };
 Composee Composer(const QStringList &cellules, const Correspondance &correspondance);

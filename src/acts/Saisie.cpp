@@ -7,12 +7,13 @@
 #include "model/Fiche.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
-using Champs::Feuille;
+using ChampsDeCreation::ChampDeCreation;
+using ChampsDeCreation::Maniere;
 
 namespace {
 
-constexpr qsizetype LongueurTome = 3;
 constexpr QSize TailleDEssai(64, 64);
 
 struct Tr
@@ -29,22 +30,31 @@ QStringList lireAuteurs(const Base &base)
     return noms;
 }
 
-bool estUneImage(const QString &chemin)
+bool estUneImage(const QString &texte)
 {
-    return chemin.isEmpty() || !Images::Decoder(chemin, TailleDEssai).isNull();
+    return QDir::isRelativePath(texte) || !Images::Decoder(texte, TailleDEssai).isNull();
 }
 
-bool estVide(const Saisie::Textes &t)
+/// A tome number alone, and boxes, which are always entered, make no album.
+bool ditQuelqueChose(const Album &album)
 {
-    const Creer::Album &a = t.album;
-    const QStringList textes{a.titre, a.serie, a.dateparu, a.editeur, a.genre, a.dessin, a.color, a.scena,
-        a.histoire, t.prix, t.photo1, t.photo2};
-    return textes.join(QString()).trimmed().isEmpty();
+    return std::any_of(std::begin(ChampsDeCreation::Tous), std::end(ChampsDeCreation::Tous),
+        [&](const ChampDeCreation &champ) {
+            return champ.maniere != Maniere::Case && champ.rubrique != Rubrique::Tome
+                && album.a(champ.rubrique);
+        });
 }
 
-const Champs::Champ &champ(const char *nom)
+/// Why a text is refused; empty when it is taken.
+QString raisonDuRefus(const ChampDeCreation &champ, const QString &texte)
 {
-    return *Champs::Chercher(Feuille::Album, nom);
+    if (champ.maniere == Maniere::Choix)
+        return {};
+    if (champ.maniere == Maniere::Image)
+        return estUneImage(texte) ? QString() : Tr::tr("Ce fichier n'est pas une image lisible.");
+    const bool coupe
+        = champ.champ->regle == Champs::Regle::Tome && texte.trimmed().size() > Fiche::LongueurTome;
+    return coupe || !Fiche::Verifier(*champ.champ, texte) ? Fiche::RaisonDuRefus(*champ.champ) : QString();
 }
 
 }
@@ -52,8 +62,16 @@ const Champs::Champ &champ(const char *nom)
 Saisie::Choix Saisie::LireChoix()
 {
     const Base base;
-    return {AccesBase::LireNoms(QStringLiteral("Serie")), AccesBase::LireNoms(QStringLiteral("Editeur")),
-        AccesBase::LireNoms(QStringLiteral("Genre")), lireAuteurs(base)};
+    Choix choix;
+    const QStringList auteurs = lireAuteurs(base);
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        if (champ.maniere != Maniere::Choix || !champ.controle)
+            continue;
+        const Especes::Espece &espece = *champ.champ->source->espece;
+        choix[champ.rubrique]
+            = &espece == &Especes::Auteur ? auteurs : AccesBase::LireNoms(QLatin1String(espece.table));
+    }
+    return choix;
 }
 
 std::optional<int> Saisie::ProchainTome(const QString &serie)
@@ -80,35 +98,23 @@ QString Saisie::ComposerDate(int jour, int mois, int annee)
     return parties.join(u' ');
 }
 
-std::optional<Saisie::Refus> Saisie::Verifier(const Textes &textes)
+std::optional<Saisie::Refus> Saisie::Verifier(const Album &album)
 {
-    if (estVide(textes))
-        return Refus{QStringLiteral("Titre"), Tr::tr("Donnez au moins un titre.")};
-    if (textes.tome.trimmed().size() > LongueurTome || !Fiche::Verifier(champ("NumBD"), textes.tome))
-        return Refus{QStringLiteral("Tome"), Fiche::RaisonDuRefus(champ("NumBD"))};
-    if (!Fiche::Verifier(champ("PrixA"), textes.prix))
-        return Refus{QStringLiteral("PrixA"), Fiche::RaisonDuRefus(champ("PrixA"))};
-    if (!estUneImage(textes.photo1))
-        return Refus{QStringLiteral("ImageRecto"), Tr::tr("Ce fichier n'est pas une image lisible.")};
-    if (!estUneImage(textes.photo2))
-        return Refus{QStringLiteral("ImageVerso"), Tr::tr("Ce fichier n'est pas une image lisible.")};
+    if (!ditQuelqueChose(album))
+        return Refus{Rubrique::Titre, Tr::tr("Donnez au moins un titre.")};
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        const QString raison = raisonDuRefus(champ, album[champ.rubrique]);
+        if (!raison.isEmpty())
+            return Refus{champ.rubrique, raison};
+    }
     return std::nullopt;
 }
 
-Creer::Album Saisie::Composer(const Textes &textes)
+int Saisie::CreerAlbum(Album album)
 {
-    Creer::Album album = textes.album;
-    album.tome = Fiche::Verifier(champ("NumBD"), textes.tome)->toInt();
-    album.prix = Fiche::Verifier(champ("PrixA"), textes.prix)->toDouble();
-    return album;
-}
-
-int Saisie::CreerAlbum(const Textes &textes)
-{
-    Creer::Album album = Composer(textes);
-    if (!textes.photo1.isEmpty())
-        album.photo1 = Images::Copier(textes.photo1);
-    if (!textes.photo2.isEmpty())
-        album.photo2 = Images::Copier(textes.photo2);
+    for (const Rubrique photo : {Rubrique::Photo1, Rubrique::Photo2}) {
+        if (QDir::isAbsolutePath(album[photo]))
+            album[photo] = Images::Copier(album[photo]);
+    }
     return Creer::CreerEnUnActe(album);
 }

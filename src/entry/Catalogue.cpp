@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+using ChampsDeCreation::ChampDeCreation;
+
 namespace {
 
 Base ouvrir(const QString &chemin)
@@ -31,18 +33,28 @@ std::optional<QString> decoder(const QString &code, bool telQuel)
     return telQuel ? code : Module2::Decoder(code);
 }
 
-/// Decodes the text fields of one row, and remembers when one of them could not be.
+/// The columns of one row as they are entered; remembers when a text could not be decoded.
 struct Lecture
 {
     const Cursor &rs;
     bool telQuel;
     bool lisible = true;
 
-    QString operator()(const char *champ)
+    QString texte(const char *colonne)
     {
-        const auto texte = decoder(rs.Fields(QLatin1String(champ)).toString(), telQuel);
-        lisible = lisible && texte.has_value();
-        return texte.value_or(QString()).trimmed();
+        const auto decode = decoder(rs.Fields(QLatin1String(colonne)).toString(), telQuel);
+        lisible = lisible && decode.has_value();
+        return decode.value_or(QString()).trimmed();
+    }
+    QString operator()(const ChampDeCreation &champ)
+    {
+        const QVariant valeur = rs.Fields(QLatin1String(champ.catalogue));
+        if (champ.maniere == ChampsDeCreation::Case)
+            return QLatin1String(ChampsDeCreation::TexteDeCase(champ, valeur.toBool()));
+        // A tome of the catalogue is written with three digits.
+        if (champ.champ->regle == Champs::Regle::Tome)
+            return QStringLiteral("%1").arg(valeur.toInt(), 3, 10, QLatin1Char('0'));
+        return texte(champ.catalogue);
     }
 };
 
@@ -83,17 +95,13 @@ std::optional<Catalogue::Reference> Catalogue::LireReference(int numero)
     if (rs.AtEnd())
         return std::nullopt;
     Lecture lire{rs, estTelQuel(base)};
-    Reference r;
-    r.titre = lire("Titre");
-    r.tome = rs.Fields(QStringLiteral("Tome")).toInt();
-    r.serie = lire("Serie");
-    r.dateparu = lire("Dateparu");
-    r.genre = lire("Genre");
-    r.dessin = lire("Dessin");
-    r.scena = lire("Scena");
-    r.editeur = lire("Editeur");
-    r.couleur = rs.Fields(QStringLiteral("Couleur")).toBool();
-    r.integrale = rs.Fields(QStringLiteral("Integrale")).toBool();
-    r.carton = lire("Carton");
-    return lire.lisible ? std::optional(r) : std::nullopt;
+    Reference reference;
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        if (champ.catalogue)
+            reference.album[champ.rubrique] = lire(champ);
+    }
+    reference.carton = lire.texte("Carton");
+    reference.album[Rubrique::Broche] = QLatin1String(ChampsDeCreation::TexteDeCase(
+        ChampsDeCreation::De(Rubrique::Broche), reference.carton == QStringLiteral("broché")));
+    return lire.lisible ? std::optional(reference) : std::nullopt;
 }

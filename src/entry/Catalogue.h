@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Album.h"
 #include "model/Entrees.h"
 
 #include <QString>
@@ -23,16 +24,7 @@ Liste LireAlbums();
 /// What the catalogue knows of an album.
 struct Reference
 {
-    QString titre;
-    int tome = 0;
-    QString serie;
-    QString dateparu;
-    QString genre;
-    QString dessin;
-    QString scena;
-    QString editeur;
-    bool couleur = false;
-    bool integrale = false;
+    Album album;
     QString carton; ///< binding, in words
 };
 /// Nothing when there is no such row, or when it cannot be decoded. Throws Error.

@@ -98,17 +98,6 @@ void Facile::choisir(const QModelIndex &index)
     const auto reference = Catalogue::LireReference(m_modele.id(index));
     if (!reference)
         return;
-    Creer::Album album;
-    album.titre = reference->titre;
-    album.serie = reference->serie;
-    album.dateparu = reference->dateparu;
-    album.genre = reference->genre;
-    album.dessin = reference->dessin;
-    album.scena = reference->scena;
-    album.editeur = reference->editeur;
-    album.couleur = reference->couleur;
-    album.integrale = reference->integrale;
-    album.broche = reference->carton == QStringLiteral("broché");
-    formulaire()->poser(album, QStringLiteral("%1").arg(reference->tome, 3, 10, QLatin1Char('0')));
+    formulaire()->poser(reference->album);
     m_carton->setChecked(reference->carton == QStringLiteral("cartonné"));
 }

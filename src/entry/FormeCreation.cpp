@@ -64,8 +64,8 @@ void FormeCreation::Traduire()
 
 void FormeCreation::creer()
 {
-    const Saisie::Textes textes = m_formulaire->textes();
-    if (const auto refus = Saisie::Verifier(textes)) {
+    const Album album = m_formulaire->album();
+    if (const auto refus = Saisie::Verifier(album)) {
         m_formulaire->montrerRefus(*refus);
         dire(refus->raison);
         return;
@@ -74,7 +74,7 @@ void FormeCreation::creer()
     m_refus->repaint();
     int num = 0;
     try {
-        num = Saisie::CreerAlbum(textes);
+        num = Saisie::CreerAlbum(album);
     } catch (...) {
         dire({});
         throw;

@@ -14,13 +14,40 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <array>
+
+using ChampsDeCreation::ChampDeCreation;
+using ChampsDeCreation::Maniere;
 
 namespace {
 
 constexpr int PremiereAnnee = 1827;
 constexpr QSize TailleCadre(150, 200);
-constexpr std::array Cases{Txt::Broche, Txt::Couleur, Txt::Integrale};
+constexpr int LargeurTome = 90;
+constexpr int LargeurPrix = 120;
+constexpr int HauteurMemo = 70;
+
+/// What the forms ask for.
+std::vector<const ChampDeCreation *> demandes()
+{
+    std::vector<const ChampDeCreation *> champs;
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        if (champ.controle)
+            champs.push_back(&champ);
+    }
+    return champs;
+}
+
+int largeurDe(const ChampDeCreation &champ)
+{
+    switch (champ.champ->regle) {
+    case Champs::Regle::Tome:
+        return LargeurTome;
+    case Champs::Regle::Prix:
+        return LargeurPrix;
+    default:
+        return QWIDGETSIZE_MAX;
+    }
+}
 
 }
 
@@ -33,34 +60,58 @@ FormulaireAlbum::FormulaireAlbum(bool date, QWidget *parent)
     page->setSpacing(Theme::Grand);
     page->addWidget(construireChamps(), 1);
     page->addWidget(construireImages(), 0, Qt::AlignTop);
-    connect(m_serie, &QComboBox::currentTextChanged, this, [this](const QString &serie) {
-        if (m_serie->findText(serie.trimmed(), Qt::MatchFixedString) >= 0)
-            Q_EMIT serieChoisie(serie);
+    auto *serie = champ<ListeChoix>(Rubrique::Serie);
+    connect(serie, &QComboBox::currentTextChanged, this, [this, serie](const QString &texte) {
+        if (serie->findText(texte.trimmed(), Qt::MatchFixedString) >= 0)
+            Q_EMIT serieChoisie(texte);
     });
-    connect(m_tome, &QLineEdit::textEdited, this, [this] { m_tomePropose = false; });
-    for (QLineEdit *champ : {m_titre, m_tome, m_prix})
-        connect(champ, &QLineEdit::textChanged, this, &FormulaireAlbum::oterRefus);
+    connect(
+        champ<QLineEdit>(Rubrique::Tome), &QLineEdit::textEdited, this, [this] { m_tomePropose = false; });
     Traduire();
 }
 
-void FormulaireAlbum::ajouter(QGridLayout *grille, Txt libelle, const QString &nom, QWidget *champ)
+QWidget *FormulaireAlbum::fabriquer(const ChampDeCreation &champ)
 {
-    auto *label = new QLabel(this);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    label->setBuddy(champ);
-    m_libelles.emplace_back(label, libelle);
-    nommer(champ, nom);
-    const int rang = grille->rowCount();
-    const bool haut = qobject_cast<QPlainTextEdit *>(champ);
-    grille->addWidget(label, rang, 0, haut ? Qt::AlignTop : Qt::AlignVCenter);
-    grille->addWidget(champ, rang, 1);
+    switch (champ.maniere) {
+    case Maniere::Choix:
+        return new ListeChoix(this);
+    case Maniere::Case:
+        return new QCheckBox(this);
+    case Maniere::Memo: {
+        auto *memo = new QPlainTextEdit(this);
+        memo->setTabChangesFocus(true);
+        memo->setMinimumHeight(HauteurMemo);
+        return memo;
+    }
+    case Maniere::Image:
+        return new CadreImage(this);
+    case Maniere::Ligne:
+    case Maniere::Date:
+        break;
+    }
+    auto *ligne = new QLineEdit(this);
+    ligne->setMaximumWidth(largeurDe(champ));
+    connect(ligne, &QLineEdit::textChanged, this, &FormulaireAlbum::oterRefus);
+    return ligne;
 }
 
-ListeChoix *FormulaireAlbum::ajouterChoix(QGridLayout *grille, Txt libelle, const QString &nom)
+void FormulaireAlbum::ajouter(QGridLayout *grille, const ChampDeCreation &champ)
 {
-    auto *choix = new ListeChoix(this);
-    ajouter(grille, libelle, nom, choix);
-    return choix;
+    QWidget *controle = m_champs[champ.rubrique]
+        = nommer(fabriquer(champ), QString::fromLatin1(champ.controle));
+    if (champ.maniere == Maniere::Case) {
+        m_ligneCases->addWidget(controle);
+        return;
+    }
+    auto *libelle = m_libelles[champ.rubrique] = new QLabel(this);
+    libelle->setForegroundRole(QPalette::PlaceholderText);
+    libelle->setBuddy(controle);
+    const int rang = grille->rowCount();
+    const bool memo = champ.maniere == Maniere::Memo;
+    grille->addWidget(libelle, rang, 0, memo ? Qt::AlignTop : Qt::AlignVCenter);
+    grille->addWidget(champ.maniere == Maniere::Date ? construireDate(controle) : controle, rang, 1);
+    if (memo)
+        grille->setRowStretch(rang, 1);
 }
 
 QWidget *FormulaireAlbum::construireChamps()
@@ -71,34 +122,27 @@ QWidget *FormulaireAlbum::construireChamps()
     grille->setHorizontalSpacing(Theme::Moyen);
     grille->setVerticalSpacing(Theme::Petit);
     grille->setColumnStretch(1, 1);
-    ajouter(grille, Txt::TitreDeLAlbum, QStringLiteral("Titre"), m_titre = new QLineEdit(zone));
-    m_serie = ajouterChoix(grille, Txt::TitreDeLaSerie, QStringLiteral("Serie"));
-    ajouter(grille, Txt::NumeroAbrege, QStringLiteral("Tome"), m_tome = new QLineEdit(zone));
-    m_tome->setMaximumWidth(90);
-    m_dateparu = nommer(new QLineEdit(zone), QStringLiteral("Dateparu"));
-    ajouter(grille, Txt::DateDeParution, QStringLiteral("ZoneDate"), construireDate());
-    m_editeur = ajouterChoix(grille, Txt::NomDeLEditeur, QStringLiteral("Editeur"));
-    m_genre = ajouterChoix(grille, Txt::Genre, QStringLiteral("Genre"));
-    m_dessin = ajouterChoix(grille, Txt::Dessinateur, QStringLiteral("Dessin"));
-    m_scena = ajouterChoix(grille, Txt::Scenariste, QStringLiteral("Scena"));
-    m_color = ajouterChoix(grille, Txt::Coloriste, QStringLiteral("Color"));
-    ajouter(grille, Txt::PrixDAchat, QStringLiteral("PrixA"), m_prix = new QLineEdit(zone));
-    m_prix->setMaximumWidth(120);
-    grille->addWidget(construireCases(), grille->rowCount(), 1);
-    m_histoire = new QPlainTextEdit(zone);
-    m_histoire->setTabChangesFocus(true);
-    m_histoire->setMinimumHeight(70);
-    ajouter(grille, Txt::Resume, QStringLiteral("Histoire"), m_histoire);
-    grille->setRowStretch(grille->rowCount() - 1, 1);
+    for (const ChampDeCreation *champ : demandes()) {
+        if (champ->maniere == Maniere::Image)
+            continue;
+        if (champ->maniere == Maniere::Case && !m_ligneCases) {
+            m_ligneCases = new QHBoxLayout;
+            m_ligneCases->setSpacing(Theme::Moyen);
+            grille->addLayout(m_ligneCases, grille->rowCount(), 1);
+        }
+        ajouter(grille, *champ);
+    }
+    m_ligneCases->addStretch(1);
     return zone;
 }
 
-QWidget *FormulaireAlbum::construireDate()
+/// A date may be put together of day, month and year beside its line.
+QWidget *FormulaireAlbum::construireDate(QWidget *champ)
 {
     auto *zone = new QWidget(this);
     auto *ligne = new QHBoxLayout(zone);
     ligne->setContentsMargins(0, 0, 0, 0);
-    ligne->addWidget(m_dateparu, 1);
+    ligne->addWidget(champ, 1);
     if (!m_avecDate)
         return zone;
     m_jour = nommer(new QComboBox(zone), QStringLiteral("Jour"));
@@ -118,56 +162,47 @@ QWidget *FormulaireAlbum::construireDate()
     return zone;
 }
 
-QWidget *FormulaireAlbum::construireCases()
-{
-    auto *zone = new QWidget(this);
-    m_ligneCases = new QHBoxLayout(zone);
-    m_ligneCases->setContentsMargins(0, 0, 0, 0);
-    m_ligneCases->setSpacing(Theme::Moyen);
-    for (int i = 0; i < 3; ++i) {
-        m_cases[i] = nommer(new QCheckBox(zone), QStringLiteral("InfoSupp"), i);
-        m_ligneCases->addWidget(m_cases[i]);
-    }
-    m_ligneCases->addStretch(1);
-    return zone;
-}
-
 QWidget *FormulaireAlbum::construireImages()
 {
     auto *zone = new QWidget(this);
     auto *colonne = new QVBoxLayout(zone);
     colonne->setContentsMargins(0, 0, 0, 0);
-    const QString cadres[] = {QStringLiteral("Photo1"), QStringLiteral("Photo2")};
-    const QString boutons[] = {QStringLiteral("ImageRecto"), QStringLiteral("ImageVerso")};
-    for (int i = 0; i < 2; ++i) {
-        m_cadres[i] = nommer(new CadreImage(zone), cadres[i]);
-        m_cadres[i]->setFixedSize(TailleCadre);
-        m_cadres[i]->setAcceptDrops(true);
-        m_boutons[i] = nommer(new QPushButton(zone), boutons[i]);
-        colonne->addWidget(m_cadres[i]);
-        colonne->addWidget(m_boutons[i]);
-        connect(m_boutons[i], &QPushButton::clicked, this, [this, i] { choisirImage(i); });
-        connect(m_cadres[i], &CadreImage::actionnee, this, [this, i] { choisirImage(i); });
-        connect(
-            m_cadres[i], &CadreImage::fichierDepose, this, [this, i](const QString &f) { poserImage(i, f); });
+    for (const auto &[rubrique, nom] : {std::pair(Rubrique::Photo1, QStringLiteral("ImageRecto")),
+             std::pair(Rubrique::Photo2, QStringLiteral("ImageVerso"))}) {
+        const ChampDeCreation &champ = ChampsDeCreation::De(rubrique);
+        auto *cadre = nommer(new CadreImage(zone), QString::fromLatin1(champ.controle));
+        m_champs[rubrique] = cadre;
+        m_images[rubrique].clear();
+        cadre->setFixedSize(TailleCadre);
+        cadre->setAcceptDrops(true);
+        auto *bouton = m_boutons[rubrique] = nommer(new QPushButton(zone), nom);
+        colonne->addWidget(cadre);
+        colonne->addWidget(bouton);
+        const auto choisir = [this, rubrique = rubrique] { choisirImage(rubrique); };
+        connect(bouton, &QPushButton::clicked, this, choisir);
+        connect(cadre, &CadreImage::actionnee, this, choisir);
+        connect(cadre, &CadreImage::fichierDepose, this,
+            [this, rubrique = rubrique](const QString &fichier) { poserImage(rubrique, fichier); });
     }
     return zone;
 }
 
 void FormulaireAlbum::Traduire()
 {
-    for (const auto &[label, numero] : m_libelles) {
-        label->setText(texte(numero));
-        label->buddy()->setAccessibleName(texte(numero));
+    for (const auto &[rubrique, controle] : m_champs) {
+        const QString libelle = texte(ChampsDeCreation::De(rubrique).libelle);
+        controle->setAccessibleName(libelle);
+        if (auto *boite = qobject_cast<QCheckBox *>(controle))
+            boite->setText(libelle);
+        if (const auto devant = m_libelles.find(rubrique); devant != m_libelles.end())
+            devant->second->setText(libelle);
     }
-    m_dateparu->setAccessibleName(texte(Txt::DateDeParution));
-    for (int i = 0; i < 3; ++i)
-        libeller(m_cases[i], texte(Cases[static_cast<std::size_t>(i)]));
-    const QString faces[] = {tr("Couverture ..."), tr("Dos ...")};
-    for (int i = 0; i < 2; ++i) {
-        libeller(m_boutons[i], faces[i]);
-        m_cadres[i]->poserLegende(tr("Déposez une image ici"));
-        m_cadres[i]->setAccessibleName(faces[i]);
+    const std::map<Rubrique, QString> faces{
+        {Rubrique::Photo1, tr("Couverture ...")}, {Rubrique::Photo2, tr("Dos ...")}};
+    for (const auto &[rubrique, face] : faces) {
+        libeller(m_boutons.at(rubrique), face);
+        champ<CadreImage>(rubrique)->poserLegende(tr("Déposez une image ici"));
+        champ<CadreImage>(rubrique)->setAccessibleName(face);
     }
     if (!m_avecDate)
         return;
@@ -184,100 +219,111 @@ void FormulaireAlbum::Traduire()
 
 void FormulaireAlbum::composerDate()
 {
-    m_dateparu->setText(
-        Saisie::ComposerDate(m_jour->currentIndex(), m_mois->currentIndex(), m_annee->currentText().toInt()));
+    champ<QLineEdit>(Rubrique::Dateparu)
+        ->setText(Saisie::ComposerDate(
+            m_jour->currentIndex(), m_mois->currentIndex(), m_annee->currentText().toInt()));
 }
 
-void FormulaireAlbum::choisirImage(int rang)
+void FormulaireAlbum::choisirImage(Rubrique rubrique)
 {
     const QString chemin = ChoisirImage(this);
     if (!chemin.isEmpty())
-        poserImage(rang, chemin);
+        poserImage(rubrique, chemin);
 }
 
-void FormulaireAlbum::poserImage(int rang, const QString &chemin)
+void FormulaireAlbum::poserImage(Rubrique rubrique, const QString &chemin)
 {
-    m_images[rang] = chemin;
-    m_cadres[rang]->montrer(chemin);
+    m_images[rubrique] = chemin;
+    champ<CadreImage>(rubrique)->montrer(chemin);
     oterRefus();
 }
 
-Saisie::Textes FormulaireAlbum::textes() const
+QString FormulaireAlbum::lire(const ChampDeCreation &quoi) const
 {
-    Saisie::Textes t;
-    t.album.titre = m_titre->text().trimmed();
-    t.album.serie = m_serie->currentText().trimmed();
-    t.album.dateparu = m_dateparu->text().trimmed();
-    t.album.editeur = m_editeur->currentText().trimmed();
-    t.album.genre = m_genre->currentText().trimmed();
-    t.album.dessin = m_dessin->currentText().trimmed();
-    t.album.scena = m_scena->currentText().trimmed();
-    t.album.color = m_color->currentText().trimmed();
-    t.album.histoire = m_histoire->toPlainText();
-    t.album.broche = m_cases[0]->isChecked();
-    t.album.couleur = m_cases[1]->isChecked();
-    t.album.integrale = m_cases[2]->isChecked();
-    t.tome = m_tome->text().trimmed();
-    t.prix = m_prix->text().trimmed();
-    t.photo1 = m_images[0];
-    t.photo2 = m_images[1];
-    return t;
+    switch (quoi.maniere) {
+    case Maniere::Choix:
+        return champ<QComboBox>(quoi.rubrique)->currentText().trimmed();
+    case Maniere::Case:
+        return QLatin1String(
+            ChampsDeCreation::TexteDeCase(quoi, champ<QCheckBox>(quoi.rubrique)->isChecked()));
+    case Maniere::Memo:
+        return champ<QPlainTextEdit>(quoi.rubrique)->toPlainText();
+    case Maniere::Image:
+        return m_images.at(quoi.rubrique);
+    case Maniere::Ligne:
+    case Maniere::Date:
+        break;
+    }
+    return champ<QLineEdit>(quoi.rubrique)->text().trimmed();
 }
 
-void FormulaireAlbum::poser(const Creer::Album &album, const QString &tome)
+void FormulaireAlbum::ecrire(const ChampDeCreation &quoi, const QString &texte)
 {
-    m_titre->setText(album.titre);
-    m_tome->setText(tome);
+    switch (quoi.maniere) {
+    case Maniere::Choix:
+        return champ<QComboBox>(quoi.rubrique)->setEditText(texte);
+    case Maniere::Case:
+        return champ<QCheckBox>(quoi.rubrique)
+            ->setChecked(texte == QLatin1String(ChampsDeCreation::TexteDeCase(quoi, true)));
+    case Maniere::Memo:
+        return champ<QPlainTextEdit>(quoi.rubrique)->setPlainText(texte);
+    case Maniere::Image:
+        return;
+    case Maniere::Ligne:
+    case Maniere::Date:
+        break;
+    }
+    champ<QLineEdit>(quoi.rubrique)->setText(texte);
+    champ<QLineEdit>(quoi.rubrique)->setCursorPosition(0);
+}
+
+Album FormulaireAlbum::album() const
+{
+    Album album;
+    for (const ChampDeCreation *quoi : demandes())
+        album[quoi->rubrique] = lire(*quoi);
+    return album;
+}
+
+void FormulaireAlbum::poser(const Album &album)
+{
+    for (const ChampDeCreation *quoi : demandes())
+        ecrire(*quoi, album[quoi->rubrique]);
     m_tomePropose = false;
-    m_serie->setEditText(album.serie);
-    m_dateparu->setText(album.dateparu);
-    m_editeur->setEditText(album.editeur);
-    m_genre->setEditText(album.genre);
-    m_dessin->setEditText(album.dessin);
-    m_scena->setEditText(album.scena);
-    m_color->setEditText(album.color);
-    m_histoire->setPlainText(album.histoire);
-    m_prix->clear();
-    m_cases[0]->setChecked(album.broche);
-    m_cases[1]->setChecked(album.couleur);
-    m_cases[2]->setChecked(album.integrale);
-    for (QLineEdit *champ : {m_titre, m_dateparu})
-        champ->setCursorPosition(0);
     oterRefus();
 }
 
 void FormulaireAlbum::vider()
 {
-    poser({}, {});
-    for (int i = 0; i < 2; ++i)
-        poserImage(i, {});
+    poser({});
+    for (const Rubrique photo : {Rubrique::Photo1, Rubrique::Photo2})
+        poserImage(photo, {});
     if (m_avecDate) {
         for (QComboBox *choix : {m_jour, m_mois, m_annee})
             choix->setCurrentIndex(0);
     }
-    m_titre->setFocus();
+    m_champs.at(Rubrique::Titre)->setFocus();
 }
 
 void FormulaireAlbum::proposer(const Saisie::Choix &choix)
 {
-    m_serie->proposer(choix.series);
-    m_editeur->proposer(choix.editeurs);
-    m_genre->proposer(choix.genres);
-    for (ListeChoix *auteur : {m_dessin, m_scena, m_color})
-        auteur->proposer(choix.auteurs);
+    for (const auto &[rubrique, noms] : choix)
+        champ<ListeChoix>(rubrique)->proposer(noms);
 }
 
 void FormulaireAlbum::proposerTome(int tome)
 {
-    if (!m_tome->text().isEmpty() && !m_tomePropose)
+    auto *ligne = champ<QLineEdit>(Rubrique::Tome);
+    if (!ligne->text().isEmpty() && !m_tomePropose)
         return;
-    m_tome->setText(QString::number(tome));
+    ligne->setText(QString::number(tome));
     m_tomePropose = true;
 }
 
 void FormulaireAlbum::montrerRefus(const Saisie::Refus &refus)
 {
-    m_refuse = findChild<QWidget *>(refus.champ);
+    const auto bouton = m_boutons.find(refus.rubrique);
+    m_refuse = bouton != m_boutons.end() ? bouton->second : m_champs.at(refus.rubrique);
     QPalette rouge = m_refuse->palette();
     rouge.setColor(QPalette::Mid, Theme::Rouge(palette()));
     rouge.setColor(QPalette::Text, Theme::Rouge(palette()));

@@ -1,20 +1,14 @@
 #pragma once
 
 #include "acts/Saisie.h"
-#include "core/Txt.h"
 
 #include <QWidget>
-#include <vector>
+#include <map>
 
-class CadreImage;
-class ListeChoix;
-class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
 
 /// The fields of a new album, the same in both creation forms.
@@ -26,8 +20,10 @@ public:
     /// With `date` the publication date has choices of day, month and year beside it.
     FormulaireAlbum(bool date, QWidget *parent);
 
-    Saisie::Textes textes() const;
-    void poser(const Creer::Album &album, const QString &tome);
+    /// What was entered.
+    Album album() const;
+    /// Fills the fields; the pictures stay.
+    void poser(const Album &album);
     void vider();
     void proposer(const Saisie::Choix &choix);
     /// Proposes a tome, unless the user typed one.
@@ -47,36 +43,30 @@ Q_SIGNALS:
 
 private:
     QWidget *construireChamps();
-    QWidget *construireDate();
-    QWidget *construireCases();
+    QWidget *construireDate(QWidget *champ);
     QWidget *construireImages();
-    void ajouter(QGridLayout *grille, Txt libelle, const QString &nom, QWidget *champ);
-    ListeChoix *ajouterChoix(QGridLayout *grille, Txt libelle, const QString &nom);
+    QWidget *fabriquer(const ChampsDeCreation::ChampDeCreation &champ);
+    void ajouter(QGridLayout *grille, const ChampsDeCreation::ChampDeCreation &champ);
     void composerDate();
-    void choisirImage(int rang);
-    void poserImage(int rang, const QString &chemin);
+    void choisirImage(Rubrique rubrique);
+    void poserImage(Rubrique rubrique, const QString &chemin);
+    QString lire(const ChampsDeCreation::ChampDeCreation &champ) const;
+    void ecrire(const ChampsDeCreation::ChampDeCreation &champ, const QString &texte);
+    template <class T>
+    T *champ(Rubrique rubrique) const
+    {
+        return static_cast<T *>(m_champs.at(rubrique));
+    }
 
     bool m_avecDate;
-    QLineEdit *m_titre = nullptr;
-    QLineEdit *m_tome = nullptr;
-    ListeChoix *m_serie = nullptr;
-    QLineEdit *m_dateparu = nullptr;
+    std::map<Rubrique, QWidget *> m_champs;
+    std::map<Rubrique, QLabel *> m_libelles;
+    std::map<Rubrique, QPushButton *> m_boutons; ///< of the pictures
+    std::map<Rubrique, QString> m_images; ///< files, by path
     QComboBox *m_jour = nullptr;
     QComboBox *m_mois = nullptr;
     QComboBox *m_annee = nullptr;
-    ListeChoix *m_editeur = nullptr;
-    ListeChoix *m_genre = nullptr;
-    ListeChoix *m_dessin = nullptr;
-    ListeChoix *m_scena = nullptr;
-    ListeChoix *m_color = nullptr;
-    QLineEdit *m_prix = nullptr;
-    QPlainTextEdit *m_histoire = nullptr;
-    QCheckBox *m_cases[3] = {};
     QHBoxLayout *m_ligneCases = nullptr;
-    CadreImage *m_cadres[2] = {};
-    QPushButton *m_boutons[2] = {};
-    QString m_images[2];
-    std::vector<std::pair<QLabel *, Txt>> m_libelles;
     bool m_tomePropose = false;
     QWidget *m_refuse = nullptr;
 };

@@ -9,6 +9,7 @@
 #include "core/ui/Suivi.h"
 #include "core/ui/Theme.h"
 #include "core/ui/TitreGroupe.h"
+#include "model/Fiche.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -29,30 +30,29 @@ constexpr int LargeurColonnes = 340;
 constexpr int HauteurLigne = 24;
 constexpr int HauteurRapport = 110;
 
-/// The fields in their order, by name.
-constexpr std::array Libelles{Txt::TitreAlbum, Txt::NumeroDeLAlbum, Txt::Serie, Txt::DateDeParution,
-    Txt::Editeur, Txt::Brochee, Txt::Couleur, Txt::Integrale, Txt::Genre, Txt::Dessinateur, Txt::Coloriste,
-    Txt::Scenariste, Txt::Resume, Txt::Couverture, Txt::Couverture, Txt::PrixDAchat};
-static_assert(Libelles.size() == NombreDeChamps);
-
-QString libelleDe(std::size_t champ)
+QString libelleDe(Rubrique rubrique)
 {
-    const QString libelle = texte(Libelles[champ]);
-    return static_cast<Champ>(champ) == Champ::Photo2 ? libelle + QStringLiteral(" 2") : libelle;
+    const QString libelle = texte(ChampsDeCreation::De(rubrique).champ->libelle);
+    return rubrique == Rubrique::Photo2 ? libelle + QStringLiteral(" 2") : libelle;
 }
 
-QString ouiNon(bool oui)
+/// What was read for it, as a person reads it.
+QString montree(Rubrique rubrique, const QString &lu)
 {
-    return texte(oui ? Txt::Oui : Txt::Non);
+    const ChampsDeCreation::ChampDeCreation &champ = ChampsDeCreation::De(rubrique);
+    if (champ.maniere == ChampsDeCreation::Case)
+        return texte(lu == QLatin1String(ChampsDeCreation::TexteDeCase(champ, true)) ? Txt::Oui : Txt::Non);
+    const double nombre = Fiche::LireMontant(lu).value_or(0);
+    if (champ.champ->regle == Champs::Regle::Tome)
+        return nombre > 0 ? QString::number(nombre) : QString();
+    if (champ.champ->regle == Champs::Regle::Prix)
+        return nombre > 0 ? Traduction::courant().locale().toString(nombre, 'f', 2) : QString();
+    return lu.simplified();
 }
 
-/// An album's parts as texts, in the order of the fields.
-QStringList cellulesDe(const Creer::Album &a)
+std::size_t rang(Rubrique rubrique)
 {
-    return {a.titre, a.tome > 0 ? QString::number(a.tome) : QString(), a.serie, a.dateparu, a.editeur,
-        ouiNon(a.broche), ouiNon(a.couleur), ouiNon(a.integrale), a.genre, a.dessin, a.color, a.scena,
-        a.histoire.simplified(), a.photo1, a.photo2,
-        a.prix > 0 ? Traduction::courant().locale().toString(a.prix, 'f', 2) : QString()};
+    return static_cast<std::size_t>(rubrique);
 }
 
 }
@@ -95,15 +95,16 @@ QWidget *Import::construireCorrespondance()
     grille->setContentsMargins(0, 0, Theme::Petit, 0);
     grille->setVerticalSpacing(Theme::Fin);
     grille->setColumnStretch(1, 1);
-    for (std::size_t i = 0; i < NombreDeChamps; ++i) {
-        const int rang = static_cast<int>(i);
-        m_libelles[i] = new QLabel(champs);
-        m_colonnes[i] = nommer(new QComboBox(champs), QStringLiteral("Correspondance"), rang);
-        m_colonnes[i]->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        m_libelles[i]->setBuddy(m_colonnes[i]);
-        grille->addWidget(m_libelles[i], rang, 0);
-        grille->addWidget(m_colonnes[i], rang, 1);
-        connect(m_colonnes[i], &QComboBox::activated, this, &Import::montrerExemples);
+    for (const Rubrique rubrique : Rubriques()) {
+        const int ligne = grille->rowCount() - 1;
+        auto *libelle = new QLabel(champs);
+        auto *choix = nommer(new QComboBox(champs), QStringLiteral("Correspondance"), ligne);
+        choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        libelle->setBuddy(choix);
+        grille->addWidget(libelle, ligne, 0);
+        grille->addWidget(choix, ligne, 1);
+        connect(choix, &QComboBox::activated, this, &Import::montrerExemples);
+        m_colonnes.push_back({rubrique, libelle, choix});
     }
     auto *defilement = new QScrollArea(zone);
     defilement->setWidgetResizable(true);
@@ -171,19 +172,19 @@ void Import::ouvrir(const QString &chemin)
     m_rapport->hide();
     m_message->clear();
     proposerColonnes();
-    m_colonnes.front()->setFocus();
+    m_colonnes.front().choix->setFocus();
 }
 
 /// The columns of the file in every list, each list on the one that seems to be meant.
 void Import::proposerColonnes()
 {
     const Correspondance proposee = Proposer(m_apercu.entete);
-    for (std::size_t i = 0; i < NombreDeChamps; ++i) {
-        m_colonnes[i]->clear();
-        m_colonnes[i]->addItem(QStringLiteral("—"));
-        m_colonnes[i]->addItems(m_apercu.entete);
-        m_colonnes[i]->setCurrentIndex(proposee[i] + 1);
-        m_colonnes[i]->setEnabled(!m_chemin.isEmpty());
+    for (const Colonne &colonne : m_colonnes) {
+        colonne.choix->clear();
+        colonne.choix->addItem(QStringLiteral("—"));
+        colonne.choix->addItems(m_apercu.entete);
+        colonne.choix->setCurrentIndex(proposee[rang(colonne.rubrique)] + 1);
+        colonne.choix->setEnabled(!m_chemin.isEmpty());
     }
     m_doublons->setEnabled(!m_chemin.isEmpty());
     m_importe = false;
@@ -202,22 +203,22 @@ void Import::nommerFichier()
 
 Correspondance Import::correspondance() const
 {
-    Correspondance c{};
-    for (std::size_t i = 0; i < NombreDeChamps; ++i)
-        c[i] = m_colonnes[i]->currentIndex() - 1;
-    return c;
+    Correspondance correspondance = Aucune();
+    for (const Colonne &colonne : m_colonnes)
+        correspondance[rang(colonne.rubrique)] = colonne.choix->currentIndex() - 1;
+    return correspondance;
 }
 
 /// The first rows as they would come in; a row that is refused says why.
 void Import::montrerExemples()
 {
     const Correspondance c = correspondance();
-    std::vector<std::size_t> montres;
+    std::vector<Rubrique> montres;
     QStringList tetes;
-    for (std::size_t i = 0; i < NombreDeChamps; ++i) {
-        if (c[i] >= 0) {
-            montres.push_back(i);
-            tetes << libelleDe(i);
+    for (const Rubrique rubrique : Rubriques()) {
+        if (c[rang(rubrique)] >= 0) {
+            montres.push_back(rubrique);
+            tetes << libelleDe(rubrique);
         }
     }
     m_exemples->clear();
@@ -228,9 +229,8 @@ void Import::montrerExemples()
         const Composee composee = Composer(rangee, c);
         const int ligne = m_exemples->rowCount();
         m_exemples->insertRow(ligne);
-        const QStringList cellules = cellulesDe(composee.album);
         for (std::size_t i = 0; i < montres.size(); ++i) {
-            auto *cellule = new QTableWidgetItem(cellules[static_cast<qsizetype>(montres[i])]);
+            auto *cellule = new QTableWidgetItem(montree(montres[i], composee.album[montres[i]]));
             if (!composee.refus.isEmpty()) {
                 cellule->setText(i == 0 ? composee.refus : QString());
                 cellule->setForeground(Theme::Rouge(palette()));
@@ -239,7 +239,7 @@ void Import::montrerExemples()
         }
     }
     m_exemples->resizeColumnsToContents();
-    const bool titre = c[static_cast<std::size_t>(Champ::Titre)] >= 0;
+    const bool titre = c[rang(Rubrique::Titre)] >= 0;
     m_valider->setEnabled(titre && m_apercu.nombre > 0 && !m_importe);
     if (!m_chemin.isEmpty() && !m_importe)
         m_message->setText(titre ? QString() : tr("Dites quelle colonne est celle du titre."));
@@ -285,9 +285,9 @@ void Import::Traduire()
     libeller(m_choisir, tr("Choisir un fichier…"));
     m_titreColonnes->setText(tr("Quelle colonne pour quoi ?"));
     m_titreExemples->setText(tr("Les premières lignes, telles qu'elles entreront"));
-    for (std::size_t i = 0; i < NombreDeChamps; ++i) {
-        m_libelles[i]->setText(libelleDe(i));
-        m_colonnes[i]->setAccessibleName(libelleDe(i));
+    for (const Colonne &colonne : m_colonnes) {
+        colonne.libelle->setText(libelleDe(colonne.rubrique));
+        colonne.choix->setAccessibleName(libelleDe(colonne.rubrique));
     }
     m_libelleDoublons->setText(tr("Un album de même titre, série et tome :"));
     m_doublons->setItemText(0, tr("le sauter"));

@@ -29,6 +29,14 @@ protected:
     void Traduire() override;
 
 private:
+    /// Which column of the file holds something.
+    struct Colonne
+    {
+        Rubrique rubrique;
+        QLabel *libelle;
+        QComboBox *choix;
+    };
+
     QWidget *construireCorrespondance();
     QWidget *construireExemples();
     void choisirFichier();
@@ -47,8 +55,7 @@ private:
     QPushButton *m_choisir = nullptr;
     TitreGroupe *m_titreColonnes = nullptr;
     TitreGroupe *m_titreExemples = nullptr;
-    std::array<QLabel *, Importer::NombreDeChamps> m_libelles{};
-    std::array<QComboBox *, Importer::NombreDeChamps> m_colonnes{};
+    std::vector<Colonne> m_colonnes;
     QTableWidget *m_exemples = nullptr;
     QComboBox *m_doublons = nullptr;
     QLabel *m_libelleDoublons = nullptr;

@@ -1,6 +1,7 @@
 #include "webimport/BDNet.h"
 
 #include "acts/Demandes.h"
+#include "acts/Saisie.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
@@ -247,13 +248,13 @@ void BDNet::montrerEchec(const QString &raison)
 
 void BDNet::creer()
 {
-    const CreationBDNet::Saisie saisie = m_detail->saisie();
-    if (const auto refus = CreationBDNet::Verifier(saisie)) {
+    const Album album = m_detail->album();
+    if (const auto refus = Saisie::Verifier(album)) {
         dire(refus->raison);
-        m_detail->designer(refus->champ);
+        m_detail->designer(refus->rubrique);
         return;
     }
-    const int num = CreationBDNet::Creer(saisie);
+    const int num = Saisie::CreerAlbum(album);
     Messages::Informer(this, texte(Txt::CreationEffectuee));
     revenir();
     Q_EMIT m_demandes.liste(General::Tri::Albums);

@@ -11,14 +11,35 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+using ChampsDeCreation::ChampDeCreation;
+using ChampsDeCreation::Maniere;
+
 namespace {
 
-using namespace CreationBDNet;
-
 constexpr QSize TailleCadre(180, 240);
-constexpr Txt Libelles[NombreDeChamps] = {Txt::TitreDeLAlbum, Txt::NumeroAbrege, Txt::DateDeParution,
-    Txt::TitreDeLaSerie, Txt::Genre, Txt::Dessinateur, Txt::Scenariste, Txt::Editeur, Txt::Prix};
-constexpr Txt Cases[] = {Txt::Broche, Txt::Couleur, Txt::Integrale};
+
+/// What pages have, in the order of its lines.
+std::vector<const ChampDeCreation *> lignes()
+{
+    std::vector<const ChampDeCreation *> champs;
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        if (champ.page.rang >= 0)
+            champs.push_back(&champ);
+    }
+    std::ranges::sort(champs, {}, [](const ChampDeCreation *champ) { return champ->page.rang; });
+    return champs;
+}
+
+/// The boxes, in the order of the forms.
+std::vector<const ChampDeCreation *> cases()
+{
+    std::vector<const ChampDeCreation *> champs;
+    for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
+        if (champ.maniere == Maniere::Case && champ.controle)
+            champs.push_back(&champ);
+    }
+    return champs;
+}
 
 }
 
@@ -50,17 +71,18 @@ QWidget *DetailBDNet::construireChamps()
         grille->addWidget(champ, rang, 1);
         return libelle;
     };
-    for (int i = 0; i < NombreDeChamps; ++i) {
-        m_champs.push_back(nommer(new QLineEdit(zone), QStringLiteral("Dataa"), i));
-        m_libelles.push_back(ajouter(m_champs.back()));
+    for (const ChampDeCreation *champ : lignes()) {
+        auto *ligne = nommer(new QLineEdit(zone), QStringLiteral("Dataa"), champ->page.rang);
+        m_champs[champ->rubrique] = ligne;
+        m_libelles[champ->rubrique] = ajouter(ligne);
     }
-    auto *cases = new QHBoxLayout;
-    for (int i = 0; i < 3; ++i) {
-        m_cases[i] = nommer(new QCheckBox(zone), QStringLiteral("InfoSupp"), i);
-        cases->addWidget(m_cases[i]);
+    auto *boites = new QHBoxLayout;
+    for (const ChampDeCreation *champ : cases()) {
+        m_cases[champ->rubrique] = nommer(new QCheckBox(zone), QString::fromLatin1(champ->controle));
+        boites->addWidget(m_cases[champ->rubrique]);
     }
-    cases->addStretch(1);
-    grille->addLayout(cases, grille->rowCount(), 1);
+    boites->addStretch(1);
+    grille->addLayout(boites, grille->rowCount(), 1);
     m_histoire = nommer(new QPlainTextEdit(zone), QStringLiteral("Histoire"));
     m_histoire->setTabChangesFocus(true);
     m_libelleHistoire = ajouter(m_histoire);
@@ -75,68 +97,65 @@ QWidget *DetailBDNet::construireImages()
     auto *colonne = new QVBoxLayout(zone);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(Theme::Petit);
-    for (int i = 0; i < 2; ++i) {
-        m_cadres[i] = nommer(new CadreImage(zone), QStringLiteral("Photo%1").arg(i + 1));
-        m_cadres[i]->setFixedSize(TailleCadre);
-        colonne->addWidget(m_cadres[i]);
+    for (const Rubrique photo : {Rubrique::Photo1, Rubrique::Photo2}) {
+        auto *cadre = nommer(new CadreImage(zone), QString::fromLatin1(ChampsDeCreation::De(photo).controle));
+        m_cadres[photo] = cadre;
+        cadre->setFixedSize(TailleCadre);
+        colonne->addWidget(cadre);
     }
     return zone;
 }
 
 void DetailBDNet::montrer(const Importation::Resultat &resultat)
 {
-    const AnalysePage::Page &page = resultat.page;
-    const QString valeurs[NombreDeChamps] = {page.titre, page.tome, page.date, page.serie, page.genre,
-        page.dessinateurs, page.scenariste, page.editeur, page.prix};
-    for (int i = 0; i < NombreDeChamps; ++i) {
-        m_champs[static_cast<std::size_t>(i)]->setText(valeurs[i]);
-        m_champs[static_cast<std::size_t>(i)]->setCursorPosition(0);
+    m_montre = resultat.album;
+    for (const auto &[rubrique, ligne] : m_champs) {
+        ligne->setText(m_montre[rubrique]);
+        ligne->setCursorPosition(0);
     }
-    m_cases[0]->setChecked(resultat.broche);
-    m_cases[1]->setChecked(resultat.couleur);
+    for (const auto &[rubrique, boite] : m_cases)
+        boite->setChecked(m_montre[rubrique] == QLatin1String("1"));
     m_histoire->clear();
-    for (int i = 0; i < 2; ++i) {
-        m_photos[i] = resultat.photos[i];
-        m_cadres[i]->montrer(m_photos[i]);
-    }
-    designer(Titre);
+    for (const auto &[rubrique, cadre] : m_cadres)
+        cadre->montrer(m_montre[rubrique]);
+    designer(Rubrique::Titre);
 }
 
-CreationBDNet::Saisie DetailBDNet::saisie() const
+Album DetailBDNet::album() const
 {
-    Saisie saisie;
-    for (std::size_t i = 0; i < m_champs.size(); ++i)
-        saisie.champs[i] = m_champs[i]->text();
-    saisie.broche = m_cases[0]->isChecked();
-    saisie.couleur = m_cases[1]->isChecked();
-    saisie.integrale = m_cases[2]->isChecked();
-    saisie.histoire = m_histoire->toPlainText();
-    for (int i = 0; i < 2; ++i)
-        saisie.photos[i] = m_photos[i];
-    return saisie;
+    Album album = m_montre;
+    for (const auto &[rubrique, ligne] : m_champs)
+        album[rubrique] = ligne->text().trimmed();
+    for (const auto &[rubrique, boite] : m_cases)
+        album[rubrique] = QLatin1String(
+            ChampsDeCreation::TexteDeCase(ChampsDeCreation::De(rubrique), boite->isChecked()));
+    album[Rubrique::Histoire] = m_histoire->toPlainText();
+    return album;
 }
 
-void DetailBDNet::designer(CreationBDNet::Champ champ)
+void DetailBDNet::designer(Rubrique rubrique)
 {
-    QLineEdit *ligne = m_champs[static_cast<std::size_t>(champ)];
-    ligne->setFocus();
-    ligne->selectAll();
+    const auto ligne = m_champs.find(rubrique);
+    if (ligne == m_champs.end())
+        return;
+    ligne->second->setFocus();
+    ligne->second->selectAll();
 }
 
 void DetailBDNet::Traduire()
 {
-    for (std::size_t i = 0; i < m_champs.size(); ++i) {
-        QString libelle = texte(Libelles[i]);
-        if (i == PrixA)
+    for (const ChampDeCreation *champ : lignes()) {
+        QString libelle = texte(champ->page.libelle);
+        if (champ->rubrique == Rubrique::Prix)
             libelle += QStringLiteral(" (") + texte(Txt::Euro) + u')';
-        m_libelles[i]->setText(libelle);
-        m_champs[i]->setAccessibleName(libelle);
+        m_libelles[champ->rubrique]->setText(libelle);
+        m_champs[champ->rubrique]->setAccessibleName(libelle);
     }
-    for (int i = 0; i < 3; ++i)
-        libeller(m_cases[i], texte(Cases[i]));
+    for (const ChampDeCreation *champ : cases())
+        libeller(m_cases[champ->rubrique], texte(champ->libelle));
     m_libelleHistoire->setText(texte(Txt::Resume));
     m_histoire->setAccessibleName(texte(Txt::Resume));
-    for (CadreImage *cadre : m_cadres) {
+    for (const auto &[rubrique, cadre] : m_cadres) {
         cadre->poserLegende(texte(Txt::Couverture));
         cadre->setAccessibleName(texte(Txt::Couverture));
     }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "webimport/CreationBDNet.h"
+#include "model/Album.h"
 #include "webimport/Importation.h"
 
 #include <QWidget>
-#include <vector>
+#include <map>
 
 class CadreImage;
 class QCheckBox;
@@ -21,20 +21,21 @@ public:
     explicit DetailBDNet(QWidget *parent);
 
     void montrer(const Importation::Resultat &resultat);
-    CreationBDNet::Saisie saisie() const;
+    /// What stands in the fields now.
+    Album album() const;
     /// Puts the cursor into the field.
-    void designer(CreationBDNet::Champ champ);
+    void designer(Rubrique rubrique);
     void Traduire();
 
 private:
     QWidget *construireChamps();
     QWidget *construireImages();
 
-    std::vector<QLineEdit *> m_champs;
-    std::vector<QLabel *> m_libelles;
-    QCheckBox *m_cases[3] = {};
+    Album m_montre; ///< what the page gave, also what has no field here
+    std::map<Rubrique, QLineEdit *> m_champs;
+    std::map<Rubrique, QLabel *> m_libelles;
+    std::map<Rubrique, QCheckBox *> m_cases;
     QLabel *m_libelleHistoire = nullptr;
     QPlainTextEdit *m_histoire = nullptr;
-    CadreImage *m_cadres[2] = {};
-    QString m_photos[2];
+    std::map<Rubrique, CadreImage *> m_cadres;
 };

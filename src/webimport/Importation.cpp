@@ -15,6 +15,36 @@ namespace {
 const QString MotBroche = QStringLiteral("BROCHÉ");
 const QString MotCouleur = QStringLiteral("COULEUR");
 
+/// Where a page tells what.
+struct Part
+{
+    Rubrique rubrique;
+    QString AnalysePage::Page::*texte;
+};
+constexpr Part Parts[] = {
+    {Rubrique::Titre, &AnalysePage::Page::titre},
+    {Rubrique::Tome, &AnalysePage::Page::tome},
+    {Rubrique::Dateparu, &AnalysePage::Page::date},
+    {Rubrique::Serie, &AnalysePage::Page::serie},
+    {Rubrique::Genre, &AnalysePage::Page::genre},
+    {Rubrique::Dessin, &AnalysePage::Page::dessinateurs},
+    {Rubrique::Scena, &AnalysePage::Page::scenariste},
+    {Rubrique::Editeur, &AnalysePage::Page::editeur},
+    {Rubrique::Prix, &AnalysePage::Page::prix},
+};
+
+Album albumDe(const AnalysePage::Page &page)
+{
+    Album album;
+    for (const Part &part : Parts)
+        album[part.rubrique] = page.*part.texte;
+    for (const auto &[rubrique, oui] :
+        {std::pair(Rubrique::Broche, page.description.toUpper().contains(MotBroche)),
+            std::pair(Rubrique::Couleur, page.finition.toUpper().contains(MotCouleur))})
+        album[rubrique] = QLatin1String(ChampsDeCreation::TexteDeCase(ChampsDeCreation::De(rubrique), oui));
+    return album;
+}
+
 void garderPage(const QByteArray &octets)
 {
     const QString chemin = Dossier::courant().chemin(QStringLiteral("temp.txt"));
@@ -82,8 +112,7 @@ void Importation::lirePage(const QByteArray &octets)
         m_resultat.complet = false;
     }
     page.titre = AnalysePage::NettoyerTitre(page.titre);
-    m_resultat.broche = page.description.toUpper().contains(MotBroche);
-    m_resultat.couleur = page.finition.toUpper().contains(MotCouleur);
+    m_resultat.album = albumDe(page);
     if (page.couverture.isEmpty() || Reglages::courant().texte(Cle::HoteBDNet).isEmpty())
         return terminer();
     m_rang = Rang::Premiere;
@@ -102,7 +131,8 @@ void Importation::garderCouverture(const QByteArray &octets)
     const bool premiere = *m_rang == Rang::Premiere;
     try {
         if (!octets.isEmpty())
-            m_resultat.photos[premiere ? 0 : 1] = Couvertures::Garder(octets, m_titreDesImages, *m_rang);
+            m_resultat.album[premiere ? Rubrique::Photo1 : Rubrique::Photo2]
+                = Couvertures::Garder(octets, m_titreDesImages, *m_rang);
     } catch (const Error &) {
         // Nothing depends on a picture: the sheet shows that there is none.
     }

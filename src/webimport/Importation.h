@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Album.h"
 #include "webimport/AnalyserPage.h"
 #include "webimport/Couvertures.h"
 #include "webimport/Telechargement.h"
@@ -17,9 +18,7 @@ public:
     struct Resultat
     {
         AnalysePage::Page page; ///< title cleaned
-        bool broche = false;
-        bool couleur = false;
-        QString photos[2]; ///< bare names in "images"; empty for none
+        Album album; ///< what it says of the album; pictures by their bare names in "images"
         bool complet = true; ///< the page was read to its end
     };
 

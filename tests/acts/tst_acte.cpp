@@ -12,7 +12,6 @@
 #include "support/Ecoute.h"
 #include "support/Etapes.h"
 #include "support/Refus.h"
-#include "webimport/CreationBDNet.h"
 
 #include <QImage>
 #include <QTest>
@@ -43,14 +42,8 @@ namespace {
 /// An album with a series, an author, a borrower and a quote, and one entry of every other kind.
 void peupler()
 {
-    Creer::Album album;
-    album.titre = "L'été";
-    album.tome = 3;
-    album.serie = "Écume";
-    album.editeur = "Plage";
-    album.genre = "Mer";
-    album.dessin = "Sable, Jean";
-    Creer::CreerAlbum(album);
+    Creer::CreerAlbum({{Rubrique::Titre, "L'été"}, {Rubrique::Tome, "3"}, {Rubrique::Serie, "Écume"},
+        {Rubrique::Editeur, "Plage"}, {Rubrique::Genre, "Mer"}, {Rubrique::Dessin, "Sable, Jean"}});
     for (const char *sql : {"INSERT INTO Pret VALUES (1, 'Voisin', ' ', ' ')", "UPDATE Album SET NPret = 1",
              "UPDATE LAlbums SET Photo2 = 'dos.jpg', dedi1 = 'note'",
              "INSERT INTO CotesAlbum VALUES (1, '2026', '12')", "INSERT INTO Coll VALUES (1, 'Voiles')",
@@ -65,15 +58,11 @@ Edition edition(Tri tri, const char *champ, const QString &affichee = {}, const 
     return {{tri, 1}, Champs::Chercher(GenreDe(tri).feuille, champ), affichee, stockee};
 }
 
-Saisie::Textes nouveau()
+Album nouveau()
 {
-    Saisie::Textes t;
-    t.album.titre = "Neuf";
-    t.album.serie = "Neuve";
-    t.album.editeur = "Neuf";
-    t.album.genre = "Neuf";
-    t.album.dessin = "Neuf, Jean";
-    return t;
+    return {{Rubrique::Titre, "Neuf"}, {Rubrique::Serie, "Neuve"}, {Rubrique::Editeur, "Neuf"},
+        {Rubrique::Genre, "Neuf"}, {Rubrique::Dessin, "Neuf, Jean"}, {Rubrique::Collection, "Neuve"},
+        {Rubrique::Isbn, "2-205-00001-0"}};
 }
 
 QString image(const Bac &bac)
@@ -146,12 +135,6 @@ void tst_acte::chaqueActeEstUneEtapeEnSonLieu_data()
     cas("retour", album, [](auto &) { Preter::Rendre(1); });
     cas("emprunteur supprime", {}, [](auto &) { Preter::SupprimerEmprunteur(1); });
     cas("creation", {Tri::Albums, 2}, [](auto &) { Saisie::CreerAlbum(nouveau()); });
-    cas("creation d'une page", {Tri::Albums, 2}, [](auto &) {
-        CreationBDNet::Saisie saisie;
-        saisie.champs[CreationBDNet::Titre] = "Neuf";
-        saisie.champs[CreationBDNet::Genre] = "Neuf";
-        CreationBDNet::Creer(saisie);
-    });
     cas("importation", {}, [](auto &bac) {
         Bac::ecrire(bac.chemin("a.csv"), "Titre,Genre\nA,Un\nB,Deux\n");
         Importer::ImporterAlbums(

@@ -1,5 +1,7 @@
 #include "acts/Creer.h"
+#include "core/Dates.h"
 #include "db/Base.h"
+#include "model/Fiche.h"
 #include "support/Bac.h"
 
 #include <QTest>
@@ -12,6 +14,7 @@ class tst_creer : public QObject
 
 private Q_SLOTS:
     void lePremierAlbumFaitToutesSesLignes();
+    void toutCeQuiEstSaisiSeMontre();
     void lesNomsConnusSontRetrouves();
     void leMemeAuteurDeuxFoisNAQuUneLigne();
     void unAuteurSEcritNomVirgulePrenom();
@@ -38,12 +41,13 @@ QStringList lignes(const QString &table)
     return resultat;
 }
 
-Creer::Album albumComplet()
+Album albumComplet()
 {
-    return {QStringLiteral("L'Écume d'été"), 3, QStringLiteral("Zig"), QStringLiteral("mai 1931"),
-        QStringLiteral("Plon"), true, true, false, QStringLiteral("Humour"), QStringLiteral("Pinchon"),
-        QStringLiteral("Gris"), QStringLiteral("D'Ivoi"), QStringLiteral("Un récit."),
-        QStringLiteral("a.jpg"), QString(), 12.5};
+    return {{Rubrique::Titre, "L'Écume d'été"}, {Rubrique::Tome, "3"}, {Rubrique::Serie, "Zig"},
+        {Rubrique::Dateparu, "mai 1931"}, {Rubrique::Editeur, "Plon"}, {Rubrique::Broche, "1"},
+        {Rubrique::Couleur, "1"}, {Rubrique::Integrale, "0"}, {Rubrique::Genre, "Humour"},
+        {Rubrique::Dessin, "Pinchon"}, {Rubrique::Color, "Gris"}, {Rubrique::Scena, "D'Ivoi"},
+        {Rubrique::Histoire, "Un récit."}, {Rubrique::Photo1, "a.jpg"}, {Rubrique::Prix, "12,5"}};
 }
 
 }
@@ -67,16 +71,40 @@ void tst_creer::lePremierAlbumFaitToutesSesLignes()
     QVERIFY(lignes("CollAlbums").isEmpty() && lignes("PaysAlbum").isEmpty());
 }
 
+/// Whatever can be entered is stored, and its sheet shows it.
+void tst_creer::toutCeQuiEstSaisiSeMontre()
+{
+    const Bac bac;
+    Album album;
+    for (const auto &champ : ChampsDeCreation::Tous) {
+        const bool nombre
+            = champ.champ->regle != Champs::Regle::Texte && champ.champ->regle != Champs::Regle::Titre;
+        album[champ.rubrique] = nombre && !champ.champ->source ? "1" : "Ceci";
+    }
+    const auto valeurs = Fiche::Lire(Champs::Feuille::Album, Creer::CreerAlbum(album));
+    for (const auto &champ : ChampsDeCreation::Tous) {
+        const ValeurDeChamp &valeur = valeurs->at(champ.champ->nom);
+        const QString texte = album[champ.rubrique];
+        QVERIFY2(valeur.affichee == texte || valeur.stockee.toString() == texte
+                || (champ.champ->regle == Champs::Regle::Drapeau && valeur.stockee.toBool()),
+            champ.champ->nom);
+    }
+    // A loan whose date nobody gave begins today.
+    album[Rubrique::DatePret].clear();
+    Creer::CreerAlbum(album);
+    QCOMPARE(Bac::valeur("SELECT DPret FROM Album WHERE Num = 2"), Dates::Ecrire(QDate::currentDate()));
+}
+
 void tst_creer::lesNomsConnusSontRetrouves()
 {
     const Bac bac;
     Creer::CreerAlbum(albumComplet());
-    Creer::Album second = albumComplet();
-    second.titre = QString(60, u'x');
-    second.serie = QStringLiteral("ZIG");
-    second.editeur = QStringLiteral("plon");
-    second.scena = QStringLiteral("d'ivoi");
-    second.couleur = false;
+    Album second = albumComplet();
+    second[Rubrique::Titre] = QString(60, u'x');
+    second[Rubrique::Serie] = QStringLiteral("ZIG");
+    second[Rubrique::Editeur] = QStringLiteral("plon");
+    second[Rubrique::Scena] = QStringLiteral("d'ivoi");
+    second[Rubrique::Couleur] = "2";
     QCOMPARE(Creer::CreerAlbum(second), 2);
     for (const char *table : {"Genre", "Editeur", "Serie"})
         QCOMPARE(lignes(QLatin1String(table)).size(), 1);
@@ -90,9 +118,9 @@ void tst_creer::lesNomsConnusSontRetrouves()
 void tst_creer::leMemeAuteurDeuxFoisNAQuUneLigne()
 {
     const Bac bac;
-    Creer::Album album = albumComplet();
-    album.scena = QStringLiteral("pinchon");
-    album.color.clear();
+    Album album = albumComplet();
+    album[Rubrique::Scena] = QStringLiteral("pinchon");
+    album[Rubrique::Color].clear();
     Creer::CreerAlbum(album);
     QCOMPARE(lignes("AuteursAlbums"), QStringList("1|1|-1|-1|0"));
     QCOMPARE(lignes("Auteurs"), QStringList("1|Pinchon| | | | |0| | | | | |-1|-1|0"));
@@ -115,10 +143,10 @@ void tst_creer::unAuteurSEcritNomVirgulePrenom()
 void tst_creer::sansNomNiEntreeNiLien()
 {
     const Bac bac;
-    Creer::Album album;
-    album.titre = QStringLiteral("Seul");
-    album.serie = QStringLiteral("  ");
-    album.editeur = QStringLiteral(" ");
+    Album album;
+    album[Rubrique::Titre] = QStringLiteral("Seul");
+    album[Rubrique::Serie] = QStringLiteral("  ");
+    album[Rubrique::Editeur] = QStringLiteral(" ");
     Creer::CreerAlbum(album);
     for (const char *table : {"Genre", "Editeur", "Serie", "Auteurs", "SerieAlbums", "GenreAlbums",
              "EditeurAlbums", "AuteursAlbums"})

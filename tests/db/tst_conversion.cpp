@@ -252,8 +252,8 @@ void tst_conversion::leCatalogueGardeSesTextes()
     QVERIFY(liste.telsQuels && liste.illisibles == 0);
     QCOMPARE(liste.albums.texte(0), "Xq zé  (N° 7)");
     const auto reference = Catalogue::LireReference(5);
-    QVERIFY(reference && reference->couleur);
-    QCOMPARE(reference->serie, "Ww");
+    QVERIFY(reference && reference->album[Rubrique::Couleur] == "1");
+    QCOMPARE(reference->album[Rubrique::Serie], "Ww");
 }
 
 void tst_conversion::unRefusNeLaisseRien_data()

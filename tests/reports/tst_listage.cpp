@@ -54,12 +54,9 @@ QStringList premiere(const Tableau &tableau)
 
 int creer(const char *titre, const char *serie = "", int tome = 0, const char *paru = "")
 {
-    Creer::Album album;
-    album.titre = QString::fromUtf8(titre);
-    album.serie = QString::fromUtf8(serie);
-    album.tome = tome;
-    album.dateparu = QString::fromUtf8(paru);
-    return Creer::CreerAlbum(album);
+    return Creer::CreerAlbum(
+        {{Rubrique::Titre, QString::fromUtf8(titre)}, {Rubrique::Serie, QString::fromUtf8(serie)},
+            {Rubrique::Tome, QString::number(tome)}, {Rubrique::Dateparu, QString::fromUtf8(paru)}});
 }
 
 /// What the sheet shows for a field, in the words of a list.
