@@ -3,7 +3,6 @@
 #include "acts/Demandes.h"
 #include "browse/BandeSerie.h"
 #include "browse/GrilleFiche.h"
-#include "core/Images.h"
 #include "core/Traduction.h"
 #include "core/ui/CadreImage.h"
 #include "core/ui/Icones.h"
@@ -18,9 +17,6 @@
 
 namespace {
 
-/// The two dedications: notes, or pictures that stand below.
-constexpr const Champs::Champ *Dedicaces[]
-    = {&Champs::De(Champs::Feuille::Album, "Dedi(0)"), &Champs::De(Champs::Feuille::Album, "Dedi(1)")};
 constexpr int LargeursImage[] = {216, 290, 380};
 constexpr qreal ProportionImage = 4.0 / 3.0;
 constexpr int HauteurMemo = 84;
@@ -136,8 +132,11 @@ QWidget *FicheAlbum::construireCouverture()
 
     m_zoneImage = nommer(new QWidget(zone), QStringLiteral("SSResizer3"));
     auto *faces = new QStackedLayout(m_zoneImage);
-    faces->addWidget(creer("Photo1"));
-    faces->addWidget(creer("Photo2"));
+    int rang = 0;
+    for (const char *champ : {"Photo1", "Photo2"}) {
+        m_faces[rang] = qobject_cast<CadreImage *>(creer(champ));
+        faces->addWidget(m_faces[rang++]);
+    }
     colonne->addWidget(m_zoneImage);
 
     m_rectoVerso = bouton(zone, QStringLiteral("RectoVerso"), QStringLiteral("retourner"));
@@ -250,11 +249,11 @@ void FicheAlbum::construireDedicaces(QBoxLayout *colonne)
     for (const char *champ : {"Dedi(0)", "Dedi(1)", "LieuD", "DateD", "EtatD"})
         ajouterLigne(grille, champ);
     auto *images = new QHBoxLayout;
-    for (int i = 0; i < 2; ++i) {
-        m_photosD[i] = nommer(new CadreImage(this), QStringLiteral("PhotoD"), i);
-        m_photosD[i]->setFixedHeight(HauteurDedicace);
-        brancherCadre(*Dedicaces[i], m_photosD[i]);
-        images->addWidget(m_photosD[i]);
+    int rang = 0;
+    for (const char *champ : {"Dedi(0)", "Dedi(1)"}) {
+        QWidget *cadre = nommer(creerCadre(champ), QStringLiteral("PhotoD"), rang++);
+        cadre->setFixedHeight(HauteurDedicace);
+        images->addWidget(cadre);
     }
     colonne->addLayout(images);
 }
@@ -302,10 +301,6 @@ Edition FicheAlbum::editionSous(const QWidget *controle) const
                 return editionDeCellule(grille, cellule);
         }
     }
-    for (int i = 0; i < 2; ++i) {
-        if (controle == m_photosD[i])
-            return editionDe(Dedicaces[i], controle);
-    }
     return FicheForme::editionSous(controle);
 }
 
@@ -339,10 +334,6 @@ void FicheAlbum::Traduire()
     expliquer(m_agrandir, texte(Txt::AgrandirLaPhoto));
     expliquer(m_retrecir, texte(Txt::RetrecirLaPhoto));
     m_bande->setAccessibleName(texte(Txt::Serie));
-    controle<CadreImage>("Photo1")->poserLegende(texte(Txt::Couverture));
-    controle<CadreImage>("Photo2")->poserLegende(texte(Txt::Couverture));
-    for (CadreImage *cadre : m_photosD)
-        cadre->setAccessibleName(texte(Txt::Dedicace));
     m_intervenants->Traduire();
     m_cotes->Traduire();
     alignerLibelles(m_gauche);
@@ -362,7 +353,6 @@ void FicheAlbum::montrer(const ChargerAlbums::FicheAlbum &fiche)
         lignes.emplace_back(c.mois, c.cote);
     m_cotes->montrer(lignes);
     montrerInfos(fiche.infos);
-    montrerDedicaces(fiche.valeurs);
     montrerFace(memeAlbum && m_dos);
 }
 
@@ -389,23 +379,11 @@ void FicheAlbum::montrerInfos(const InfosAlbum &infos)
     }
 }
 
-void FicheAlbum::montrerDedicaces(const Valeurs &valeurs)
-{
-    for (int i = 0; i < 2; ++i) {
-        const auto trouvee = valeurs.find(QLatin1String(Dedicaces[i]->nom));
-        const QString valeur = trouvee == valeurs.end() ? QString() : trouvee->second.affichee;
-        CadreImage *cadre = m_photosD[i];
-        const bool image = Images::EstUneImage(valeur);
-        cadre->setVisible(image);
-        cadre->montrer(image ? valeur : QString());
-    }
-}
-
 void FicheAlbum::montrerFace(bool dos)
 {
-    m_dos = dos && controle<CadreImage>("Photo2")->aUneImage();
+    m_dos = dos && m_faces[1]->aUneImage();
     static_cast<QStackedLayout *>(m_zoneImage->layout())->setCurrentIndex(m_dos ? 1 : 0);
-    m_rectoVerso->setEnabled(controle<CadreImage>("Photo2")->aUneImage());
+    m_rectoVerso->setEnabled(m_faces[1]->aUneImage());
 }
 
 void FicheAlbum::poserDefilement(bool defile)
@@ -425,8 +403,8 @@ void FicheAlbum::agrandir(int pas)
     const QSize taille(largeur, static_cast<int>(largeur * ProportionImage));
     m_zoneImage->setFixedSize(taille);
     // The hidden face gets its size, too: its picture is decoded for it.
-    for (const char *face : {"Photo1", "Photo2"})
-        controle<CadreImage>(face)->resize(taille);
+    for (CadreImage *face : m_faces)
+        face->resize(taille);
     m_agrandir->setEnabled(m_taille < derniere);
     m_retrecir->setEnabled(m_taille > 0);
 }

@@ -44,7 +44,6 @@ private:
     Edition editionDeCellule(const GrilleFiche *grille, const Legende *cellule) const;
 
     void montrerInfos(const InfosAlbum &infos);
-    void montrerDedicaces(const Valeurs &valeurs);
     void montrerFace(bool dos);
     void agrandir(int pas);
 
@@ -61,7 +60,7 @@ private:
     QLabel *m_manquants = nullptr;
     QToolButton *m_precedent = nullptr;
     QToolButton *m_suivant = nullptr;
-    CadreImage *m_photosD[2] = {};
+    CadreImage *m_faces[2] = {};
     GrilleFiche *m_intervenants = nullptr;
     GrilleFiche *m_cotes = nullptr;
     QTimer m_defilement;

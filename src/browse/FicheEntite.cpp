@@ -3,15 +3,12 @@
 #include "acts/Demandes.h"
 #include "browse/Etagere.h"
 #include "core/Traduction.h"
-#include "core/ui/CadreImage.h"
-#include "core/ui/Legende.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 #include "core/ui/TitreGroupe.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QRadioButton>
 
 using Champs::Feuille;
 
@@ -150,8 +147,10 @@ QWidget *FicheEntite::construireGroupes()
         }
         if (groupes == &m_plan.droite && m_plan.feuille == Feuille::Auteur)
             construireMetiers(colonne);
-        if (groupes == &m_plan.droite && m_plan.feuille == Feuille::ExLibris)
-            construireTypes(colonne);
+        if (groupes == &m_plan.droite && m_plan.feuille == Feuille::ExLibris) {
+            colonne->addWidget(titreDe(Txt::ExLibris));
+            colonne->addWidget(creer("TypeExlibris"));
+        }
         colonne->addStretch(1);
         colonnes->addLayout(colonne, 1);
     }
@@ -173,25 +172,6 @@ void FicheEntite::construireMetiers(QBoxLayout *colonne)
         });
         colonne->addWidget(m_metiers[i]);
     }
-}
-
-/// The kind of an ex-libris, one button for each.
-void FicheEntite::construireTypes(QBoxLayout *colonne)
-{
-    constexpr int Colonnes = 2;
-    colonne->addWidget(titreDe(Txt::ExLibris));
-    auto *grille = new QGridLayout;
-    grille->setContentsMargins(0, Theme::Fin, 0, 0);
-    for (const Fiche::Option &option : Fiche::Options(Champs::De(Feuille::ExLibris, "TypeExlibris"))) {
-        const int i = option.valeur;
-        auto *bouton = nommer(new QRadioButton(this), QStringLiteral("TypeExlibris"), i);
-        inscrire(bouton);
-        grille->addWidget(bouton, i / Colonnes, i % Colonnes);
-        connect(bouton, &QRadioButton::clicked, this,
-            [this, i] { ecrire(&Champs::De(Feuille::ExLibris, "TypeExlibris"), QString::number(i)); });
-        m_types.push_back(bouton);
-    }
-    colonne->addLayout(grille);
 }
 
 QWidget *FicheEntite::construireMemos()
@@ -218,13 +198,6 @@ void FicheEntite::Traduire()
     m_genre->setText(texte(General::GenreDe(m_tri).bouton));
     for (const auto &[titre, numero] : m_titres)
         titre->setText(texte(numero));
-    const auto types = Fiche::Options(Champs::De(Feuille::ExLibris, "TypeExlibris"));
-    for (std::size_t i = 0; i < m_types.size(); ++i)
-        libeller(m_types[i], types[i].mot);
-    if (m_plan.images) {
-        for (const char *champ : {"Photo1", "Photo2"})
-            controle<CadreImage>(champ)->poserLegende(texte(Txt::Photos));
-    }
     m_albums->setAccessibleName(texte(Txt::ListeDesAlbums));
     alignerLibelles(m_grilles);
 }
@@ -234,31 +207,15 @@ void FicheEntite::montrer(General::Entree entree, const Valeurs &valeurs, const 
     m_tri = entree.tri;
     m_genre->setText(texte(General::GenreDe(m_tri).bouton));
     montrerValeurs(entree, valeurs);
-    montrerType();
     m_albums->montrer(albums);
     m_albums->setVisible(!albums.empty());
     m_nombre->setText(QStringLiteral("%1 %2").arg(albums.size()).arg(texte(Txt::AlbumsUnite)));
     m_nombre->setVisible(!albums.empty());
 }
 
-void FicheEntite::montrerType()
-{
-    const auto type = valeurs().find(QStringLiteral("TypeExlibris"));
-    if (type == valeurs().end())
-        return;
-    // No button is down for a print of no known kind.
-    for (std::size_t i = 0; i < m_types.size(); ++i) {
-        m_types[i]->setAutoExclusive(false);
-        m_types[i]->setChecked(
-            type->second.stockee.isValid() && type->second.stockee.toInt() == static_cast<int>(i));
-        m_types[i]->setAutoExclusive(true);
-    }
-}
-
 void FicheEntite::remontrer()
 {
     FicheForme::remontrer();
-    montrerType();
     if (m_metier)
         montrerMetiers(m_metiersLus);
 }

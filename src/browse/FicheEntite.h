@@ -9,7 +9,6 @@ class Etagere;
 class QBoxLayout;
 class QCheckBox;
 class QGridLayout;
-class QRadioButton;
 class TitreGroupe;
 
 /// The sheet of a series, author, publisher, ex-libris, press item or collection, laid out by a plan: head,
@@ -33,12 +32,10 @@ private:
     struct Plan;
     static const Plan &PlanDe(Champs::Feuille feuille);
 
-    void montrerType();
     QWidget *construireImages();
     QWidget *construireGroupes();
     QWidget *construireMemos();
     void construireMetiers(QBoxLayout *colonne);
-    void construireTypes(QBoxLayout *colonne);
     TitreGroupe *titreDe(Txt texte);
 
     const Plan &m_plan;
@@ -49,7 +46,6 @@ private:
     TitreGroupe *m_metier = nullptr;
     QCheckBox *m_metiers[2] = {};
     ChargerAuteurs::Metiers m_metiersLus{};
-    std::vector<QRadioButton *> m_types;
     Etagere *m_albums = nullptr;
     General::Tri m_tri = General::Tri::Albums;
 };

@@ -7,7 +7,7 @@
 #include <map>
 #include <vector>
 
-class CadreImage;
+class ControleDeChamp;
 class Demandes;
 class QGridLayout;
 
@@ -34,23 +34,20 @@ protected:
     void changeEvent(QEvent *evenement) override;
     void contextMenuEvent(QContextMenuEvent *evenement) override;
     /// The edition of the value that this control shows; without a field when it shows none.
-    virtual Edition editionSous(const QWidget *controle) const;
+    virtual Edition editionSous(const QWidget *sous) const;
 
     /// Makes the control of a field. Its caption, if it has one, is made by `ajouterLigne`.
     QWidget *creer(const char *champ);
+    /// A frame for the picture that the value of a field may name; where it names none the frame is not seen.
+    QWidget *creerCadre(const char *champ);
     /// The font of a field's value is that many times the user's, and bold.
-    void agrandirPolice(const char *champ, qreal facteur) { m_facteurs[champ] = facteur; }
+    void agrandirPolice(const char *champ, qreal facteur);
     /// A value that is no field of the table takes part in the user's font and colour.
     void inscrire(QWidget *valeur);
     /// Caption and control of a field as the next row of a grid of two columns.
     void ajouterLigne(QGridLayout *grille, const char *champ);
     /// Gives the captions of several grids one width, so that their values stand in one line.
     static void alignerLibelles(const std::vector<QGridLayout *> &grilles);
-    template <class T>
-    T *controle(const char *champ) const
-    {
-        return qobject_cast<T *>(m_controles.at(champ));
-    }
 
     void montrerValeurs(General::Entree entree, const Valeurs &valeurs);
     /// Shows again what is stored, after a direct edit that failed.
@@ -61,22 +58,20 @@ protected:
     Edition editionDe(const Edite &quoi, const QWidget *controle) const;
     /// The field of this sheet of that name.
     const Champs::Champ &champ(const char *nom) const;
-    /// Connects a frame: what is dropped on it or pasted into it becomes the picture of the field.
-    void brancherCadre(const Champs::Champ &champ, CadreImage *cadre);
     /// Writes a value that was entered on the sheet itself. Throws Error.
     void ecrire(const Edite &quoi, const QString &saisie, int visite = 0);
 
     Demandes &m_demandes;
 
 private:
-    void brancher(const Champs::Champ &champ, QWidget *controle);
-    void montrer(const Champs::Champ &champ, QWidget *controle, const ValeurDeChamp &valeur);
+    ControleDeChamp *placer(ControleDeChamp *place);
+    ControleDeChamp *controleDe(const char *champ) const;
 
     Champs::Feuille m_feuille;
     General::Entree m_entree;
     Valeurs m_valeurs;
-    std::map<std::string, QWidget *> m_controles;
-    std::map<std::string, QLabel *> m_libelles;
-    std::map<std::string, qreal> m_facteurs;
+    std::vector<ControleDeChamp *> m_controles;
+    std::map<const ControleDeChamp *, QLabel *> m_libelles;
+    std::map<const ControleDeChamp *, qreal> m_facteurs;
     std::vector<QWidget *> m_inscrites;
 };
