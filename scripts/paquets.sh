@@ -4,7 +4,8 @@ PAQUETS_CONSTRUIRE="g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-base-dev-tools libqt6svg6 qt6-l10n-tools qt6-translations-l10n
     qt6-charts-dev qt6-webengine-dev libsane-dev libwmf-dev mdbtools-dev libsqlite3-dev libsqlitecpp-dev libicu-dev libcsv-dev fonts-dejavu-core fonts-urw-base35"
 PAQUETS_MONTRER="xvfb xauth"
-PAQUETS_ESSAYER="sqlite3 util-linux git"
+PAQUETS_ESSAYER="sqlite3 util-linux git clang-format"
+PAQUETS_RELIRE="clang-tidy"
 PAQUETS_FUZZ="clang"
 PAQUETS_PHOTOGRAPHIER="imagemagick"
 PAQUETS_MESURER="libbenchmark-dev xvfb xauth"

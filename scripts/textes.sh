@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Brings the translation sources of data/tr up to date with the texts in the code. What is new in them waits for a
-# translation; what is gone is dropped.
+# translation; what is gone is dropped. A new language begins as an empty file.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-for langue in fr en de es it nl; do
-    /usr/lib/qt6/bin/lupdate -silent src -ts "data/tr/bulleo_$langue.ts" -source-language fr_FR \
+for catalogue in data/tr/bulleo_*.ts; do
+    langue=${catalogue#data/tr/bulleo_}
+    langue=${langue%.ts}
+    /usr/lib/qt6/bin/lupdate -silent src -ts "$catalogue" -source-language fr_FR \
         -target-language "$langue" -no-obsolete -locations none
 done

@@ -96,7 +96,7 @@ QWidget *Import::construireCorrespondance()
     grille->setVerticalSpacing(Theme::Fin);
     grille->setColumnStretch(1, 1);
     for (const Rubrique rubrique : Rubriques()) {
-        const int ligne = grille->rowCount() - 1;
+        const int ligne = static_cast<int>(m_colonnes.size());
         auto *libelle = new QLabel(champs);
         auto *choix = nommer(new QComboBox(champs), QStringLiteral("Correspondance"), ligne);
         choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -84,9 +84,9 @@ struct ChampDeCreation
     Place page = {};
 };
 
-constexpr const Champs::Champ *Album(std::string_view nom)
+consteval const Champs::Champ *Album(std::string_view nom)
 {
-    return Champs::Chercher(Champs::Feuille::Album, nom);
+    return &Champs::De(Champs::Feuille::Album, nom);
 }
 
 using enum Maniere;
@@ -179,7 +179,7 @@ consteval bool ChaqueRubriqueASaLigne()
 {
     std::array<int, NombreDeRubriques> lignes{};
     for (const ChampDeCreation &champ : Tous)
-        lignes[static_cast<std::size_t>(champ.rubrique)] += champ.champ ? 1 : 2;
+        ++lignes[static_cast<std::size_t>(champ.rubrique)];
     return std::ranges::all_of(lignes, [](int nombre) { return nombre == 1; });
 }
 static_assert(ChaqueRubriqueASaLigne());
