@@ -10,7 +10,7 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
-    const ServeurCatalogue serveur(arguments.value(1, QStringLiteral("8099")).toUShort());
+    const ServeurCatalogue serveur(arguments.value(1, "8099").toUShort());
     if (!serveur.isListening()) {
         QTextStream(stderr) << serveur.errorString() << '\n';
         return 1;

@@ -1,5 +1,6 @@
 #include "core/Csv.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/Refus.h"
 
 #include <QTest>
@@ -9,56 +10,43 @@ class tst_csv : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void unFichierDonneSesRangees_data();
-    void unFichierDonneSesRangees();
-    void unFichierFautifEstRefuse_data();
-    void unFichierFautifEstRefuse();
+    void unFichierDonneSesRangees_data()
+    {
+        colonnes<QByteArray, QString>();
+        QTest::newRow("simple") << QByteArray("Titre,Tome\nÉté,1\nNoël,2\n") << "2:Été|1 3:Noël|2";
+        QTest::newRow("fins de ligne, marque")
+            << QByteArray("\xEF\xBB\xBFTitre,Tome\r\na,1\r\nb,2") << "2:a|1 3:b|2";
+        QTest::newRow("guillemets") << QByteArray("Tome,Titre\n1,\"a, \"\"b\"\"\"\n") << "2:a, \"b\"|1";
+        QTest::newRow("texte sur deux lignes")
+            << QByteArray("Titre,Tome\n\"a\nb\",1\nc,2\n") << "3:a\nb|1 4:c|2";
+        QTest::newRow("cellules qui manquent") << QByteArray("Titre,Tome\na\n,2,3\n") << "2:a| 3:|2";
+        QTest::newRow("en-tete seul") << QByteArray("Titre,Tome\n") << "";
+        QTest::newRow("ligne blanche") << QByteArray("Titre,Tome\n\na,1\n") << "3:a|1";
+    }
+
+    void unFichierDonneSesRangees()
+    {
+        const auto [octets, attendu] = essai<QByteArray, QString>();
+        const Bac bac;
+        Bac::ecrire(bac.chemin("a.csv"), octets);
+        QStringList lues;
+        Csv::Lire(bac.chemin("a.csv"), [&](const Csv::Rangee &r) {
+            lues << QStringLiteral("%1:%2|%3").arg(QString::number(r.ligne), r["Titre"], r["Tome"]);
+        });
+        QCOMPARE(lues.join(u' '), attendu);
+    }
+
+    void unFichierFautifEstRefuse()
+    {
+        const Bac bac;
+        const auto lire = [&] { Csv::Lire(bac.chemin("a.csv"), [](const Csv::Rangee &) {}); };
+        QVERIFY(refus(lire).has_value());
+        for (const char *octets : {"Titre\n\"a\nb\n", "Titre\na\"b\n", "Titre\n\"a\"b\n"}) {
+            Bac::ecrire(bac.chemin("a.csv"), octets);
+            QVERIFY2(refus(lire).has_value(), octets);
+        }
+    }
 };
-
-void tst_csv::unFichierDonneSesRangees_data()
-{
-    QTest::addColumn<QByteArray>("octets");
-    QTest::addColumn<QString>("attendu");
-    QTest::newRow("simple") << QByteArray("Titre,Tome\nÉté,1\nNoël,2\n") << "2:Été|1 3:Noël|2";
-    QTest::newRow("fins de ligne, marque")
-        << QByteArray("\xEF\xBB\xBFTitre,Tome\r\na,1\r\nb,2") << "2:a|1 3:b|2";
-    QTest::newRow("guillemets") << QByteArray("Tome,Titre\n1,\"a, \"\"b\"\"\"\n") << "2:a, \"b\"|1";
-    QTest::newRow("texte sur deux lignes") << QByteArray("Titre,Tome\n\"a\nb\",1\nc,2\n") << "3:a\nb|1 4:c|2";
-    QTest::newRow("cellules qui manquent") << QByteArray("Titre,Tome\na\n,2,3\n") << "2:a| 3:|2";
-    QTest::newRow("colonne qui manque") << QByteArray("Titre\na\n") << "2:a|";
-    QTest::newRow("en-tete seul") << QByteArray("Titre,Tome\n") << "";
-    QTest::newRow("ligne blanche") << QByteArray("Titre,Tome\n\na,1\n") << "3:a|1";
-}
-
-void tst_csv::unFichierDonneSesRangees()
-{
-    QFETCH(QByteArray, octets);
-    const Bac bac;
-    Bac::ecrire(bac.chemin("a.csv"), octets);
-    QStringList lues;
-    Csv::Lire(bac.chemin("a.csv"), [&](const Csv::Rangee &r) {
-        lues << QStringLiteral("%1:%2|%3").arg(QString::number(r.ligne), r["Titre"], r["Tome"]);
-    });
-    QTEST(lues.join(u' '), "attendu");
-}
-
-void tst_csv::unFichierFautifEstRefuse_data()
-{
-    QTest::addColumn<QByteArray>("octets");
-    QTest::newRow("guillemet ouvert") << QByteArray("Titre\n\"a\nb\n");
-    QTest::newRow("guillemet dans un mot") << QByteArray("Titre\na\"b\n");
-    QTest::newRow("suite apres le guillemet") << QByteArray("Titre\n\"a\"b\n");
-}
-
-void tst_csv::unFichierFautifEstRefuse()
-{
-    QFETCH(QByteArray, octets);
-    const Bac bac;
-    Bac::ecrire(bac.chemin("a.csv"), octets);
-    const auto lire = [&](const QString &nom) { Csv::Lire(bac.chemin(nom), [](const Csv::Rangee &) {}); };
-    QVERIFY(refus([&] { lire("a.csv"); }).has_value());
-    QVERIFY(refus([&] { lire("absent.csv"); }).has_value());
-}
 
 QTEST_GUILESS_MAIN(tst_csv)
 #include "tst_csv.moc"

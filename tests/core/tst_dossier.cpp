@@ -11,51 +11,34 @@ class tst_dossier : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void unCheminIgnoreLaCasse_data();
-    void unCheminIgnoreLaCasse();
-    void leVerrouAUnDetenteurEtCeluiDUnMortEstRepris();
+    void unCheminIgnoreLaCasse()
+    {
+        const QTemporaryDir lieu;
+        QVERIFY(QDir(lieu.path()).mkdir("images"));
+        for (const char *fichier : {"bd.mdb", "images/Été.JPG", "images/Double.png", "images/double.png"})
+            Bac::ecrire(lieu.filePath(fichier), "");
+        for (const auto &[nom, attendu] :
+            {std::pair("IMAGES\\éTÉ.jpg", "images/Été.JPG"), {"images\\double.png", "images/double.png"},
+                {"\\Images\\Neuf.JPG", "images/Neuf.JPG"}, {"images\\..\\BD.mdb", "images/../bd.mdb"}})
+            QCOMPARE(Dossier(lieu.path(), {}).chemin(nom), lieu.filePath(attendu));
+    }
+
+    void leVerrouAUnDetenteurEtCeluiDUnMortEstRepris()
+    {
+        const QTemporaryDir lieu;
+        QProcess detenteur;
+        detenteur.start(QCoreApplication::applicationFilePath(), {"verrouiller", lieu.path()});
+        QVERIFY(detenteur.waitForReadyRead());
+        QCOMPARE(detenteur.readAll(), "pris");
+        Dossier dossier(lieu.path(), {});
+        QVERIFY(!dossier.verrouiller() && !dossier.finBrutale());
+        detenteur.kill();
+        QVERIFY(detenteur.waitForFinished());
+        QVERIFY(QFile::exists(dossier.chemin(".bulleo.lock")));
+        QVERIFY(dossier.verrouiller() && dossier.finBrutale());
+        QVERIFY(!Dossier(lieu.filePath(""), {}).verrouiller());
+    }
 };
-
-void tst_dossier::unCheminIgnoreLaCasse_data()
-{
-    QTest::addColumn<QString>("nom");
-    QTest::addColumn<QString>("attendu");
-    QTest::newRow("casse de l'accent") << "IMAGES\\éTÉ.jpg"
-                                       << "images/Été.JPG";
-    QTest::newRow("le nom exact d'abord") << "images\\double.png"
-                                          << "images/double.png";
-    QTest::newRow("absent") << "\\Images\\Neuf.JPG"
-                            << "images/Neuf.JPG";
-    QTest::newRow("au-dessus") << "images\\..\\BD.mdb"
-                               << "images/../bd.mdb";
-}
-
-void tst_dossier::unCheminIgnoreLaCasse()
-{
-    QFETCH(QString, nom);
-    QFETCH(QString, attendu);
-    const QTemporaryDir lieu;
-    QVERIFY(QDir(lieu.path()).mkdir("images"));
-    for (const char *fichier : {"bd.mdb", "images/Été.JPG", "images/Double.png", "images/double.png"})
-        Bac::ecrire(lieu.filePath(fichier), "");
-    QCOMPARE(Dossier(lieu.path(), {}).chemin(nom), lieu.path() + u'/' + attendu);
-}
-
-void tst_dossier::leVerrouAUnDetenteurEtCeluiDUnMortEstRepris()
-{
-    const QTemporaryDir lieu;
-    QProcess detenteur;
-    detenteur.start(QCoreApplication::applicationFilePath(), {"verrouiller", lieu.path()});
-    QVERIFY(detenteur.waitForReadyRead());
-    QCOMPARE(detenteur.readAll(), "pris");
-    Dossier dossier(lieu.path(), {});
-    QVERIFY(!dossier.verrouiller() && !dossier.finBrutale());
-    detenteur.kill();
-    QVERIFY(detenteur.waitForFinished());
-    QVERIFY(QFile::exists(dossier.chemin(".bulleo.lock")));
-    QVERIFY(dossier.verrouiller() && dossier.finBrutale());
-    QVERIFY(!Dossier(lieu.filePath(""), {}).verrouiller());
-}
 
 int main(int argc, char *argv[])
 {

@@ -1,5 +1,4 @@
 #include "core/Images.h"
-#include "db/files/Livraison.h"
 #include "support/Bac.h"
 #include "support/Refus.h"
 
@@ -7,22 +6,6 @@
 #include <QDir>
 #include <QTest>
 #include <QtEndian>
-
-class tst_images : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void uneImageEstTrouvee_data();
-    void uneImageEstTrouvee();
-    void uneCopiePrendUnNomLibre_data();
-    void uneCopiePrendUnNomLibre();
-    void leMemeContenuNEstPasRecopie();
-    void leDossierDesImagesEstFaitAuBesoin();
-    void uneImageAbimeeEstNulle_data();
-    void uneImageAbimeeEstNulle();
-    void unePageNumeriseeEnFinSeDecode();
-};
 
 namespace {
 
@@ -62,130 +45,98 @@ QByteArray pretendre(QByteArray octets, qint32 cote)
 
 }
 
-void tst_images::uneImageEstTrouvee_data()
+class tst_images : public QObject
 {
-    QTest::addColumn<QString>("nom");
-    QTest::addColumn<QString>("trouve");
-    const auto cas = [](const char *nom, const QString &cherche, const char *trouve) {
-        QTest::newRow(nom) << cherche << QString(trouve);
-    };
-    cas("nom simple", "a.jpg", "images/a.jpg");
-    cas("images avant image", "deux.jpg", "images/deux.jpg");
-    cas("puis image", "b.jpg", "image/b.jpg");
-    cas("casse et blancs", " A.JPG ", "images/a.jpg");
-    cas("chemin du dossier", "image\\deux.jpg", "image/deux.jpg");
-    cas("relatif ailleurs", "scans\\c.jpg", "Scans/c.jpg");
-    cas("complet", "/Scans/c.jpg", "Scans/c.jpg");
-    cas("complet perdu", "/nulle/part/a.jpg", "images/a.jpg");
-    cas("autre machine", "C:\\BD\\images\\b.jpg", "image/b.jpg");
-    cas("autre serveur", "\\\\serveur\\BD\\b.jpg", "image/b.jpg");
-    cas("absent", "z.jpg", "");
-    cas("blanc", " ", "");
-    cas("points", QString(855, u'.'), "");
-}
+    Q_OBJECT
 
-void tst_images::uneImageEstTrouvee()
-{
-    QFETCH(QString, nom);
-    QFETCH(QString, trouve);
-    const Bac bac;
-    QDir(bac.chemin()).mkdir("Scans");
-    for (const char *fichier :
-        {"images/a.jpg", "images/deux.jpg", "image/deux.jpg", "image/b.jpg", "Scans/c.jpg"})
-        Bac::ecrire(bac.chemin(fichier), "x");
-    if (nom.startsWith("/Scans"))
-        nom.prepend(bac.chemin());
-    QCOMPARE(Images::Trouver(nom), trouve.isEmpty() ? QString() : bac.chemin(trouve));
-}
-
-void tst_images::uneCopiePrendUnNomLibre_data()
-{
-    QTest::addColumn<QString>("nom");
-    QTest::addColumn<QStringList>("attendus");
-    QTest::newRow("ordinaire") << "été.jpg" << QStringList{"été.jpg", "été (2).jpg", "été (3).jpg"};
-    QTest::newRow("deux points") << "a.b.png" << QStringList{"a.b.png", "a.b (2).png", "a.b (3).png"};
-    QTest::newRow("sans point") << "scan" << QStringList{"scan", "scan (2)", "scan (3)"};
-    QTest::newRow("pour cent") << "100%1.jpg" << QStringList{"100%1.jpg", "100%1 (2).jpg", "100%1 (3).jpg"};
-}
-
-void tst_images::uneCopiePrendUnNomLibre()
-{
-    QFETCH(QString, nom);
-    QFETCH(QStringList, attendus);
-    const Bac bac;
-    const QTemporaryDir source;
-    for (int i = 0; i < 3; ++i) {
-        Bac::ecrire(source.filePath(nom), QByteArray::number(i));
-        const QString prise = Images::Copier(source.filePath(nom));
-        QCOMPARE(prise, attendus[i]);
+private Q_SLOTS:
+    void uneImageEstTrouvee()
+    {
+        const Bac bac;
+        QDir(bac.chemin()).mkdir("Scans");
+        for (const char *fichier :
+            {"images/a.jpg", "images/deux.jpg", "image/deux.jpg", "image/b.jpg", "Scans/c.jpg"})
+            Bac::ecrire(bac.chemin(fichier), "x");
+        for (const auto &[nom, trouve] : QList<std::pair<QString, QString>>{{"deux.jpg", "images/deux.jpg"},
+                 {"b.jpg", "image/b.jpg"}, {" A.JPG ", "images/a.jpg"}, {"image\\deux.jpg", "image/deux.jpg"},
+                 {"scans\\c.jpg", "Scans/c.jpg"}, {bac.chemin("Scans/c.jpg"), "Scans/c.jpg"},
+                 {"/nulle/part/a.jpg", "images/a.jpg"}, {"C:\\BD\\images\\b.jpg", "image/b.jpg"},
+                 {"\\\\serveur\\BD\\b.jpg", "image/b.jpg"}, {"z.jpg", ""}, {" ", ""},
+                 {QString(855, u'.'), ""}})
+            QCOMPARE(Images::Trouver(nom), trouve.isEmpty() ? QString() : bac.chemin(trouve));
     }
-    for (int i = 0; i < 3; ++i)
-        QCOMPARE(Bac::lire(bac.chemin("images/" + attendus[i])), QByteArray::number(i));
-}
 
-void tst_images::leMemeContenuNEstPasRecopie()
-{
-    const Bac bac;
-    const QTemporaryDir source;
-    const QString nouvelle = source.filePath("A.jpg");
-    Bac::ecrire(bac.chemin("images/a.jpg"), "un");
-    Bac::ecrire(bac.chemin("images/A (2).jpg"), "deux");
-    Bac::ecrire(nouvelle, "deux");
-    QCOMPARE(Images::Copier(nouvelle), "A (2).jpg");
-    Bac::ecrire(nouvelle, "un");
-    QCOMPARE(Images::Copier(nouvelle), "a.jpg");
-    QCOMPARE(Images::Copier(bac.chemin("images/a.jpg")), "a.jpg");
-    QVERIFY(refus([&] { Images::Copier(bac.chemin("absente.jpg")); }).has_value());
-    QCOMPARE(QDir(bac.chemin("images")).entryList(QDir::Files).size(), 2);
-}
+    void uneCopiePrendUnNomLibre()
+    {
+        const Bac bac;
+        const QTemporaryDir source;
+        for (const QString motif : {"été%1.jpg", "a.b%1.png", "scan%1", "100%%1.jpg"}) {
+            for (const QString rang : {"", " (2)", " (3)"}) {
+                const QString nom = QString(motif).replace("%1", "");
+                const QString attendu = QString(motif).replace("%1", rang);
+                Bac::ecrire(source.filePath(nom), rang.toUtf8());
+                QCOMPARE(Images::Copier(source.filePath(nom)), attendu);
+                QCOMPARE(Bac::lire(bac.chemin("images/" + attendu)), rang.toUtf8());
+            }
+        }
+    }
 
-/// A folder that was brought along may hold nothing but the collection.
-void tst_images::leDossierDesImagesEstFaitAuBesoin()
-{
-    const Bac bac;
-    QVERIFY(QDir(bac.chemin()).rmdir("images"));
-    Livraison::Preparer();
-    Bac::ecrire(bac.chemin("a.jpg"), "un");
-    const bool refusee = refus([&] { Images::Copier(bac.chemin("a.jpg")); }).has_value();
-    QVERIFY(!refusee);
-    QCOMPARE(Bac::lire(bac.chemin("images/a.jpg")), "un");
-}
+    void leMemeContenuNEstPasRecopie()
+    {
+        const Bac bac;
+        const QTemporaryDir source;
+        const QString nouvelle = source.filePath("A.jpg");
+        Bac::ecrire(bac.chemin("images/a.jpg"), "un");
+        Bac::ecrire(bac.chemin("images/A (2).jpg"), "deux");
+        Bac::ecrire(nouvelle, "deux");
+        QCOMPARE(Images::Copier(nouvelle), "A (2).jpg");
+        Bac::ecrire(nouvelle, "un");
+        QCOMPARE(Images::Copier(nouvelle), "a.jpg");
+        QCOMPARE(Images::Copier(bac.chemin("images/a.jpg")), "a.jpg");
+        QVERIFY(refus([&] { Images::Copier(bac.chemin("absente.jpg")); }).has_value());
+        QCOMPARE(QDir(bac.chemin("images")).entryList(QDir::Files).size(), 2);
+        // A folder that was brought along may hold nothing but the collection.
+        QVERIFY(QDir(bac.chemin("images")).removeRecursively());
+        Images::Copier(nouvelle);
+        QCOMPARE(Bac::lire(bac.chemin("images/A.jpg")), "un");
+    }
 
-void tst_images::uneImageAbimeeEstNulle_data()
-{
-    QTest::addColumn<QByteArray>("octets");
-    const QByteArray bmp = image({60, 60}, "BMP");
-    const QByteArray png = image({60, 60}, "PNG");
-    QTest::newRow("vide") << QByteArray();
-    QTest::newRow("texte") << QByteArray("Ceci n'est pas une image.").repeated(99);
-    QTest::newRow("BMP, en-tete seul") << bmp.left(54);
-    QTest::newRow("PNG coupee") << png.left(png.size() / 2);
-    QTest::newRow("JPG, en-tete seul") << image({60, 60}, "JPG").left(200);
-    QTest::newRow("BMP qui se dit immense") << pretendre(bmp, 30'000);
-    QTest::newRow("PNG qui se dit immense") << pretendre(png, 30'000);
-    QTest::newRow("BMP qui se dit sans fin") << pretendre(bmp, 0x7FFFFFFF);
-    QTest::newRow("PNG qui se dit grande") << pretendre(png, 10'000);
-}
+    void uneImageAbimeeEstNulle_data()
+    {
+        QTest::addColumn<QByteArray>("octets");
+        const QByteArray bmp = image({60, 60}, "BMP");
+        const QByteArray png = image({60, 60}, "PNG");
+        QTest::newRow("vide") << QByteArray();
+        QTest::newRow("texte") << QByteArray("Ceci n'est pas une image.").repeated(99);
+        QTest::newRow("BMP, en-tete seul") << bmp.left(54);
+        QTest::newRow("PNG coupee") << png.left(png.size() / 2);
+        QTest::newRow("JPG, en-tete seul") << image({60, 60}, "JPG").left(200);
+        QTest::newRow("BMP qui se dit immense") << pretendre(bmp, 30'000);
+        QTest::newRow("PNG qui se dit immense") << pretendre(png, 30'000);
+        QTest::newRow("BMP qui se dit sans fin") << pretendre(bmp, 0x7FFFFFFF);
+        QTest::newRow("PNG qui se dit grande") << pretendre(png, 10'000);
+    }
 
-void tst_images::uneImageAbimeeEstNulle()
-{
-    QFETCH(QByteArray, octets);
-    const Bac bac;
-    Bac::ecrire(bac.chemin("images/a.jpg"), octets);
-    QVERIFY(Images::Decoder(bac.chemin("images/a.jpg"), {100, 100}).isNull());
-    QVERIFY(Images::Decoder(bac.chemin("images/absente.jpg"), {100, 100}).isNull());
-}
+    void uneImageAbimeeEstNulle()
+    {
+        QFETCH(QByteArray, octets);
+        const Bac bac;
+        Bac::ecrire(bac.chemin("images/a.jpg"), octets);
+        QVERIFY(Images::Decoder(bac.chemin("images/a.jpg"), {100, 100}).isNull());
+        QVERIFY(Images::Decoder(bac.chemin("images/absente.jpg"), {100, 100}).isNull());
+    }
 
-/// A page of 21 by 29.7 cm at 600 points an inch is far below the limit of pixels.
-void tst_images::unePageNumeriseeEnFinSeDecode()
-{
-    const Bac bac;
-    QImage page(4960, 7016, QImage::Format_RGB32);
-    page.fill(Qt::white);
-    QVERIFY(qint64(page.width()) * page.height() < Images::PixelsMax);
-    QVERIFY(page.save(bac.chemin("images/page.bmp")));
-    QCOMPARE(Images::Decoder(bac.chemin("images/page.bmp"), {496, 702}).size(), QSize(496, 702));
-}
+    /// A page of 21 by 29.7 cm at 600 points an inch is far below the limit of pixels.
+    void unePageNumeriseeEnFinSeDecode()
+    {
+        const Bac bac;
+        QImage page(4960, 7016, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QVERIFY(qint64(page.width()) * page.height() < Images::PixelsMax);
+        QVERIFY(page.save(bac.chemin("images/page.bmp")));
+        QCOMPARE(Images::Decoder(bac.chemin("images/page.bmp"), {496, 702}).size(), QSize(496, 702));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_images)
 #include "tst_images.moc"

@@ -3,19 +3,6 @@
 
 #include <QTest>
 
-class tst_reglages : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void unBooleenSeLitEnPlusieursMots_data();
-    void unBooleenSeLitEnPlusieursMots();
-    void uneValeurIllisibleDonneLeDefautEtUnAvis_data();
-    void uneValeurIllisibleDonneLeDefautEtUnAvis();
-    void unIniNApporteQueLesClesConnues();
-    void unIniNEstLuQuUneFoisParContenu();
-};
-
 namespace {
 
 /// A store in which somebody else wrote one value.
@@ -32,98 +19,82 @@ struct Magasin
 
 }
 
-void tst_reglages::unBooleenSeLitEnPlusieursMots_data()
+class tst_reglages : public QObject
 {
-    QTest::addColumn<bool>("ordinaire");
-    QTest::addColumn<bool>("gras");
-    QTest::newRow("Vrai") << true << true;
-    QTest::newRow("True") << true << false;
-    QTest::newRow("-1") << true << false;
-    QTest::newRow("1") << true << false;
-    QTest::newRow("Faux") << false << false;
-    QTest::newRow("False") << false << false;
-    QTest::newRow("0") << false << false;
-}
+    Q_OBJECT
 
-void tst_reglages::unBooleenSeLitEnPlusieursMots()
-{
-    QFETCH(bool, ordinaire);
-    QFETCH(bool, gras);
-    const Magasin magasin("Settings/SplashAuto", QTest::currentDataTag());
-    QSettings(magasin.fichier, QSettings::IniFormat).setValue("Color/FontBold", QTest::currentDataTag());
-    Reglages r(magasin.fichier);
-    r.avertir = [](const QString &mots) { QFAIL(qPrintable(mots)); };
-    QCOMPARE(r.booleen(Cle::SplashAuto), ordinaire);
-    QCOMPARE(r.booleen(Cle::FontBold), gras);
-}
+private Q_SLOTS:
+    void unBooleenSeLitEnPlusieursMots()
+    {
+        for (const QString mot : {"Vrai", "True", "-1", "1", "Faux", "False", "0"}) {
+            const Magasin magasin("Settings/SplashAuto", mot);
+            QSettings(magasin.fichier, QSettings::IniFormat).setValue("Color/FontBold", mot);
+            Reglages r(magasin.fichier);
+            r.avertir = [](const QString &mots) { QFAIL(qPrintable(mots)); };
+            QCOMPARE(r.booleen(Cle::SplashAuto), !QStringList({"Faux", "False", "0"}).contains(mot));
+            QCOMPARE(r.booleen(Cle::FontBold), mot == "Vrai");
+        }
+    }
 
-void tst_reglages::uneValeurIllisibleDonneLeDefautEtUnAvis_data()
-{
-    QTest::addColumn<Cle>("cle");
-    QTest::addColumn<QString>("valeur");
-    QTest::newRow("Settings/Tris") << Cle::Tris << "beaucoup";
-    QTest::newRow("Settings/Loop") << Cle::Loop << "peut-être";
-    QTest::newRow("Color/Forecolor") << Cle::Forecolor << "99999999999";
-    QTest::newRow("Color/FontSize") << Cle::FontSize << "10 points";
-    QTest::newRow("Redimension/Width") << Cle::Width << "nan";
-    QTest::newRow("Redimension/Height") << Cle::Height << "inf";
-}
+    void uneValeurIllisibleDonneLeDefautEtUnAvis()
+    {
+        const Magasin vide("Autre/Cle", "");
+        const Reglages defauts(vide.fichier);
+        const auto essayer = [](const QString &nom, const QString &valeur, const auto &lire) {
+            const Magasin magasin(nom, valeur);
+            Reglages r(magasin.fichier);
+            QStringList avis;
+            r.avertir = [&](const QString &mots) { avis << mots; };
+            for (int i = 0; i < 3; ++i)
+                lire(r);
+            QCOMPARE(avis.size(), 1);
+            QVERIFY2(avis[0].contains(nom) && avis[0].contains(valeur), qPrintable(avis[0]));
+        };
+        for (const auto &[nom, cle, valeur] : {std::tuple("Settings/Tris", Cle::Tris, "beaucoup"),
+                 {"Color/Forecolor", Cle::Forecolor, "99999999999"}})
+            essayer(nom, valeur, [&](auto &r) { QCOMPARE(r.entier(cle), defauts.entier(cle)); });
+        for (const auto &[nom, cle, valeur] : {std::tuple("Color/FontSize", Cle::FontSize, "10 points"),
+                 {"Redimension/Width", Cle::Width, "nan"}, {"Redimension/Height", Cle::Height, "inf"}})
+            essayer(nom, valeur, [&](auto &r) { QCOMPARE(r.nombre(cle), defauts.nombre(cle)); });
+        essayer("Settings/Loop", "peut-être",
+            [&](auto &r) { QCOMPARE(r.booleen(Cle::Loop), defauts.booleen(Cle::Loop)); });
+    }
 
-void tst_reglages::uneValeurIllisibleDonneLeDefautEtUnAvis()
-{
-    QFETCH(Cle, cle);
-    QFETCH(QString, valeur);
-    const QString nom = QTest::currentDataTag();
-    const Magasin magasin(nom, valeur);
-    const Magasin vide("Autre/Cle", "");
-    Reglages r(magasin.fichier);
-    const Reglages defauts(vide.fichier);
-    QStringList avis;
-    r.avertir = [&](const QString &mots) { avis << mots; };
-    const auto lire = [cle](const Reglages &source) {
-        if (cle == Cle::Loop)
-            return double(source.booleen(cle));
-        return cle == Cle::Tris || cle == Cle::Apercu || cle == Cle::Forecolor ? source.entier(cle)
-                                                                               : source.nombre(cle);
-    };
-    for (int i = 0; i < 3; ++i)
-        QCOMPARE(lire(r), lire(defauts));
-    QCOMPARE(avis.size(), 1);
-    QVERIFY2(avis[0].contains(nom) && avis[0].contains(valeur), qPrintable(avis[0]));
-}
+    void unIniNApporteQueLesClesConnues()
+    {
+        Bac bac;
+        bac.reglages.ecrire(Cle::Tris, 3);
+        Bac::ecrire(bac.chemin("vieux.ini"),
+            "; Tris=9\r\nTris=8\r\n[settings]\r\nFONDSCREEN = C:\\\xC9t\xE9\\\x9Cuvre.jpg "
+            "\r\nInconnu=1\r\nsans "
+            "egal\r\n"
+            "[Color]\r\nFontBold=Vrai\r\nTris=7\r\n=rien\r\n[Inconnue]\r\nTris=6\r\n[Redimension]\r\nWidth="
+            "800="
+            "600\r\n");
+        QCOMPARE(bac.reglages.importerIni(bac.chemin("vieux.ini")), 3);
+        QCOMPARE(bac.reglages.texte(Cle::FondScreen), "C:\\Été\\œuvre.jpg");
+        QVERIFY(bac.reglages.booleen(Cle::FontBold));
+        QCOMPARE(bac.reglages.entier(Cle::Tris), 3);
+        QCOMPARE(bac.reglages.nombre(Cle::Width), 0.0);
+        QVERIFY(!QSettings(bac.chemin("../reglages.ini"), QSettings::IniFormat).contains("settings/Inconnu"));
+    }
 
-void tst_reglages::unIniNApporteQueLesClesConnues()
-{
-    Bac bac;
-    bac.reglages.ecrire(Cle::Tris, 3);
-    Bac::ecrire(bac.chemin("vieux.ini"),
-        "; Tris=9\r\nTris=8\r\n[settings]\r\nFONDSCREEN = C:\\\xC9t\xE9\\\x9Cuvre.jpg \r\nInconnu=1\r\nsans "
-        "egal\r\n"
-        "[Color]\r\nFontBold=Vrai\r\nTris=7\r\n=rien\r\n[Inconnue]\r\nTris=6\r\n[Redimension]\r\nWidth=800="
-        "600\r\n");
-    QCOMPARE(bac.reglages.importerIni(bac.chemin("vieux.ini")), 3);
-    QCOMPARE(bac.reglages.texte(Cle::FondScreen), "C:\\Été\\œuvre.jpg");
-    QVERIFY(bac.reglages.booleen(Cle::FontBold));
-    QCOMPARE(bac.reglages.entier(Cle::Tris), 3);
-    QCOMPARE(bac.reglages.nombre(Cle::Width), 0.0);
-    QVERIFY(!QSettings(bac.chemin("../reglages.ini"), QSettings::IniFormat).contains("settings/Inconnu"));
-}
-
-void tst_reglages::unIniNEstLuQuUneFoisParContenu()
-{
-    Bac bac;
-    const QString ini = bac.chemin("vieux.ini");
-    Bac::ecrire(ini, "[Settings]\nTris=5\n");
-    QCOMPARE(bac.reglages.importerIni(ini), 1);
-    bac.reglages.ecrire(Cle::Tris, 2);
-    QCOMPARE(bac.reglages.importerIni(ini), 0);
-    QCOMPARE(bac.reglages.entier(Cle::Tris), 2);
-    Bac::ecrire(ini, "[Settings]\nTris=6\n");
-    QCOMPARE(bac.reglages.importerIni(ini), 1);
-    QCOMPARE(bac.reglages.entier(Cle::Tris), 6);
-    QVERIFY(QFile::remove(ini));
-    QVERIFY(refus([&] { bac.reglages.importerIni(ini); }).has_value());
-}
+    void unIniNEstLuQuUneFoisParContenu()
+    {
+        Bac bac;
+        const QString ini = bac.chemin("vieux.ini");
+        Bac::ecrire(ini, "[Settings]\nTris=5\n");
+        QCOMPARE(bac.reglages.importerIni(ini), 1);
+        bac.reglages.ecrire(Cle::Tris, 2);
+        QCOMPARE(bac.reglages.importerIni(ini), 0);
+        QCOMPARE(bac.reglages.entier(Cle::Tris), 2);
+        Bac::ecrire(ini, "[Settings]\nTris=6\n");
+        QCOMPARE(bac.reglages.importerIni(ini), 1);
+        QCOMPARE(bac.reglages.entier(Cle::Tris), 6);
+        QVERIFY(QFile::remove(ini));
+        QVERIFY(refus([&] { bac.reglages.importerIni(ini); }).has_value());
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_reglages)
 #include "tst_reglages.moc"

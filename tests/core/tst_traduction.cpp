@@ -1,4 +1,5 @@
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/Refus.h"
 
 #include <QDir>
@@ -6,29 +7,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
-#include <QXmlStreamReader>
-
-class tst_traduction : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void uneLigneDonneSonTexte_data();
-    void uneLigneDonneSonTexte();
-    void unFichierFautifGardeLeLuEtCombleLeReste_data();
-    void unFichierFautifGardeLeLuEtCombleLeReste();
-    void unFichierRemplaceTousLesTextes();
-    void unGrosFichierNeFigePas_data();
-    void unGrosFichierNeFigePas();
-    void leChoixSurvitAuRedemarrage();
-    void chaqueLangueLivreeEstComplete_data();
-    void chaqueLangueLivreeEstComplete();
-    void chaqueCatalogueEstComplet_data() { catalogues(); }
-    void chaqueCatalogueEstComplet();
-
-private:
-    static void catalogues();
-};
 
 namespace {
 
@@ -42,196 +20,164 @@ QStringList tousLesTextes(const Traduction &traduction)
 
 }
 
-void tst_traduction::uneLigneDonneSonTexte_data()
+class tst_traduction : public QObject
 {
-    QTest::addColumn<QByteArray>("octets");
-    QTest::addColumn<int>("indice");
-    QTest::addColumn<QString>("attendu");
-    const auto ligne = [](const char *nom, const QByteArray &octets, int indice, const QString &attendu) {
-        QTest::newRow(nom) << octets << indice << attendu;
-    };
-    ligne("lignes sans separateur", "\n ; note\r\n5 : Cinq\n\n7:#:Sept\n\n", 7, "Sept");
-    ligne("tabulation et blancs", "5:#:  Un\tdeux \t\r\n", 5, "Undeux");
-    ligne("deux separateurs", "5:#:Cinq:#:Six\n", 5, "Cinq");
-    ligne("dernier indice", "310:#:Fin", 310, "Fin");
-    ligne("la derniere ligne gagne", "5:#:Cinq\n6:#:Six\n5:#:Neuf\n", 5, "Neuf");
-    ligne("texte vide", "5:#:Cinq\n5:#:\n", 5, "");
-    ligne("UTF-8", "5:#:L'\xC3\xA9t\xC3\xA9 \xE2\x82\xAC", 5, "L'été €");
-    ligne("UTF-8 avec marque",
-        "\xEF\xBB\xBF"
-        "5:#:\xC3\xA9t\xC3\xA9",
-        5, "été");
-    ligne("Windows-1252", "5:#:L\x92\xE9t\xE9, \x9Cuvre, 3 \x80", 5, "L’été, œuvre, 3 €");
-}
+    Q_OBJECT
 
-void tst_traduction::uneLigneDonneSonTexte()
-{
-    QFETCH(QByteArray, octets);
-    QFETCH(int, indice);
-    Bac bac;
-    Bac::ecrire(bac.chemin("essai.lng"), octets);
-    bac.traduction.chargerFichier(bac.chemin("essai.lng"));
-    QTEST(texte(Txt(indice)), "attendu");
-}
+private Q_SLOTS:
+    void uneLigneDonneSonTexte_data()
+    {
+        colonnes<QByteArray, int, QString>();
+        const auto ligne = [](const char *nom, const QByteArray &octets, int indice, const QString &attendu) {
+            QTest::newRow(nom) << octets << indice << attendu;
+        };
+        ligne("lignes sans separateur", "\n ; note\r\n5 : Cinq\n\n7:#:Sept\n\n", 7, "Sept");
+        ligne("tabulation et blancs", "5:#:  Un\tdeux \t\r\n", 5, "Undeux");
+        ligne("deux separateurs", "5:#:Cinq:#:Six\n", 5, "Cinq");
+        ligne("dernier indice", "310:#:Fin", 310, "Fin");
+        ligne("la derniere ligne gagne", "5:#:Cinq\n6:#:Six\n5:#:Neuf\n", 5, "Neuf");
+        ligne("texte vide", "5:#:Cinq\n5:#:\n", 5, "");
+        ligne("UTF-8", "5:#:L'\xC3\xA9t\xC3\xA9 \xE2\x82\xAC", 5, "L'été €");
+        ligne("UTF-8 avec marque",
+            "\xEF\xBB\xBF"
+            "5:#:\xC3\xA9t\xC3\xA9",
+            5, "été");
+        ligne("Windows-1252", "5:#:L\x92\xE9t\xE9, \x9Cuvre, 3 \x80", 5, "L’été, œuvre, 3 €");
+    }
 
-void tst_traduction::unFichierFautifGardeLeLuEtCombleLeReste_data()
-{
-    QTest::addColumn<QByteArray>("faute");
-    QTest::newRow("311") << QByteArray("311:#:x");
-    QTest::newRow("negatif") << QByteArray("-1:#:x");
-    QTest::newRow("pas un nombre") << QByteArray("abc:#:x");
-    QTest::newRow("binaire") << QByteArray("\0\xFF\xFE:#:\0", 7);
-}
-
-void tst_traduction::unFichierFautifGardeLeLuEtCombleLeReste()
-{
-    QFETCH(QByteArray, faute);
-    Bac bac;
-    const QStringList francais = tousLesTextes(bac.traduction);
-    QStringList attendus = francais;
-    attendus[5] = "Funf";
-    Bac::ecrire(bac.chemin("essai.lng"), "langue = de\n5:#:Funf\n" + faute + "\n6:#:Sechs\n");
-    QVERIFY(refus([&] { bac.traduction.chargerFichier(bac.chemin("essai.lng")); }).has_value());
-    QCOMPARE(tousLesTextes(bac.traduction), attendus);
-
-    for (const QByteArray &octets : {QByteArray(), QByteArray("\n\n"), QByteArray(5000, '\0'), faute}) {
+    void uneLigneDonneSonTexte()
+    {
+        const auto [octets, indice, attendu] = essai<QByteArray, int, QString>();
+        Bac bac;
         Bac::ecrire(bac.chemin("essai.lng"), octets);
-        QVERIFY(refus([&] { bac.traduction.chargerFichier(bac.chemin("essai.lng")); }).has_value());
-        QCOMPARE(tousLesTextes(bac.traduction), francais);
+        bac.traduction.chargerFichier(bac.chemin("essai.lng"));
+        QCOMPARE(texte(Txt(indice)), attendu);
+    }
+
+    void unFichierFautifGardeLeLuEtCombleLeReste()
+    {
+        Bac bac;
+        const QStringList francais = tousLesTextes(bac.traduction);
+        QStringList attendus = francais;
+        attendus[5] = "Funf";
+        const auto refuser = [&](const QByteArray &octets) {
+            Bac::ecrire(bac.chemin("essai.lng"), octets);
+            QVERIFY(refus([&] { bac.traduction.chargerFichier(bac.chemin("essai.lng")); }).has_value());
+        };
+        for (const QByteArray &faute : {QByteArray("311:#:x"), QByteArray("-1:#:x"), QByteArray("abc:#:x"),
+                 QByteArray("\0\xFF\xFE:#:\0", 7)}) {
+            refuser("langue = de\n5:#:Funf\n" + faute + "\n6:#:Sechs\n");
+            QCOMPARE(tousLesTextes(bac.traduction), attendus);
+            for (const QByteArray &octets : {QByteArray(), QByteArray(5000, '\0'), faute}) {
+                refuser(octets);
+                QCOMPARE(tousLesTextes(bac.traduction), francais);
+                QCOMPARE(bac.traduction.locale().language(), QLocale::French);
+            }
+        }
+    }
+
+    void unFichierRemplaceTousLesTextes()
+    {
+        Bac bac;
+        Bac::ecrire(bac.chemin("essai.lng"), "5:#:Fünf\nlangue = de\n");
+        bac.traduction.chargerFichier(bac.chemin("essai.lng"));
+        QCOMPARE(tousLesTextes(bac.traduction).join(QString()), "Fünf");
+        QCOMPARE(bac.traduction.locale().language(), QLocale::German);
+        bac.traduction.chargerCourante();
+        QCOMPARE(texte(Txt::Sauvegarder), "Sauvegarder");
         QCOMPARE(bac.traduction.locale().language(), QLocale::French);
     }
-}
 
-void tst_traduction::unFichierRemplaceTousLesTextes()
-{
-    Bac bac;
-    Bac::ecrire(bac.chemin("essai.lng"), "5:#:Fünf\nlangue = de\n");
-    bac.traduction.chargerFichier(bac.chemin("essai.lng"));
-    QCOMPARE(tousLesTextes(bac.traduction).join(QString()), "Fünf");
-    QCOMPARE(bac.traduction.locale().language(), QLocale::German);
-    bac.traduction.chargerCourante();
-    QCOMPARE(texte(Txt::Sauvegarder), "Sauvegarder");
-    QCOMPARE(bac.traduction.locale().language(), QLocale::French);
-}
-
-void tst_traduction::unGrosFichierNeFigePas_data()
-{
-    QTest::addColumn<QByteArray>("motif");
-    QTest::newRow("lignes") << QByteArray("5:#:Cinq fois dix\n");
-    QTest::newRow("une seule ligne") << QByteArray("Cinq fois ");
-}
-
-void tst_traduction::unGrosFichierNeFigePas()
-{
-    QFETCH(QByteArray, motif);
-    Bac bac;
-    Bac::ecrire(bac.chemin("gros.lng"), motif.repeated(50'000'000 / motif.size()) + "\n7:#:Sept");
-    QElapsedTimer temps;
-    temps.start();
-    bac.traduction.chargerFichier(bac.chemin("gros.lng"));
-    QVERIFY2(temps.elapsed() < 60'000, qPrintable(QString::number(temps.elapsed())));
-    QCOMPARE(texte(Txt(7)), "Sept");
-}
-
-void tst_traduction::leChoixSurvitAuRedemarrage()
-{
-    Bac bac;
-    QCOMPARE(Traduction::LangueCourante(), "Français.lng");
-    bac.traduction.choisir("Deutsch.lng");
-    const QStringList allemand = tousLesTextes(bac.traduction);
-    Traduction suivante;
-    suivante.chargerCourante();
-    QCOMPARE(tousLesTextes(suivante), allemand);
-    QCOMPARE(suivante.locale().language(), QLocale::German);
-    QCOMPARE(Traduction::LangueCourante(), "Deutsch.lng");
-    QVERIFY(refus([&] { bac.traduction.choisir("Absente.lng"); }).has_value());
-    QCOMPARE(tousLesTextes(bac.traduction), allemand);
-    QCOMPARE(Traduction::LangueCourante(), "Deutsch.lng");
-
-    // A file put there by hand tells more than the stored choice; one that nobody knows tells nothing.
-    Bac::ecrire(bac.chemin("defaut.lng"), Bac::lire(bac.chemin("langues/Español.lng")));
-    QCOMPARE(Traduction::LangueCourante(), "Español.lng");
-    Bac::ecrire(bac.chemin("defaut.lng"), "5:#:Moi");
-    QCOMPARE(Traduction::LangueCourante(), "Deutsch.lng");
-    QVERIFY(QFile::remove(bac.chemin("langues/Deutsch.lng")));
-    QCOMPARE(Traduction::LangueCourante(), "Français.lng");
-}
-
-void tst_traduction::chaqueLangueLivreeEstComplete_data()
-{
-    QTest::addColumn<QLocale::Language>("langue");
-    QTest::newRow("Français.lng") << QLocale::French;
-    QTest::newRow("English.lng") << QLocale::English;
-    QTest::newRow("Deutsch.lng") << QLocale::German;
-    QTest::newRow("Español.lng") << QLocale::Spanish;
-    QTest::newRow("Italiano.lng") << QLocale::Italian;
-    QTest::newRow("Nederlands.lng") << QLocale::Dutch;
-}
-
-void tst_traduction::chaqueLangueLivreeEstComplete()
-{
-    QFETCH(QLocale::Language, langue);
-    Bac bac;
-    const QStringList francais = tousLesTextes(bac.traduction);
-    const QString fichier = QString::fromUtf8(QTest::currentDataTag());
-    QVERIFY(Traduction::Langues().contains(fichier));
-    bac.traduction.choisir(fichier);
-    QCOMPARE(bac.traduction.locale().language(), langue);
-    const QStringList textes = tousLesTextes(bac.traduction);
-    for (qsizetype i = 0; i < textes.size(); ++i) {
-        QVERIFY2(textes[i].isEmpty() == francais[i].isEmpty(), qPrintable(QString::number(i)));
-        // In a file filter only the descriptions are translated.
-        if (francais[i].contains(u'|'))
-            QCOMPARE(textes[i].section(u'|', 1, 1), francais[i].section(u'|', 1, 1));
+    void unGrosFichierNeFigePas()
+    {
+        Bac bac;
+        for (const QByteArray motif : {"5:#:Cinq fois dix\n", "Cinq fois "}) {
+            Bac::ecrire(bac.chemin("gros.lng"), motif.repeated(50'000'000 / motif.size()) + "\n7:#:Sept");
+            QElapsedTimer temps;
+            temps.start();
+            bac.traduction.chargerFichier(bac.chemin("gros.lng"));
+            QVERIFY2(temps.elapsed() < 60'000, qPrintable(QString::number(temps.elapsed())));
+            QCOMPARE(texte(Txt(7)), "Sept");
+        }
     }
-    if (langue == QLocale::French)
-        QCOMPARE(textes, francais);
-}
 
-void tst_traduction::catalogues()
-{
-    QTest::addColumn<QString>("catalogue");
-    const QDir dossier(QStringLiteral(CATALOGUES));
-    for (const QString &nom : dossier.entryList({QStringLiteral("*.ts")}))
-        QTest::newRow(qPrintable(nom)) << dossier.filePath(nom);
-}
+    void leChoixSurvitAuRedemarrage()
+    {
+        Bac bac;
+        QCOMPARE(Traduction::LangueCourante(), "Français.lng");
+        bac.traduction.choisir("Deutsch.lng");
+        const QStringList allemand = tousLesTextes(bac.traduction);
+        Traduction suivante;
+        suivante.chargerCourante();
+        QCOMPARE(tousLesTextes(suivante), allemand);
+        QCOMPARE(suivante.locale().language(), QLocale::German);
+        QCOMPARE(Traduction::LangueCourante(), "Deutsch.lng");
+        QVERIFY(refus([&] { bac.traduction.choisir("Absente.lng"); }).has_value());
+        QCOMPARE(tousLesTextes(bac.traduction), allemand);
+        QCOMPARE(Traduction::LangueCourante(), "Deutsch.lng");
 
-/// Every text that the program takes from a catalogue is there, with the places for its values.
-void tst_traduction::chaqueCatalogueEstComplet()
-{
-    QFETCH(QString, catalogue);
-    static const QRegularExpression place(QStringLiteral("%[0-9n]"));
-    const auto placesDe = [](const QString &texte) {
-        QSet<QString> places;
-        for (auto i = place.globalMatch(texte); i.hasNext();)
-            places << i.next().captured();
-        return places;
-    };
-    QFile fichier(catalogue);
-    QVERIFY(fichier.open(QIODevice::ReadOnly));
-    QXmlStreamReader xml(&fichier);
-    QString source;
-    QStringList fautes;
-    int textes = 0;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == QLatin1String("source"))
-            source = xml.readElementText();
-        if (xml.name() != QLatin1String("translation"))
-            continue;
-        const auto genre = xml.attributes().value(QLatin1String("type"));
-        if (genre == QLatin1String("vanished") || genre == QLatin1String("obsolete"))
-            continue;
-        ++textes;
-        const QString texte = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-        if (!genre.isEmpty() || texte.trimmed().isEmpty() || placesDe(texte) != placesDe(source))
-            fautes << source;
+        // A file put there by hand tells more than the stored choice; one that nobody knows tells nothing.
+        Bac::ecrire(bac.chemin("defaut.lng"), Bac::lire(bac.chemin("langues/Español.lng")));
+        QCOMPARE(Traduction::LangueCourante(), "Español.lng");
+        Bac::ecrire(bac.chemin("defaut.lng"), "5:#:Moi");
+        QCOMPARE(Traduction::LangueCourante(), "Deutsch.lng");
+        QVERIFY(QFile::remove(bac.chemin("langues/Deutsch.lng")));
+        QCOMPARE(Traduction::LangueCourante(), "Français.lng");
     }
-    QVERIFY(!xml.hasError());
-    QVERIFY(textes > 200);
-    QVERIFY2(fautes.isEmpty(), qPrintable(fautes.join(u'\n')));
-}
+
+    void chaqueLangueLivreeEstComplete()
+    {
+        Bac bac;
+        const QStringList francais = tousLesTextes(bac.traduction);
+        QCOMPARE(Traduction::Langues().size(), 6);
+        for (const auto &[fichier, langue] :
+            {std::pair("Français.lng", QLocale::French), {"English.lng", QLocale::English},
+                {"Deutsch.lng", QLocale::German}, {"Español.lng", QLocale::Spanish},
+                {"Italiano.lng", QLocale::Italian}, {"Nederlands.lng", QLocale::Dutch}}) {
+            bac.traduction.choisir(fichier);
+            QCOMPARE(bac.traduction.locale().language(), langue);
+            const QStringList textes = tousLesTextes(bac.traduction);
+            for (qsizetype i = 0; i < textes.size(); ++i) {
+                QVERIFY2(textes[i].isEmpty() == francais[i].isEmpty(), qPrintable(QString::number(i)));
+                // In a file filter only the descriptions are translated.
+                if (francais[i].contains(u'|'))
+                    QCOMPARE(textes[i].section(u'|', 1, 1), francais[i].section(u'|', 1, 1));
+            }
+        }
+    }
+
+    /// Every text that the program takes from a catalogue is there, with the places for its values.
+    void chaqueCatalogueEstComplet()
+    {
+        static const QRegularExpression place("%[0-9n]");
+        static const QRegularExpression message(
+            "<source>(.*?)</source>.*?<translation(?: type=\"(\\w+)\")?(?:/>|>(.*?)</translation>)",
+            QRegularExpression::DotMatchesEverythingOption);
+        static const QRegularExpression balise("<[^>]*>");
+        const auto placesDe = [](const QString &texte) {
+            QSet<QString> places;
+            for (auto i = place.globalMatch(texte); i.hasNext();)
+                places << i.next().captured();
+            return places;
+        };
+        const QDir dossier(QStringLiteral(CATALOGUES));
+        for (const QString &nom : dossier.entryList({"*.ts"})) {
+            int textes = 0;
+            const QString catalogue = QString::fromUtf8(Bac::lire(dossier.filePath(nom)));
+            for (auto i = message.globalMatch(catalogue); i.hasNext();) {
+                const auto m = i.next();
+                if (m.captured(2) == "vanished" || m.captured(2) == "obsolete")
+                    continue;
+                ++textes;
+                const QString traduit = m.captured(3).remove(balise).trimmed();
+                QVERIFY2(m.captured(2).isEmpty() && !traduit.isEmpty()
+                        && placesDe(traduit) == placesDe(m.captured(1)),
+                    qPrintable(nom + ": " + m.captured(1)));
+            }
+            QVERIFY(textes > 200);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_traduction)
 #include "tst_traduction.moc"

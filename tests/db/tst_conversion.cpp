@@ -6,6 +6,7 @@
 #include "db/schema/Tables.h"
 #include "entry/Catalogue.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/EcrivainJet.h"
 
 #include <QDir>
@@ -18,35 +19,6 @@
 
 using Conversion::Code;
 using Conversion::Rapport;
-
-class tst_conversion : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void cleanup();
-    void uneVraieBaseDonneSesCellules_data();
-    void uneVraieBaseDonneSesCellules();
-    void uneBaseEcriteIciDonneSesCellules_data();
-    void uneBaseEcriteIciDonneSesCellules();
-    void ceQuiNEstPasGardeEstDit();
-    void leCatalogueGardeSesTextes();
-    void unRefusNeLaisseRien_data();
-    void unRefusNeLaisseRien();
-    void lUtilisateurArreteLaConversion();
-    void uneLigneSeLitCommeElleFutDite();
-    void ceQuiNEstPasUneLigneEstIgnore();
-    void desBitsFautifsNeTrompentPas();
-    void uneFinBrutaleNeLaisseRienAMoitie();
-
-private:
-    QString ancien() const { return m_dossier.filePath("l'été.mdb"); }
-    QString nouveau() const { return m_dossier.filePath("Œuvre neuve.mdb"); }
-    QStringList fichiers() const { return QDir(m_dossier.path()).entryList(QDir::Files | QDir::Hidden); }
-
-    QTemporaryDir m_dossier;
-    Bac m_bac;
-};
 
 namespace {
 
@@ -128,226 +100,6 @@ bool estSain(const QString &fichier)
 
 }
 
-void tst_conversion::cleanup()
-{
-    for (const QString &fichier : fichiers())
-        QFile::remove(m_dossier.filePath(fichier));
-}
-
-void tst_conversion::uneVraieBaseDonneSesCellules_data()
-{
-    QTest::addColumn<QString>("fichier");
-    QTest::addColumn<bool>("remplie");
-    QTest::newRow("Jet 4") << "bd-jet4.mdb" << true;
-    QTest::newRow("mot de passe") << "bd-password.mdb" << true;
-    QTest::newRow("ACE") << "bd-2007.accdb" << true;
-    QTest::newRow("vide") << "bd-empty.mdb" << false;
-}
-
-void tst_conversion::uneVraieBaseDonneSesCellules()
-{
-    QFETCH(QString, fichier);
-    QFETCH(bool, remplie);
-    if (!QFile::exists(materiel(fichier)))
-        QSKIP(qPrintable(fichier + " n'est pas là"));
-    const Rapport rapport = Conversion::Convertir(materiel(fichier), nouveau());
-    QCOMPARE(rapport.details, "");
-    QCOMPARE(rapport.nature, "collection");
-    QCOMPARE(rapport.tables.size(), qsizetype(Schema::Definitions().size()));
-    const QString montant = "montant|Album|52|PrixA|922337203685477.5807";
-    QCOMPARE(ecartes(rapport), QStringList(remplie ? 1 : 0, montant));
-    QVERIFY(estSain(nouveau()));
-    for (const Schema::Table &table : Schema::Definitions()) {
-        QString champs = "*";
-        const QStringList lignes = remplie ? attendues(table, champs) : QStringList();
-        QVERIFY2(lignes.isEmpty() != remplie, table.nom);
-        QCOMPARE(rangees(nouveau(), table.nom, champs), lignes);
-    }
-}
-
-void tst_conversion::uneBaseEcriteIciDonneSesCellules_data()
-{
-    QTest::addColumn<bool>("jet3");
-    QTest::newRow("Jet 4") << false;
-    QTest::newRow("Jet 3") << true;
-}
-
-void tst_conversion::uneBaseEcriteIciDonneSesCellules()
-{
-    QFETCH(bool, jet3);
-    const QString ailleurs = jet3 ? "Été" : LongTexte(70'000, u'Ā');
-    const QList<QString> memos{LongTexte(5), LongTexte(64), LongTexte(1990), LongTexte(4070),
-        LongTexte(70'000), ailleurs, " ", "", jet3 ? "à" : "Bulle 😀 中 œ", {}};
-    Table fiches = DuSchema("Album");
-    // What the upgrade of old files adds is not there, and names are matched without regard to case.
-    fiches.champs.removeLast();
-    fiches.nom = "aLBUM";
-    fiches.champs[0].nom = "NUM";
-    fiches.champs[8].type = Type::Court; // QualBD
-    fiches.champs[19].type = Type::Date; // DPret
-    Table liens = DuSchema("SerieAlbums");
-    liens.champs.removeLast();
-    QStringList prevues;
-    for (int i = 0; i < memos.size(); ++i) {
-        fiches.rangees << Rangee(fiches,
-            {{"NUM", i}, {"NAlbum", i}, {"QualBD", -i},
-                {"Histoire", memos[i].isNull() ? QVariant() : memos[i]}, {"ISBN", " "}, {"DPret", 36526 + i},
-                {"PrixA", i == 1 ? qlonglong(9'007'199'254'740'000) : qlonglong(i) * -1001},
-                {"HSerie", i % 2}});
-        liens.rangees << Rangee(liens, {{"NSerie", 3}, {"NAlbum", i}});
-        const double prix = i == 1 ? 900'719'925'474.0 : i * -0.1001;
-        prevues << QStringList{QString::number(i), QString::number(-i), memos[i], " ", "",
-            QDate(2000, 1, 1 + i).toString("dd/MM/yyyy"), cellule(prix), i % 2 ? "-1" : "0", "0"}
-                       .join(u'|');
-    }
-    Bac::ecrire(ancien(), Octets({.tables = {fiches, liens}, .jet3 = jet3}));
-    const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
-    QCOMPARE(rapport.details, "");
-    QVERIFY(ecartes(rapport).isEmpty());
-    QVERIFY(estSain(nouveau()));
-    const QString champs = "Num, QualBD, Histoire, ISBN, DA, DPret, PrixA, HSerie, Coffret";
-    QCOMPARE(rangees(nouveau(), "Album", champs), prevues);
-    QCOMPARE(rangees(nouveau(), "Album", "group_concat(DISTINCT typeof(DA))"), QStringList("null"));
-    QCOMPARE(rangees(nouveau(), "SerieAlbums", "NumeroAlbum2")[2], "C");
-}
-
-void tst_conversion::ceQuiNEstPasGardeEstDit()
-{
-    Table fiches = DuSchema("Album");
-    fiches.champs[1].type = Type::Texte; // NAlbum
-    fiches.champs[3].type = Type::Double; // NGenre
-    fiches.champs << Champ{"Reliure", Type::Texte} << Champ{"Vignette", Type::Ole};
-    const auto ajouter = [&](const QMap<QString, QVariant> &v) { fiches.rangees << Rangee(fiches, v); };
-    ajouter({{"Num", 1}, {"NAlbum", "7 "}, {"NGenre", 3.0}, {"ISBN", "premier"}});
-    ajouter({{"Num", 1}, {"NAlbum", "2"}, {"NGenre", 0.5}, {"ISBN", "tab\tet\nligne"}, {"Broche", true}});
-    ajouter({{"NAlbum", "sans numéro"}});
-    ajouter({{"Num", 2}, {"NAlbum", "douze"}, {"NGenre", 2.5}, {"PrixA", qlonglong(9'007'199'254'750'001)}});
-    ajouter({{"Num", 3}, {"NAlbum", " "}, {"NGenre", 1e12}, {"PrixA", qlonglong(-9'007'199'254'750'001)}});
-    Table inconnue{"Mes notes", {{"N", Type::Long}}, {{1}, {2}}};
-    Bac::ecrire(ancien(), Octets({{fiches, inconnue}}));
-    const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
-    QCOMPARE(rapport.details, "");
-    const QStringList attendus{"champInconnu|Album|Reliure", "champInconnu|Album|Vignette",
-        "tableInconnue|Mes notes|2", "double|Album|Num=1|NAlbum=2|NGenre=0.5|ISBN=tab\tet\nligne|Broche=1",
-        "identifiant|Album|NAlbum=sans numéro", "nombre|Album|2|NAlbum|douze", "nombre|Album|2|NGenre|2.5",
-        "montant|Album|2|PrixA|900719925475.0001", "nombre|Album|3|NGenre|1000000000000",
-        "montant|Album|3|PrixA|-900719925475.0001"};
-    QCOMPARE(ecartes(rapport), attendus);
-    QCOMPARE(rapport.ecartes.size() - attendus.size(), 21); // tables that are not there
-    QCOMPARE(rangees(nouveau(), "Album", "Num, NAlbum, NGenre, ISBN"),
-        QStringList({"1|7|3|premier", "2|||", "3|||"}));
-}
-
-void tst_conversion::leCatalogueGardeSesTextes()
-{
-    Table bd = DuSchema("BD");
-    bd.rangees << Rangee(
-        bd, {{"Numero", 5}, {"Titre", "Xq zé"}, {"Tome", 7}, {"Serie", "Ww"}, {"Couleur", true}});
-    Bac::ecrire(ancien(), Octets({{bd}}));
-    QFile::remove(m_bac.chemin("BDbase.bd"));
-    const Rapport rapport = Conversion::Convertir(ancien(), m_bac.chemin("BDbase.bd"));
-    QCOMPARE(rapport.details, "");
-    QCOMPARE(rapport.nature, "catalogue");
-    const Catalogue::Liste liste = Catalogue::LireAlbums();
-    QVERIFY(liste.telsQuels && liste.illisibles == 0);
-    QCOMPARE(liste.albums.texte(0), "Xq zé  (N° 7)");
-    const auto reference = Catalogue::LireReference(5);
-    QVERIFY(reference && reference->album[Rubrique::Couleur] == "1");
-    QCOMPARE(reference->album[Rubrique::Serie], "Ww");
-}
-
-void tst_conversion::unRefusNeLaisseRien_data()
-{
-    QTest::addColumn<QByteArray>("octets");
-    QTest::addColumn<Code>("code");
-    const QByteArray saine = UneCollection(40);
-    const auto changee = [&](qsizetype ou, const QByteArray &par) {
-        QByteArray octets = saine;
-        return octets.replace(ou, par.size(), par);
-    };
-    QTest::newRow("vide") << QByteArray() << Code::Etrangere;
-    QTest::newRow("autre marque") << changee(4, "Standard Kit") << Code::Etrangere;
-    QTest::newRow("autre version") << changee(0x14, "\x09") << Code::Etrangere;
-    QTest::newRow("autres tables") << Octets({{DuSchema("Serie")}}) << Code::Etrangere;
-    QTest::newRow("codee") << Octets({.tables = {DuSchema("Album")}, .codee = true}) << Code::Chiffree;
-    QTest::newRow("coupee entre deux pages") << saine.first(8 * Page) << Code::Abimee;
-    QTest::newRow("catalogue illisible") << changee(2 * Page, QByteArray(Page, '\xA5')) << Code::Abimee;
-    QTest::newRow("catalogue incomplet") << changee(2 * Page + 16, "\x05") << Code::Abimee;
-    QTest::newRow("page d'une autre table") << changee(7 * Page + 4, "\x05") << Code::Abimee;
-    // The rank of the row count in a definition page.
-    QTest::newRow("table dite vide") << changee(4 * Page + 16, QByteArray(1, '\0')) << Code::Abimee;
-    QTest::newRow("texte long d'une table")
-        << changee(saine.indexOf("LVAL"), QByteArray("\x03\0\0", 4)) << Code::Abimee;
-    for (const char *nom : {"bd-truncated.mdb", "bd-garbage.mdb"})
-        QTest::newRow(nom) << Bac::lire(materiel(nom)) << Code::Abimee;
-}
-
-void tst_conversion::unRefusNeLaisseRien()
-{
-    QFETCH(QByteArray, octets);
-    const QString nom = QTest::currentDataTag();
-    if (nom.endsWith(".mdb") && octets.isEmpty())
-        QSKIP(qPrintable(nom + " n'est pas là"));
-    Bac::ecrire(ancien(), octets);
-    const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
-    QTEST(rapport.erreur, "code");
-    QVERIFY(!rapport.details.isEmpty() && rapport.nature.isEmpty());
-    QProcess processus;
-    Outil::Lancer(processus, "bulleo-convertir", {ancien(), nouveau()});
-    QVERIFY(processus.waitForFinished() && processus.exitCode() != 0);
-    QCOMPARE(fichiers(), QStringList("l'été.mdb"));
-    QVERIFY(Bac::lire(ancien()) == octets);
-}
-
-void tst_conversion::lUtilisateurArreteLaConversion()
-{
-    Bac::ecrire(ancien(), UneCollection(2000));
-    const auto suivre = [](int avance) { return avance < 20; };
-    QCOMPARE(Conversion::Convertir(ancien(), nouveau(), suivre).erreur, Code::Annulee);
-    QCOMPARE(Conversion::Convertir(ancien(), nouveau(), {}, 0).erreur, Code::Abimee);
-    QCOMPARE(fichiers(), QStringList("l'été.mdb"));
-    const QString ailleurs = m_dossier.filePath("nulle part/nouveau.mdb");
-    QCOMPARE(Conversion::Convertir(ancien(), ailleurs).erreur, Code::Ecriture);
-    Bac::ecrire(nouveau(), "déjà là");
-    QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Existe);
-    QCOMPARE(Bac::lire(nouveau()), "déjà là");
-    QCOMPARE(Conversion::Convertir(ancien(), ancien()).erreur, Code::Existe);
-}
-
-void tst_conversion::uneLigneSeLitCommeElleFutDite()
-{
-    const QString texte = QString("é\t\n\"\\,} 😀 ") + QChar(0) + QChar(0xD83D); // half a pair of UTF-16
-    Rapport rapport;
-    const QList<Conversion::Annonce> annonces{Conversion::Avance{100}, Conversion::TableLue{texte, 1LL << 53},
-        Conversion::Ecarte{texte, texte, {texte, ""}}, Conversion::Echouee{Code::Chiffree, texte},
-        Conversion::Fini{"catalogue"}};
-    for (const Conversion::Annonce &annonce : annonces)
-        QVERIFY(Conversion::Lire(rapport, Conversion::Ligne(annonce)));
-    QVERIFY(rapport.avance == 100 && rapport.nature == "catalogue");
-    QVERIFY(rapport.tables[0].nom == texte && rapport.tables[0].rangees == 1LL << 53);
-    QCOMPARE(ecartes(rapport), QStringList(texte + u'|' + texte + u'|' + texte + u'|'));
-    QVERIFY(rapport.erreur == Code::Chiffree && rapport.details == texte);
-}
-
-void tst_conversion::ceQuiNEstPasUneLigneEstIgnore()
-{
-    QByteArrayList fautes{"\n", "warning: 3\n", "{}", R"([{"avance":1}])", R"({"avance":1}{"avance":2})",
-        R"({"avance":1,"fini":"x"})", R"({"avance":"3"})", R"({"avance":1.5})", R"({"avance":101})",
-        R"({"table":"A"})", R"({"table":"A","rangees":-1})", R"({"table":"A","rangees":1e300})",
-        R"({"table":1,"rangees":1})", R"({"ecarte":"x","table":"A","quoi":["y",1]})", R"({"fini":true})",
-        R"({"erreur":5,"details":""})", "{\"fini\":\"\xE9\"}", QByteArray(10'000'000, '[')};
-    const QByteArray entiere = Conversion::Ligne(Conversion::Ecarte{"double", "Été", {"a", "b"}});
-    for (qsizetype i = 0; i < entiere.size() - 1; ++i)
-        fautes << entiere.first(i);
-    Rapport rapport;
-    for (const QByteArray &faute : std::as_const(fautes))
-        QVERIFY2(!Conversion::Lire(rapport, faute), faute.left(60));
-    QVERIFY(rapport.avance == 0 && rapport.tables.isEmpty() && rapport.ecartes.isEmpty());
-    QVERIFY(rapport.nature.isEmpty() && rapport.erreur == Code::Aucun);
-    QVERIFY(Conversion::Lire(rapport, R"({"erreur":"autre","details":"x"})"));
-    QCOMPARE(rapport.erreur, Code::Abimee);
-}
-
 namespace {
 
 /// A few bits, as likely on one page as on another, but not where it is empty.
@@ -378,63 +130,298 @@ bool rendCompte(const Rapport &rapport, qint64 attendues)
 
 }
 
-/// A damaged file is refused, or gives a sound collection in which no row was lost without a word.
-void tst_conversion::desBitsFautifsNeTrompentPas()
+class tst_conversion : public QObject
 {
-    constexpr int Variantes = 1000;
-    constexpr int Albums = 6;
-    const QByteArray saine = UneCollection(Albums);
-    std::atomic<int> suivante = 0;
-    std::atomic<int> reussies = 0;
-    std::atomic<int> fautive = -1;
-    const auto travailler = [&] {
-        for (int n = suivante++; n < Variantes; n = suivante++) {
-            const QString source = m_dossier.filePath(QString("variante%1.mdb").arg(n));
-            const QString cible = m_dossier.filePath(QString("cible%1.mdb").arg(n));
-            Bac::ecrire(source, abimer(saine, QRandomGenerator(static_cast<quint32>(n))));
-            const Rapport rapport = Conversion::Convertir(source, cible, {}, 30'000);
-            const bool reussie = rapport.erreur == Code::Aucun;
-            reussies += reussie;
-            const bool tient = QFile::exists(cible) == reussie
-                && (!reussie || (estSain(cible) && rendCompte(rapport, 3 * Albums)));
-            QFile::remove(cible);
-            if (!tient || !QFile::remove(source))
-                fautive = n;
-        }
-    };
-    for (std::vector<std::jthread> ateliers; ateliers.size() < 4;)
-        ateliers.emplace_back(travailler);
-    QCOMPARE(fautive, -1);
-    QVERIFY(reussies > 0 && reussies < Variantes && fichiers().isEmpty());
-}
+    Q_OBJECT
 
-void tst_conversion::uneFinBrutaleNeLaisseRienAMoitie()
-{
-    const QByteArray octets = UneCollection(600);
-    Bac::ecrire(ancien(), octets);
-    QElapsedTimer duree;
-    duree.start();
-    QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Aucun);
-    const int entiere = static_cast<int>(duree.elapsed());
-    QVERIFY(QFile::remove(nouveau()));
-    QRandomGenerator hasard(7);
-    int entamees = 0;
-    for (int i = 0; i < 50; ++i, QFile::remove(nouveau())) {
-        QProcess processus;
-        processus.setStandardErrorFile(QProcess::nullDevice());
-        Outil::Lancer(processus, "bulleo-convertir", {ancien(), nouveau()});
-        processus.waitForFinished(hasard.bounded(entiere + entiere / 10));
-        Outil::Arreter(processus);
-        QVERIFY(Bac::lire(ancien()) == octets);
-        entamees += QFile::exists(Conversion::Partiel(nouveau()));
-        if (QFile::exists(nouveau()))
-            QVERIFY(estSain(nouveau()) && rangees(nouveau(), "LAlbums", "NAlbum").size() == 600);
+private Q_SLOTS:
+    void cleanup()
+    {
+        for (const QString &fichier : fichiers())
+            QFile::remove(m_dossier.filePath(fichier));
     }
-    QVERIFY(entamees > 0);
-    // What a dead converter left behind is no hindrance.
-    QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Aucun);
-    QCOMPARE(fichiers(), QStringList({"l'été.mdb", "Œuvre neuve.mdb"}));
-}
+
+    void uneVraieBaseDonneSesCellules_data()
+    {
+        colonnes<QString, bool>();
+        QTest::newRow("Jet 4") << "bd-jet4.mdb" << true;
+        QTest::newRow("mot de passe") << "bd-password.mdb" << true;
+        QTest::newRow("ACE") << "bd-2007.accdb" << true;
+        QTest::newRow("vide") << "bd-empty.mdb" << false;
+    }
+
+    void uneVraieBaseDonneSesCellules()
+    {
+        const auto [fichier, remplie] = essai<QString, bool>();
+        if (!QFile::exists(materiel(fichier)))
+            QSKIP(qPrintable(fichier + " n'est pas là"));
+        const Rapport rapport = Conversion::Convertir(materiel(fichier), nouveau());
+        QCOMPARE(rapport.details, "");
+        QCOMPARE(rapport.nature, "collection");
+        QCOMPARE(rapport.tables.size(), qsizetype(Schema::Definitions().size()));
+        const QString montant = "montant|Album|52|PrixA|922337203685477.5807";
+        QCOMPARE(ecartes(rapport), QStringList(remplie ? 1 : 0, montant));
+        QVERIFY(estSain(nouveau()));
+        for (const Schema::Table &table : Schema::Definitions()) {
+            QString champs = "*";
+            const QStringList lignes = remplie ? attendues(table, champs) : QStringList();
+            QVERIFY2(lignes.isEmpty() != remplie, table.nom);
+            QCOMPARE(rangees(nouveau(), table.nom, champs), lignes);
+        }
+    }
+
+    void uneBaseEcriteIciDonneSesCellules_data()
+    {
+        QTest::addColumn<bool>("jet3");
+        QTest::newRow("Jet 4") << false;
+        QTest::newRow("Jet 3") << true;
+    }
+
+    void uneBaseEcriteIciDonneSesCellules()
+    {
+        QFETCH(bool, jet3);
+        const QString ailleurs = jet3 ? "Été" : LongTexte(70'000, u'Ā');
+        const QList<QString> memos{LongTexte(5), LongTexte(64), LongTexte(1990), LongTexte(4070),
+            LongTexte(70'000), ailleurs, " ", "", jet3 ? "à" : "Bulle 😀 中 œ", {}};
+        Table fiches = DuSchema("Album");
+        // What the upgrade of old files adds is not there, and names are matched without regard to case.
+        fiches.champs.removeLast();
+        fiches.nom = "aLBUM";
+        fiches.champs[0].nom = "NUM";
+        fiches.champs[8].type = Type::Court; // QualBD
+        fiches.champs[19].type = Type::Date; // DPret
+        Table liens = DuSchema("SerieAlbums");
+        liens.champs.removeLast();
+        QStringList prevues;
+        for (int i = 0; i < memos.size(); ++i) {
+            fiches.rangees << Rangee(fiches,
+                {{"NUM", i}, {"NAlbum", i}, {"QualBD", -i},
+                    {"Histoire", memos[i].isNull() ? QVariant() : memos[i]}, {"ISBN", " "},
+                    {"DPret", 36526 + i},
+                    {"PrixA", i == 1 ? qlonglong(9'007'199'254'740'000) : qlonglong(i) * -1001},
+                    {"HSerie", i % 2}});
+            liens.rangees << Rangee(liens, {{"NSerie", 3}, {"NAlbum", i}});
+            const double prix = i == 1 ? 900'719'925'474.0 : i * -0.1001;
+            prevues << QStringList{QString::number(i), QString::number(-i), memos[i], " ", "",
+                QDate(2000, 1, 1 + i).toString("dd/MM/yyyy"), cellule(prix), i % 2 ? "-1" : "0", "0"}
+                           .join(u'|');
+        }
+        Bac::ecrire(ancien(), Octets({.tables = {fiches, liens}, .jet3 = jet3}));
+        const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
+        QCOMPARE(rapport.details, "");
+        QVERIFY(ecartes(rapport).isEmpty());
+        QVERIFY(estSain(nouveau()));
+        const QString champs = "Num, QualBD, Histoire, ISBN, DA, DPret, PrixA, HSerie, Coffret";
+        QCOMPARE(rangees(nouveau(), "Album", champs), prevues);
+        QCOMPARE(rangees(nouveau(), "Album", "group_concat(DISTINCT typeof(DA))"), QStringList("null"));
+        QCOMPARE(rangees(nouveau(), "SerieAlbums", "NumeroAlbum2")[2], "C");
+    }
+
+    void ceQuiNEstPasGardeEstDit()
+    {
+        Table fiches = DuSchema("Album");
+        fiches.champs[1].type = Type::Texte; // NAlbum
+        fiches.champs[3].type = Type::Double; // NGenre
+        fiches.champs << Champ{"Reliure", Type::Texte} << Champ{"Vignette", Type::Ole};
+        const auto ajouter = [&](const QMap<QString, QVariant> &v) { fiches.rangees << Rangee(fiches, v); };
+        ajouter({{"Num", 1}, {"NAlbum", "7 "}, {"NGenre", 3.0}, {"ISBN", "premier"}});
+        ajouter({{"Num", 1}, {"NAlbum", "2"}, {"NGenre", 0.5}, {"ISBN", "tab\tet\nligne"}, {"Broche", true}});
+        ajouter({{"NAlbum", "sans numéro"}});
+        ajouter(
+            {{"Num", 2}, {"NAlbum", "douze"}, {"NGenre", 2.5}, {"PrixA", qlonglong(9'007'199'254'750'001)}});
+        ajouter(
+            {{"Num", 3}, {"NAlbum", " "}, {"NGenre", 1e12}, {"PrixA", qlonglong(-9'007'199'254'750'001)}});
+        Table inconnue{"Mes notes", {{"N", Type::Long}}, {{1}, {2}}};
+        Bac::ecrire(ancien(), Octets({{fiches, inconnue}}));
+        const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
+        QCOMPARE(rapport.details, "");
+        const QStringList attendus{"champInconnu|Album|Reliure", "champInconnu|Album|Vignette",
+            "tableInconnue|Mes notes|2",
+            "double|Album|Num=1|NAlbum=2|NGenre=0.5|ISBN=tab\tet\nligne|Broche=1",
+            "identifiant|Album|NAlbum=sans numéro", "nombre|Album|2|NAlbum|douze",
+            "nombre|Album|2|NGenre|2.5", "montant|Album|2|PrixA|900719925475.0001",
+            "nombre|Album|3|NGenre|1000000000000", "montant|Album|3|PrixA|-900719925475.0001"};
+        QCOMPARE(ecartes(rapport), attendus);
+        QCOMPARE(rapport.ecartes.size() - attendus.size(), 21); // tables that are not there
+        QCOMPARE(rangees(nouveau(), "Album", "Num, NAlbum, NGenre, ISBN"),
+            QStringList({"1|7|3|premier", "2|||", "3|||"}));
+    }
+
+    void leCatalogueGardeSesTextes()
+    {
+        Table bd = DuSchema("BD");
+        bd.rangees << Rangee(
+            bd, {{"Numero", 5}, {"Titre", "Xq zé"}, {"Tome", 7}, {"Serie", "Ww"}, {"Couleur", true}});
+        Bac::ecrire(ancien(), Octets({{bd}}));
+        QFile::remove(m_bac.chemin("BDbase.bd"));
+        const Rapport rapport = Conversion::Convertir(ancien(), m_bac.chemin("BDbase.bd"));
+        QCOMPARE(rapport.details, "");
+        QCOMPARE(rapport.nature, "catalogue");
+        const Catalogue::Liste liste = Catalogue::LireAlbums();
+        QVERIFY(liste.telsQuels && liste.illisibles == 0);
+        QCOMPARE(liste.albums.texte(0), "Xq zé  (N° 7)");
+        const auto reference = Catalogue::LireReference(5);
+        QVERIFY(reference && reference->album[Rubrique::Couleur] == "1");
+        QCOMPARE(reference->album[Rubrique::Serie], "Ww");
+    }
+
+    void unRefusNeLaisseRien_data()
+    {
+        colonnes<QByteArray, Code>();
+        const QByteArray saine = UneCollection(40);
+        const auto changee = [&](qsizetype ou, const QByteArray &par) {
+            QByteArray octets = saine;
+            return octets.replace(ou, par.size(), par);
+        };
+        QTest::newRow("vide") << QByteArray() << Code::Etrangere;
+        QTest::newRow("autre marque") << changee(4, "Standard Kit") << Code::Etrangere;
+        QTest::newRow("autre version") << changee(0x14, "\x09") << Code::Etrangere;
+        QTest::newRow("autres tables") << Octets({{DuSchema("Serie")}}) << Code::Etrangere;
+        QTest::newRow("codee") << Octets({.tables = {DuSchema("Album")}, .codee = true}) << Code::Chiffree;
+        QTest::newRow("coupee entre deux pages") << saine.first(8 * Page) << Code::Abimee;
+        QTest::newRow("catalogue illisible") << changee(2 * Page, QByteArray(Page, '\xA5')) << Code::Abimee;
+        QTest::newRow("catalogue incomplet") << changee(2 * Page + 16, "\x05") << Code::Abimee;
+        QTest::newRow("page d'une autre table") << changee(7 * Page + 4, "\x05") << Code::Abimee;
+        // The rank of the row count in a definition page.
+        QTest::newRow("table dite vide") << changee(4 * Page + 16, QByteArray(1, '\0')) << Code::Abimee;
+        QTest::newRow("texte long d'une table")
+            << changee(saine.indexOf("LVAL"), QByteArray("\x03\0\0", 4)) << Code::Abimee;
+        for (const char *nom : {"bd-truncated.mdb", "bd-garbage.mdb"})
+            QTest::newRow(nom) << Bac::lire(materiel(nom)) << Code::Abimee;
+    }
+
+    void unRefusNeLaisseRien()
+    {
+        const auto [octets, code] = essai<QByteArray, Code>();
+        const QString nom = QTest::currentDataTag();
+        if (nom.endsWith(".mdb") && octets.isEmpty())
+            QSKIP(qPrintable(nom + " n'est pas là"));
+        Bac::ecrire(ancien(), octets);
+        const Rapport rapport = Conversion::Convertir(ancien(), nouveau());
+        QCOMPARE(rapport.erreur, code);
+        QVERIFY(!rapport.details.isEmpty() && rapport.nature.isEmpty());
+        QProcess processus;
+        Outil::Lancer(processus, "bulleo-convertir", {ancien(), nouveau()});
+        QVERIFY(processus.waitForFinished() && processus.exitCode() != 0);
+        QCOMPARE(fichiers(), QStringList("l'été.mdb"));
+        QVERIFY(Bac::lire(ancien()) == octets);
+    }
+
+    void lUtilisateurArreteLaConversion()
+    {
+        Bac::ecrire(ancien(), UneCollection(2000));
+        const auto suivre = [](int avance) { return avance < 20; };
+        QCOMPARE(Conversion::Convertir(ancien(), nouveau(), suivre).erreur, Code::Annulee);
+        QCOMPARE(Conversion::Convertir(ancien(), nouveau(), {}, 0).erreur, Code::Abimee);
+        QCOMPARE(fichiers(), QStringList("l'été.mdb"));
+        const QString ailleurs = m_dossier.filePath("nulle part/nouveau.mdb");
+        QCOMPARE(Conversion::Convertir(ancien(), ailleurs).erreur, Code::Ecriture);
+        Bac::ecrire(nouveau(), "déjà là");
+        QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Existe);
+        QCOMPARE(Bac::lire(nouveau()), "déjà là");
+        QCOMPARE(Conversion::Convertir(ancien(), ancien()).erreur, Code::Existe);
+    }
+
+    void uneLigneSeLitCommeElleFutDite()
+    {
+        const QString texte = QString("é\t\n\"\\,} 😀 ") + QChar(0) + QChar(0xD83D); // half a pair of UTF-16
+        Rapport rapport;
+        const QList<Conversion::Annonce> annonces{Conversion::Avance{100},
+            Conversion::TableLue{texte, 1LL << 53}, Conversion::Ecarte{texte, texte, {texte, ""}},
+            Conversion::Echouee{Code::Chiffree, texte}, Conversion::Fini{"catalogue"}};
+        for (const Conversion::Annonce &annonce : annonces)
+            QVERIFY(Conversion::Lire(rapport, Conversion::Ligne(annonce)));
+        QVERIFY(rapport.avance == 100 && rapport.nature == "catalogue");
+        QVERIFY(rapport.tables[0].nom == texte && rapport.tables[0].rangees == 1LL << 53);
+        QCOMPARE(ecartes(rapport), QStringList(texte + u'|' + texte + u'|' + texte + u'|'));
+        QVERIFY(rapport.erreur == Code::Chiffree && rapport.details == texte);
+    }
+
+    void ceQuiNEstPasUneLigneEstIgnore()
+    {
+        QByteArrayList fautes{"\n", "warning: 3\n", "{}", R"([{"avance":1}])", R"({"avance":1}{"avance":2})",
+            R"({"avance":1,"fini":"x"})", R"({"avance":"3"})", R"({"avance":1.5})", R"({"avance":101})",
+            R"({"table":"A"})", R"({"table":"A","rangees":-1})", R"({"table":"A","rangees":1e300})",
+            R"({"table":1,"rangees":1})", R"({"ecarte":"x","table":"A","quoi":["y",1]})", R"({"fini":true})",
+            R"({"erreur":5,"details":""})", "{\"fini\":\"\xE9\"}", QByteArray(10'000'000, '[')};
+        const QByteArray entiere = Conversion::Ligne(Conversion::Ecarte{"double", "Été", {"a", "b"}});
+        for (qsizetype i = 0; i < entiere.size() - 1; ++i)
+            fautes << entiere.first(i);
+        Rapport rapport;
+        for (const QByteArray &faute : std::as_const(fautes))
+            QVERIFY2(!Conversion::Lire(rapport, faute), faute.left(60));
+        QVERIFY(rapport.avance == 0 && rapport.tables.isEmpty() && rapport.ecartes.isEmpty());
+        QVERIFY(rapport.nature.isEmpty() && rapport.erreur == Code::Aucun);
+        QVERIFY(Conversion::Lire(rapport, R"({"erreur":"autre","details":"x"})"));
+        QCOMPARE(rapport.erreur, Code::Abimee);
+    }
+
+    /// A damaged file is refused, or gives a sound collection in which no row was lost without a word.
+    void desBitsFautifsNeTrompentPas()
+    {
+        constexpr int Variantes = 1000;
+        constexpr int Albums = 6;
+        const QByteArray saine = UneCollection(Albums);
+        std::atomic<int> suivante = 0;
+        std::atomic<int> reussies = 0;
+        std::atomic<int> fautive = -1;
+        const auto travailler = [&] {
+            for (int n = suivante++; n < Variantes; n = suivante++) {
+                const QString source = m_dossier.filePath(QString("variante%1.mdb").arg(n));
+                const QString cible = m_dossier.filePath(QString("cible%1.mdb").arg(n));
+                Bac::ecrire(source, abimer(saine, QRandomGenerator(static_cast<quint32>(n))));
+                const Rapport rapport = Conversion::Convertir(source, cible, {}, 30'000);
+                const bool reussie = rapport.erreur == Code::Aucun;
+                reussies += reussie;
+                const bool tient = QFile::exists(cible) == reussie
+                    && (!reussie || (estSain(cible) && rendCompte(rapport, 3 * Albums)));
+                QFile::remove(cible);
+                if (!tient || !QFile::remove(source))
+                    fautive = n;
+            }
+        };
+        for (std::vector<std::jthread> ateliers; ateliers.size() < 4;)
+            ateliers.emplace_back(travailler);
+        QCOMPARE(fautive, -1);
+        QVERIFY(reussies > 0 && reussies < Variantes && fichiers().isEmpty());
+    }
+
+    void uneFinBrutaleNeLaisseRienAMoitie()
+    {
+        const QByteArray octets = UneCollection(600);
+        Bac::ecrire(ancien(), octets);
+        QElapsedTimer duree;
+        duree.start();
+        QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Aucun);
+        const int entiere = static_cast<int>(duree.elapsed());
+        QVERIFY(QFile::remove(nouveau()));
+        QRandomGenerator hasard(7);
+        int entamees = 0;
+        for (int i = 0; i < 50; ++i, QFile::remove(nouveau())) {
+            QProcess processus;
+            processus.setStandardErrorFile(QProcess::nullDevice());
+            Outil::Lancer(processus, "bulleo-convertir", {ancien(), nouveau()});
+            processus.waitForFinished(hasard.bounded(entiere + entiere / 10));
+            Outil::Arreter(processus);
+            QVERIFY(Bac::lire(ancien()) == octets);
+            entamees += QFile::exists(Conversion::Partiel(nouveau()));
+            if (QFile::exists(nouveau()))
+                QVERIFY(estSain(nouveau()) && rangees(nouveau(), "LAlbums", "NAlbum").size() == 600);
+        }
+        QVERIFY(entamees > 0);
+        // What a dead converter left behind is no hindrance.
+        QCOMPARE(Conversion::Convertir(ancien(), nouveau()).erreur, Code::Aucun);
+        QCOMPARE(fichiers(), QStringList({"l'été.mdb", "Œuvre neuve.mdb"}));
+    }
+
+private:
+    QString ancien() const { return m_dossier.filePath("l'été.mdb"); }
+    QString nouveau() const { return m_dossier.filePath("Œuvre neuve.mdb"); }
+    QStringList fichiers() const { return QDir(m_dossier.path()).entryList(QDir::Files | QDir::Hidden); }
+
+    QTemporaryDir m_dossier;
+    Bac m_bac;
+};
 
 QTEST_GUILESS_MAIN(tst_conversion)
 #include "tst_conversion.moc"

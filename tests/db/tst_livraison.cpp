@@ -1,7 +1,9 @@
 #include "db/files/FichierNeuf.h"
 #include "db/files/Livraison.h"
+#include "support/Anonyme.h"
 #include "support/Autre.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/Refus.h"
 
 #include <QCryptographicHash>
@@ -11,35 +13,6 @@
 #include <csignal>
 #include <functional>
 #include <sys/resource.h>
-#include <unistd.h>
-
-class tst_livraison : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void unDossierNeufEstRempli_data();
-    void unDossierNeufEstRempli();
-    void unDossierNonVideNEstPasEcrase_data();
-    void unDossierNonVideNEstPasEcrase();
-    void seulCeQuiEstResteTelQuelEstRemplace();
-    void laLangueEnVigueurVieillitAvecSonFichier_data();
-    void laLangueEnVigueurVieillitAvecSonFichier();
-    void ceQuiTientLaPlaceDUnFichierReste();
-    void unPassageSuffitParLivraison();
-    void uneLivraisonAbimeeNeRemplaceRien_data();
-    void uneLivraisonAbimeeNeRemplaceRien();
-    void unDisquePleinLaisseTout_data();
-    void unDisquePleinLaisseTout();
-    void lesDroitsDeLUtilisateurSontRespectes_data();
-    void lesDroitsDeLUtilisateurSontRespectes();
-    void unCatalogueSeJugeASonContenu_data();
-    void unCatalogueSeJugeASonContenu();
-    void lEmpreinteDUnCatalogueVoitChaqueValeur();
-    void uneCollectionViergeEstRenouvelee_data();
-    void uneCollectionViergeEstRenouvelee();
-    void toutCeQuiEstLivreEstNote();
-};
 
 namespace {
 
@@ -117,41 +90,6 @@ struct Lieu
 const QStringList Complements{"BDbase.bd=BDbase.bd1", "Fond Ecran/bois.jpg=Fond Ecran/bois.jpg1",
     "Help/index.htm=Help/index.htm1", "langues/English.lng=langues/English.lng1"};
 
-/// Nobody in particular: root is not held back by what a file's mode forbids.
-class Anonyme
-{
-public:
-    Anonyme()
-    {
-        if (m_racine && setresuid(65534, 65534, 0) != 0)
-            qFatal("setresuid");
-    }
-    ~Anonyme()
-    {
-        if (m_racine && setresuid(0, 0, 0) != 0)
-            qFatal("setresuid");
-    }
-    Anonyme(const Anonyme &) = delete;
-    Anonyme &operator=(const Anonyme &) = delete;
-
-    /// Gives all that is under a folder away to him.
-    static void donner(const QString &dossier)
-    {
-        QStringList chemins{dossier};
-        for (QDirIterator i(dossier, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                 QDirIterator::Subdirectories);
-             i.hasNext();)
-            chemins << i.next();
-        for (const QString &chemin : std::as_const(chemins)) {
-            if (geteuid() == 0 && chown(qPrintable(chemin), 65534, 65534) != 0)
-                qFatal("%s", qPrintable(chemin));
-        }
-    }
-
-private:
-    const bool m_racine = geteuid() == 0;
-};
-
 void faireCatalogue(const QString &chemin, const QString &rangees)
 {
     QFile::remove(chemin);
@@ -169,359 +107,343 @@ void faireVierge(const QString &chemin, int version)
 
 }
 
-void tst_livraison::unDossierNeufEstRempli_data()
+class tst_livraison : public QObject
 {
-    QTest::addColumn<QString>("dejaLa");
-    QTest::newRow("absent") << "";
-    QTest::newRow("vide") << "mien/";
-    QTest::newRow("verrou seul") << "mien/.bulleo.lock";
-    QTest::newRow("marque seule") << "mien/" + Marque;
-}
+    Q_OBJECT
 
-void tst_livraison::unDossierNeufEstRempli()
-{
-    QFETCH(QString, dejaLa);
-    const Lieu lieu;
-    if (dejaLa.endsWith(u'/'))
-        QVERIFY(QDir(lieu.temporaire.path()).mkdir(dejaLa));
-    else if (!dejaLa.isEmpty())
-        lieu.poser(dejaLa, "");
-    lieu.preparer();
-    QStringList attendu = Complements
-        + QStringList{
-            "Base vierge.bd=Base vierge.bd1", "bd.mdb=Base vierge.bd1", "image/", "images/", Marque};
-    if (dejaLa.endsWith("lock"))
-        attendu << ".bulleo.lock=";
-    attendu.sort();
-    QCOMPARE(lieu.contenu(), attendu);
-    QVERIFY(QFile::permissions(lieu.mien("bd.mdb")).testFlag(QFile::WriteOwner));
-}
-
-void tst_livraison::unDossierNonVideNEstPasEcrase_data()
-{
-    QTest::addColumn<QStringList>("dejaLa");
-    QTest::addColumn<QStringList>("ajoute");
-    const QStringList avecMarque = Complements + QStringList(Marque);
-    QTest::newRow("collection perdue") << QStringList{"images/a.jpg=moi"} << QStringList();
-    QTest::newRow("collection seule") << QStringList{"bd.mdb=moi"} << avecMarque;
-    QTest::newRow("collection en majuscules") << QStringList{"BD.MDB=moi"} << avecMarque;
-    QTest::newRow("langues a moi") << QStringList{"bd.mdb=moi", "LANGUES/Moi.lng=moi", "help/INDEX.htm=moi"}
-                                   << QStringList{Complements[0], Complements[1],
-                                          "LANGUES/English.lng=langues/English.lng1", Marque};
-    QTest::newRow("complet") << QStringList{"bd.mdb=moi", "BDbase.bd=moi", "langues/english.LNG=moi",
-        "Help/index.htm=moi", "Help/a=moi", "Fond Ecran/bois.jpg=moi"}
-                             << QStringList{Marque};
-}
-
-void tst_livraison::unDossierNonVideNEstPasEcrase()
-{
-    QFETCH(QStringList, dejaLa);
-    QFETCH(QStringList, ajoute);
-    const Lieu lieu;
-    for (const QString &entree : std::as_const(dejaLa))
-        lieu.poser("mien/" + entree.section(u'=', 0, 0), entree.section(u'=', 1).toUtf8());
-    QStringList attendu = dejaLa + ajoute;
-    attendu.sort();
-    for (int i = 0; i < 2; ++i) {
-        lieu.preparer();
-        QCOMPARE(lieu.contenu(), attendu);
-    }
-}
-
-void tst_livraison::seulCeQuiEstResteTelQuelEstRemplace()
-{
-    Lieu lieu;
-    lieu.livrer("Help/en/index.htm", "anglais 1");
-    lieu.livrer("Help/en/images/a.png", "image 1");
-    lieu.preparer();
-    lieu.poser("mien/langues/English.lng", "moi");
-    // Shipped once, but under another name: the user put it there.
-    lieu.poser("mien/Help/en/index.htm", "Help/index.htm1");
-    lieu.poser("mien/Help/en/mienne.htm", "moi");
-    QVERIFY(QDir(lieu.mien("Help")).rename("index.htm", "INDEX.HTM"));
-    QVERIFY(QDir(lieu.mien()).rename("Help", "help"));
-    QVERIFY(QFile::remove(lieu.mien("Fond Ecran/bois.jpg")));
-    // Two versions on: it is no matter which one he still has.
-    lieu.livrer(2);
-    lieu.livrer(3);
-    lieu.livrer("Help/en/index.htm", "anglais 3");
-    lieu.livrer("Help/en/images/a.png", "image 3");
-    lieu.livrer("Help/en/neuve.htm", "neuve");
-    lieu.preparer();
-    QCOMPARE(lieu.contenu(),
-        QStringList({Marque, "BDbase.bd=BDbase.bd1", "Base vierge.bd=Base vierge.bd1",
-            "Fond Ecran/bois.jpg=Fond Ecran/bois.jpg3", "bd.mdb=Base vierge.bd1",
-            "help/INDEX.HTM=Help/index.htm3", "help/en/images/a.png=image 3",
-            "help/en/index.htm=Help/index.htm1", "help/en/mienne.htm=moi", "help/en/neuve.htm=neuve",
-            "image/", "images/", "langues/English.lng=moi"}));
-}
-
-void tst_livraison::laLangueEnVigueurVieillitAvecSonFichier_data()
-{
-    QTest::addColumn<QByteArray>("courante");
-    QTest::addColumn<QByteArray>("attendue");
-    QTest::newRow("telle quelle") << QByteArray("langues/English.lng1") << QByteArray("langues/English.lng2");
-    QTest::newRow("une autre") << QByteArray("nl 1") << QByteArray("nl 1");
-    QTest::newRow("changee") << QByteArray("moi") << QByteArray("moi");
-}
-
-void tst_livraison::laLangueEnVigueurVieillitAvecSonFichier()
-{
-    QFETCH(QByteArray, courante);
-    Lieu lieu;
-    lieu.livrer("langues/Nederlands.lng", "nl 1");
-    lieu.preparer();
-    lieu.poser("mien/defaut.lng", courante);
-    lieu.livrer(2);
-    lieu.preparer();
-    QTEST(lieu.lire("defaut.lng"), "attendue");
-}
-
-void tst_livraison::ceQuiTientLaPlaceDUnFichierReste()
-{
-    Lieu lieu;
-    for (const char *nom : {"Help/dossier.htm", "Help/pendu.htm", "Help/en/index.htm", "Help/de/index.htm"})
-        lieu.livrer(nom, "1");
-    lieu.preparer();
-    lieu.poser("ailleurs/index.htm", "1");
-    const auto remplacer = [&](const QString &nom, const QString &but) {
-        QFile::remove(lieu.mien(nom));
-        QDir(lieu.mien(nom)).removeRecursively();
-        QVERIFY(QFile::link(lieu.temporaire.filePath(but), lieu.mien(nom)));
-    };
-    remplacer("Help/index.htm", "ailleurs/index.htm");
-    remplacer("Help/pendu.htm", "ailleurs/rien.htm");
-    remplacer("Help/en", "ailleurs");
-    remplacer("Fond Ecran", "nulle part");
-    QVERIFY(QFile::remove(lieu.mien("Help/dossier.htm")) && QDir(lieu.mien()).mkpath("Help/dossier.htm"));
-    QVERIFY(QDir(lieu.mien("Help/de")).removeRecursively());
-    lieu.poser("mien/Help/de", "moi");
-    lieu.poser("ailleurs/index.htm", "Help/index.htm1");
-    const QStringList avant = lieu.contenu();
-    lieu.livrer(2);
-    for (const char *nom : {"Help/dossier.htm", "Help/pendu.htm", "Help/en/index.htm", "Help/de/index.htm"})
-        lieu.livrer(nom, "2");
-    lieu.livrer("Help/en/neuve.htm", "neuve");
-    lieu.preparer();
-    QStringList attendu = avant;
-    attendu.replaceInStrings("langues/English.lng1", "langues/English.lng2");
-    QCOMPARE(lieu.contenu(), attendu);
-    QCOMPARE(Bac::lire(lieu.temporaire.filePath("ailleurs/index.htm")), "Help/index.htm1");
-    QCOMPARE(QDir(lieu.temporaire.filePath("ailleurs")).entryList(QDir::Files), QStringList("index.htm"));
-}
-
-void tst_livraison::unPassageSuffitParLivraison()
-{
-    Lieu lieu;
-    lieu.preparer();
-    lieu.livrer(2);
-    lieu.preparer();
-    // What he takes away or puts back after that is his choice, until the next version; a whole folder comes again.
-    lieu.poser("mien/Help/index.htm", "Help/index.htm1");
-    QVERIFY(QFile::remove(lieu.mien("langues/English.lng")));
-    QVERIFY(QDir(lieu.mien("Fond Ecran")).removeRecursively());
-    lieu.preparer();
-    QCOMPARE(lieu.lire("Help/index.htm"), "Help/index.htm1");
-    QVERIFY(!QFile::exists(lieu.mien("langues/English.lng")));
-    QCOMPARE(lieu.lire("Fond Ecran/bois.jpg"), "Fond Ecran/bois.jpg2");
-    lieu.livrer("Help/index.htm", "3");
-    lieu.preparer();
-    QCOMPARE(lieu.lire("Help/index.htm"), "3");
-    QCOMPARE(lieu.lire("langues/English.lng"), "langues/English.lng2");
-}
-
-void tst_livraison::uneLivraisonAbimeeNeRemplaceRien_data()
-{
-    QTest::addColumn<QByteArray>("ajout");
-    QTest::addColumn<bool>("remplace");
-    QTest::newRow("saine") << QByteArray() << true;
-    QTest::newRow("ligne coupee") << QByteArray("0123456789abcdef  Help/") << false;
-    QTest::newRow("sans nom") << empreinteDe("") + "  \n" << false;
-    QTest::newRow("octets") << QByteArray("\xff\0\xfe\n", 4) << false;
-}
-
-void tst_livraison::uneLivraisonAbimeeNeRemplaceRien()
-{
-    QFETCH(QByteArray, ajout);
-    QFETCH(bool, remplace);
-    Lieu lieu;
-    lieu.preparer();
-    lieu.livrer(2);
-    lieu.livrer("Help/neuve.htm", "neuve");
-    lieu.poser("livre/empreintes.txt", lieu.liste + ajout);
-    // Cut short on its way: its digest is in no list.
-    QFile::setPermissions(lieu.livre("langues/English.lng"), QFile::ReadOwner | QFile::WriteOwner);
-    lieu.poser("livre/langues/English.lng", "langues/Eng");
-    lieu.preparer();
-    QCOMPARE(lieu.lire("Help/index.htm"), remplace ? "Help/index.htm2" : "Help/index.htm1");
-    QCOMPARE(lieu.lire("langues/English.lng"), "langues/English.lng1");
-    QCOMPARE(lieu.lire("Help/neuve.htm"), "neuve");
-}
-
-void tst_livraison::unDisquePleinLaisseTout_data()
-{
-    QTest::addColumn<QString>("nom");
-    QTest::newRow("ancien") << "langues/English.lng";
-    QTest::newRow("absent") << "langues/Nederlands.lng";
-}
-
-void tst_livraison::unDisquePleinLaisseTout()
-{
-    QFETCH(QString, nom);
-    Lieu lieu;
-    lieu.preparer();
-    const QStringList avant = lieu.contenu();
-    lieu.livrer(nom, QByteArray(4096, 'x'));
-    const auto ancien = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limite{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limite), 0);
-    const rlimit etroite{1000, limite.rlim_max};
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &etroite), 0);
-    const auto refuse = refus([&] { lieu.preparer(); });
-    setrlimit(RLIMIT_FSIZE, &limite);
-    std::signal(SIGXFSZ, ancien);
-    QVERIFY(refuse.has_value());
-    QCOMPARE(lieu.contenu(), avant);
-    // Not done, so it is tried again.
-    lieu.preparer();
-    QCOMPARE(lieu.lire(nom).size(), 4096);
-}
-
-void tst_livraison::lesDroitsDeLUtilisateurSontRespectes_data()
-{
-    QTest::addColumn<QString>("nom");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("refuse");
-    QTest::addColumn<bool>("remplace");
-    QTest::newRow("libre") << "Help/index.htm" << 0x6600 << false << true;
-    QTest::newRow("fichier illisible") << "Help/index.htm" << 0x2200 << false << false;
-    QTest::newRow("fichier protege") << "Help/index.htm" << 0x4400 << false << false;
-    QTest::newRow("dossier protege") << "Help" << 0x5500 << true << false;
-}
-
-void tst_livraison::lesDroitsDeLUtilisateurSontRespectes()
-{
-    QFETCH(QString, nom);
-    QFETCH(int, mode);
-    Lieu lieu;
-    lieu.preparer();
-    lieu.livrer(2);
-    Anonyme::donner(lieu.temporaire.path());
-    const QFile::Permissions avant = QFile::permissions(lieu.mien(nom));
-    QVERIFY(QFile::setPermissions(lieu.mien(nom), QFile::Permissions(mode)));
-    std::optional<Error::Sorte> refuse;
+private Q_SLOTS:
+    void unDossierNeufEstRempli_data()
     {
-        const Anonyme lui;
-        refuse = refus([&] { lieu.preparer(); });
+        QTest::addColumn<QString>("dejaLa");
+        QTest::newRow("absent") << "";
+        QTest::newRow("vide") << "mien/";
+        QTest::newRow("verrou seul") << "mien/.bulleo.lock";
+        QTest::newRow("marque seule") << "mien/" + Marque;
     }
-    QFile::setPermissions(lieu.mien(nom), avant);
-    QTEST(refuse.has_value(), "refuse");
-    QTEST(lieu.lire("Help/index.htm") == "Help/index.htm2", "remplace");
-    QCOMPARE(QDir(lieu.mien("Help")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-        QStringList("index.htm"));
-}
 
-void tst_livraison::unCatalogueSeJugeASonContenu_data()
-{
-    QTest::addColumn<QString>("acte");
-    QTest::addColumn<bool>("remplace");
-    QTest::newRow("tel quel") << "" << true;
-    QTest::newRow("meme contenu, autres octets") << "PRAGMA user_version = 7; VACUUM" << true;
-    QTest::newRow("une rangee de plus") << "INSERT INTO BD(Numero, Titre) VALUES (9, 'mien')" << false;
-    QTest::newRow("une rangee de moins") << "DELETE FROM BD WHERE Numero = 2" << false;
-    QTest::newRow("une colonne de plus") << "ALTER TABLE BD ADD COLUMN Note TEXT" << false;
-    QTest::newRow("abime") << "DROP TABLE BD" << false;
-}
-
-void tst_livraison::unCatalogueSeJugeASonContenu()
-{
-    QFETCH(QString, acte);
-    Lieu lieu;
-    const QString livre = lieu.livre("BDbase.bd");
-    const auto livrer = [&](const QString &rangees) {
-        faireCatalogue(livre, rangees);
-        lieu.noter(Livraison::EmpreinteDuCatalogue(livre), "BDbase.bd");
-    };
-    livrer("(1, 'a', 's'), (2, 'b', 's')");
-    lieu.preparer();
-    if (!acte.isEmpty())
-        Autre(lieu.mien("BDbase.bd")).executer(acte);
-    const QByteArray avant = lieu.lire("BDbase.bd");
-    livrer("(1, 'a', 's'), (2, 'b', 's'), (3, 'c', 's')");
-    lieu.preparer();
-    QFETCH(bool, remplace);
-    QVERIFY(avant != Bac::lire(livre));
-    QCOMPARE(lieu.lire("BDbase.bd"), remplace ? Bac::lire(livre) : avant);
-}
-
-void tst_livraison::lEmpreinteDUnCatalogueVoitChaqueValeur()
-{
-    const QTemporaryDir lieu;
-    QSet<QByteArray> empreintes;
-    const QStringList contenus{"", "(1, NULL, '')", "(1, '', NULL)", "(1, '', '')", "(1, 'ab', 'c')",
-        "(1, 'a', 'bc')", "(1, 'a5:3:b', 'c')", "(1, 'a', 'b5:3:c')", "(2, 'a', 'bc')",
-        "(1, 'a', 'bc'), (2, '', '')", "(1, 'a', 'bc' || char(0) || 'd')"};
-    for (const QString &contenu : contenus) {
-        faireCatalogue(lieu.filePath("c.bd"), contenu);
-        empreintes << Livraison::EmpreinteDuCatalogue(lieu.filePath("c.bd"));
+    void unDossierNeufEstRempli()
+    {
+        QFETCH(QString, dejaLa);
+        const Lieu lieu;
+        if (dejaLa.endsWith(u'/'))
+            QVERIFY(QDir(lieu.temporaire.path()).mkdir(dejaLa));
+        else if (!dejaLa.isEmpty())
+            lieu.poser(dejaLa, "");
+        lieu.preparer();
+        QStringList attendu = Complements
+            + QStringList{
+                "Base vierge.bd=Base vierge.bd1", "bd.mdb=Base vierge.bd1", "image/", "images/", Marque};
+        if (dejaLa.endsWith("lock"))
+            attendu << ".bulleo.lock=";
+        attendu.sort();
+        QCOMPARE(lieu.contenu(), attendu);
+        QVERIFY(QFile::permissions(lieu.mien("bd.mdb")).testFlag(QFile::WriteOwner));
     }
-    QCOMPARE(empreintes.size(), contenus.size());
-    // In what order the rows came is no matter.
-    faireCatalogue(lieu.filePath("c.bd"), "(2, '', ''), (1, 'a', 'bc')");
-    QVERIFY(empreintes.contains(Livraison::EmpreinteDuCatalogue(lieu.filePath("c.bd"))));
-    QCOMPARE(refus([&] { Livraison::EmpreinteDuCatalogue(lieu.filePath("absent.bd")); }),
-        Error::Sorte::Introuvable);
-}
 
-void tst_livraison::uneCollectionViergeEstRenouvelee_data()
-{
-    QTest::addColumn<QString>("acte");
-    QTest::addColumn<bool>("remplace");
-    QTest::newRow("d'une autre version") << "PRAGMA user_version = 1" << true;
-    QTest::newRow("de celle-ci") << "PRAGMA application_id = 1112886348; VACUUM" << false;
-    QTest::newRow("remplie") << "PRAGMA user_version = 1; INSERT INTO Genre(NGenre, Nom) VALUES (1, 'moi')"
-                             << false;
-    QTest::newRow("d'un autre programme") << "PRAGMA user_version = 1; PRAGMA application_id = 1" << false;
-}
+    void unDossierNonVideNEstPasEcrase_data()
+    {
+        colonnes<QStringList, QStringList>();
+        const QStringList avecMarque = Complements + QStringList(Marque);
+        QTest::newRow("collection perdue") << QStringList{"images/a.jpg=moi"} << QStringList();
+        QTest::newRow("collection seule") << QStringList{"bd.mdb=moi"} << avecMarque;
+        QTest::newRow("collection en majuscules") << QStringList{"BD.MDB=moi"} << avecMarque;
+        QTest::newRow("langues a moi")
+            << QStringList{"bd.mdb=moi", "LANGUES/Moi.lng=moi", "help/INDEX.htm=moi"}
+            << QStringList{
+                   Complements[0], Complements[1], "LANGUES/English.lng=langues/English.lng1", Marque};
+        QTest::newRow("complet") << QStringList{"bd.mdb=moi", "BDbase.bd=moi", "langues/english.LNG=moi",
+            "Help/index.htm=moi", "Help/a=moi", "Fond Ecran/bois.jpg=moi"}
+                                 << QStringList{Marque};
+    }
 
-void tst_livraison::uneCollectionViergeEstRenouvelee()
-{
-    QFETCH(QString, acte);
-    QFETCH(bool, remplace);
-    Lieu lieu;
-    const QString livre = lieu.livre("Base vierge.bd");
-    faireVierge(livre, 2);
-    lieu.preparer();
-    Autre(lieu.mien("Base vierge.bd")).executer(acte);
-    const QByteArray avant = lieu.lire("Base vierge.bd");
-    QVERIFY(avant != Bac::lire(livre));
-    const QByteArray collection = lieu.lire("bd.mdb");
-    lieu.livrer("Help/index.htm", "2");
-    lieu.preparer();
-    QCOMPARE(lieu.lire("Base vierge.bd"), remplace ? Bac::lire(livre) : avant);
-    QCOMPARE(lieu.lire("bd.mdb"), collection);
-}
-
-/// A version that is not in the list when it is shipped can never be told from a user's own work again.
-void tst_livraison::toutCeQuiEstLivreEstNote()
-{
-    const QByteArrayList liste = Bac::lire(Bac::livre() + "/empreintes.txt").split('\n');
-    const auto verifier = [&](const QByteArray &empreinte, const QString &nom) {
-        QVERIFY2(liste.contains(empreinte + "  " + nom.toUtf8()),
-            qPrintable(nom + " is not in data/empreintes.txt as it is now: run scripts/empreintes.sh"));
-    };
-    verifier(Livraison::EmpreinteDuCatalogue(Bac::livre() + "/BDbase.bd"), "BDbase.bd");
-    const QDir livre(Bac::livre());
-    int fichiers = 0;
-    for (const char *dossier : {"langues", "Help", "Fond Ecran"}) {
-        for (QDirIterator i(livre.filePath(dossier), QDir::Files, QDirIterator::Subdirectories); i.hasNext();
-             ++fichiers) {
-            const QString chemin = i.next();
-            verifier(empreinteDe(Bac::lire(chemin)), livre.relativeFilePath(chemin));
+    void unDossierNonVideNEstPasEcrase()
+    {
+        const auto [dejaLa, ajoute] = essai<QStringList, QStringList>();
+        const Lieu lieu;
+        for (const QString &entree : std::as_const(dejaLa))
+            lieu.poser("mien/" + entree.section(u'=', 0, 0), entree.section(u'=', 1).toUtf8());
+        QStringList attendu = dejaLa + ajoute;
+        attendu.sort();
+        for (int i = 0; i < 2; ++i) {
+            lieu.preparer();
+            QCOMPARE(lieu.contenu(), attendu);
         }
     }
-    QVERIFY(fichiers > 50);
-}
+
+    void seulCeQuiEstResteTelQuelEstRemplace()
+    {
+        Lieu lieu;
+        lieu.livrer("Help/en/index.htm", "anglais 1");
+        lieu.livrer("Help/en/images/a.png", "image 1");
+        lieu.preparer();
+        lieu.poser("mien/langues/English.lng", "moi");
+        // Shipped once, but under another name: the user put it there.
+        lieu.poser("mien/Help/en/index.htm", "Help/index.htm1");
+        lieu.poser("mien/Help/en/mienne.htm", "moi");
+        QVERIFY(QDir(lieu.mien("Help")).rename("index.htm", "INDEX.HTM"));
+        QVERIFY(QDir(lieu.mien()).rename("Help", "help"));
+        QVERIFY(QFile::remove(lieu.mien("Fond Ecran/bois.jpg")));
+        // Two versions on: it is no matter which one he still has.
+        lieu.livrer(2);
+        lieu.livrer(3);
+        lieu.livrer("Help/en/index.htm", "anglais 3");
+        lieu.livrer("Help/en/images/a.png", "image 3");
+        lieu.livrer("Help/en/neuve.htm", "neuve");
+        lieu.preparer();
+        QCOMPARE(lieu.contenu(),
+            QStringList({Marque, "BDbase.bd=BDbase.bd1", "Base vierge.bd=Base vierge.bd1",
+                "Fond Ecran/bois.jpg=Fond Ecran/bois.jpg3", "bd.mdb=Base vierge.bd1",
+                "help/INDEX.HTM=Help/index.htm3", "help/en/images/a.png=image 3",
+                "help/en/index.htm=Help/index.htm1", "help/en/mienne.htm=moi", "help/en/neuve.htm=neuve",
+                "image/", "images/", "langues/English.lng=moi"}));
+    }
+
+    void laLangueEnVigueurVieillitAvecSonFichier()
+    {
+        for (const QByteArray courante : {"langues/English.lng1", "nl 1", "moi"}) {
+            Lieu lieu;
+            lieu.livrer("langues/Nederlands.lng", "nl 1");
+            lieu.preparer();
+            lieu.poser("mien/defaut.lng", courante);
+            lieu.livrer(2);
+            lieu.preparer();
+            QCOMPARE(lieu.lire("defaut.lng"), courante.startsWith('l') ? "langues/English.lng2" : courante);
+        }
+    }
+
+    /// A folder, a file or a link, whole or hanging, where a file or a folder would go.
+    void ceQuiTientLaPlaceDUnFichierReste()
+    {
+        Lieu lieu;
+        const QStringList places{
+            "Help/dossier.htm", "Help/pendu.htm", "Help/en/index.htm", "Help/de/index.htm"};
+        const auto livrer = [&](int version) {
+            lieu.livrer(version);
+            for (const QString &place : places)
+                lieu.livrer(place, QByteArray::number(version));
+        };
+        livrer(1);
+        lieu.preparer();
+        const auto oter = [&](const QString &nom) {
+            QVERIFY(QFile::remove(lieu.mien(nom)) || QDir(lieu.mien(nom)).removeRecursively());
+        };
+        for (const auto &[nom, but] : {std::pair("Help/index.htm", "ailleurs/index.htm"),
+                 std::pair("Help/pendu.htm", "ailleurs/rien.htm"), std::pair("Help/en", "ailleurs"),
+                 std::pair("Fond Ecran", "nulle part")}) {
+            oter(nom);
+            QVERIFY(QFile::link(lieu.temporaire.filePath(but), lieu.mien(nom)));
+        }
+        oter("Help/dossier.htm");
+        QVERIFY(QDir(lieu.mien()).mkpath("Help/dossier.htm"));
+        oter("Help/de");
+        lieu.poser("mien/Help/de", "moi");
+        lieu.poser("ailleurs/index.htm", "Help/index.htm1");
+        QStringList attendu = lieu.contenu().replaceInStrings("langues/English.lng1", "langues/English.lng2");
+        livrer(2);
+        lieu.livrer("Help/en/neuve.htm", "neuve");
+        lieu.preparer();
+        QCOMPARE(lieu.contenu(), attendu);
+        QCOMPARE(Bac::lire(lieu.temporaire.filePath("ailleurs/index.htm")), "Help/index.htm1");
+        QCOMPARE(QDir(lieu.temporaire.filePath("ailleurs")).entryList(QDir::Files), QStringList("index.htm"));
+    }
+
+    void unPassageSuffitParLivraison()
+    {
+        Lieu lieu;
+        lieu.preparer();
+        lieu.livrer(2);
+        lieu.preparer();
+        // What he takes away or puts back after that is his choice, until the next version; a whole folder comes again.
+        lieu.poser("mien/Help/index.htm", "Help/index.htm1");
+        QVERIFY(QFile::remove(lieu.mien("langues/English.lng")));
+        QVERIFY(QDir(lieu.mien("Fond Ecran")).removeRecursively());
+        lieu.preparer();
+        QCOMPARE(lieu.lire("Help/index.htm"), "Help/index.htm1");
+        QVERIFY(!QFile::exists(lieu.mien("langues/English.lng")));
+        QCOMPARE(lieu.lire("Fond Ecran/bois.jpg"), "Fond Ecran/bois.jpg2");
+        lieu.livrer("Help/index.htm", "3");
+        lieu.preparer();
+        QCOMPARE(lieu.lire("Help/index.htm"), "3");
+        QCOMPARE(lieu.lire("langues/English.lng"), "langues/English.lng2");
+    }
+
+    void uneLivraisonAbimeeNeRemplaceRien_data()
+    {
+        colonnes<QByteArray, bool>();
+        QTest::newRow("saine") << QByteArray() << true;
+        QTest::newRow("ligne coupee") << QByteArray("0123456789abcdef  Help/") << false;
+        QTest::newRow("sans nom") << empreinteDe("") + "  \n" << false;
+        QTest::newRow("octets") << QByteArray("\xff\0\xfe\n", 4) << false;
+    }
+
+    void uneLivraisonAbimeeNeRemplaceRien()
+    {
+        const auto [ajout, remplace] = essai<QByteArray, bool>();
+        Lieu lieu;
+        lieu.preparer();
+        lieu.livrer(2);
+        lieu.livrer("Help/neuve.htm", "neuve");
+        lieu.poser("livre/empreintes.txt", lieu.liste + ajout);
+        // Cut short on its way: its digest is in no list.
+        QFile::setPermissions(lieu.livre("langues/English.lng"), QFile::ReadOwner | QFile::WriteOwner);
+        lieu.poser("livre/langues/English.lng", "langues/Eng");
+        lieu.preparer();
+        QCOMPARE(lieu.lire("Help/index.htm"), remplace ? "Help/index.htm2" : "Help/index.htm1");
+        QCOMPARE(lieu.lire("langues/English.lng"), "langues/English.lng1");
+        QCOMPARE(lieu.lire("Help/neuve.htm"), "neuve");
+    }
+
+    void unDisquePleinLaisseTout()
+    {
+        Lieu lieu;
+        lieu.preparer();
+        const QStringList avant = lieu.contenu();
+        for (const char *nom : {"langues/English.lng", "langues/Nederlands.lng"})
+            lieu.livrer(nom, QByteArray(4096, 'x'));
+        const auto ancien = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limite{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &limite), 0);
+        const rlimit etroite{1000, limite.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &etroite), 0);
+        const auto refuse = refus([&] { lieu.preparer(); });
+        setrlimit(RLIMIT_FSIZE, &limite);
+        std::signal(SIGXFSZ, ancien);
+        QVERIFY(refuse.has_value());
+        QCOMPARE(lieu.contenu(), avant);
+        // Not done, so it is tried again.
+        lieu.preparer();
+        QCOMPARE(lieu.lire("langues/English.lng").size(), 4096);
+    }
+
+    void lesDroitsDeLUtilisateurSontRespectes_data()
+    {
+        colonnes<QString, int, bool, bool>();
+        QTest::newRow("libre") << "Help/index.htm" << 0x6600 << false << true;
+        QTest::newRow("fichier illisible") << "Help/index.htm" << 0x2200 << false << false;
+        QTest::newRow("fichier protege") << "Help/index.htm" << 0x4400 << false << false;
+        QTest::newRow("dossier protege") << "Help" << 0x5500 << true << false;
+    }
+
+    void lesDroitsDeLUtilisateurSontRespectes()
+    {
+        const auto [nom, mode, interdit, remplace] = essai<QString, int, bool, bool>();
+        Lieu lieu;
+        lieu.preparer();
+        lieu.livrer(2);
+        Anonyme::donner(lieu.temporaire.path());
+        const QFile::Permissions avant = QFile::permissions(lieu.mien(nom));
+        QVERIFY(QFile::setPermissions(lieu.mien(nom), QFile::Permissions(mode)));
+        std::optional<Error::Sorte> refuse;
+        {
+            const Anonyme lui;
+            refuse = refus([&] { lieu.preparer(); });
+        }
+        QFile::setPermissions(lieu.mien(nom), avant);
+        QCOMPARE(refuse.has_value(), interdit);
+        QCOMPARE(lieu.lire("Help/index.htm") == "Help/index.htm2", remplace);
+        QCOMPARE(QDir(lieu.mien("Help")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList("index.htm"));
+    }
+
+    void unCatalogueSeJugeASonContenu_data()
+    {
+        colonnes<QString, bool>();
+        QTest::newRow("tel quel") << "" << true;
+        QTest::newRow("meme contenu, autres octets") << "PRAGMA user_version = 7; VACUUM" << true;
+        QTest::newRow("une rangee de plus") << "INSERT INTO BD(Numero, Titre) VALUES (9, 'mien')" << false;
+        QTest::newRow("une rangee de moins") << "DELETE FROM BD WHERE Numero = 2" << false;
+        QTest::newRow("une colonne de plus") << "ALTER TABLE BD ADD COLUMN Note TEXT" << false;
+        QTest::newRow("abime") << "DROP TABLE BD" << false;
+    }
+
+    void unCatalogueSeJugeASonContenu()
+    {
+        const auto [acte, remplace] = essai<QString, bool>();
+        Lieu lieu;
+        const QString livre = lieu.livre("BDbase.bd");
+        const auto livrer = [&](const QString &rangees) {
+            faireCatalogue(livre, rangees);
+            lieu.noter(Livraison::EmpreinteDuCatalogue(livre), "BDbase.bd");
+        };
+        livrer("(1, 'a', 's'), (2, 'b', 's')");
+        lieu.preparer();
+        if (!acte.isEmpty())
+            Autre(lieu.mien("BDbase.bd")).executer(acte);
+        const QByteArray avant = lieu.lire("BDbase.bd");
+        livrer("(1, 'a', 's'), (2, 'b', 's'), (3, 'c', 's')");
+        lieu.preparer();
+        QVERIFY(avant != Bac::lire(livre));
+        QCOMPARE(lieu.lire("BDbase.bd"), remplace ? Bac::lire(livre) : avant);
+    }
+
+    void lEmpreinteDUnCatalogueVoitChaqueValeur()
+    {
+        const QTemporaryDir lieu;
+        QSet<QByteArray> empreintes;
+        const QStringList contenus{"", "(1, NULL, '')", "(1, '', NULL)", "(1, '', '')", "(1, 'ab', 'c')",
+            "(1, 'a', 'bc')", "(1, 'a5:3:b', 'c')", "(1, 'a', 'b5:3:c')", "(2, 'a', 'bc')",
+            "(1, 'a', 'bc'), (2, '', '')", "(1, 'a', 'bc' || char(0) || 'd')"};
+        for (const QString &contenu : contenus) {
+            faireCatalogue(lieu.filePath("c.bd"), contenu);
+            empreintes << Livraison::EmpreinteDuCatalogue(lieu.filePath("c.bd"));
+        }
+        QCOMPARE(empreintes.size(), contenus.size());
+        // In what order the rows came is no matter.
+        faireCatalogue(lieu.filePath("c.bd"), "(2, '', ''), (1, 'a', 'bc')");
+        QVERIFY(empreintes.contains(Livraison::EmpreinteDuCatalogue(lieu.filePath("c.bd"))));
+        QCOMPARE(refus([&] { Livraison::EmpreinteDuCatalogue(lieu.filePath("absent.bd")); }),
+            Error::Sorte::Introuvable);
+    }
+
+    void uneCollectionViergeEstRenouvelee_data()
+    {
+        colonnes<QString, bool>();
+        QTest::newRow("d'une autre version") << "PRAGMA user_version = 1" << true;
+        QTest::newRow("de celle-ci") << "PRAGMA application_id = 1112886348; VACUUM" << false;
+        QTest::newRow("remplie")
+            << "PRAGMA user_version = 1; INSERT INTO Genre(NGenre, Nom) VALUES (1, 'moi')" << false;
+        QTest::newRow("d'un autre programme")
+            << "PRAGMA user_version = 1; PRAGMA application_id = 1" << false;
+    }
+
+    void uneCollectionViergeEstRenouvelee()
+    {
+        const auto [acte, remplace] = essai<QString, bool>();
+        Lieu lieu;
+        const QString livre = lieu.livre("Base vierge.bd");
+        faireVierge(livre, 2);
+        lieu.preparer();
+        Autre(lieu.mien("Base vierge.bd")).executer(acte);
+        const QByteArray avant = lieu.lire("Base vierge.bd");
+        QVERIFY(avant != Bac::lire(livre));
+        const QByteArray collection = lieu.lire("bd.mdb");
+        lieu.livrer("Help/index.htm", "2");
+        lieu.preparer();
+        QCOMPARE(lieu.lire("Base vierge.bd"), remplace ? Bac::lire(livre) : avant);
+        QCOMPARE(lieu.lire("bd.mdb"), collection);
+    }
+
+    /// A version that is not in the list when it is shipped can never be told from a user's own work again.
+    void toutCeQuiEstLivreEstNote()
+    {
+        const QByteArrayList liste = Bac::lire(Bac::livre() + "/empreintes.txt").split('\n');
+        const auto verifier = [&](const QByteArray &empreinte, const QString &nom) {
+            QVERIFY2(liste.contains(empreinte + "  " + nom.toUtf8()),
+                qPrintable(nom + " is not in data/empreintes.txt as it is now: run scripts/empreintes.sh"));
+        };
+        verifier(Livraison::EmpreinteDuCatalogue(Bac::livre() + "/BDbase.bd"), "BDbase.bd");
+        const QDir livre(Bac::livre());
+        int fichiers = 0;
+        for (const char *dossier : {"langues", "Help", "Fond Ecran"}) {
+            for (QDirIterator i(livre.filePath(dossier), QDir::Files, QDirIterator::Subdirectories);
+                 i.hasNext(); ++fichiers) {
+                const QString chemin = i.next();
+                verifier(empreinteDe(Bac::lire(chemin)), livre.relativeFilePath(chemin));
+            }
+        }
+        QVERIFY(fichiers > 50);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_livraison)
 #include "tst_livraison.moc"

@@ -2,35 +2,15 @@
 #include "db/Base.h"
 #include "db/Transaction.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/Ecoute.h"
 #include "support/Refus.h"
 
 #include <QTest>
 
-class tst_recordset : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void unParcoursSurvitASesPropresEcritures();
-    void unParcoursSurvitASesSuppressions();
-    void unParcoursSurvitAUneAnnulation();
-    void lAjoutEtLEditionLaissentLeurSignet();
-    void leNombreDeLignesEstEntierDesDeuxSortes();
-    void apresLaFinIlNYAPlusDeLigne();
-    void uneEditionSansChangementNEcritRien_data();
-    void uneEditionSansChangementNEcritRien();
-    void uneValeurImpossibleEstRefusee_data();
-    void uneValeurImpossibleEstRefusee();
-    void uneValeurRevientCommeElleDoit_data();
-    void uneValeurRevientCommeElleDoit();
-    void leTexteDUneRequeteEstMisEnForme_data();
-    void leTexteDUneRequeteEstMisEnForme();
-    void uneLigneSupprimeeEntreTempsRefuseLEdition();
-    void uneTableQuiChangeEstRelue();
-};
-
 namespace {
+
+using Valeurs = QList<std::pair<QString, QVariant>>;
 
 void remplirGenres(int nombre)
 {
@@ -41,277 +21,221 @@ void remplirGenres(int nombre)
 
 }
 
-/// Renaming while walking in name order moves every row ahead of the walk; each must be met once.
-void tst_recordset::unParcoursSurvitASesPropresEcritures()
+class tst_recordset : public QObject
 {
-    const Bac bac;
-    Base base;
-    remplirGenres(20);
-    int vus = 0;
-    for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
-        QVERIFY(++vus <= 20);
-        rs.Edit();
-        rs.SetField("Nom", QStringLiteral("z%1").arg(vus));
-        rs.Update();
-    }
-    QCOMPARE(vus, 20);
-}
+    Q_OBJECT
 
-/// Each row met is deleted through the walk, and the one after it behind its back.
-void tst_recordset::unParcoursSurvitASesSuppressions()
-{
-    const Bac bac;
-    Base base;
-    remplirGenres(9);
-    QVariantList vus;
-    for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
-        vus << rs.Fields(0);
-        rs.Delete();
-        QVERIFY(refus([&] { rs.Fields(0); }).has_value());
-        Bac::executer("DELETE FROM Genre WHERE NGenre = ?", {vus.last().toInt() + 1});
-    }
-    QCOMPARE(vus, QVariantList({1, 3, 5, 7, 9}));
-    QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 0);
-}
-
-void tst_recordset::unParcoursSurvitAUneAnnulation()
-{
-    const Bac bac;
-    Base base;
-    remplirGenres(3);
-    const auto noms = [&](auto rs) {
-        QStringList noms;
-        for (; !rs.AtEnd(); rs.MoveNext()) {
-            noms << rs.Fields("nom").toString();
-            const Transaction transaction(base);
-            base.Execute("UPDATE Genre SET Nom = 'perdu'");
+private Q_SLOTS:
+    /// Renaming while walking in name order moves every row ahead of the walk; each must be met once.
+    void unParcoursSurvitASesPropresEcritures()
+    {
+        const Bac bac;
+        Base base;
+        remplirGenres(20);
+        int vus = 0;
+        for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
+            QVERIFY(++vus <= 20);
+            rs.Edit();
+            rs.SetField("Nom", QStringLiteral("z%1").arg(vus));
+            rs.Update();
         }
-        return noms;
-    };
-    const QStringList attendus{"a01", "a02", "a03"};
-    QCOMPARE(noms(base.edit("Genre", "order by NGenre")), attendus);
-    QCOMPARE(noms(base.read("SELECT Nom FROM Genre ORDER BY NGenre")), attendus);
-}
+        QCOMPARE(vus, 20);
+    }
 
-void tst_recordset::lAjoutEtLEditionLaissentLeurSignet()
-{
-    const Bac bac;
-    Base base;
-    remplirGenres(2);
-    auto rs = base.edit("Genre");
-    rs.AddNew();
-    rs.SetField(0, 7);
-    rs.SetField("NOM", "Humour");
-    rs.Update();
-    QCOMPARE(rs.Fields("Nom"), "a01");
-    rs.SetBookmark(rs.LastModified());
-    QCOMPARE(rs.Fields("Nom"), "Humour");
-    rs.Edit();
-    rs.SetField(1, "Essai");
-    rs.SetField("nom", "Western");
-    rs.Update();
-    QCOMPARE(rs.LastModified(), 7);
-    QCOMPARE(rs.Fields(1), "Western");
-    QCOMPARE(rs.RecordCount(), 3);
-}
+    /// Each row met is deleted through the walk, and the one after it behind its back.
+    void unParcoursSurvitASesSuppressions()
+    {
+        const Bac bac;
+        Base base;
+        remplirGenres(9);
+        QVariantList vus;
+        for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
+            vus << rs.Fields(0);
+            rs.Delete();
+            QVERIFY(refus([&] { rs.Fields(0); }).has_value());
+            Bac::executer("DELETE FROM Genre WHERE NGenre = ?", {vus.last().toInt() + 1});
+        }
+        QCOMPARE(vus, QVariantList({1, 3, 5, 7, 9}));
+        QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 0);
+    }
 
-void tst_recordset::leNombreDeLignesEstEntierDesDeuxSortes()
-{
-    const Bac bac;
-    Base base;
-    for (const int nombre : {0, 5}) {
-        remplirGenres(nombre);
-        const auto compter = [nombre](auto rs) {
-            QCOMPARE(rs.RecordCount(), nombre);
-            for (int i = 0; i < nombre; ++i, rs.MoveNext())
-                QCOMPARE(rs.RecordCount(), nombre);
-            QVERIFY(rs.AtEnd());
-            rs.MoveFirst();
-            QCOMPARE(rs.AtEnd(), nombre == 0);
+    void unParcoursSurvitAUneAnnulation()
+    {
+        const Bac bac;
+        Base base;
+        remplirGenres(3);
+        const auto noms = [&](auto rs) {
+            QStringList noms;
+            for (; !rs.AtEnd(); rs.MoveNext()) {
+                noms << rs.Fields("nom").toString();
+                const Transaction transaction(base);
+                base.Execute("UPDATE Genre SET Nom = 'perdu'");
+            }
+            return noms;
         };
-        compter(base.edit("Genre", "order by Nom asc "));
-        compter(base.OpenRecordset("SELECT Nom FROM Genre ;"));
+        const QStringList attendus{"a01", "a02", "a03"};
+        QCOMPARE(noms(base.edit("Genre", "order by NGenre")), attendus);
+        QCOMPARE(noms(base.read("SELECT Nom FROM Genre ORDER BY NGenre")), attendus);
     }
-}
 
-void tst_recordset::apresLaFinIlNYAPlusDeLigne()
-{
-    const Bac bac;
-    Base base;
-    auto vide = base.edit("Serie");
-    QVERIFY(refus([&] { vide.Fields("Nom"); }).has_value());
-    QVERIFY(refus([&] { vide.Edit(); }).has_value());
-    QVERIFY(refus([&] { base.read("SELECT Nom FROM Serie").Fields("Nom"); }).has_value());
-    remplirGenres(1);
-    auto rs = base.edit("Genre");
-    rs.MoveNext();
-    QVERIFY(rs.AtEnd());
-    QVERIFY(refus([&] { rs.Fields("Nom"); }).has_value());
-    QVERIFY(refus([&] { rs.Delete(); }).has_value());
-    QVERIFY(refus([&] { base.read("SELECT Nom FROM Genre").Fields("Prenom"); }).has_value());
-}
-
-void tst_recordset::uneEditionSansChangementNEcritRien_data()
-{
-    QTest::addColumn<QString>("champ");
-    QTest::addColumn<QVariant>("valeur");
-    QTest::newRow("texte") << "ISBN" << QVariant("L'été");
-    QTest::newRow("texte vide") << "ISSN" << QVariant("");
-    QTest::newRow("nul") << "DA" << QVariant();
-    QTest::newRow("entier") << "NAlbum" << QVariant(12);
-    QTest::newRow("montant au-dela des decimales") << "PrixA" << QVariant(12.340049);
-    QTest::newRow("booleen") << "Broche" << QVariant(true);
-}
-
-void tst_recordset::uneEditionSansChangementNEcritRien()
-{
-    QFETCH(QString, champ);
-    QFETCH(QVariant, valeur);
-    Bac bac;
-    Bac::executer(
-        "INSERT INTO Album (Num, NAlbum, ISBN, ISSN, PrixA, Broche) VALUES (1, 12, ?, '', 12.34, true)",
-        {"L'été"});
-    Ecoute ecoute(bac.annonces);
-    const auto annonces = ecoute.annonces().size();
-    const QByteArray avant = Bac::lire(bac.collection());
+    void lAjoutEtLEditionLaissentLeurSignet()
     {
-        Acte acte("rien");
-        auto rs = acte.base().edit("Album", "Num = ?", {1});
-        rs.Edit();
-        rs.SetField(champ, valeur);
-        rs.Update();
-        acte.valider();
-    }
-    QVERIFY(Bac::lire(bac.collection()) == avant);
-    QCOMPARE(ecoute.annonces().size(), annonces);
-}
-
-void tst_recordset::uneValeurImpossibleEstRefusee_data()
-{
-    QTest::addColumn<QString>("champ");
-    QTest::addColumn<QVariant>("valeur");
-    QTest::newRow("texte dans un entier") << "NAlbum" << QVariant("douze");
-    QTest::newRow("blanc dans un entier") << "NAlbum" << QVariant(" ");
-    QTest::newRow("fraction dans un entier") << "NAlbum" << QVariant(1.5);
-    QTest::newRow("texte dans un montant") << "PrixA" << QVariant("12,50");
-    QTest::newRow("un dans un booleen") << "Broche" << QVariant(1);
-    QTest::newRow("nul dans un booleen") << "Broche" << QVariant();
-    QTest::newRow("identifiant deja pris") << "Num" << QVariant(2);
-}
-
-void tst_recordset::uneValeurImpossibleEstRefusee()
-{
-    QFETCH(QString, champ);
-    QFETCH(QVariant, valeur);
-    const Bac bac;
-    Bac::executer("INSERT INTO Album (Num, NAlbum, PrixA) VALUES (1, 12, 3.5), (2, 13, 3.5)");
-    const QByteArray avant = Bac::lire(bac.collection());
-    {
-        auto rs = Base().edit("Album", "Num = 1");
-        rs.Edit();
-        rs.SetField("Commentaire", "avec");
-        rs.SetField(champ, valeur);
-        QVERIFY(refus([&] { rs.Update(); }) == Error::Sorte::Autre);
-    }
-    QVERIFY(Bac::lire(bac.collection()) == avant);
-}
-
-void tst_recordset::uneValeurRevientCommeElleDoit_data()
-{
-    QTest::addColumn<QString>("champ");
-    QTest::addColumn<QVariant>("donne");
-    QTest::addColumn<QVariant>("garde");
-    const auto tel = [](const char *nom, const QVariant &v) { QTest::newRow(nom) << "TAlbum" << v << v; };
-    tel("nul", QVariant());
-    tel("texte vide", "");
-    tel("apostrophes et accents", "L'Écume d'été ''");
-    tel("marques et mots", "\"Lou\" ?1 :a; true -- DROP TABLE Genre;");
-    tel("hors du plan de base", QStringLiteral("œ € 😀 日本"));
-    tel("long", QString(200'000, u'é'));
-    const auto montant = [](const char *nom, double a, double b) {
-        QTest::newRow(nom) << "PrixA" << QVariant(a) << QVariant(b);
-    };
-    montant("somme inexacte", 0.1 + 0.2, 0.3);
-    montant("negatif", -12.34567, -12.3457);
-    montant("infime", 0.00004, 0.0);
-    montant("le plus grand", 900719925474.0991, 900719925474.0991);
-    QTest::newRow("vrai") << "Broche" << QVariant(true) << QVariant(-1);
-    QTest::newRow("faux") << "Broche" << QVariant(false) << QVariant(0);
-}
-
-void tst_recordset::uneValeurRevientCommeElleDoit()
-{
-    QFETCH(QString, champ);
-    QFETCH(QVariant, donne);
-    QFETCH(QVariant, garde);
-    const Bac bac;
-    const QString table = champ == "TAlbum" ? "LAlbums" : "Album";
-    {
-        auto rs = Base().edit(table);
+        const Bac bac;
+        Base base;
+        remplirGenres(2);
+        auto rs = base.edit("Genre");
         rs.AddNew();
-        rs.SetField(champ, donne);
+        rs.SetField(0, 7);
+        rs.SetField("NOM", "Humour");
         rs.Update();
+        QCOMPARE(rs.Fields("Nom"), "a01");
+        rs.SetBookmark(rs.LastModified());
+        QCOMPARE(rs.Fields("Nom"), "Humour");
+        rs.Edit();
+        rs.SetField(1, "Essai");
+        rs.SetField("nom", "Western");
+        rs.Update();
+        QCOMPARE(rs.LastModified(), 7);
+        QCOMPARE(rs.Fields(1), "Western");
+        QCOMPARE(rs.RecordCount(), 3);
     }
-    const QVariant lu
-        = Bac::valeur("SELECT " + champ + " FROM " + table + " WHERE " + champ + " IS ?", {donne});
-    QVERIFY2(lu == garde && lu.isValid() == garde.isValid(), qPrintable(lu.toString()));
-}
 
-void tst_recordset::leTexteDUneRequeteEstMisEnForme_data()
-{
-    QTest::addColumn<QString>("condition");
-    QTest::addColumn<int>("attendu");
-    QTest::newRow("vrai") << "Scena=true" << 1;
-    QTest::newRow("faux, casse melee, fin") << "Scena = False ; " << 2;
-    QTest::newRow("mot dans un texte") << "Nom = 'true'" << 2;
-    QTest::newRow("mot apres apostrophe doublee") << "Nom <> 'l''a true' and Dessin=TRUE;;" << 1;
-    QTest::newRow("point-virgule dans un texte") << "Nom = 'fin; '" << 1;
-}
-
-void tst_recordset::leTexteDUneRequeteEstMisEnForme()
-{
-    QFETCH(QString, condition);
-    const Bac bac;
-    Base base;
-    Bac::executer("INSERT INTO Auteurs (NAuteur, Nom, Scena, Dessin)"
-                  " VALUES (1, 'true', true, false), (2, 'true', false, true), (3, 'fin; ', false, false)");
-    QTEST(int(base.edit("Auteurs", condition).RecordCount()), "attendu");
-    QTEST(Bac::valeur("SELECT count(*) From Auteurs where " + condition).toInt(), "attendu");
-}
-
-void tst_recordset::uneLigneSupprimeeEntreTempsRefuseLEdition()
-{
-    const Bac bac;
-    Base base;
-    remplirGenres(2);
-    auto rs = base.edit("Genre");
-    rs.Edit();
-    rs.SetField("Nom", "Fantôme");
-    Bac::executer("DELETE FROM Genre WHERE NGenre = 1");
-    QVERIFY(refus([&] { rs.Update(); }).has_value());
-    rs.MoveNext();
-    QCOMPARE(rs.Fields("Nom"), "a02");
-    QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 1);
-}
-
-/// The engine keeps its statements: those of before must not read the table of after.
-void tst_recordset::uneTableQuiChangeEstRelue()
-{
-    const Bac bac;
-    Base base;
-    base.Execute("INSERT INTO Genre VALUES (1, 'a')");
-    const auto lire = [&](const QString &champ) {
-        const auto rs = base.OpenRecordset("SELECT * From Genre");
-        return rs.Fields(champ).toString();
-    };
-    QCOMPARE(lire("Nom"), "a");
+    void leNombreDeLignesEstEntierEtApresLaFinIlNYAPlusDeLigne()
     {
-        const Transaction reprise(base);
-        base.Execute("ALTER TABLE Genre ADD COLUMN Neuf TEXT DEFAULT 'n'");
-        QCOMPARE(lire("Neuf"), "n");
+        const Bac bac;
+        Base base;
+        for (const int nombre : {0, 5}) {
+            remplirGenres(nombre);
+            const auto parcourir = [nombre](auto rs) {
+                for (int i = 0; i < nombre; ++i, rs.MoveNext())
+                    QCOMPARE(rs.RecordCount(), nombre);
+                QVERIFY(rs.AtEnd());
+                QVERIFY(refus([&] { rs.Fields("Nom"); }).has_value());
+                rs.MoveFirst();
+                QCOMPARE(rs.AtEnd(), nombre == 0);
+                QVERIFY(refus([&] { rs.Fields("Prenom"); }).has_value());
+            };
+            parcourir(base.edit("Genre", "order by Nom asc "));
+            parcourir(base.OpenRecordset("SELECT Nom FROM Genre ;"));
+        }
+        auto vide = base.edit("Serie");
+        QVERIFY(refus([&] { vide.Edit(); }).has_value());
+        QVERIFY(refus([&] { vide.Delete(); }).has_value());
     }
-    QVERIFY(refus([&] { lire("Neuf"); }).has_value());
-}
+
+    void uneEditionSansChangementNEcritRien()
+    {
+        Bac bac;
+        Bac::executer(
+            "INSERT INTO Album (Num, NAlbum, ISBN, ISSN, PrixA, Broche) VALUES (1, 12, ?, '', 12.34, true)",
+            {"L'été"});
+        Ecoute ecoute(bac.annonces);
+        const QByteArray avant = Bac::lire(bac.collection());
+        for (const auto &[champ, valeur] : Valeurs{{"ISBN", "L'été"}, {"ISSN", ""}, {"DA", QVariant()},
+                 {"NAlbum", 12}, {"PrixA", 12.340049}, {"Broche", true}}) {
+            Acte acte("rien");
+            auto rs = acte.base().edit("Album", "Num = ?", {1});
+            rs.Edit();
+            rs.SetField(champ, valeur);
+            rs.Update();
+            acte.valider();
+            QVERIFY2(Bac::lire(bac.collection()) == avant, qPrintable(champ));
+        }
+        QVERIFY(ecoute.annonces().empty());
+    }
+
+    void uneValeurImpossibleEstRefusee()
+    {
+        const Bac bac;
+        Bac::executer("INSERT INTO Album (Num, NAlbum, PrixA) VALUES (1, 12, 3.5), (2, 13, 3.5)");
+        const QByteArray avant = Bac::lire(bac.collection());
+        for (const auto &[champ, valeur] : Valeurs{{"NAlbum", "douze"}, {"NAlbum", " "}, {"NAlbum", 1.5},
+                 {"PrixA", "12,50"}, {"Broche", 1}, {"Broche", QVariant()}, {"Num", 2}}) {
+            auto rs = Base().edit("Album", "Num = 1");
+            rs.Edit();
+            rs.SetField("Commentaire", "avec");
+            rs.SetField(champ, valeur);
+            QVERIFY2(refus([&] { rs.Update(); }) == Error::Sorte::Autre, qPrintable(champ));
+        }
+        QVERIFY(Bac::lire(bac.collection()) == avant);
+    }
+
+    void uneValeurRevientCommeElleDoit_data()
+    {
+        colonnes<QString, QVariant, QVariant>();
+        for (const QVariant &texte : QVariantList{QVariant(), "", "L'Écume d'été \"Lou\" ?1 :a; true -- DROP",
+                 "œ € 😀 日本", QString(200'000, u'é')})
+            QTest::addRow("%s", qPrintable(texte.toString().left(9))) << "TAlbum" << texte << texte;
+        for (const auto &[donne, garde] : {std::pair(0.1 + 0.2, 0.3), std::pair(-12.34567, -12.3457),
+                 std::pair(0.00004, 0.0), std::pair(900719925474.0991, 900719925474.0991)})
+            QTest::addRow("%g", donne) << "PrixA" << QVariant(donne) << QVariant(garde);
+        QTest::newRow("vrai") << "Broche" << QVariant(true) << QVariant(-1);
+        QTest::newRow("faux") << "Broche" << QVariant(false) << QVariant(0);
+    }
+
+    void uneValeurRevientCommeElleDoit()
+    {
+        const auto [champ, donne, garde] = essai<QString, QVariant, QVariant>();
+        const Bac bac;
+        const QString table = champ == "TAlbum" ? "LAlbums" : "Album";
+        {
+            auto rs = Base().edit(table);
+            rs.AddNew();
+            rs.SetField(champ, donne);
+            rs.Update();
+        }
+        const QVariant lu
+            = Bac::valeur("SELECT " + champ + " FROM " + table + " WHERE " + champ + " IS ?", {donne});
+        QVERIFY2(lu == garde && lu.isValid() == garde.isValid(), qPrintable(lu.toString()));
+    }
+
+    void leTexteDUneRequeteEstMisEnForme()
+    {
+        const Bac bac;
+        Base base;
+        Bac::executer("INSERT INTO Auteurs (NAuteur, Nom, Scena, Dessin) VALUES (1, 'true', true, false),"
+                      " (2, 'true', false, true), (3, 'fin; ', false, false)");
+        for (const auto &[condition, nombre] : Valeurs{{"Scena=true", 1}, {"Scena = False ; ", 2},
+                 {"Nom = 'true'", 2}, {"Nom <> 'l''a true' and Dessin=TRUE;;", 1}, {"Nom = 'fin; '", 1}}) {
+            QCOMPARE(base.edit("Auteurs", condition).RecordCount(), nombre.toInt());
+            QCOMPARE(Bac::valeur("SELECT count(*) From Auteurs where " + condition), nombre);
+        }
+    }
+
+    void uneLigneSupprimeeEntreTempsRefuseLEdition()
+    {
+        const Bac bac;
+        Base base;
+        remplirGenres(2);
+        auto rs = base.edit("Genre");
+        rs.Edit();
+        rs.SetField("Nom", "Fantôme");
+        Bac::executer("DELETE FROM Genre WHERE NGenre = 1");
+        QVERIFY(refus([&] { rs.Update(); }).has_value());
+        rs.MoveNext();
+        QCOMPARE(rs.Fields("Nom"), "a02");
+        QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 1);
+    }
+
+    /// The engine keeps its statements: those of before must not read the table of after.
+    void uneTableQuiChangeEstRelue()
+    {
+        const Bac bac;
+        Base base;
+        base.Execute("INSERT INTO Genre VALUES (1, 'a')");
+        const auto lire = [&](const QString &champ) {
+            const auto rs = base.OpenRecordset("SELECT * From Genre");
+            return rs.Fields(champ).toString();
+        };
+        QCOMPARE(lire("Nom"), "a");
+        {
+            const Transaction reprise(base);
+            base.Execute("ALTER TABLE Genre ADD COLUMN Neuf TEXT DEFAULT 'n'");
+            QCOMPARE(lire("Neuf"), "n");
+        }
+        QVERIFY(refus([&] { lire("Neuf"); }).has_value());
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_recordset)
 #include "tst_recordset.moc"

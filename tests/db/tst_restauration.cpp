@@ -1,11 +1,10 @@
 #include "acts/Historique.h"
-#include "db/Comparaison.h"
 #include "db/files/Remplacement.h"
 #include "db/files/Sauvegardes.h"
-#include "db/schema/Version.h"
 #include "model/General.h"
 #include "support/Autre.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/Ecoute.h"
 #include "support/Refus.h"
 
@@ -13,20 +12,6 @@
 #include <QTest>
 
 using Remplacement::Etat;
-
-class tst_restauration : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void unFichierEstPrisPourCeQuIlEst_data();
-    void unFichierEstPrisPourCeQuIlEst();
-    void laBaseEnServiceNEstPasRestauree();
-    void laBaseRemplaceeEstGardee_data();
-    void laBaseRemplaceeEstGardee();
-    void unEchecLaisseToutEnPlace();
-    void uneBaseDAvantEstMiseANiveau();
-};
 
 namespace {
 
@@ -59,130 +44,118 @@ QStringList fichiers(const Bac &bac, const QString &motif)
 
 }
 
-void tst_restauration::unFichierEstPrisPourCeQuIlEst_data()
+class tst_restauration : public QObject
 {
-    QTest::addColumn<QByteArray>("octets");
-    QTest::addColumn<Etat>("etat");
-    const Bac bac;
-    QTest::newRow("saine") << albumNomme("a") << Etat::Saine;
-    QTest::newRow("vierge") << Bac::lire(bac.collection()) << Etat::Vierge;
-    QTest::newRow("ancienne") << Access << Etat::Ancienne;
-    QTest::newRow("catalogue") << Bac::lire(bac.chemin("BDbase.bd")) << Etat::Catalogue;
-    QTest::newRow("coupee") << albumNomme("a").chopped(5000) << Etat::Abimee;
-    QTest::newRow("pages abimees") << abimer(albumNomme("a")) << Etat::Abimee;
-    QTest::newRow("table qui manque") << albumNomme("a", "DROP TABLE Editeur") << Etat::Abimee;
-    QTest::newRow("texte") << QByteArray("du texte") << Etat::Etrangere;
-    QTest::newRow("vide") << QByteArray() << Etat::Etrangere;
-}
+    Q_OBJECT
 
-void tst_restauration::unFichierEstPrisPourCeQuIlEst()
-{
-    QFETCH(QByteArray, octets);
-    QFETCH(Etat, etat);
-    const Bac bac;
-    const QString fichier = bac.chemin("bd 2026-03-01 10-00-00.bd");
-    Bac::ecrire(fichier, octets);
-    const QStringList entrees = QDir(bac.chemin()).entryList();
-    const auto examen = Remplacement::Examiner(fichier);
-    QCOMPARE(examen.etat, etat);
-    QCOMPARE(examen.date, QDateTime({2026, 3, 1}, {10, 0}));
-    QCOMPARE(examen.albums, etat == Etat::Saine ? 1 : 0);
-    QCOMPARE(Remplacement::Restaurer(fichier).isEmpty(), etat == Etat::Saine || etat == Etat::Vierge);
-    QCOMPARE(Bac::toutLire().size(), etat == Etat::Saine ? 2 : 0);
-    QCOMPARE(Bac::lire(fichier), octets);
-    QCOMPARE(QDir(bac.chemin()).entryList(), entrees);
-    QCOMPARE(refus([&] { Remplacement::Examiner(bac.chemin("absent")); }), Error::Sorte::Introuvable);
-}
-
-void tst_restauration::laBaseEnServiceNEstPasRestauree()
-{
-    const Bac bac;
-    Bac::executer("INSERT INTO Genre VALUES (1, 'un')");
-    QFile::link(bac.collection(), bac.chemin("lien.bd"));
-    const QByteArray avant = Bac::lire(bac.collection());
-    for (const char *chemin : {"bd.mdb", "images/../bd.mdb", "lien.bd"}) {
-        QCOMPARE(Remplacement::Examiner(bac.chemin(chemin)).etat, Etat::Courante);
-        QVERIFY(!Remplacement::Restaurer(bac.chemin(chemin)).isEmpty());
-    }
-    QCOMPARE(Bac::lire(bac.collection()), avant);
-    QVERIFY(Sauvegardes::Lister().isEmpty());
-}
-
-void tst_restauration::laBaseRemplaceeEstGardee_data()
-{
-    QTest::addColumn<QByteArray>("octets");
-    QTest::newRow("saine") << albumNomme("celle d'avant");
-    QTest::newRow("abimee") << abimer(albumNomme("celle d'avant"));
-    QTest::newRow("coupee") << albumNomme("celle d'avant").chopped(5000);
-    QTest::newRow("ancienne") << Access;
-    QTest::newRow("vide") << QByteArray();
-}
-
-void tst_restauration::laBaseRemplaceeEstGardee()
-{
-    QFETCH(QByteArray, octets);
-    const bool saine = qstrcmp(QTest::currentDataTag(), "saine") == 0;
-    Bac bac;
-    const Historique histoire(bac.annonces);
-    Bac::agir("INSERT INTO Genre VALUES (1, 'un')");
-    QVERIFY(histoire.peutAnnuler());
-    Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("la nouvelle"));
-    Bac::ecrire(bac.chemin("bd.mdb.neuve"), "d'une fin brutale");
-    for (int tour = 1; tour < 3; ++tour) {
-        Bac::ecrire(bac.collection(), octets);
-        if (!saine)
-            Bac::ecrire(bac.collection() + "-journal", "un reste");
-        Ecoute ecoute(bac.annonces);
-        QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
-        QCOMPARE(titreEcrit(), "la nouvelle");
-        QVERIFY(!histoire.peutAnnuler());
-        QVERIFY(General::Concerne(ecoute.annonces().back(), General::Tri::Collections));
-        QCOMPARE(fichiers(bac, "bd.mdb*"), QStringList("bd.mdb"));
-        const bool ancienne = octets == Access;
-        const QStringList deCote = fichiers(bac, ancienne ? "bd-ancien*.mdb" : "bd abîmée *.mdb");
-        QCOMPARE(deCote.size(), saine ? 0 : tour); // none is overwritten
-        for (const QString &nom : deCote)
-            QVERIFY(Bac::lire(bac.chemin(nom)) == octets);
-    }
-    QCOMPARE(Sauvegardes::Lister().size(), saine ? 2 : 0);
-    if (saine)
-        QCOMPARE(Remplacement::Restaurer(Sauvegardes::DerniereSaine()), "");
-    QCOMPARE(titreEcrit(), saine ? "celle d'avant" : "la nouvelle");
-}
-
-void tst_restauration::unEchecLaisseToutEnPlace()
-{
-    const Bac bac;
-    const auto restaurer = [&] { Remplacement::Restaurer(bac.chemin("choisie.bd")); };
-    Bac::ecrire(bac.collection(), albumNomme("celle d'avant"));
-    Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("la nouvelle"));
-    Bac::ecrire(bac.chemin("sauvegardes"), "un fichier");
-    QVERIFY(refus(restaurer).has_value());
-    QVERIFY(QFile::remove(bac.chemin("sauvegardes")));
+private Q_SLOTS:
+    void unFichierEstPrisPourCeQuIlEst_data()
     {
-        Autre autre(bac.collection());
-        autre.executer("BEGIN EXCLUSIVE");
-        QCOMPARE(refus(restaurer), Error::Sorte::EnUsage);
+        colonnes<QByteArray, Etat>();
+        const Bac bac;
+        QTest::newRow("saine") << albumNomme("a") << Etat::Saine;
+        QTest::newRow("vierge") << Bac::lire(bac.collection()) << Etat::Vierge;
+        QTest::newRow("ancienne") << Access << Etat::Ancienne;
+        QTest::newRow("catalogue") << Bac::lire(bac.chemin("BDbase.bd")) << Etat::Catalogue;
+        QTest::newRow("coupee") << albumNomme("a").chopped(5000) << Etat::Abimee;
+        QTest::newRow("pages abimees") << abimer(albumNomme("a")) << Etat::Abimee;
+        QTest::newRow("table qui manque") << albumNomme("a", "DROP TABLE Editeur") << Etat::Abimee;
+        QTest::newRow("texte") << QByteArray("du texte") << Etat::Etrangere;
+        QTest::newRow("vide") << QByteArray() << Etat::Etrangere;
     }
-    QCOMPARE(titreEcrit(), "celle d'avant");
-    QCOMPARE(fichiers(bac, "bd[. ]*"), QStringList("bd.mdb"));
-}
 
-void tst_restauration::uneBaseDAvantEstMiseANiveau()
-{
-    const Bac bac;
-    Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("été"));
-    Autre(bac.chemin("choisie.bd"))
-        .executer(
-            "DROP TRIGGER CleTomeAlbumNeuf; DROP TRIGGER CleTomeAlbum; DROP TRIGGER CleTomeLien;"
-            "DROP TRIGGER CleTomeLienNeuf; ALTER TABLE Album DROP COLUMN Coffret; PRAGMA user_version=1;"
-            "INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 1)");
-    QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
-    QCOMPARE(Bac::valeur("SELECT Coffret FROM Album"), 0);
-    QCOMPARE(Bac::valeur("SELECT NumeroAlbum2 FROM SerieAlbums"), "D");
-    QCOMPARE(Bac::valeur("PRAGMA user_version"),
-        Version::Composer(Comparaison::version(), Version::DernierPalier));
-}
+    void unFichierEstPrisPourCeQuIlEst()
+    {
+        const auto [octets, etat] = essai<QByteArray, Etat>();
+        const Bac bac;
+        const QString fichier = bac.chemin("bd 2026-03-01 10-00-00.bd");
+        Bac::ecrire(fichier, octets);
+        const QStringList entrees = QDir(bac.chemin()).entryList();
+        const auto examen = Remplacement::Examiner(fichier);
+        QCOMPARE(examen.etat, etat);
+        QCOMPARE(examen.date, QDateTime({2026, 3, 1}, {10, 0}));
+        QCOMPARE(examen.albums, etat == Etat::Saine ? 1 : 0);
+        QCOMPARE(Remplacement::Restaurer(fichier).isEmpty(), etat == Etat::Saine || etat == Etat::Vierge);
+        QCOMPARE(Bac::toutLire().size(), etat == Etat::Saine ? 2 : 0);
+        QCOMPARE(Bac::lire(fichier), octets);
+        QCOMPARE(QDir(bac.chemin()).entryList(), entrees);
+        QCOMPARE(refus([&] { Remplacement::Examiner(bac.chemin("absent")); }), Error::Sorte::Introuvable);
+    }
+
+    void laBaseEnServiceNEstPasRestauree()
+    {
+        const Bac bac;
+        Bac::executer("INSERT INTO Genre VALUES (1, 'un')");
+        QFile::link(bac.collection(), bac.chemin("lien.bd"));
+        const QByteArray avant = Bac::lire(bac.collection());
+        for (const char *chemin : {"bd.mdb", "images/../bd.mdb", "lien.bd"}) {
+            QCOMPARE(Remplacement::Examiner(bac.chemin(chemin)).etat, Etat::Courante);
+            QVERIFY(!Remplacement::Restaurer(bac.chemin(chemin)).isEmpty());
+        }
+        QCOMPARE(Bac::lire(bac.collection()), avant);
+        QVERIFY(Sauvegardes::Lister().isEmpty());
+    }
+
+    void laBaseRemplaceeEstGardee_data()
+    {
+        QTest::addColumn<QByteArray>("octets");
+        QTest::newRow("saine") << albumNomme("celle d'avant");
+        QTest::newRow("abimee") << abimer(albumNomme("celle d'avant"));
+        QTest::newRow("coupee") << albumNomme("celle d'avant").chopped(5000);
+        QTest::newRow("ancienne") << Access;
+        QTest::newRow("vide") << QByteArray();
+    }
+
+    void laBaseRemplaceeEstGardee()
+    {
+        QFETCH(QByteArray, octets);
+        const bool saine = qstrcmp(QTest::currentDataTag(), "saine") == 0;
+        Bac bac;
+        const Historique histoire(bac.annonces);
+        Bac::agir("INSERT INTO Genre VALUES (1, 'un')");
+        QVERIFY(histoire.peutAnnuler());
+        Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("la nouvelle"));
+        Bac::ecrire(bac.chemin("bd.mdb.neuve"), "d'une fin brutale");
+        for (int tour = 1; tour < 3; ++tour) {
+            Bac::ecrire(bac.collection(), octets);
+            if (!saine)
+                Bac::ecrire(bac.collection() + "-journal", "un reste");
+            Ecoute ecoute(bac.annonces);
+            QCOMPARE(Remplacement::Restaurer(bac.chemin("choisie.bd")), "");
+            QCOMPARE(titreEcrit(), "la nouvelle");
+            QVERIFY(!histoire.peutAnnuler());
+            QVERIFY(General::Concerne(ecoute.annonces().back(), General::Tri::Collections));
+            QCOMPARE(fichiers(bac, "bd.mdb*"), QStringList("bd.mdb"));
+            const bool ancienne = octets == Access;
+            const QStringList deCote = fichiers(bac, ancienne ? "bd-ancien*.mdb" : "bd abîmée *.mdb");
+            QCOMPARE(deCote.size(), saine ? 0 : tour); // none is overwritten
+            for (const QString &nom : deCote)
+                QVERIFY(Bac::lire(bac.chemin(nom)) == octets);
+        }
+        QCOMPARE(Sauvegardes::Lister().size(), saine ? 2 : 0);
+        if (saine)
+            QCOMPARE(Remplacement::Restaurer(Sauvegardes::DerniereSaine()), "");
+        QCOMPARE(titreEcrit(), saine ? "celle d'avant" : "la nouvelle");
+    }
+
+    void unEchecLaisseToutEnPlace()
+    {
+        const Bac bac;
+        const auto restaurer = [&] { Remplacement::Restaurer(bac.chemin("choisie.bd")); };
+        Bac::ecrire(bac.collection(), albumNomme("celle d'avant"));
+        Bac::ecrire(bac.chemin("choisie.bd"), albumNomme("la nouvelle"));
+        Bac::ecrire(bac.chemin("sauvegardes"), "un fichier");
+        QVERIFY(refus(restaurer).has_value());
+        QVERIFY(QFile::remove(bac.chemin("sauvegardes")));
+        {
+            Autre autre(bac.collection());
+            autre.executer("BEGIN EXCLUSIVE");
+            QCOMPARE(refus(restaurer), Error::Sorte::EnUsage);
+        }
+        QCOMPARE(titreEcrit(), "celle d'avant");
+        QCOMPARE(fichiers(bac, "bd[. ]*"), QStringList("bd.mdb"));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_restauration)
 #include "tst_restauration.moc"

@@ -3,24 +3,10 @@
 #include "db/files/Sauvegardes.h"
 #include "db/files/Verification.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 
 #include <QDir>
 #include <QTest>
-
-class tst_sauvegardes : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void ceQuiAFaitSonTempsSEnVa_data();
-    void ceQuiAFaitSonTempsSEnVa();
-    void uneCopiePrecedeLaPremiereEcriturePuisUneParHeure();
-    void laCopieEstLaBaseDAvantLEcriture_data();
-    void laCopieEstLaBaseDAvantLEcriture();
-    void uneCopieManqueeNArretePasLEcriture();
-    void seulCeQueLeProgrammeAFaitEstDetruit();
-    void laDerniereSaineEstTrouvee();
-};
 
 namespace {
 
@@ -56,169 +42,166 @@ struct Etabli
 
 }
 
-void tst_sauvegardes::ceQuiAFaitSonTempsSEnVa_data()
+class tst_sauvegardes : public QObject
 {
-    QTest::addColumn<QStringList>("gardees");
-    QTest::addColumn<QStringList>("perimees");
-    const auto cas = [](const char *nom, const QStringList &gardees, const QStringList &perimees) {
-        QTest::newRow(nom) << gardees << perimees;
-    };
-    // Today is Saturday 2026-11-21.
-    cas("rien", {}, {});
-    cas("tout d'aujourd'hui", {"2026-11-21 00-00-00", "2026-11-21 09-00-00", "2026-11-21 18-00-00"}, {});
-    cas("une horloge qui avancait", {"2027-01-01 09-00-00", "2027-01-01 10-00-00"}, {});
-    cas("une d'hier", {"2026-11-20 23-59-59"}, {"2026-11-20 08-00-00", "2026-11-20 12-00-00"});
-    cas("le quatorzieme jour, puis la semaine", {"2026-11-07 10-00-00", "2026-11-06 09-00-00"},
-        {"2026-11-07 09-00-00", "2026-11-05 09-00-00"});
-    cas("une par semaine, du lundi au dimanche", {"2026-10-25 09-00-00", "2026-10-27 09-00-00"},
-        {"2026-10-19 09-00-00", "2026-10-26 09-00-00"});
-    cas("la derniere semaine, puis le mois",
-        {"2026-09-12 09-00-00", "2026-09-11 09-00-00", "2026-08-31 09-00-00"}, {"2026-09-01 09-00-00"});
-    cas("une par mois", {"2026-03-31 09-00-00", "2025-03-15 09-00-00"}, {"2026-03-01 09-00-00"});
-}
+    Q_OBJECT
 
-void tst_sauvegardes::ceQuiAFaitSonTempsSEnVa()
-{
-    QFETCH(QStringList, gardees);
-    QFETCH(QStringList, perimees);
-    QList<Sauvegardes::Sauvegarde> sauvegardes;
-    for (const QString &date : gardees + perimees)
-        sauvegardes << Sauvegardes::Sauvegarde{date, instant(date), 1, -1};
-    QStringList parties = Sauvegardes::ADetruire(sauvegardes, instant("2026-11-21 18-05-12"));
-    parties.sort();
-    perimees.sort();
-    QCOMPARE(parties, perimees);
-}
-
-void tst_sauvegardes::uneCopiePrecedeLaPremiereEcriturePuisUneParHeure()
-{
-    Etabli e;
+private Q_SLOTS:
+    void ceQuiAFaitSonTempsSEnVa_data()
     {
-        // Reading, what is not the user's, and the catalogue make none.
-        Bac::toutLire();
-        Bac::executer("UPDATE Genre SET Nom = 'un'");
-        Base(e.bac.chemin("BDbase.bd"), Entete::Nature::Catalogue).Execute("DELETE FROM BD");
-        QVERIFY(!QDir(e.bac.chemin("sauvegardes")).exists());
+        colonnes<QStringList, QStringList>();
+        const auto cas = [](const char *nom, const QStringList &gardees, const QStringList &perimees) {
+            QTest::newRow(nom) << gardees << perimees;
+        };
+        // Today is Saturday 2026-11-21.
+        cas("rien", {}, {});
+        cas("tout d'aujourd'hui", {"2026-11-21 00-00-00", "2026-11-21 09-00-00", "2026-11-21 18-00-00"}, {});
+        cas("une horloge qui avancait", {"2027-01-01 09-00-00", "2027-01-01 10-00-00"}, {});
+        cas("une d'hier", {"2026-11-20 23-59-59"}, {"2026-11-20 08-00-00", "2026-11-20 12-00-00"});
+        cas("le quatorzieme jour, puis la semaine", {"2026-11-07 10-00-00", "2026-11-06 09-00-00"},
+            {"2026-11-07 09-00-00", "2026-11-05 09-00-00"});
+        cas("une par semaine, du lundi au dimanche", {"2026-10-25 09-00-00", "2026-10-27 09-00-00"},
+            {"2026-10-19 09-00-00", "2026-10-26 09-00-00"});
+        cas("la derniere semaine, puis le mois",
+            {"2026-09-12 09-00-00", "2026-09-11 09-00-00", "2026-08-31 09-00-00"}, {"2026-09-01 09-00-00"});
+        cas("une par mois", {"2026-03-31 09-00-00", "2025-03-15 09-00-00"}, {"2026-03-01 09-00-00"});
     }
-    e.ecrire();
-    QCOMPARE(e.copies(), QStringList("bd 2026-11-21 18-05-12.bd"));
-    e.heure = e.heure.addSecs(-1);
-    Bac::agir("UPDATE Genre SET Nom = 'deux'");
-    e.heure = e.heure.addSecs(1);
-    Bac::toutLire();
-    QCOMPARE(e.copies().size(), 1);
-    Bac::agir("UPDATE Genre SET Nom = 'trois'");
-    e.suivi.derniere = {}; // another run, within the same second
-    Bac::agir("UPDATE Genre SET Nom = 'quatre'");
-    const auto liste = Sauvegardes::Lister();
-    QCOMPARE(liste.size(), 3);
-    QCOMPARE(QFileInfo(liste[0].chemin).fileName(), "bd 2026-11-21 19-05-12 (2).bd");
-    QCOMPARE(liste[0].albums, 0);
-    e.heure = instant("2026-11-21 10-00-00"); // a clock that was set back
-    e.ecrire();
-    QCOMPARE(e.copies().size(), 4);
-    const Bac vierge; // of an empty collection there is nothing to keep, the first hour
-    for (int i = 1; i < 3; ++i)
-        Bac::agir("INSERT INTO Genre VALUES (?, 'a')", {i});
-    QVERIFY(Sauvegardes::Lister().isEmpty());
-}
 
-void tst_sauvegardes::laCopieEstLaBaseDAvantLEcriture_data()
-{
-    QTest::addColumn<QString>("comment");
-    for (const char *comment : {"instruction", "ajout", "edition", "suppression"})
-        QTest::newRow(comment) << comment;
-}
-
-void tst_sauvegardes::laCopieEstLaBaseDAvantLEcriture()
-{
-    QFETCH(QString, comment);
-    const Etabli e;
-    const QStringList avant = Bac::toutLire();
+    void ceQuiAFaitSonTempsSEnVa()
     {
-        Acte acte("acte");
-        Base &base = acte.base();
-        auto rs = base.edit("Genre");
-        if (comment == "instruction")
-            base.Execute("DELETE FROM Genre");
-        else if (comment == "suppression")
-            rs.Delete();
-        else {
-            comment == "ajout" ? rs.AddNew() : rs.Edit();
-            rs.SetField("Nom", "autre");
-            rs.Update();
+        auto [gardees, perimees] = essai<QStringList, QStringList>();
+        QList<Sauvegardes::Sauvegarde> sauvegardes;
+        for (const QString &date : gardees + perimees)
+            sauvegardes << Sauvegardes::Sauvegarde{date, instant(date), 1, -1};
+        QStringList parties = Sauvegardes::ADetruire(sauvegardes, instant("2026-11-21 18-05-12"));
+        parties.sort();
+        perimees.sort();
+        QCOMPARE(parties, perimees);
+    }
+
+    void uneCopiePrecedeLaPremiereEcriturePuisUneParHeure()
+    {
+        Etabli e;
+        {
+            // Reading, what is not the user's, and the catalogue make none.
+            Bac::toutLire();
+            Bac::executer("UPDATE Genre SET Nom = 'un'");
+            Base(e.bac.chemin("BDbase.bd"), Entete::Nature::Catalogue).Execute("DELETE FROM BD");
+            QVERIFY(!QDir(e.bac.chemin("sauvegardes")).exists());
         }
-        // The hour that passes in the middle of a write is not the time for a copy, not even to try.
-        e.suivi.derniere = {};
-        base.Execute("INSERT INTO Genre VALUES (7, 'sept')");
-        QVERIFY(!e.suivi.derniere.isValid());
-        acte.valider();
+        e.ecrire();
+        QCOMPARE(e.copies(), QStringList("bd 2026-11-21 18-05-12.bd"));
+        e.heure = e.heure.addSecs(-1);
+        Bac::agir("UPDATE Genre SET Nom = 'deux'");
+        e.heure = e.heure.addSecs(1);
+        Bac::toutLire();
+        QCOMPARE(e.copies().size(), 1);
+        Bac::agir("UPDATE Genre SET Nom = 'trois'");
+        e.suivi.derniere = {}; // another run, within the same second
+        Bac::agir("UPDATE Genre SET Nom = 'quatre'");
+        const auto liste = Sauvegardes::Lister();
+        QCOMPARE(liste.size(), 3);
+        QCOMPARE(QFileInfo(liste[0].chemin).fileName(), "bd 2026-11-21 19-05-12 (2).bd");
+        QCOMPARE(liste[0].albums, 0);
+        e.heure = instant("2026-11-21 10-00-00"); // a clock that was set back
+        e.ecrire();
+        QCOMPARE(e.copies().size(), 4);
+        const Bac vierge; // of an empty collection there is nothing to keep, the first hour
+        for (int i = 1; i < 3; ++i)
+            Bac::agir("INSERT INTO Genre VALUES (?, 'a')", {i});
+        QVERIFY(Sauvegardes::Lister().isEmpty());
     }
-    QCOMPARE(e.copies().size(), 1);
-    const QString copie = e.bac.chemin("sauvegardes/" + e.copies().first());
-    QCOMPARE(Verification::Verifier(copie), "");
-    const Bac autre;
-    Bac::ecrire(autre.collection(), Bac::lire(copie));
-    QCOMPARE(Bac::toutLire(), avant);
-}
 
-void tst_sauvegardes::uneCopieManqueeNArretePasLEcriture()
-{
-    Etabli e;
-    Bac::ecrire(e.bac.chemin("sauvegardes"), "un fichier");
-    int dites = 0;
-    e.suivi.manquee = [&](const Error &) { ++dites; };
-    e.ecrire(3);
-    QCOMPARE(dites, 1);
-    QCOMPARE(Bac::valeur("SELECT Nom FROM Genre"), "un...");
-    QVERIFY(QFile::remove(e.bac.chemin("sauvegardes")));
-    e.ecrire();
-    QCOMPARE(e.copies().size(), 1);
-    QDir(e.bac.chemin("sauvegardes")).mkdir("liste en cours.tmp"); // a copy that cannot be noted is none
-    e.ecrire();
-    QCOMPARE(dites, 2);
-    QCOMPARE(e.copies().size(), 1);
-    QVERIFY(!QFile::exists(e.bac.chemin("sauvegardes/copie en cours.tmp")));
-}
+    void laCopieEstLaBaseDAvantLEcriture()
+    {
+        for (const QString comment : {"instruction", "ajout", "edition", "suppression"}) {
+            const Etabli e;
+            const QStringList avant = Bac::toutLire();
+            {
+                Acte acte("acte");
+                Base &base = acte.base();
+                auto rs = base.edit("Genre");
+                if (comment == "instruction")
+                    base.Execute("DELETE FROM Genre");
+                else if (comment == "suppression")
+                    rs.Delete();
+                else {
+                    comment == "ajout" ? rs.AddNew() : rs.Edit();
+                    rs.SetField("Nom", "autre");
+                    rs.Update();
+                }
+                // The hour that passes in the middle of a write is not the time for a copy, not even to try.
+                e.suivi.derniere = {};
+                base.Execute("INSERT INTO Genre VALUES (7, 'sept')");
+                QVERIFY(!e.suivi.derniere.isValid());
+                acte.valider();
+            }
+            QCOMPARE(e.copies().size(), 1);
+            const Bac autre;
+            Bac::ecrire(autre.collection(), Bac::lire(e.bac.chemin("sauvegardes/" + e.copies().first())));
+            QCOMPARE(Verification::Verifier(), "");
+            QCOMPARE(Bac::toutLire(), avant);
+        }
+    }
 
-void tst_sauvegardes::seulCeQueLeProgrammeAFaitEstDetruit()
-{
-    Etabli e;
-    const QString ici = e.bac.chemin("sauvegardes/");
-    e.ecrire(4);
-    const QStringList faites = e.copies();
-    // One that the user changed, one that he put there under such a name, and a list that points elsewhere.
-    Bac::ecrire(ici + faites[0], "la mienne");
-    Bac::ecrire(ici + "bd 2020-01-01 00-00-00.bd", "à moi");
-    Bac::ecrire(ici + "bd 2020-01-02 00-00-00.bd", "à moi aussi");
-    const QByteArray taille = QByteArray::number(QFileInfo(e.bac.collection()).size());
-    Bac::ecrire(ici + "liste.txt",
-        Bac::lire(ici + "liste.txt") + "../bd.mdb\t" + taille + "\nbd 2020-01-01 00-00-00.bd\t" + taille
-            + '\n');
-    Bac::ecrire(ici + "copie en cours.tmp", "d'une fin brutale");
-    e.heure = e.heure.addDays(3);
-    e.ecrire();
-    QCOMPARE(e.copies(),
-        QStringList({"bd 2020-01-01 00-00-00.bd", "bd 2020-01-02 00-00-00.bd", faites[0], faites[3],
-            "bd 2026-11-24 22-05-12.bd"}));
-    QVERIFY(QFile::exists(e.bac.collection()));
-    QVERIFY(!QFile::exists(ici + "copie en cours.tmp"));
-    QCOMPARE(Bac::lire(ici + "liste.txt").count('\n'), 2);
-}
+    void uneCopieManqueeNArretePasLEcriture()
+    {
+        Etabli e;
+        Bac::ecrire(e.bac.chemin("sauvegardes"), "un fichier");
+        int dites = 0;
+        e.suivi.manquee = [&](const Error &) { ++dites; };
+        e.ecrire(3);
+        QCOMPARE(dites, 1);
+        QCOMPARE(Bac::valeur("SELECT Nom FROM Genre"), "un...");
+        QVERIFY(QFile::remove(e.bac.chemin("sauvegardes")));
+        e.ecrire();
+        QCOMPARE(e.copies().size(), 1);
+        QDir(e.bac.chemin("sauvegardes")).mkdir("liste en cours.tmp"); // a copy that cannot be noted is none
+        e.ecrire();
+        QCOMPARE(dites, 2);
+        QCOMPARE(e.copies().size(), 1);
+        QVERIFY(!QFile::exists(e.bac.chemin("sauvegardes/copie en cours.tmp")));
+    }
 
-void tst_sauvegardes::laDerniereSaineEstTrouvee()
-{
-    Etabli e;
-    e.ecrire(3);
-    const auto liste = Sauvegardes::Lister();
-    QByteArray octets = Bac::lire(liste[0].chemin);
-    Bac::ecrire(liste[0].chemin, octets.replace(4096, 40'000, QByteArray(40'000, '\x5A')));
-    Bac::ecrire(liste[1].chemin, "plus rien");
-    QCOMPARE(Sauvegardes::Lister()[1].albums, -1);
-    QCOMPARE(Sauvegardes::DerniereSaine(), liste[2].chemin);
-    QFile::remove(liste[2].chemin);
-    QCOMPARE(Sauvegardes::DerniereSaine(), "");
-}
+    void seulCeQueLeProgrammeAFaitEstDetruit()
+    {
+        Etabli e;
+        const QString ici = e.bac.chemin("sauvegardes/");
+        e.ecrire(4);
+        const QStringList faites = e.copies();
+        // One that the user changed, one that he put there under such a name, and a list that points elsewhere.
+        Bac::ecrire(ici + faites[0], "la mienne");
+        Bac::ecrire(ici + "bd 2020-01-01 00-00-00.bd", "à moi");
+        Bac::ecrire(ici + "bd 2020-01-02 00-00-00.bd", "à moi aussi");
+        const QByteArray taille = QByteArray::number(QFileInfo(e.bac.collection()).size());
+        Bac::ecrire(ici + "liste.txt",
+            Bac::lire(ici + "liste.txt") + "../bd.mdb\t" + taille + "\nbd 2020-01-01 00-00-00.bd\t" + taille
+                + '\n');
+        Bac::ecrire(ici + "copie en cours.tmp", "d'une fin brutale");
+        e.heure = e.heure.addDays(3);
+        e.ecrire();
+        QCOMPARE(e.copies(),
+            QStringList({"bd 2020-01-01 00-00-00.bd", "bd 2020-01-02 00-00-00.bd", faites[0], faites[3],
+                "bd 2026-11-24 22-05-12.bd"}));
+        QVERIFY(QFile::exists(e.bac.collection()));
+        QVERIFY(!QFile::exists(ici + "copie en cours.tmp"));
+        QCOMPARE(Bac::lire(ici + "liste.txt").count('\n'), 2);
+    }
+
+    void laDerniereSaineEstTrouvee()
+    {
+        Etabli e;
+        e.ecrire(3);
+        const auto liste = Sauvegardes::Lister();
+        QByteArray octets = Bac::lire(liste[0].chemin);
+        Bac::ecrire(liste[0].chemin, octets.replace(4096, 40'000, QByteArray(40'000, '\x5A')));
+        Bac::ecrire(liste[1].chemin, "plus rien");
+        QCOMPARE(Sauvegardes::Lister()[1].albums, -1);
+        QCOMPARE(Sauvegardes::DerniereSaine(), liste[2].chemin);
+        QFile::remove(liste[2].chemin);
+        QCOMPARE(Sauvegardes::DerniereSaine(), "");
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_sauvegardes)
 #include "tst_sauvegardes.moc"

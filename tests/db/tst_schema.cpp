@@ -6,29 +6,13 @@
 #include "db/schema/Version.h"
 #include "support/Autre.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/Ecoute.h"
 #include "support/Refus.h"
 
-#include <QDateTime>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
-
-class tst_schema : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void chaqueAncienSchemaDevientCeluiDAujourdhui_data();
-    void chaqueAncienSchemaDevientCeluiDAujourdhui();
-    void uneAncienneSauvegardeEstReprise_data();
-    void uneAncienneSauvegardeEstReprise();
-    void uneBaseDUnePlusRecenteNEstPasTouchee();
-    void unFichierAJourNEstPasEcrit();
-    void laCleSuitLeTome();
-    void unPalierManqueEstReprisEtRefait();
-    void lExtensionSertLesAutresOutils();
-};
 
 namespace {
 
@@ -83,205 +67,193 @@ QStringList forme()
 
 }
 
-void tst_schema::chaqueAncienSchemaDevientCeluiDAujourdhui_data()
+class tst_schema : public QObject
 {
-    QTest::addColumn<QString>("schema");
-    QTest::addColumn<int>("inscrite");
-    QTest::addColumn<QString>("abimer"); // what a start that was cut off may have left
-    QTest::newRow("le premier") << "premier" << 0 << "";
-    QTest::newRow("le premier, inscrit") << "premier" << 1 << "";
-    QTest::newRow("celui d'avant les paliers") << "palier-1" << 1 << "";
-    QTest::newRow("sans regles") << "palier-1" << 1 << "DROP TRIGGER CleTomeLien; DROP INDEX IndexGenreNom;";
-    QTest::newRow("les regles sans un champ")
-        << "palier-1" << 1
-        << "ALTER TABLE Album DROP COLUMN Coffret; CREATE INDEX autre ON Genre(Nom); DROP INDEX autre;";
-    QTest::newRow("une regle d'un autre texte")
-        << "palier-1" << 1
-        << "DROP TRIGGER CleTomeAlbum; CREATE TRIGGER CleTomeAlbum AFTER"
-           " UPDATE ON Album BEGIN SELECT 1; END;"
-           "DROP INDEX IndexGenreNom; CREATE INDEX IndexGenreNom ON Pays(Nom);";
-}
+    Q_OBJECT
 
-void tst_schema::chaqueAncienSchemaDevientCeluiDAujourdhui()
-{
-    QFETCH(QString, schema);
-    QFETCH(int, inscrite);
-    QFETCH(QString, abimer);
-    Bac bac;
-    const QStringList attendue = forme();
-    poserAncienne(bac, schema, inscrite);
-    if (!abimer.isEmpty())
-        Autre(bac.collection()).executer(abimer);
-    remplir({0, 1, 190, 191});
-    const bool premier = schema == "premier";
-    if (!premier)
-        Bac::executer("UPDATE SerieAlbums SET NumeroAlbum2 = 'ancienne' WHERE NAlbum = 99");
-    Ecoute ecoute(bac.annonces);
-
-    MiseANiveau::Executer();
-    QCOMPARE(ecoute.annonces().size(), 0U);
-    QCOMPARE(forme(), attendue);
-    QCOMPARE(Bac::valeur("PRAGMA user_version"),
-        Version::Composer(Comparaison::version(), Version::DernierPalier));
-    QCOMPARE(Bac::valeur("SELECT count(*) FROM Album WHERE Coffret=false"), 4);
-    QCOMPARE(QStringList({cle(10), cle(11), cle(12), cle(13), cle(99)}),
-        QStringList({"A", "B", "ÿ", "", premier ? "" : "ancienne"}));
-    QCOMPARE(Bac::valeur("PRAGMA integrity_check"), "ok");
-    // What stood there before is kept.
-    QCOMPARE(Sauvegardes::Lister().size(), 1);
-    QCOMPARE(Sauvegardes::Lister().first().albums, 4);
-
-    Bac::executer("UPDATE Album SET NAlbum = 2 WHERE Num = 13");
-    QCOMPARE(cle(13), "C");
-    // Rows of before can be taken away and come back.
-    Historique histoire(bac.annonces);
-    const QStringList avant = Bac::toutLire();
-    Bac::agir("DELETE FROM Album");
-    histoire.annuler();
-    QCOMPARE(Bac::toutLire(), avant);
-}
-
-/// A backup of each, and the blank file of a former version, are looked at by what they should hold, and put in place.
-void tst_schema::uneAncienneSauvegardeEstReprise_data()
-{
-    QTest::addColumn<QString>("schema");
-    QTest::addColumn<int>("inscrite");
-    QTest::addColumn<bool>("vierge");
-    for (const bool vierge : {false, true}) {
-        QTest::addRow("le premier, %s", vierge ? "vierge" : "rempli") << "premier" << 0 << vierge;
-        QTest::addRow("avant les paliers, %s", vierge ? "vierge" : "rempli") << "palier-1" << 1 << vierge;
+private Q_SLOTS:
+    void chaqueAncienSchemaDevientCeluiDAujourdhui_data()
+    {
+        // abimer: what a start that was cut off may have left
+        colonnes<QString, int, QString>();
+        QTest::newRow("le premier") << "premier" << 0 << "";
+        QTest::newRow("le premier, inscrit") << "premier" << 1 << "";
+        QTest::newRow("sans regles") << "palier-1" << 1
+                                     << "DROP TRIGGER CleTomeLien; DROP INDEX IndexGenreNom;";
+        QTest::newRow("les regles sans un champ")
+            << "palier-1" << 1
+            << "ALTER TABLE Album DROP COLUMN Coffret; CREATE INDEX autre ON Genre(Nom); DROP INDEX autre;";
+        QTest::newRow("une regle d'un autre texte")
+            << "palier-1" << 1
+            << "DROP TRIGGER CleTomeAlbum; CREATE TRIGGER CleTomeAlbum AFTER"
+               " UPDATE ON Album BEGIN SELECT 1; END;"
+               "DROP INDEX IndexGenreNom; CREATE INDEX IndexGenreNom ON Pays(Nom);";
     }
-}
 
-void tst_schema::uneAncienneSauvegardeEstReprise()
-{
-    QFETCH(QString, schema);
-    QFETCH(int, inscrite);
-    QFETCH(bool, vierge);
-    const Bac ancien;
-    poserAncienne(ancien, schema, inscrite);
-    if (!vierge)
-        remplir({3});
-    const Bac bac;
-    const QStringList attendue = forme();
-    const auto examen = Remplacement::Examiner(ancien.collection());
-    QCOMPARE(examen.etat, vierge ? Remplacement::Etat::Vierge : Remplacement::Etat::Saine);
-    const QByteArray avant = Bac::lire(ancien.collection());
-    QCOMPARE(Remplacement::Restaurer(ancien.collection()), "");
-    QVERIFY(Bac::lire(ancien.collection()) == avant);
-    QCOMPARE(forme(), attendue);
-    QCOMPARE(Bac::valeur("SELECT count(*) FROM Album"), vierge ? 0 : 1);
-}
+    void chaqueAncienSchemaDevientCeluiDAujourdhui()
+    {
+        const auto [schema, inscrite, abimer] = essai<QString, int, QString>();
+        Bac bac;
+        const QStringList attendue = forme();
+        poserAncienne(bac, schema, inscrite);
+        if (!abimer.isEmpty())
+            Autre(bac.collection()).executer(abimer);
+        remplir({0, 1, 190, 191});
+        const bool premier = schema == "premier";
+        if (!premier)
+            Bac::executer("UPDATE SerieAlbums SET NumeroAlbum2 = 'ancienne' WHERE NAlbum = 99");
+        Ecoute ecoute(bac.annonces);
 
-void tst_schema::uneBaseDUnePlusRecenteNEstPasTouchee()
-{
-    const Bac bac;
-    remplir({1});
-    // An order of names that is not ours either: it must not be mended on the way.
-    Bac::executer(
-        QStringLiteral("PRAGMA user_version=%1").arg(Version::Composer(7, Version::DernierPalier + 1)));
-    const QByteArray avant = Bac::lire(bac.collection());
-    QCOMPARE(refus([] { Base(); }), Error::Sorte::PlusRecente);
-    MiseANiveau::Executer();
-    const Bac autre;
-    QCOMPARE(Remplacement::Examiner(bac.collection()).etat, Remplacement::Etat::PlusRecente);
-    QVERIFY(!Remplacement::Restaurer(bac.collection()).isEmpty());
-    QVERIFY(Bac::lire(bac.collection()) == avant);
-}
+        MiseANiveau::Executer();
+        QCOMPARE(ecoute.annonces().size(), 0U);
+        QCOMPARE(forme(), attendue);
+        QCOMPARE(Bac::valeur("PRAGMA user_version"),
+            Version::Composer(Comparaison::version(), Version::DernierPalier));
+        QCOMPARE(Bac::valeur("SELECT count(*) FROM Album WHERE Coffret=false"), 4);
+        QCOMPARE(QStringList({cle(10), cle(11), cle(12), cle(13), cle(99)}),
+            QStringList({"A", "B", "ÿ", "", premier ? "" : "ancienne"}));
+        QCOMPARE(Bac::valeur("PRAGMA integrity_check"), "ok");
+        // What stood there before is kept.
+        QCOMPARE(Sauvegardes::Lister().size(), 1);
+        QCOMPARE(Sauvegardes::Lister().first().albums, 4);
 
-void tst_schema::unFichierAJourNEstPasEcrit()
-{
-    const Bac bac;
-    poserAncienne(bac, "premier", 0);
-    remplir({0, 1, 300});
-    MiseANiveau::Executer();
-    const QByteArray avant = Bac::lire(bac.collection());
-    const QDateTime autrefois(QDate(2001, 2, 3), QTime(4, 5));
-    QFile fichier(bac.collection());
-    QVERIFY(fichier.open(QIODevice::ReadWrite));
-    QVERIFY(fichier.setFileTime(autrefois, QFileDevice::FileModificationTime));
-    fichier.close();
+        Bac::executer("UPDATE Album SET NAlbum = 2 WHERE Num = 13");
+        QCOMPARE(cle(13), "C");
+        // Rows of before can be taken away and come back.
+        Historique histoire(bac.annonces);
+        const QStringList avant = Bac::toutLire();
+        Bac::agir("DELETE FROM Album");
+        histoire.annuler();
+        QCOMPARE(Bac::toutLire(), avant);
+    }
 
-    MiseANiveau::Executer();
-    QVERIFY(Bac::lire(bac.collection()) == avant);
-    QCOMPARE(QFileInfo(bac.collection()).lastModified(), autrefois);
-}
+    /// A backup of each, and the blank file of a former version, are looked at by what they should hold.
+    void uneAncienneSauvegardeEstReprise()
+    {
+        for (const bool vierge : {false, true}) {
+            for (const auto &[schema, inscrite] : {std::pair("premier", 0), {"palier-1", 1}}) {
+                const Bac ancien;
+                poserAncienne(ancien, schema, inscrite);
+                if (!vierge)
+                    remplir({3});
+                const Bac bac;
+                const QStringList attendue = forme();
+                const auto examen = Remplacement::Examiner(ancien.collection());
+                QCOMPARE(examen.etat, vierge ? Remplacement::Etat::Vierge : Remplacement::Etat::Saine);
+                const QByteArray avant = Bac::lire(ancien.collection());
+                QCOMPARE(Remplacement::Restaurer(ancien.collection()), "");
+                QVERIFY(Bac::lire(ancien.collection()) == avant);
+                QCOMPARE(forme(), attendue);
+                QCOMPARE(Bac::valeur("SELECT group_concat(Coffret) FROM Album"),
+                    vierge ? QVariant() : QVariant("0"));
+            }
+        }
+    }
 
-void tst_schema::laCleSuitLeTome()
-{
-    const Bac bac;
-    remplir({100, 2, 33, 0, 10, 190, 32, 1, 62, 64});
-    QCOMPARE(colonne("SELECT Album.NAlbum FROM SerieAlbums JOIN Album ON Num = SerieAlbums.NAlbum"
-                     " WHERE NSerie = 1 ORDER BY NumeroAlbum2 ASC")
-                 .join(u' '),
-        "0 1 2 10 32 33 62 64 100 190");
-    Bac::executer("DELETE FROM Album");
-    Bac::executer("DELETE FROM SerieAlbums");
+    void uneBaseDUnePlusRecenteNEstPasTouchee()
+    {
+        const Bac bac;
+        remplir({1});
+        // An order of names that is not ours either: it must not be mended on the way.
+        Bac::executer(
+            QStringLiteral("PRAGMA user_version=%1").arg(Version::Composer(7, Version::DernierPalier + 1)));
+        const QByteArray avant = Bac::lire(bac.collection());
+        QCOMPARE(refus([] { Base(); }), Error::Sorte::PlusRecente);
+        MiseANiveau::Executer();
+        const Bac autre;
+        QCOMPARE(Remplacement::Examiner(bac.collection()).etat, Remplacement::Etat::PlusRecente);
+        QVERIFY(!Remplacement::Restaurer(bac.collection()).isEmpty());
+        QVERIFY(Bac::lire(bac.collection()) == avant);
+    }
 
-    Bac::executer("INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 10)");
-    QCOMPARE(cle(10), "");
-    Bac::executer("INSERT INTO Album (Num, NAlbum) VALUES (10, 2), (11, 6)");
-    QCOMPARE(cle(10), "C");
-    Bac::executer("UPDATE Album SET NAlbum = 0 WHERE Num = 10");
-    QCOMPARE(cle(10), "A");
-    Bac::executer("UPDATE Album SET NAlbum = 999 WHERE Num = 10");
-    QCOMPARE(cle(10), "A");
-    Bac::executer("UPDATE Album SET NAlbum = NULL WHERE Num = 10");
-    QCOMPARE(cle(10), "A");
-    Bac::executer("UPDATE SerieAlbums SET NAlbum = 11 WHERE NAlbum = 10");
-    QCOMPARE(cle(11), "G");
-    Bac::executer("UPDATE SerieAlbums SET NumeroAlbum2 = 'faux'");
-    QCOMPARE(cle(11), "G");
-    Bac::executer("INSERT INTO SerieAlbums VALUES (2, 11, 'faux')");
-    QCOMPARE(colonne("SELECT NumeroAlbum2 FROM SerieAlbums"), QStringList({"G", "G"}));
-}
+    void unFichierAJourNEstPasEcrit()
+    {
+        const Bac bac;
+        poserAncienne(bac, "premier", 0);
+        remplir({0, 1, 300});
+        MiseANiveau::Executer();
+        const QByteArray avant = Bac::lire(bac.collection());
+        MiseANiveau::Executer();
+        QVERIFY(Bac::lire(bac.collection()) == avant);
+    }
 
-/// An index's name is taken by a table: the step is taken back whole, and runs once nothing is in its way.
-void tst_schema::unPalierManqueEstReprisEtRefait()
-{
-    const Bac bac;
-    const QStringList attendue = forme();
-    poserAncienne(bac, "premier", 0);
-    const QStringList avant = forme();
-    Bac::executer("CREATE TABLE IndexCotesAlbumNAlbumMoisCotes (a)");
-    QVERIFY(refus([] { MiseANiveau::Executer(); }).has_value());
-    Bac::executer("DROP TABLE IndexCotesAlbumNAlbumMoisCotes");
-    QCOMPARE(forme(), avant);
-    MiseANiveau::Executer();
-    QCOMPARE(forme(), attendue);
+    void laCleSuitLeTome()
+    {
+        const Bac bac;
+        remplir({100, 2, 33, 0, 10, 190, 32, 1, 62, 64});
+        QCOMPARE(colonne("SELECT Album.NAlbum FROM SerieAlbums JOIN Album ON Num = SerieAlbums.NAlbum"
+                         " WHERE NSerie = 1 ORDER BY NumeroAlbum2 ASC")
+                     .join(u' '),
+            "0 1 2 10 32 33 62 64 100 190");
+        Bac::executer("DELETE FROM Album");
+        Bac::executer("DELETE FROM SerieAlbums");
 
-    QVERIFY(QFile::remove(bac.collection()));
-    MiseANiveau::Executer();
-    QVERIFY(!QFile::exists(bac.collection()));
-}
+        Bac::executer("INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 10)");
+        QCOMPARE(cle(10), "");
+        Bac::executer("INSERT INTO Album (Num, NAlbum) VALUES (10, 2), (11, 6)");
+        QCOMPARE(cle(10), "C");
+        Bac::executer("UPDATE Album SET NAlbum = 0 WHERE Num = 10");
+        QCOMPARE(cle(10), "A");
+        Bac::executer("UPDATE Album SET NAlbum = 999 WHERE Num = 10");
+        QCOMPARE(cle(10), "A");
+        Bac::executer("UPDATE Album SET NAlbum = NULL WHERE Num = 10");
+        QCOMPARE(cle(10), "A");
+        Bac::executer("UPDATE SerieAlbums SET NAlbum = 11 WHERE NAlbum = 10");
+        QCOMPARE(cle(11), "G");
+        Bac::executer("UPDATE SerieAlbums SET NumeroAlbum2 = 'faux'");
+        QCOMPARE(cle(11), "G");
+        Bac::executer("INSERT INTO SerieAlbums VALUES (2, 11, 'faux')");
+        QCOMPARE(colonne("SELECT NumeroAlbum2 FROM SerieAlbums"), QStringList({"G", "G"}));
+    }
 
-void tst_schema::lExtensionSertLesAutresOutils()
-{
-    const QString sqlite3 = QStandardPaths::findExecutable("sqlite3");
-    if (sqlite3.isEmpty())
-        QSKIP("the sqlite3 command is not here");
-    const Bac bac;
-    Bac::executer("INSERT INTO Genre VALUES (1, 'Edgar'), (2, 'Écume'), (3, 'echo')");
+    /// An index's name is taken by a table: the step is taken back whole, and runs once nothing is in its way.
+    void unPalierManqueEstReprisEtRefait()
+    {
+        const Bac bac;
+        const QStringList attendue = forme();
+        poserAncienne(bac, "premier", 0);
+        const QStringList avant = forme();
+        Bac::executer("CREATE TABLE IndexCotesAlbumNAlbumMoisCotes (a)");
+        QVERIFY(refus([] { MiseANiveau::Executer(); }).has_value());
+        Bac::executer("DROP TABLE IndexCotesAlbumNAlbumMoisCotes");
+        QCOMPARE(forme(), avant);
+        MiseANiveau::Executer();
+        QCOMPARE(forme(), attendue);
 
-    QProcess outil;
+        QVERIFY(QFile::remove(bac.collection()));
+        MiseANiveau::Executer();
+        QVERIFY(!QFile::exists(bac.collection()));
+    }
+
+    void lExtensionSertLesAutresOutils()
+    {
+        const QString sqlite3 = QStandardPaths::findExecutable("sqlite3");
+        if (sqlite3.isEmpty())
+            QSKIP("the sqlite3 command is not here");
+        const Bac bac;
+        Bac::executer("INSERT INTO Genre VALUES (1, 'Edgar'), (2, 'Écume'), (3, 'echo')");
+
+        QProcess outil;
 #ifdef __SANITIZE_ADDRESS__
-    // An extension built with the sanitizer needs its library loaded before all else.
-    const QByteArray cartes = Bac::lire("/proc/self/maps");
-    const qsizetype nom = cartes.indexOf("libasan");
-    const qsizetype debut = cartes.lastIndexOf(' ', nom) + 1;
-    QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
-    environnement.insert("LD_PRELOAD", cartes.mid(debut, cartes.indexOf('\n', nom) - debut));
-    outil.setProcessEnvironment(environnement);
+        // An extension built with the sanitizer needs its library loaded before all else.
+        const QByteArray cartes = Bac::lire("/proc/self/maps");
+        const qsizetype nom = cartes.indexOf("libasan");
+        const qsizetype debut = cartes.lastIndexOf(' ', nom) + 1;
+        QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
+        environnement.insert("LD_PRELOAD", cartes.mid(debut, cartes.indexOf('\n', nom) - debut));
+        outil.setProcessEnvironment(environnement);
 #endif
-    outil.start(sqlite3,
-        {"-batch", "-cmd", ".load " + QCoreApplication::applicationDirPath() + "/francais", bac.collection(),
-            "SELECT Nom FROM Genre ORDER BY Nom; INSERT INTO Genre VALUES (4, 'Écho');"
-            "SELECT NGenre FROM Genre WHERE Nom = 'ÉCHO'; PRAGMA integrity_check;"});
-    QVERIFY(outil.waitForFinished());
-    QCOMPARE(QString::fromUtf8(outil.readAllStandardError()), "");
-    QCOMPARE(QString::fromUtf8(outil.readAllStandardOutput()), "echo\nÉcume\nEdgar\n4\nok\n");
-    QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 4);
-}
+        outil.start(sqlite3,
+            {"-batch", "-cmd", ".load " + QCoreApplication::applicationDirPath() + "/francais",
+                bac.collection(),
+                "SELECT Nom FROM Genre ORDER BY Nom; INSERT INTO Genre VALUES (4, 'Écho');"
+                "SELECT NGenre FROM Genre WHERE Nom = 'ÉCHO'; PRAGMA integrity_check;"});
+        QVERIFY(outil.waitForFinished());
+        QCOMPARE(QString::fromUtf8(outil.readAllStandardError()), "");
+        QCOMPARE(QString::fromUtf8(outil.readAllStandardOutput()), "echo\nÉcume\nEdgar\n4\nok\n");
+        QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 4);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_schema)
 #include "tst_schema.moc"

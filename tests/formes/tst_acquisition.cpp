@@ -10,18 +10,6 @@
 #include <QPushButton>
 #include <QToolButton>
 
-/// The workshop with the scanner that exists only in its driver, and pictures on the sheets.
-class tst_acquisition : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void sansScannerLaLigneLeDit();
-    void uneNumerisationDevientLaCouverture();
-    void uneImageSeTourneEtSEnregistre();
-    void unCadrePrendCeQuOnYMet();
-};
-
 namespace {
 
 struct Atelier : Seance
@@ -57,86 +45,91 @@ void deposer(QWidget *cadre, const QString &chemin)
 
 }
 
-void tst_acquisition::uneNumerisationDevientLaCouverture()
+/// The workshop with the scanner that exists only in its driver, and pictures on the sheets.
+class tst_acquisition : public QObject, private Gestes
 {
-    Atelier s;
-    QVERIFY(Atelier::actif("Sources") && !Atelier::actif("Utiliser(0)") && !Atelier::actif("Btn_ScanS(3)"));
-    Seance::cliquer("Btn_ScanS(0)", "Acquisition");
-    QTRY_VERIFY(Atelier::actif("Utiliser(0)"));
-    const QSize page = QGuiApplication::clipboard()->image().size();
-    QVERIFY(!page.isEmpty());
-    Seance::cliquer("Btn_ScanS(3)", "Acquisition");
-    Seance::cliquer("Utiliser(0)", "Acquisition");
-    const QString nom = s.photo1();
-    QVERIFY2(nom.endsWith(QStringLiteral(".jpg")) && nom.startsWith(Seance::texteDe("TAlbum").left(5)),
-        qPrintable(nom));
-    QCOMPARE(QImage(s.bac.chemin(QStringLiteral("images/")) + nom).size(), page.transposed());
-    QTRY_COMPARE(Seance::trouver<QWidget>("Photo1")->toolTip(), nom.toHtmlEscaped());
-    // Undo gives the cover back; the new file stays.
-    Seance::cliquer("Defaire");
-    QTRY_VERIFY(s.photo1() != nom);
-    QVERIFY(QFile::exists(s.bac.chemin(QStringLiteral("images/")) + nom));
-    QVERIFY(s.boites.textes.isEmpty());
-}
+    Q_OBJECT
 
-void tst_acquisition::sansScannerLaLigneLeDit()
-{
-    Atelier s;
-    // As after a list that found none; the driver itself never forgets one that it found.
-    Seance::trouver<QComboBox>("Sources", "Acquisition")->clear();
-    Seance::cliquer("Btn_ScanS(0)", "Acquisition");
-    QCOMPARE(Atelier::message(), texte(Txt::VerifierScanner));
-    QVERIFY(s.boites.textes.isEmpty());
-}
-
-void tst_acquisition::uneImageSeTourneEtSEnregistre()
-{
-    Atelier s;
-    const QString couverture = Images::Trouver(s.photo1());
-    const QSize taille = QImage(couverture).size();
-    s.boites.fichiers << s.bac.collection() << couverture << s.bac.chemin(QStringLiteral("sortie.bmp"));
-    Seance::cliquer("Btn_ScanS(1)", "Acquisition");
-    QVERIFY(!Atelier::message().isEmpty() && !Atelier::actif("Btn_ScanS(2)"));
-    Seance::cliquer("Btn_ScanS(1)", "Acquisition");
-    for (const char *outil : {"Btn_ScanS(3)", "Btn_ScanS(5)", "Btn_ScanS(6)", "Btn_ScanS(4)", "Btn_ScanS(4)"})
-        Seance::cliquer(outil, "Acquisition");
-    Seance::cliquer("Btn_ScanS(2)", "Acquisition");
-    QCOMPARE(QImage(s.bac.chemin(QStringLiteral("sortie.bmp"))).size(), taille.transposed());
-    QVERIFY(QFile::exists(s.bac.chemin(QStringLiteral("temp.bmp"))));
-}
-
-void tst_acquisition::unCadrePrendCeQuOnYMet()
-{
-    Atelier s;
-    auto *cadre = Seance::trouver<QWidget>("Photo1");
-    const QString avant = s.photo1();
-    QImage rouge(30, 40, QImage::Format_RGB32);
-    rouge.fill(Qt::red);
-    QVERIFY(rouge.save(s.bac.chemin(QStringLiteral("rouge.png"))));
-    deposer(cadre, s.bac.chemin(QStringLiteral("rouge.png")));
-    QCOMPARE(s.photo1(), QStringLiteral("rouge.png"));
-    // Another picture of that name gets one of its own; a file that is none is refused.
-    rouge.fill(Qt::blue);
-    QVERIFY(rouge.save(s.bac.chemin(QStringLiteral("rouge.png"))));
-    deposer(cadre, s.bac.chemin(QStringLiteral("rouge.png")));
-    QCOMPARE(s.photo1(), QStringLiteral("rouge (2).png"));
-    deposer(cadre, s.bac.collection());
-    QTRY_COMPARE(s.boites.textes.size(), 1);
-    QCOMPARE(s.photo1(), QStringLiteral("rouge (2).png"));
-
-    QGuiApplication::clipboard()->setImage(rouge);
-    QTest::keyClick(cadre, Qt::Key_V, Qt::ControlModifier);
-    QVERIFY(s.photo1().startsWith(Seance::texteDe("TAlbum").left(5)));
-    for (int i = 0; i < 3; ++i) {
-        QTRY_VERIFY(Seance::trouver<QWidget>("Defaire")->isEnabled());
-        Seance::cliquer("Defaire");
-        QCoreApplication::processEvents();
+private Q_SLOTS:
+    void sansScannerLaLigneLeDit()
+    {
+        Atelier s;
+        // As after a list that found none; the driver itself never forgets one that it found.
+        trouver<QComboBox>("Sources", "Acquisition")->clear();
+        cliquer("Btn_ScanS(0)", "Acquisition");
+        QCOMPARE(Atelier::message(), texte(Txt::VerifierScanner));
+        QVERIFY(s.boites.textes.isEmpty());
     }
-    QTRY_COMPARE(s.photo1(), avant);
-}
 
-int main(int argc, char *argv[])
-{
-    return jouer<tst_acquisition>(argc, argv);
-}
+    void uneNumerisationDevientLaCouverture()
+    {
+        Atelier s;
+        QVERIFY(
+            Atelier::actif("Sources") && !Atelier::actif("Utiliser(0)") && !Atelier::actif("Btn_ScanS(3)"));
+        cliquer("Btn_ScanS(0)", "Acquisition");
+        QTRY_VERIFY(Atelier::actif("Utiliser(0)"));
+        const QSize page = QGuiApplication::clipboard()->image().size();
+        QVERIFY(!page.isEmpty());
+        cliquer("Btn_ScanS(3)", "Acquisition");
+        cliquer("Utiliser(0)", "Acquisition");
+        const QString nom = s.photo1();
+        QVERIFY2(nom.endsWith(".jpg") && nom.startsWith(texteDe("TAlbum").left(5)), qPrintable(nom));
+        QCOMPARE(QImage(s.bac.chemin("images/") + nom).size(), page.transposed());
+        QTRY_COMPARE(trouver<QWidget>("Photo1")->toolTip(), nom.toHtmlEscaped());
+        // Undo gives the cover back; the new file stays.
+        cliquer("Defaire");
+        QTRY_VERIFY(s.photo1() != nom);
+        QVERIFY(QFile::exists(s.bac.chemin("images/") + nom));
+        QVERIFY(s.boites.textes.isEmpty());
+    }
+
+    void uneImageSeTourneEtSEnregistre()
+    {
+        Atelier s;
+        const QString couverture = Images::Trouver(s.photo1());
+        const QSize taille = QImage(couverture).size();
+        s.boites.fichiers << s.bac.collection() << couverture << s.bac.chemin("sortie.bmp");
+        cliquer("Btn_ScanS(1)", "Acquisition");
+        QVERIFY(!Atelier::message().isEmpty() && !Atelier::actif("Btn_ScanS(2)"));
+        cliquer("Btn_ScanS(1)", "Acquisition");
+        for (const char *outil :
+            {"Btn_ScanS(3)", "Btn_ScanS(5)", "Btn_ScanS(6)", "Btn_ScanS(4)", "Btn_ScanS(4)"})
+            cliquer(outil, "Acquisition");
+        cliquer("Btn_ScanS(2)", "Acquisition");
+        QCOMPARE(QImage(s.bac.chemin("sortie.bmp")).size(), taille.transposed());
+        QVERIFY(QFile::exists(s.bac.chemin("temp.bmp")));
+    }
+
+    void unCadrePrendCeQuOnYMet()
+    {
+        Atelier s;
+        auto *cadre = trouver<QWidget>("Photo1");
+        const QString avant = s.photo1();
+        QImage rouge(30, 40, QImage::Format_RGB32);
+        rouge.fill(Qt::red);
+        QVERIFY(rouge.save(s.bac.chemin("rouge.png")));
+        deposer(cadre, s.bac.chemin("rouge.png"));
+        QCOMPARE(s.photo1(), "rouge.png");
+        // Another picture of that name gets one of its own; a file that is none is refused.
+        rouge.fill(Qt::blue);
+        QVERIFY(rouge.save(s.bac.chemin("rouge.png")));
+        deposer(cadre, s.bac.chemin("rouge.png"));
+        QCOMPARE(s.photo1(), "rouge (2).png");
+        deposer(cadre, s.bac.collection());
+        QTRY_COMPARE(s.boites.textes.size(), 1);
+        QCOMPARE(s.photo1(), "rouge (2).png");
+
+        QGuiApplication::clipboard()->setImage(rouge);
+        QTest::keyClick(cadre, Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(s.photo1().startsWith(texteDe("TAlbum").left(5)));
+        for (int i = 0; i < 3; ++i) {
+            QTRY_VERIFY(trouver<QWidget>("Defaire")->isEnabled());
+            cliquer("Defaire");
+            QCoreApplication::processEvents();
+        }
+        QTRY_COMPARE(s.photo1(), avant);
+    }
+};
+
+JOUER(tst_acquisition)
 #include "tst_acquisition.moc"

@@ -1,3 +1,4 @@
+#include "browse/Frmmain.h"
 #include "core/ui/Suivi.h"
 #include "support/EcrivainJet.h"
 #include "support/Seance.h"
@@ -8,20 +9,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
-
-/// Backups put back, old collections taken up, damaged ones met at the start, albums from a file.
-class tst_archives : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void uneSauvegardeSeReprend();
-    void unFichierDAlbumsEntre();
-    void unLongTravailNeLaissePasPasserLeClavier();
-    void uneAncienneBaseSeReprendAuDepart();
-    void uneAncienneBaseAbimeeResteLa();
-    void uneBaseAbimeeRendLaDerniereSauvegarde();
-};
 
 namespace {
 
@@ -42,141 +29,155 @@ void demarrerSur(Seance &s, const QByteArray &octets)
 
 }
 
-void tst_archives::uneSauvegardeSeReprend()
+/// Backups put back, old collections taken up, damaged ones met at the start, albums from a file.
+class tst_archives : public QObject, private Gestes
 {
-    Seance s;
-    s.demarrer();
-    const QStringList avant = Bac::toutLire();
-    Bac::agir(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
-    QTest::qWait(50);
-    Seance::cliquer("Menu(0)");
-    Seance::cliquer("Outils(5)", "Splash");
-    QTRY_VERIFY(Seance::fenetre(Ici));
-    auto *liste = Seance::trouver<QTreeWidget>("Sauvegardes", Ici);
-    QTRY_COMPARE(liste->topLevelItemCount(), 1);
-    Seance::cliquer("Valider", Ici);
-    QVERIFY(Bac::toutLire() != avant);
-    s.boites.reponses.enqueue(true);
-    Seance::cliquer("Valider", Ici);
-    QCOMPARE(Bac::toutLire(), avant);
-    QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
-    QTRY_COMPARE(liste->topLevelItemCount(), 2);
-    auto *albums = Seance::trouver<QAbstractItemView>("Liste");
-    QTRY_COMPARE(albums->model()
-                     ->match(albums->model()->index(0, 0), Qt::DisplayRole, QStringLiteral("Changé"))
-                     .size(),
-        0);
-    QVERIFY(!Seance::trouver<QWidget>("Defaire")->isEnabled());
+    Q_OBJECT
 
-    Bac::ecrire(s.bac.chemin(QStringLiteral("autre.mdb")), "un texte");
-    s.boites.fichiers.enqueue(s.bac.chemin(QStringLiteral("autre.mdb")));
-    Seance::cliquer("Choisir", Ici);
-    QCOMPARE(liste->topLevelItemCount(), 2);
-    QVERIFY(Seance::trouver<QLabel>("Message", Ici)->text().contains(QStringLiteral("Bulleo")));
-}
-
-void tst_archives::unFichierDAlbumsEntre()
-{
-    Seance s;
-    s.demarrer();
-    const QString csv = s.bac.chemin(QStringLiteral("albums.csv"));
-    Bac::ecrire(csv,
-        "Titre;Tome;S\xC3\xA9rie\nUn \xC3\xA9"
-        "chappé;1;Neuve\nDeux;x;Neuve\nTrois;3;Neuve\n");
-    Q_EMIT s.demandes().fichier(csv);
-    QTRY_VERIFY(Seance::fenetre("Import"));
-    QTRY_COMPARE(
-        Seance::trouver<QComboBox>("Correspondance(2)", "Import")->currentText(), QStringLiteral("Série"));
-    Seance::cliquer("Valider", "Import");
-    QCOMPARE(
-        Bac::valeur(QStringLiteral("SELECT count(*) FROM SerieAlbums NATURAL JOIN Serie WHERE Nom = 'Neuve'"))
-            .toInt(),
-        2);
-    QTRY_VERIFY(Seance::trouver<QWidget>("Defaire")->isEnabled());
-    Seance::cliquer("Defaire");
-    QCOMPARE(Bac::valeur(QStringLiteral("SELECT count(*) FROM Serie WHERE Nom = 'Neuve'")).toInt(), 0);
-}
-
-void tst_archives::unLongTravailNeLaissePasPasserLeClavier()
-{
-    Seance s;
-    s.demarrer();
-    const auto titre = [] {
-        return Bac::valeur(QStringLiteral("SELECT TAlbum FROM LAlbums WHERE NAlbum = 1")).toString();
-    };
-    Bac::agir(QStringLiteral("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1"));
-    QTRY_VERIFY(Seance::trouver<QWidget>("Defaire")->isEnabled());
-    Seance::fenetre("Frmmain")->activateWindow();
-    QTRY_VERIFY(Seance::fenetre("Frmmain")->isActiveWindow());
+private Q_SLOTS:
+    void uneSauvegardeSeReprend()
     {
-        QProgressBar barre(Seance::fenetre("Frmmain"));
-        QPushButton annuler(Seance::fenetre("Frmmain"));
-        Suivi suivi(&barre, &annuler);
-        QTest::keyClick(Seance::fenetre("Frmmain"), Qt::Key_Z, Qt::ControlModifier);
-        QVERIFY(suivi.avancer(50));
-        QCOMPARE(titre(), QStringLiteral("Changé"));
+        Ouverte s;
+        const QStringList avant = Bac::toutLire();
+        QVERIFY(QDir(s.bac.chemin()).mkdir("sauvegardes"));
+        Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-02 03-04-05.bd"), "abîmée");
+        Bac::agir("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1");
+        auto *albums = trouver<QAbstractItemView>("Liste")->model();
+        const auto changes = [&] { return albums->match(albums->index(0, 0), 0, "Changé").size(); };
+        QTRY_COMPARE(changes(), 1);
+        ouvrir("Menu(3)", "Outils(5)", Ici);
+        auto *liste = trouver<QTreeWidget>("Sauvegardes", Ici);
+        // The newest first, and chosen; the one that cannot be read is told apart.
+        QTRY_COMPARE(liste->topLevelItemCount(), 2);
+        QVERIFY(liste->topLevelItem(1)->text(3).contains("2026-01-02"));
+        QCOMPARE(liste->currentItem(), liste->topLevelItem(0));
+        liste->setCurrentItem(liste->topLevelItem(1));
+        QVERIFY(!trouver<QWidget>("Valider", Ici)->isEnabled() && !message().isEmpty());
+        liste->setCurrentItem(liste->topLevelItem(0));
+        cliquer("Valider", Ici);
+        QVERIFY(Bac::toutLire() != avant);
+        s.boites.reponses << true;
+        cliquer("Valider", Ici);
+        QCOMPARE(Bac::toutLire(), avant);
+        QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
+        QTRY_COMPARE(liste->topLevelItemCount(), 3);
+        QTRY_COMPARE(changes(), 0);
+        QVERIFY(!trouver<QWidget>("Defaire")->isEnabled());
+
+        // Damaged since it was listed, and one that is none.
+        Bac::ecrire(liste->topLevelItem(0)->data(0, Qt::UserRole).toString(), "plus rien");
+        s.boites.reponses << true;
+        cliquer("Valider", Ici);
+        QVERIFY2(!message().isEmpty() && s.boites.textes.last().contains("album"), qPrintable(message()));
+        Bac::ecrire(s.bac.chemin("autre.mdb"), "un texte");
+        s.boites.fichiers << s.bac.chemin("autre.mdb");
+        cliquer("Choisir", Ici);
+        QCOMPARE(liste->topLevelItemCount(), 3);
+        QVERIFY2(message().contains("Bulleo"), qPrintable(message()));
+        QCOMPARE(Bac::toutLire(), avant);
     }
-    QTest::keyClick(Seance::fenetre("Frmmain"), Qt::Key_Z, Qt::ControlModifier);
-    QTRY_VERIFY(titre() != QStringLiteral("Changé"));
-}
 
-void tst_archives::uneAncienneBaseSeReprendAuDepart()
-{
-    constexpr int Albums = 40;
-    Seance s;
-    const QByteArray ancienne = EcrivainJet::UneCollection(Albums);
-    demarrerSur(s, ancienne);
-    QTRY_VERIFY(Seance::fenetre(Ici) && Seance::trouver<QAbstractButton>("Valider", Ici)->isEnabled());
-    Seance::cliquer("Valider", Ici);
-    QCOMPARE(Bac::lire(s.bac.collection()), ancienne);
-    s.boites.reponses.enqueue(true);
-    Seance::cliquer("Valider", Ici);
-    QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
-    QTRY_COMPARE(Seance::trouver<QAbstractItemView>("Liste")->model()->rowCount(), Albums);
-    QTRY_VERIFY(!Seance::texteDe("TAlbum").isEmpty());
-    QCOMPARE(Bac::lire(s.bac.chemin(QStringLiteral("bd-ancien.mdb"))), ancienne);
-    const QString rapport = Seance::trouver<QPlainTextEdit>("Rapport", Ici)->toPlainText();
-    QVERIFY2(rapport.contains(QStringLiteral("LAlbums : %1").arg(Albums)), qPrintable(rapport));
-}
+    void unFichierDAlbumsEntre()
+    {
+        Ouverte s;
+        const QString csv = s.bac.chemin("albums.csv");
+        Bac::ecrire(csv,
+            "Titre;Tome;S\xC3\xA9rie\nUn \xC3\xA9"
+            "chappé;1;Neuve\nDeux;x;Neuve\nTrois;3;Neuve\n");
+        Q_EMIT s.demandes().fichier(csv);
+        QTRY_VERIFY(fenetre("Import"));
+        QTRY_COMPARE(trouver<QComboBox>("Correspondance(2)", "Import")->currentText(), "Série");
+        cliquer("Valider", "Import");
+        QCOMPARE(
+            Bac::valeur("SELECT count(*) FROM SerieAlbums NATURAL JOIN Serie WHERE Nom = 'Neuve'").toInt(),
+            2);
+        QTRY_VERIFY(trouver<QWidget>("Defaire")->isEnabled());
+        cliquer("Defaire");
+        QCOMPARE(Bac::valeur("SELECT count(*) FROM Serie WHERE Nom = 'Neuve'").toInt(), 0);
+    }
 
-void tst_archives::uneAncienneBaseAbimeeResteLa()
-{
-    Seance s;
-    const QByteArray coupee = EcrivainJet::UneCollection(40).chopped(5000);
-    demarrerSur(s, coupee);
-    QTRY_VERIFY(Seance::fenetre(Ici) && Seance::trouver<QAbstractButton>("Valider", Ici)->isEnabled());
-    const QStringList avant = QDir(s.bac.chemin()).entryList(QDir::AllEntries | QDir::Hidden);
-    s.boites.reponses.enqueue(true);
-    Seance::cliquer("Valider", Ici);
-    QVERIFY2(message().contains(QStringLiteral("abîmée")), qPrintable(message()));
-    QCOMPARE(Bac::lire(s.bac.collection()), coupee);
-    QCOMPARE(QDir(s.bac.chemin()).entryList(QDir::AllEntries | QDir::Hidden), avant);
-}
+    void unLongTravailNeLaissePasPasserLeClavier()
+    {
+        Ouverte s;
+        const auto titre
+            = [] { return Bac::valeur("SELECT TAlbum FROM LAlbums WHERE NAlbum = 1").toString(); };
+        Bac::agir("UPDATE LAlbums SET TAlbum = 'Changé' WHERE NAlbum = 1");
+        QTRY_VERIFY(trouver<QWidget>("Defaire")->isEnabled());
+        fenetre("Frmmain")->activateWindow();
+        QTRY_VERIFY(fenetre("Frmmain")->isActiveWindow());
+        {
+            QProgressBar barre(fenetre("Frmmain"));
+            QPushButton annuler(fenetre("Frmmain"));
+            Suivi suivi(&barre, &annuler);
+            QTest::keyClick(fenetre("Frmmain"), Qt::Key_Z, Qt::ControlModifier);
+            QVERIFY(suivi.avancer(50));
+            QCOMPARE(titre(), "Changé");
+        }
+        QTest::keyClick(fenetre("Frmmain"), Qt::Key_Z, Qt::ControlModifier);
+        QTRY_VERIFY(titre() != QStringLiteral("Changé"));
+    }
 
-void tst_archives::uneBaseAbimeeRendLaDerniereSauvegarde()
-{
-    Seance s;
-    const QByteArray saine = Bac::lire(s.bac.collection());
-    QByteArray abimee = saine;
-    abimee.replace(8192, saine.size() - 8192, QByteArray(saine.size() - 8192, 'x'));
-    QVERIFY(QDir(s.bac.chemin()).mkdir(QStringLiteral("sauvegardes")));
-    Bac::ecrire(s.bac.chemin(QStringLiteral("sauvegardes/bd 2026-01-02 03-04-05.bd")), saine);
-    Bac::ecrire(s.bac.chemin(QStringLiteral("sauvegardes/bd 2026-01-03 03-04-05.bd")), abimee);
-    // The lock of a process that is no more.
-    Bac::ecrire(s.bac.chemin(QStringLiteral(".bulleo.lock")), "999999999\nbulleo\n");
-    QVERIFY(s.bac.dossier.verrouiller() && s.bac.dossier.finBrutale());
-    s.boites.reponses.enqueue(true);
-    demarrerSur(s, abimee);
-    QTRY_VERIFY(!Seance::texteDe("TAlbum").isEmpty());
-    QVERIFY2(
-        s.boites.textes.first().contains(QStringLiteral("02/01/2026")), qPrintable(s.boites.textes.first()));
-    QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
-    QCOMPARE(QDir(s.bac.chemin()).entryList({QStringLiteral("bd abîmée*")}).size(), 1);
-}
+    void uneAncienneBaseSeReprendAuDepart()
+    {
+        constexpr int Albums = 40;
+        Seance s;
+        const QByteArray ancienne = EcrivainJet::UneCollection(Albums);
+        demarrerSur(s, ancienne);
+        QTRY_VERIFY(fenetre(Ici) && trouver<QAbstractButton>("Valider", Ici)->isEnabled());
+        cliquer("Valider", Ici);
+        QCOMPARE(Bac::lire(s.bac.collection()), ancienne);
+        s.boites.reponses.enqueue(true);
+        cliquer("Valider", Ici);
+        QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
+        QTRY_COMPARE(trouver<QAbstractItemView>("Liste")->model()->rowCount(), Albums);
+        QTRY_VERIFY(!texteDe("TAlbum").isEmpty());
+        QCOMPARE(Bac::lire(s.bac.chemin("bd-ancien.mdb")), ancienne);
+        const QString rapport = trouver<QPlainTextEdit>("Rapport", Ici)->toPlainText();
+        QVERIFY2(rapport.contains(QStringLiteral("LAlbums : %1").arg(Albums)), qPrintable(rapport));
+    }
 
-int main(int argc, char *argv[])
-{
-    return jouer<tst_archives>(argc, argv);
-}
+    void uneAncienneBaseAbimeeResteLa()
+    {
+        Seance s;
+        const QByteArray coupee = EcrivainJet::UneCollection(40).chopped(5000);
+        demarrerSur(s, coupee);
+        QTRY_VERIFY(fenetre(Ici) && trouver<QAbstractButton>("Valider", Ici)->isEnabled());
+        const QStringList avant = QDir(s.bac.chemin()).entryList(QDir::AllEntries | QDir::Hidden);
+        s.boites.reponses.enqueue(true);
+        cliquer("Valider", Ici);
+        QVERIFY2(message().contains("abîmée"), qPrintable(message()));
+        QCOMPARE(Bac::lire(s.bac.collection()), coupee);
+        QCOMPARE(QDir(s.bac.chemin()).entryList(QDir::AllEntries | QDir::Hidden), avant);
+    }
 
+    /// Without a backup, with none but a damaged one, with a sound one that is declined, and with one that is taken.
+    void uneBaseAbimeeRendLaDerniereSauvegarde()
+    {
+        for (const int cas : {0, 1, 2, 3}) {
+            Seance s;
+            const QByteArray saine = Bac::lire(s.bac.collection());
+            QByteArray abimee = saine;
+            abimee.replace(8192, saine.size() - 8192, QByteArray(saine.size() - 8192, 'x'));
+            QVERIFY(QDir(s.bac.chemin()).mkdir("sauvegardes"));
+            if (cas > 0)
+                Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-03 03-04-05.bd"), abimee);
+            if (cas > 1)
+                Bac::ecrire(s.bac.chemin("sauvegardes/bd 2026-01-02 03-04-05.bd"), saine);
+            // The lock of a process that is no more.
+            Bac::ecrire(s.bac.chemin(".bulleo.lock"), "999999999\nbulleo\n");
+            QVERIFY(s.bac.dossier.verrouiller() && s.bac.dossier.finBrutale());
+            s.boites.reponses << (cas == 3);
+            demarrerSur(s, abimee);
+            QTRY_VERIFY(!s.boites.textes.isEmpty());
+            const QString dit = s.boites.textes.first();
+            QVERIFY2(dit.contains(cas > 1 ? "02/01/2026" : "aucune sauvegarde"), qPrintable(dit));
+            if (cas == 3)
+                QTRY_VERIFY(!texteDe("TAlbum").isEmpty());
+            QCOMPARE(Bac::lire(s.bac.collection()) == abimee, cas < 3);
+            QCOMPARE(QDir(s.bac.chemin()).entryList({"bd abîmée*"}).size(), cas == 3 ? 1 : 0);
+        }
+    }
+};
+
+JOUER(tst_archives)
 #include "tst_archives.moc"

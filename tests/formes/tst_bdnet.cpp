@@ -5,19 +5,6 @@
 #include <QFile>
 #include <QLineEdit>
 
-/// The import by its form: with the browser where its plug-in was built, by the address alone where not.
-class tst_bdnet : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void uneFicheDevientUnAlbumParSonAdresse();
-    void ceQuiNEstPasUneFicheNeSAnalysePas();
-    void unServeurLentSeQuitte();
-    void uneFicheDevientUnAlbumParLeNavigateur();
-    void leNavigateurRefuseLesFichiers();
-};
-
 namespace {
 
 bool greffonConstruit()
@@ -59,93 +46,93 @@ void parcourir(bool navigateur)
         // The home page is there before one goes on from it.
         const auto titre
             = [] { return Seance::trouver<QWidget>("WebBrowser1", "BDNet")->property("title").toString(); };
-        QTRY_COMPARE_WITH_TIMEOUT(titre(), QStringLiteral("BDNet"), 20'000);
+        QTRY_COMPARE_WITH_TIMEOUT(titre(), "BDNet", 20'000);
         QCOMPARE(Import::champ("Adresse"), s.serveur.adresse(QStringLiteral("/")));
     }
     QVERIFY(!Import::visible("Analyse"));
-    s.poserAdresse(QStringLiteral("/catalogue_detail_cosinus.html"));
+    s.poserAdresse("/catalogue_detail_cosinus.html");
     if (navigateur) {
         QTRY_VERIFY(Import::visible("Analyse"));
         QTRY_VERIFY_WITH_TIMEOUT(Seance::trouver<QWidget>("Navigation(0)", "BDNet")->isEnabled(), 20'000);
         Seance::cliquer("Analyse", "BDNet");
     }
     QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
-    QCOMPARE(Seance::fenetre("BDNet")->windowTitle(), QStringLiteral("terminé ..."));
-    QCOMPARE(Import::champ("Dataa(3)").trimmed(), QStringLiteral("le savant cosinus"));
+    QCOMPARE(Seance::fenetre("BDNet")->windowTitle(), "terminé ...");
+    QCOMPARE(Import::champ("Dataa(3)").trimmed(), "le savant cosinus");
     QVERIFY(Seance::trouver<QCheckBox>("InfoSupp(1)", "BDNet")->isChecked());
     // What the user corrects is what is created.
-    Seance::trouver<QLineEdit>("Dataa(0)", "BDNet")->setText(QStringLiteral("L'Idée fixe"));
-    Seance::trouver<QLineEdit>("Dataa(1)", "BDNet")->setText(QStringLiteral("premier"));
+    Seance::trouver<QLineEdit>("Dataa(0)", "BDNet")->setText("L'Idée fixe");
+    Seance::trouver<QLineEdit>("Dataa(1)", "BDNet")->setText("premier");
     Seance::cliquer("BtnCreer", "BDNet");
     QVERIFY(!Import::refus().isEmpty() && s.boites.textes.isEmpty());
-    Seance::trouver<QLineEdit>("Dataa(1)", "BDNet")->setText(QStringLiteral("9"));
+    Seance::trouver<QLineEdit>("Dataa(1)", "BDNet")->setText("9");
     Seance::cliquer("BtnCreer", "BDNet");
     QCOMPARE(s.boites.textes, QStringList(texte(Txt::CreationEffectuee)));
     QVERIFY(!Import::visible("BtnCreer"));
-    QTRY_COMPARE(Seance::texteDe("TAlbum"), QStringLiteral("L'Idée fixe"));
-    QTRY_COMPARE(
-        Seance::trouver<QWidget>("Photo1")->toolTip(), QStringLiteral("l'idée fixe du savant cosinus_1.jpg"));
+    QTRY_COMPARE(Seance::texteDe("TAlbum"), "L'Idée fixe");
+    QTRY_COMPARE(Seance::trouver<QWidget>("Photo1")->toolTip(), "l'idée fixe du savant cosinus_1.jpg");
 }
 
 }
 
-void tst_bdnet::uneFicheDevientUnAlbumParSonAdresse()
+/// The import by its form: with the browser where its plug-in was built, by the address alone where not.
+class tst_bdnet : public QObject, private Gestes
 {
-    parcourir(false);
-}
+    Q_OBJECT
 
-void tst_bdnet::uneFicheDevientUnAlbumParLeNavigateur()
-{
-    if (!greffonConstruit())
-        QSKIP("the browser's plug-in was not built: its package is missing");
-    parcourir(true);
-}
+private Q_SLOTS:
+    void uneFicheDevientUnAlbumParSonAdresse() { parcourir(false); }
 
-void tst_bdnet::ceQuiNEstPasUneFicheNeSAnalysePas()
-{
-    Import s;
-    for (const char *adresse : {"/", "/catalogue_serie.html"}) {
-        s.poserAdresse(QString::fromLatin1(adresse));
-        QVERIFY(!Import::visible("Analyse"));
+    void ceQuiNEstPasUneFicheNeSAnalysePas()
+    {
+        Import s;
+        for (const char *adresse : {"/", "/catalogue_serie.html"}) {
+            s.poserAdresse(QString::fromLatin1(adresse));
+            QVERIFY(!Import::visible("Analyse"));
+        }
+        s.poserAdresse("/catalogue_detail_ouverte.html");
+        QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
+        QVERIFY(fenetre("BDNet")->windowTitle().endsWith("erreur ..."));
+        QCOMPARE(Import::champ("Dataa(3)"), "essais ");
+        cliquer("REvenir", "BDNet");
+        QVERIFY(!Import::visible("BtnCreer") && Import::visible("Analyse"));
     }
-    s.poserAdresse(QStringLiteral("/catalogue_detail_ouverte.html"));
-    QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
-    QVERIFY(Seance::fenetre("BDNet")->windowTitle().endsWith(QStringLiteral("erreur ...")));
-    QCOMPARE(Import::champ("Dataa(3)"), QStringLiteral("essais "));
-    Seance::cliquer("REvenir", "BDNet");
-    QVERIFY(!Import::visible("BtnCreer") && Import::visible("Analyse"));
-}
 
-void tst_bdnet::unServeurLentSeQuitte()
-{
-    Import s;
-    s.poserAdresse(QStringLiteral("/catalogue_detail_sansfin.html"));
-    QTRY_VERIFY(Import::visible("Annuler") && Import::visible("Progression"));
-    QVERIFY(!Seance::trouver<QWidget>("Adresse", "BDNet")->isEnabled());
-    Seance::cliquer("Annuler", "BDNet");
-    QTRY_VERIFY(!Import::visible("Progression"));
-    QVERIFY(Seance::trouver<QWidget>("Adresse", "BDNet")->isEnabled() && Import::refus().isEmpty());
-    s.poserAdresse(QStringLiteral("/catalogue_detail_absente.html"));
-    QTRY_VERIFY(!Import::refus().isEmpty());
-}
-
-void tst_bdnet::leNavigateurRefuseLesFichiers()
-{
-    if (!greffonConstruit())
-        QSKIP("the browser's plug-in was not built: its package is missing");
-    Import s(true);
-    QTRY_VERIFY(Seance::trouver<QWidget>("WebBrowser1", "BDNet"));
-    for (const char *adresse :
-        {"file:///etc/hostname", "javascript:document.title='x'", "chrome://version"}) {
-        auto *champ = Seance::trouver<QLineEdit>("Adresse", "BDNet");
-        champ->setText(QString::fromLatin1(adresse));
-        QTest::keyClick(champ, Qt::Key_Return);
-        QVERIFY2(!Import::refus().isEmpty(), adresse);
+    void unServeurLentSeQuitte()
+    {
+        Import s;
+        s.poserAdresse("/catalogue_detail_sansfin.html");
+        QTRY_VERIFY(Import::visible("Annuler") && Import::visible("Progression"));
+        QVERIFY(!trouver<QWidget>("Adresse", "BDNet")->isEnabled());
+        cliquer("Annuler", "BDNet");
+        QTRY_VERIFY(!Import::visible("Progression"));
+        QVERIFY(trouver<QWidget>("Adresse", "BDNet")->isEnabled() && Import::refus().isEmpty());
+        s.poserAdresse("/catalogue_detail_absente.html");
+        QTRY_VERIFY(!Import::refus().isEmpty());
     }
-}
 
-int main(int argc, char *argv[])
-{
-    return jouer<tst_bdnet>(argc, argv);
-}
+    void uneFicheDevientUnAlbumParLeNavigateur()
+    {
+        if (!greffonConstruit())
+            QSKIP("the browser's plug-in was not built: its package is missing");
+        parcourir(true);
+    }
+
+    void leNavigateurRefuseLesFichiers()
+    {
+        if (!greffonConstruit())
+            QSKIP("the browser's plug-in was not built: its package is missing");
+        Import s(true);
+        QTRY_VERIFY(trouver<QWidget>("WebBrowser1", "BDNet"));
+        for (const char *adresse :
+            {"file:///etc/hostname", "javascript:document.title='x'", "chrome://version"}) {
+            auto *champ = trouver<QLineEdit>("Adresse", "BDNet");
+            champ->setText(QString::fromLatin1(adresse));
+            QTest::keyClick(champ, Qt::Key_Return);
+            QVERIFY2(!Import::refus().isEmpty(), adresse);
+        }
+    }
+};
+
+JOUER(tst_bdnet)
 #include "tst_bdnet.moc"

@@ -1,6 +1,7 @@
 #include "core/Dates.h"
 #include "model/General.h"
 #include "support/Apres.h"
+#include "support/Colonnes.h"
 #include "support/Seance.h"
 
 #include <QComboBox>
@@ -11,6 +12,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QTreeView>
 
 using namespace General;
@@ -55,9 +57,14 @@ struct Menus : Seance
     {
         auto *action = pop()->findChild<QAction *>(QLatin1String(nom), Qt::FindDirectChildrenOnly);
         QVERIFY2(action, nom);
-        QMetaObject::invokeMethod(action, "trigger", Qt::QueuedConnection);
+        bool prise = false;
+        QTimer::singleShot(0, action, [&] {
+            prise = true;
+            action->trigger();
+        });
         pop()->hide();
-        QTest::qWait(50);
+        QTRY_VERIFY(prise);
+        QCoreApplication::processEvents();
     }
     /// The entry whose sheet is shown, by the first line of its menu; empty when there is none.
     static QString fiche()
@@ -67,7 +74,7 @@ struct Menus : Seance
             return {};
         commandes(forme, {1, 1});
         pop()->hide();
-        return pop()->actions().first()->text();
+        return pop()->actions().first()->text().replace("&&", "&");
     }
     /// Chooses a line of the main list, and waits for its sheet.
     static void montrer(const QString &nom)
@@ -83,7 +90,7 @@ struct Menus : Seance
         saisie->selectAll();
         taper(saisie, texte);
         QTest::keyClick(saisie, Qt::Key(fin));
-        QTest::qWait(50);
+        QTRY_VERIFY(!liste()->findChild<QLineEdit *>());
     }
     static void annuler()
     {
@@ -111,348 +118,282 @@ class tst_menus : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void chaqueEndroitASesCommandes();
-    void supprimerDemandePuisMontreLaSuivante_data();
-    void supprimerDemandePuisMontreLaSuivante();
-    void laDerniereLaisseUneFicheVide_data();
-    void laDerniereLaisseUneFicheVide();
-    void viderUneDateEtPoserDesImages();
-    void ajouterEtRenommerSurPlace();
-    void leFiltreGardeLaSelection();
-    void laRechercheMeneALaFiche();
-    void lesPretsSeRendentEtSeFont();
+    void chaqueEndroitASesCommandes()
+    {
+        Menus m;
+        Bac::agir("UPDATE LAlbums SET dedi2 = 'album-1.jpg' WHERE NAlbum = 101");
+        Bac::agir("UPDATE Serie SET SiteWeb2 = ' ' WHERE NSerie = 20");
+        m.trier(1);
+        m.montrer("Gédéon");
+        const QString toujours = "ajouter crea Payss quitter";
+        const QString entree = "LL modifie supprime " + toujours;
+        QCOMPARE(m.touche(), entree);
+        QCOMPARE(m.pop()->actions().first()->text(), m.courante());
+        auto *vue = m.liste()->viewport();
+        QCOMPARE(m.commandes(vue, m.liste()->visualRect(m.liste()->currentIndex()).center()), entree);
+        m.trier(8);
+        QCOMPARE(m.commandes(vue, vue->rect().bottomLeft() - QPoint(0, 2)), toujours);
+
+        struct Endroit
+        {
+            int tri;
+            const char *fiche, *champ, *commandes;
+        };
+        for (const Endroit &e : {Endroit{1, "FicheSerie", "SiteWeb(0)", "Visu modifier supprimer"},
+                 {1, "FicheSerie", "SiteWeb(1)", "modifier"}, {1, "FicheSerie", "Nom", "modifier"},
+                 {0, "FicheAlbum", "Photo1", "visu2 modifphoto Supphoto"},
+                 {0, "FicheAlbum", "Dedi(0)", "modifimageDedi modifier supprimer"},
+                 {0, "FicheAlbum", "Dedi(1)", "visu2 modifimageDedi suppimagededi"},
+                 {0, "FicheAlbum", "PhotoD(1)", "visu2 modifimageDedi suppimagededi"},
+                 {0, "FicheAlbum", "TAlbum", "modifier"}, {0, "FicheAlbum", "Serie", "modifier supprimer"},
+                 {0, "FicheAlbum", "DPret", "modifier"}, {0, "FicheAlbum", "Qualite", ""},
+                 {0, "FicheAlbum", "Mois(0)", "modifier supprimer"},
+                 {0, "FicheAlbum", "NomI(0)", "modifier"}}) {
+            m.trier(e.tri);
+            m.montrer("Gédéon");
+            const QString propres = e.commandes + QString(*e.commandes ? " " : "");
+            QCOMPARE(m.commandes(m.sur(e.fiche, e.champ)).prepend(e.champ),
+                e.champ + ("LL " + propres) + toujours);
+            m.pop()->hide();
+        }
+        QCOMPARE(m.pop()->findChildren<QMenu *>().size(), 1); // that of the languages
+        QVERIFY(m.boites.textes.isEmpty());
+    }
+
+    void supprimerDemandePuisMontreLaSuivante_data()
+    {
+        colonnes<int, QByteArray>();
+        QTest::newRow("album") << 0 << QByteArray("Liste");
+        QTest::newRow("série") << 1 << QByteArray("Liste");
+        QTest::newRow("dessinateur") << 2 << QByteArray("Liste");
+        QTest::newRow("album d'une série") << 1 << QByteArray("LFilms");
+    }
+
+    void supprimerDemandePuisMontreLaSuivante()
+    {
+        const auto [tri, nomListe] = essai<int, QByteArray>();
+        Menus m;
+        m.trier(tri);
+        if (tri == 1)
+            m.montrer("Bécassine");
+        auto *liste = m.liste(nomListe);
+        QTRY_VERIFY(liste->isVisible() && liste->model()->rowCount() > 5);
+        const QString nom = liste->model()->index(3, 0).data().toString();
+        const QString suivante = liste->model()->index(4, 0).data().toString();
+        m.cliquerLigne(liste, 3);
+        QTRY_COMPARE(m.fiche(), nom);
+        const QStringList avant = Bac::toutLire();
+        const int nombre = liste->model()->rowCount();
+        m.touche(nomListe);
+        m.prendre("supprime");
+        QCOMPARE(m.boites.textes, QStringList{"Voulez-vous réellement supprimer '" + nom + "' ?"});
+        QCOMPARE(Bac::toutLire(), avant);
+        QCOMPARE(m.courante(nomListe), nom);
+
+        m.boites.reponses << true;
+        QTest::keyClick(liste, Qt::Key_Delete);
+        QTRY_COMPARE(liste->model()->rowCount(), nombre - 1);
+        QCOMPARE(m.courante(nomListe), suivante);
+        QCOMPARE(m.boites.textes.size(), 2);
+        QTRY_COMPARE(m.fiche(), suivante);
+        m.annuler();
+        QTRY_COMPARE(m.courante(nomListe), nom);
+        QTRY_COMPARE(m.fiche(), nom);
+        QCOMPARE(Bac::toutLire(), avant);
+    }
+
+    void laDerniereLaisseUneFicheVide()
+    {
+        for (const auto &[tri, autres] : {std::pair(0, "DELETE FROM LAlbums WHERE NAlbum <> 101"),
+                 {2, "UPDATE Auteurs SET Dessin = 0 WHERE NAuteur <> 1"}}) {
+            Menus m;
+            m.trier(tri);
+            Bac::agir(autres);
+            auto *liste = m.liste();
+            QTRY_COMPARE(liste->model()->rowCount(), 1);
+            m.cliquerLigne(liste, 0);
+            const QString nom = m.courante();
+            QTRY_COMPARE(m.fiche(), nom);
+            m.boites.reponses << true;
+            m.touche();
+            m.prendre("supprime");
+            QTRY_COMPARE(liste->model()->rowCount(), 0);
+            QTRY_COMPARE(m.fiche(), QString());
+            QVERIFY2(!m.liste("LFilms")->isVisible(), "what was linked to it is still shown");
+            m.annuler();
+            QTRY_COMPARE(m.fiche(), nom);
+        }
+    }
+
+    void viderUneDateEtPoserDesImages()
+    {
+        Menus m;
+        const auto valeur = [](const QString &champ) {
+            return Bac::valeur(
+                "SELECT " + champ + " FROM LAlbums JOIN Album ON Num = LAlbums.NAlbum WHERE Num = 101")
+                .toString();
+        };
+        const auto prendre = [&m](const char *champ, const char *commande) {
+            m.commandes(m.sur("FicheAlbum", champ));
+            m.prendre(commande);
+        };
+        m.montrer("Gédéon");
+        const QString date = valeur("DA");
+        QVERIFY(!date.isEmpty());
+        prendre("DA", "supprimer");
+        QCOMPARE(valeur("DA"), QString());
+        m.annuler();
+        QTRY_COMPARE(valeur("DA"), date);
+
+        const QString image = m.bac.chemin("neuve.png");
+        const QString faux = m.bac.chemin("faux.png");
+        QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(image));
+        Bac::ecrire(faux, "ceci n'est pas une image");
+        const QStringList avant = Bac::toutLire();
+        m.boites.fichiers << faux << QString() << image;
+        prendre("Photo1", "modifphoto");
+        QTRY_COMPARE(m.boites.textes.size(), 1);
+        QVERIFY2(m.boites.textes.takeFirst().contains(faux), "the refusal names the file");
+        prendre("Photo1", "modifphoto");
+        QCOMPARE(Bac::toutLire(), avant);
+        QVERIFY(!QFileInfo::exists(m.bac.chemin("images/faux.png")));
+        prendre("Photo1", "modifphoto");
+        QCOMPARE(valeur("Photo1"), "neuve.png");
+        QCOMPARE(Bac::lire(m.bac.chemin("images/neuve.png")), Bac::lire(image));
+        prendre("Photo1", "Supphoto");
+        QCOMPARE(valeur("Photo1").trimmed(), QString());
+        QVERIFY(QFileInfo::exists(m.bac.chemin("images/neuve.png")) && m.boites.textes.isEmpty());
+
+        const QString note = valeur("dedi1");
+        m.boites.fichiers << image;
+        prendre("Dedi(0)", "modifimageDedi");
+        QCOMPARE(m.boites.textes.size(), 1);
+        QVERIFY(m.boites.textes[0].contains(note) && m.boites.fichiers.size() == 1);
+        QCOMPARE(valeur("dedi1"), note);
+        m.boites.reponses << true;
+        prendre("Dedi(0)", "modifimageDedi");
+        QCOMPARE(valeur("dedi1"), "neuve.png");
+        prendre("PhotoD(0)", "suppimagededi");
+        QCOMPARE(valeur("dedi1"), " ");
+        QCOMPARE(m.boites.textes.size(), 2);
+    }
+
+    void ajouterEtRenommerSurPlace()
+    {
+        Menus m;
+        m.trier(1);
+        m.montrer("Bécassine");
+        const QStringList avant = Bac::toutLire();
+        const int nombre = m.liste()->model()->rowCount();
+        const auto donner = [&m](const char *commande, const QString &nom, const QString &fiche) {
+            m.touche();
+            m.prendre(commande);
+            m.nommer(nom, Qt::Key_Return);
+            QTRY_COMPARE(m.courante(), fiche);
+            QTRY_COMPARE(m.fiche(), fiche);
+        };
+        donner("ajouter", "  ", "Bécassine");
+        QCOMPARE(Bac::toutLire(), avant);
+        donner("ajouter", "Élan d'été", "Élan d'été");
+        QVERIFY(m.boites.textes.isEmpty());
+        donner("ajouter", "gédéon", "Gédéon");
+        QCOMPARE(m.boites.textes, QStringList{"La donnée existe déjà !"});
+        donner("modifie", "  Zoé & Cie ", "Zoé & Cie");
+        QCOMPARE(m.liste()->currentIndex().data(Qt::UserRole), "N 20");
+        QCOMPARE(Bac::valeur("SELECT Nom FROM Serie WHERE NSerie = 20"), "Zoé & Cie");
+        QCOMPARE(m.liste()->model()->rowCount(), nombre + 1);
+    }
+
+    void leFiltreDitCeQuIlMontre()
+    {
+        const Menus m;
+        auto *modele = m.liste()->model();
+        auto *filtre = m.trouver<QLineEdit>("Filtre");
+        m.choisir("Gédéon");
+        const int tous = modele->rowCount();
+        m.taper(filtre, "gedeon");
+        QVERIFY(modele->rowCount() > 0 && modele->rowCount() < tous / 2);
+        QVERIFY(m.texteDe("Nombre").endsWith(QString("%1 / %2").arg(modele->rowCount()).arg(tous)));
+        QTest::keyClick(filtre, Qt::Key_Escape);
+        QCOMPARE(modele->rowCount(), tous);
+        QCOMPARE(m.courante(), "Gédéon");
+        QVERIFY(m.texteDe("Nombre").endsWith(" " + QString::number(tous)) && m.liste()->hasFocus());
+    }
+
+    void laRechercheMeneALaFiche()
+    {
+        const Menus m;
+        m.cliquer("Menu(2)");
+        QTRY_VERIFY(m.visible("Recherche"));
+        auto *resultat = m.trouver<QTreeView>("Liste", "Recherche");
+        auto *genres = m.trouver<QComboBox>("ListeTri", "Recherche");
+        QCOMPARE(genres->currentIndex(), 0);
+        for (const int tri : {3, 2}) {
+            genres->setCurrentIndex(tri);
+            auto *saisie = m.trouver<QLineEdit>("Saisie", "Recherche");
+            saisie->clear();
+            m.ecrire("Saisie", "DORÉ", "Recherche");
+            QTest::keyClick(saisie, Qt::Key_Return);
+            QCOMPARE(m.lignes(resultat), "3");
+            m.cliquerLigne(resultat, 0);
+            QTRY_COMPARE(m.fiche(), "Doré, Gustave");
+            QCOMPARE(m.courante(), m.fiche());
+            QCOMPARE(m.texteDe("TitreListe"), texte(GenreDe(TriDe(tri)).titre));
+            QCOMPARE(m.bac.reglages.entier(Cle::Tris), tri);
+        }
+        // A line that narrows the list does not hide what was found.
+        m.taper(m.trouver<QLineEdit>("Filtre"), "zzz");
+        m.cliquerLigne(resultat, 0);
+        QTRY_COMPARE(m.courante(), "Doré, Gustave");
+    }
+
+    void lesPretsSeRendentEtSeFont()
+    {
+        Menus m;
+        m.montrer("Gédéon");
+        m.ouvrir("Menu(3)", "Outils(3)", "Pret");
+        auto *gens = m.trouver<QTreeView>("LPers", "Pret");
+        auto *prets = m.trouver<QTreeView>("LPret", "Pret");
+        auto *del = m.trouver<QAbstractButton>("Del", "Pret");
+        // Asks for it, first in vain; what is in the collection after that, and after.
+        const auto supprimer = [&](Txt question, const QString &sql) {
+            const QStringList avant = Bac::toutLire();
+            const QStringList attendu = apres({sql});
+            for (const bool oui : {false, true}) {
+                m.boites.textes.clear();
+                m.boites.reponses << oui;
+                del->click();
+                QCOMPARE(m.boites.textes, QStringList{texte(question)});
+                QCOMPARE(Bac::toutLire(), oui ? attendu : avant);
+            }
+        };
+        QTRY_COMPARE(m.lignes(gens), "3 2 1 5 4");
+        QCOMPARE(prets->model()->rowCount(), 7);
+        QVERIFY(!del->isEnabled());
+        m.cliquerLigne(gens, 2);
+        QCOMPARE(m.lignes(prets), "85 110");
+        m.cliquerLigne(prets, 0);
+        supprimer(Txt::RetirerCePret, "UPDATE Album SET NPret = 0, DPret = '' WHERE Num = 85");
+        QTRY_COMPARE(m.lignes(prets), "110");
+        QCOMPARE(gens->currentIndex().row(), 2);
+        m.cliquerLigne(gens, 1);
+        supprimer(Txt::RetirerCettePersonne, "DELETE FROM Pret WHERE NPret = 2");
+        QTRY_COMPARE(m.lignes(gens), "3 1 5 4");
+        m.cliquer("Tous", "Pret");
+        QVERIFY(m.lignes(prets).split(u' ').contains("66"));
+
+        m.cliquer("Preter", "Pret");
+        QTRY_VERIFY(m.visible("FrmModif"));
+        m.ecrire("Saisie", "Petitjean", "FrmModif");
+        QTest::keyClick(m.trouver<QLineEdit>("Saisie", "FrmModif"), Qt::Key_Return);
+        QTRY_VERIFY(!m.visible("FrmModif"));
+        QCOMPARE(Bac::valeur("SELECT NPret || ' ' || DPret FROM Album WHERE Num = 101").toString(),
+            "5 " + Dates::Ecrire(QDate::currentDate()));
+        QTRY_VERIFY(m.lignes(prets).split(u' ').contains("101"));
+        m.trier(1);
+        QVERIFY(!m.trouver<QAbstractButton>("Preter", "Pret")->isEnabled());
+    }
 };
 
-void tst_menus::chaqueEndroitASesCommandes()
-{
-    Menus m;
-    Bac::agir("UPDATE LAlbums SET dedi2 = 'album-1.jpg' WHERE NAlbum = 101");
-    Bac::agir("UPDATE Serie SET SiteWeb2 = ' ' WHERE NSerie = 20");
-    m.trier(1);
-    m.montrer("Gédéon");
-    const QString toujours = "ajouter crea Payss quitter";
-    const QString entree = "LL modifie supprime " + toujours;
-    QCOMPARE(m.touche(), entree);
-    QCOMPARE(m.pop()->actions().first()->text(), m.courante());
-    auto *vue = m.liste()->viewport();
-    QCOMPARE(m.commandes(vue, m.liste()->visualRect(m.liste()->currentIndex()).center()), entree);
-    m.trier(8);
-    QCOMPARE(m.commandes(vue, vue->rect().bottomLeft() - QPoint(0, 2)), toujours);
-
-    struct Endroit
-    {
-        int tri;
-        const char *fiche, *champ, *commandes;
-    };
-    for (const Endroit &e : {Endroit{1, "FicheSerie", "SiteWeb(0)", "Visu modifier supprimer"},
-             {1, "FicheSerie", "SiteWeb(1)", "modifier"}, {1, "FicheSerie", "Nom", "modifier"},
-             {0, "FicheAlbum", "Photo1", "visu2 modifphoto Supphoto"},
-             {0, "FicheAlbum", "Dedi(0)", "modifimageDedi modifier supprimer"},
-             {0, "FicheAlbum", "Dedi(1)", "visu2 modifimageDedi suppimagededi"},
-             {0, "FicheAlbum", "PhotoD(1)", "visu2 modifimageDedi suppimagededi"},
-             {0, "FicheAlbum", "TAlbum", "modifier"}, {0, "FicheAlbum", "Serie", "modifier supprimer"},
-             {0, "FicheAlbum", "DPret", "modifier"}, {0, "FicheAlbum", "Qualite", ""},
-             {0, "FicheAlbum", "Mois(0)", "modifier supprimer"}, {0, "FicheAlbum", "NomI(0)", "modifier"}}) {
-        m.trier(e.tri);
-        m.montrer("Gédéon");
-        const QString propres = e.commandes + QString(*e.commandes ? " " : "");
-        QCOMPARE(
-            m.commandes(m.sur(e.fiche, e.champ)).prepend(e.champ), e.champ + ("LL " + propres) + toujours);
-        m.pop()->hide();
-    }
-    QCOMPARE(m.pop()->findChildren<QMenu *>().size(), 1); // that of the languages
-    QVERIFY(m.boites.textes.isEmpty());
-}
-
-void tst_menus::supprimerDemandePuisMontreLaSuivante_data()
-{
-    QTest::addColumn<int>("tri");
-    QTest::addColumn<QByteArray>("nomListe");
-    for (const int tri : {0, 1, 2, 5, 6, 7, 8})
-        QTest::addRow("%d", tri) << tri << QByteArray("Liste");
-    QTest::newRow("album d'une série") << 1 << QByteArray("LFilms");
-}
-
-void tst_menus::supprimerDemandePuisMontreLaSuivante()
-{
-    QFETCH(int, tri);
-    QFETCH(QByteArray, nomListe);
-    Menus m;
-    m.trier(tri);
-    if (tri == 1)
-        m.montrer("Bécassine");
-    auto *liste = m.liste(nomListe);
-    QTRY_VERIFY(liste->isVisible() && liste->model()->rowCount() > 5);
-    const QString nom = liste->model()->index(3, 0).data().toString();
-    const QString suivante = liste->model()->index(4, 0).data().toString();
-    m.cliquerLigne(liste, 3);
-    QTRY_COMPARE(m.fiche(), nom);
-    const QStringList avant = Bac::toutLire();
-    const int nombre = liste->model()->rowCount();
-    m.touche(nomListe);
-    m.prendre("supprime");
-    QCOMPARE(m.boites.textes, QStringList{"Voulez-vous réellement supprimer '" + nom + "' ?"});
-    QCOMPARE(Bac::toutLire(), avant);
-    QCOMPARE(m.courante(nomListe), nom);
-
-    m.boites.reponses << true;
-    QTest::keyClick(liste, Qt::Key_Delete);
-    QTRY_COMPARE(liste->model()->rowCount(), nombre - 1);
-    QCOMPARE(m.courante(nomListe), suivante);
-    QCOMPARE(m.boites.textes.size(), 2);
-    QTRY_COMPARE(m.fiche(), suivante);
-    m.annuler();
-    QTRY_COMPARE(m.courante(nomListe), nom);
-    QTRY_COMPARE(m.fiche(), nom);
-    QCOMPARE(Bac::toutLire(), avant);
-}
-
-void tst_menus::laDerniereLaisseUneFicheVide_data()
-{
-    QTest::addColumn<int>("tri");
-    QTest::addColumn<QString>("autres");
-    QTest::newRow("album") << 0 << "DELETE FROM LAlbums WHERE NAlbum <> 101";
-    QTest::newRow("série") << 1 << "DELETE FROM Serie WHERE NSerie <> 19";
-    QTest::newRow("dessinateur") << 2 << "UPDATE Auteurs SET Dessin = 0 WHERE NAuteur <> 1";
-    QTest::newRow("ex-libris") << 5 << "DELETE FROM ExLibris WHERE NExLibris <> 2";
-}
-
-void tst_menus::laDerniereLaisseUneFicheVide()
-{
-    QFETCH(int, tri);
-    QFETCH(QString, autres);
-    Menus m;
-    m.trier(tri);
-    Bac::agir(autres);
-    auto *liste = m.liste();
-    QTRY_COMPARE(liste->model()->rowCount(), 1);
-    m.cliquerLigne(liste, 0);
-    const QString nom = m.courante();
-    QTRY_COMPARE(m.fiche(), nom);
-    m.boites.reponses << true;
-    m.touche();
-    m.prendre("supprime");
-    QTRY_COMPARE(liste->model()->rowCount(), 0);
-    QTRY_COMPARE(m.fiche(), QString());
-    QVERIFY2(!m.liste("LFilms")->isVisible(), "what was linked to it is still shown");
-    m.annuler();
-    QTRY_COMPARE(m.fiche(), nom);
-}
-
-void tst_menus::viderUneDateEtPoserDesImages()
-{
-    Menus m;
-    const auto valeur = [](const char *champ) {
-        return Bac::valeur(
-            QStringLiteral("SELECT %1 FROM LAlbums JOIN Album ON Num = LAlbums.NAlbum WHERE Num = 101")
-                .arg(champ))
-            .toString();
-    };
-    const auto prendre = [&m](const char *champ, const char *commande) {
-        m.commandes(m.sur("FicheAlbum", champ));
-        m.prendre(commande);
-    };
-    m.montrer("Gédéon");
-    const QString date = valeur("DA");
-    QVERIFY(!date.isEmpty());
-    prendre("DA", "supprimer");
-    QCOMPARE(valeur("DA"), QString());
-    m.annuler();
-    QTRY_COMPARE(valeur("DA"), date);
-
-    const QString image = m.bac.chemin("neuve.png");
-    const QString faux = m.bac.chemin("faux.png");
-    QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(image));
-    Bac::ecrire(faux, "ceci n'est pas une image");
-    const QStringList avant = Bac::toutLire();
-    m.boites.fichiers << faux << QString() << image;
-    prendre("Photo1", "modifphoto");
-    QTRY_COMPARE(m.boites.textes.size(), 1);
-    QVERIFY2(m.boites.textes.takeFirst().contains(faux), "the refusal names the file");
-    prendre("Photo1", "modifphoto");
-    QCOMPARE(Bac::toutLire(), avant);
-    QVERIFY(!QFileInfo::exists(m.bac.chemin("images/faux.png")));
-    prendre("Photo1", "modifphoto");
-    QCOMPARE(valeur("Photo1"), "neuve.png");
-    QCOMPARE(Bac::lire(m.bac.chemin("images/neuve.png")), Bac::lire(image));
-    prendre("Photo1", "Supphoto");
-    QCOMPARE(valeur("Photo1").trimmed(), QString());
-    QVERIFY(QFileInfo::exists(m.bac.chemin("images/neuve.png")) && m.boites.textes.isEmpty());
-
-    const QString note = valeur("dedi1");
-    m.boites.fichiers << image;
-    prendre("Dedi(0)", "modifimageDedi");
-    QCOMPARE(m.boites.textes.size(), 1);
-    QVERIFY(m.boites.textes[0].contains(note) && m.boites.fichiers.size() == 1);
-    QCOMPARE(valeur("dedi1"), note);
-    m.boites.reponses << true;
-    prendre("Dedi(0)", "modifimageDedi");
-    QCOMPARE(valeur("dedi1"), "neuve.png");
-    prendre("PhotoD(0)", "suppimagededi");
-    QCOMPARE(valeur("dedi1"), " ");
-    QCOMPARE(m.boites.textes.size(), 2);
-}
-
-void tst_menus::ajouterEtRenommerSurPlace()
-{
-    Menus m;
-    m.trier(1);
-    m.montrer("Bécassine");
-    const auto ajouter = [&m](const QString &nom, Qt::Key fin) {
-        m.touche();
-        m.prendre("ajouter");
-        m.nommer(nom, fin);
-    };
-    const QStringList avant = Bac::toutLire();
-    const int nombre = m.liste()->model()->rowCount();
-    for (const auto &[nom, fin] : {std::pair("Perdue", Qt::Key_Escape), std::pair("  ", Qt::Key_Return)}) {
-        ajouter(nom, fin);
-        QCOMPARE(Bac::toutLire(), avant);
-        QCOMPARE(m.liste()->model()->rowCount(), nombre);
-        QCOMPARE(m.courante(), "Bécassine");
-    }
-    ajouter("Élan d'été", Qt::Key_Return);
-    QTRY_COMPARE(m.fiche(), "Élan d'été");
-    QCOMPARE(m.courante(), m.fiche());
-    QCOMPARE(m.liste()->model()->rowCount(), nombre + 1);
-    QVERIFY(m.boites.textes.isEmpty());
-    ajouter("gédéon", Qt::Key_Return);
-    QTRY_COMPARE(m.fiche(), "Gédéon");
-    QCOMPARE(m.boites.textes, QStringList{"La donnée existe déjà !"});
-    QCOMPARE(m.liste()->model()->rowCount(), nombre + 1);
-
-    m.touche();
-    m.prendre("modifie");
-    m.nommer("Zoé & Cie", Qt::Key_Return);
-    QTRY_COMPARE(m.courante(), "Zoé & Cie");
-    QCOMPARE(Bac::valeur("SELECT Nom FROM Serie WHERE NSerie = 20").toString(), "Zoé & Cie");
-    QTest::keyClick(m.liste(), Qt::Key_F2);
-    m.nommer("  Écume d'été ", Qt::Key_Return);
-    QTRY_COMPARE(m.courante(), "Écume d'été");
-    QTRY_COMPARE(m.fiche(), "Écume d'été");
-    QCOMPARE(m.liste()->currentIndex().data(Qt::UserRole), "N 20");
-}
-
-void tst_menus::leFiltreGardeLaSelection()
-{
-    const Menus m;
-    auto *modele = m.liste()->model();
-    auto *filtre = m.trouver<QLineEdit>("Filtre");
-    m.choisir("Gédéon");
-    const int tous = modele->rowCount();
-    for (const auto &[cherche, parmi] : {std::pair("BECASSINE", "Bécassine en apprentissage"),
-             std::pair("oe", "Mœurs administratives"), std::pair("gedeon", "Gédéon"), std::pair("zzz", "")}) {
-        filtre->clear();
-        m.taper(filtre, cherche);
-        QStringList lignes;
-        for (int i = 0; i < modele->rowCount(); ++i)
-            lignes << modele->index(i, 0).data().toString();
-        QCOMPARE(lignes.contains(QString(parmi)), *parmi != 0);
-        QVERIFY(lignes.size() < tous / 2);
-        QVERIFY2(
-            m.texteDe("Nombre").endsWith(QStringLiteral("%1 / %2").arg(lignes.size()).arg(tous)), cherche);
-        QCOMPARE(m.courante(), lignes.contains("Gédéon") ? "Gédéon" : QString());
-    }
-    QTest::keyClick(filtre, Qt::Key_Escape);
-    QCOMPARE(modele->rowCount(), tous);
-    QCOMPARE(m.courante(), "Gédéon");
-    QVERIFY(m.texteDe("Nombre").endsWith(" " + QString::number(tous)) && m.liste()->hasFocus());
-}
-
-void tst_menus::laRechercheMeneALaFiche()
-{
-    const Menus m;
-    m.cliquer("Menu(2)");
-    QTest::qWait(50);
-    auto *resultat = m.trouver<QTreeView>("Liste", "Recherche");
-    auto *genres = m.trouver<QComboBox>("ListeTri", "Recherche");
-    QCOMPARE(genres->currentIndex(), 0);
-    for (const int tri : {3, 2}) {
-        genres->setCurrentIndex(tri);
-        auto *saisie = m.trouver<QLineEdit>("Saisie", "Recherche");
-        saisie->clear();
-        m.ecrire("Saisie", "DORÉ", "Recherche");
-        QTest::keyClick(saisie, Qt::Key_Return);
-        QCOMPARE(m.lignes(resultat), "3");
-        m.cliquerLigne(resultat, 0);
-        QTRY_COMPARE(m.fiche(), "Doré, Gustave");
-        QCOMPARE(m.courante(), m.fiche());
-        QCOMPARE(m.texteDe("TitreListe"), texte(GenreDe(TriDe(tri)).titre));
-        QCOMPARE(m.bac.reglages.entier(Cle::Tris), tri);
-    }
-    // A line that narrows the list does not hide what was found.
-    m.taper(m.trouver<QLineEdit>("Filtre"), "zzz");
-    m.cliquerLigne(resultat, 0);
-    QTRY_COMPARE(m.courante(), "Doré, Gustave");
-}
-
-void tst_menus::lesPretsSeRendentEtSeFont()
-{
-    Menus m;
-    m.montrer("Gédéon");
-    m.cliquer("Menu(0)");
-    m.cliquer("Menu(3)", "Splash");
-    m.cliquer("Outils(3)", "Splash");
-    QTest::qWait(50);
-    auto *gens = m.trouver<QTreeView>("LPers", "Pret");
-    auto *prets = m.trouver<QTreeView>("LPret", "Pret");
-    auto *del = m.trouver<QAbstractButton>("Del", "Pret");
-    const auto supprimer = [&](bool oui) {
-        m.boites.textes.clear();
-        m.boites.reponses.clear();
-        m.boites.reponses << oui;
-        del->click();
-        QTest::qWait(50);
-    };
-    QCOMPARE(m.lignes(gens), "3 2 1 5 4");
-    QCOMPARE(prets->model()->rowCount(), 7);
-    QVERIFY(!del->isEnabled());
-    m.cliquerLigne(gens, 2);
-    QCOMPARE(m.lignes(prets), "85 110");
-    QCOMPARE(del->property("tag").toString(), "Pers");
-    m.cliquerLigne(prets, 0);
-    QCOMPARE(del->property("tag").toString(), "Pret");
-    const QStringList avant = Bac::toutLire();
-    supprimer(false);
-    QCOMPARE(m.boites.textes, QStringList{texte(Txt::RetirerCePret)});
-    QCOMPARE(Bac::toutLire(), avant);
-    QCOMPARE(m.lignes(prets), "85 110");
-    const QStringList rendu = apres({"UPDATE Album SET NPret = 0, DPret = '' WHERE Num = 85"});
-    supprimer(true);
-    QCOMPARE(Bac::toutLire(), rendu);
-    QCOMPARE(m.lignes(prets), "110");
-    m.cliquerLigne(prets, 0);
-    supprimer(true);
-    QCOMPARE(m.lignes(prets), QString());
-    QCOMPARE(m.lignes(gens), "3 2 1 5 4");
-    QCOMPARE(gens->currentIndex().row(), 2);
-
-    m.cliquerLigne(gens, 1);
-    const QStringList parti = apres({"DELETE FROM Pret WHERE NPret = 2"});
-    supprimer(false);
-    QCOMPARE(m.boites.textes, QStringList{texte(Txt::RetirerCettePersonne)});
-    QVERIFY(Bac::toutLire() != parti);
-    supprimer(true);
-    QCOMPARE(Bac::toutLire(), parti);
-    QCOMPARE(m.lignes(gens), "3 1 5 4");
-    m.cliquer("Tous", "Pret");
-    QVERIFY(m.lignes(prets).split(u' ').contains("66"));
-
-    m.cliquer("Preter", "Pret");
-    QTRY_VERIFY(m.fenetre("FrmModif") && m.fenetre("FrmModif")->isVisible());
-    m.ecrire("Saisie", "Petitjean", "FrmModif");
-    QTest::keyClick(m.trouver<QLineEdit>("Saisie", "FrmModif"), Qt::Key_Return);
-    QTRY_VERIFY(!m.fenetre("FrmModif")->isVisible());
-    QCOMPARE(Bac::valeur("SELECT NPret || ' ' || DPret FROM Album WHERE Num = 101").toString(),
-        "5 " + Dates::Ecrire(QDate::currentDate()));
-    QTRY_VERIFY(m.lignes(prets).split(u' ').contains("101"));
-    m.trier(1);
-    QVERIFY(!m.trouver<QAbstractButton>("Preter", "Pret")->isEnabled());
-}
-
-int main(int argc, char *argv[])
-{
-    return jouer<tst_menus>(argc, argv);
-}
-
+JOUER(tst_menus)
 #include "tst_menus.moc"

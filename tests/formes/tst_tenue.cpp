@@ -1,3 +1,4 @@
+#include "browse/Frmmain.h"
 #include "core/ui/Legende.h"
 #include "support/Seance.h"
 
@@ -14,26 +15,10 @@
 #include <QTabBar>
 #include <QToolButton>
 
-/// All forms: the keyboard reaches every control, each has a name and shows that it has the focus, and no caption
-/// is cut in any language.
-class tst_tenue : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void leClavierVaPartout_data() { formes(); }
-    void leClavierVaPartout();
-    void aucuneLegendeNEstCoupee_data();
-    void aucuneLegendeNEstCoupee();
-
-private:
-    static void formes();
-};
-
 namespace {
 
 /// Opens a form as the program does; the two that edit a field come by a field of the sheet.
-QWidget *ouvrir(Seance &s, const QByteArray &nom)
+QWidget *afficher(Seance &s, const QByteArray &nom)
 {
     const bool champ = nom.startsWith("FrmModif");
     if (champ) {
@@ -139,83 +124,88 @@ QStringList coupeesDans(const QWidget *forme)
 
 }
 
-void tst_tenue::formes()
+/// All forms: the keyboard reaches every control, each has a name and shows that it has the focus, and no caption
+/// is cut in any language.
+class tst_tenue : public QObject, private Gestes
 {
-    QTest::addColumn<QByteArray>("nom");
-    const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
-    for (int i = 0; i < noms.keyCount(); ++i)
-        QTest::newRow(noms.key(i)) << QByteArray(noms.key(i));
-}
+    Q_OBJECT
 
-void tst_tenue::leClavierVaPartout()
-{
-    QFETCH(QByteArray, nom);
-    Seance s;
-    s.demarrer();
-    QWidget *forme = ouvrir(s, nom);
-    QVERIFY(forme && forme->isVisible());
-    forme->activateWindow();
-    QTRY_VERIFY(forme->isActiveWindow());
-    const QSet<QWidget *> atteints = parcourir(forme);
-    QVERIFY(atteints.size() > 1);
-    QStringList hors;
-    QStringList anonymes;
-    QStringList muets;
-    for (QWidget *w : forme->findChildren<QWidget *>()) {
-        if (!estUnControle(w))
-            continue;
-        if (w->accessibleName().isEmpty())
-            anonymes << nomDe(w);
-        const bool atteint = atteints.contains(w) || estAtteintParUnAutre(w, atteints);
-        if (!atteint)
-            hors << nomDe(w);
-        if (!atteints.contains(w))
-            continue;
-        forme->setFocus();
-        const QImage sans = w->grab().toImage();
-        w->setFocus(Qt::TabFocusReason);
-        if (w->hasFocus() && w->grab().toImage() == sans)
-            muets << nomDe(w);
-    }
-    QVERIFY2(anonymes.isEmpty(), qPrintable(anonymes.join(u'\n')));
-    QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
-    QVERIFY2(muets.isEmpty(), qPrintable(muets.join(u'\n')));
-}
+private Q_SLOTS:
+    void leClavierVaPartout_data() { formes(); }
 
-void tst_tenue::aucuneLegendeNEstCoupee_data()
-{
-    QTest::addColumn<QString>("langue");
-    for (const char *langue : {"Français", "English", "Deutsch", "Español", "Italiano", "Nederlands"})
-        QTest::newRow(langue) << QString::fromUtf8(langue) + QStringLiteral(".lng");
-}
-
-void tst_tenue::aucuneLegendeNEstCoupee()
-{
-    QFETCH(QString, langue);
-    Seance s;
-    s.demarrer();
-    Q_EMIT s.demandes().langue(langue);
-    Seance::fenetre("Frmmain")->resize(1280, 800);
-    QStringList coupees;
-    const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
-    for (int i = 0; i < noms.keyCount(); ++i) {
-        QWidget *forme = ouvrir(s, noms.key(i));
-        // A layout follows its texts from the event loop.
-        QStringList ici = coupeesDans(forme);
-        for (int essai = 0; !ici.isEmpty() && essai < 40; ++essai) {
-            QTest::qWait(50);
-            ici = coupeesDans(forme);
+    void leClavierVaPartout()
+    {
+        QFETCH(QByteArray, nom);
+        Ouverte s;
+        QWidget *forme = afficher(s, nom);
+        QVERIFY(forme && forme->isVisible());
+        forme->activateWindow();
+        QTRY_VERIFY(forme->isActiveWindow());
+        const QSet<QWidget *> atteints = parcourir(forme);
+        QVERIFY(atteints.size() > 1);
+        QStringList hors;
+        QStringList anonymes;
+        QStringList muets;
+        for (QWidget *w : forme->findChildren<QWidget *>()) {
+            if (!estUnControle(w))
+                continue;
+            if (w->accessibleName().isEmpty())
+                anonymes << nomDe(w);
+            const bool atteint = atteints.contains(w) || estAtteintParUnAutre(w, atteints);
+            if (!atteint)
+                hors << nomDe(w);
+            if (!atteints.contains(w))
+                continue;
+            forme->setFocus();
+            const QImage sans = w->grab().toImage();
+            w->setFocus(Qt::TabFocusReason);
+            if (w->hasFocus() && w->grab().toImage() == sans)
+                muets << nomDe(w);
         }
-        coupees << ici;
-        if (i > 0)
-            forme->close();
+        QVERIFY2(anonymes.isEmpty(), qPrintable(anonymes.join(u'\n')));
+        QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
+        QVERIFY2(muets.isEmpty(), qPrintable(muets.join(u'\n')));
     }
-    QVERIFY2(coupees.isEmpty(), qPrintable(coupees.join(u'\n')));
-}
 
-int main(int argc, char *argv[])
-{
-    return jouer<tst_tenue>(argc, argv);
-}
+    void aucuneLegendeNEstCoupee_data()
+    {
+        QTest::addColumn<QString>("langue");
+        for (const char *langue : {"Français", "English", "Deutsch", "Español", "Italiano", "Nederlands"})
+            QTest::newRow(langue) << QString::fromUtf8(langue) + QStringLiteral(".lng");
+    }
 
+    void aucuneLegendeNEstCoupee()
+    {
+        QFETCH(QString, langue);
+        Ouverte s;
+        Q_EMIT s.demandes().langue(langue);
+        fenetre("Frmmain")->resize(1280, 800);
+        QStringList coupees;
+        const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
+        for (int i = 0; i < noms.keyCount(); ++i) {
+            QWidget *forme = afficher(s, noms.key(i));
+            // A layout follows its texts from the event loop.
+            QStringList ici = coupeesDans(forme);
+            for (int essai = 0; !ici.isEmpty() && essai < 40; ++essai) {
+                QTest::qWait(50);
+                ici = coupeesDans(forme);
+            }
+            coupees << ici;
+            if (i > 0)
+                forme->close();
+        }
+        QVERIFY2(coupees.isEmpty(), qPrintable(coupees.join(u'\n')));
+    }
+
+private:
+    static void formes()
+    {
+        QTest::addColumn<QByteArray>("nom");
+        const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
+        for (int i = 0; i < noms.keyCount(); ++i)
+            QTest::newRow(noms.key(i)) << QByteArray(noms.key(i));
+    }
+};
+
+JOUER(tst_tenue)
 #include "tst_tenue.moc"

@@ -3,18 +3,9 @@
 #include "core/Dates.h"
 #include "loans/Prets.h"
 #include "support/Apres.h"
+#include "support/Colonnes.h"
 
 #include <QTest>
-
-class tst_prets : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void lesPretsDUnePersonneEtDeTous();
-    void rendreEtSupprimer_data();
-    void rendreEtSupprimer();
-};
 
 namespace {
 
@@ -45,53 +36,55 @@ QStringList prets(int emprunteur)
 
 }
 
-void tst_prets::lesPretsDUnePersonneEtDeTous()
+class tst_prets : public QObject
 {
-    const Bac bac;
-    peupler();
-    const Entrees gens = Prets::LireEmprunteurs();
-    QCOMPARE(gens.size(), 3);
-    QCOMPARE(gens.texte(gens.rang(1)), QStringLiteral("Zürcher"));
-    QCOMPARE(prets(1),
-        QStringList(
-            {"3|Demain|Zürcher|-1", "2|Zut|Zürcher|-1", "8|Sans date|Zürcher|-1", "1|Écume|Zürcher|40"}));
-    QCOMPARE(prets(2), QStringList());
-    QCOMPARE(prets(0),
-        QStringList({"3|Demain|Zürcher|-1", "1|Écume|Zürcher|40", "5|Edgar||0", "8|Sans date|Zürcher|-1",
-            "2|Zut|Zürcher|-1"}));
-}
+    Q_OBJECT
 
-void tst_prets::rendreEtSupprimer_data()
-{
-    QTest::addColumn<bool>("rend");
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QStringList>("reference");
-    QTest::newRow("retour") << true << 1
-                            << QStringList{"UPDATE Album SET NPret = 0, DPret = '' WHERE Num = 1"};
-    QTest::newRow("personne") << false << 1 << QStringList{"DELETE FROM Pret WHERE NPret = 1"};
-    QTest::newRow("album disparu") << true << 99 << QStringList();
-    QTest::newRow("personne disparue") << false << 9 << QStringList();
-}
-
-void tst_prets::rendreEtSupprimer()
-{
-    QFETCH(bool, rend);
-    QFETCH(int, id);
-    QFETCH(QStringList, reference);
-    Bac bac;
-    peupler();
-    const QStringList avant = Bac::toutLire();
-    const QStringList attendu = apres(reference);
-    Historique histoire(bac.annonces);
-    // Once more is no error, and no further step.
-    for (int i = 0; i < 2; ++i) {
-        rend ? Preter::Rendre(id) : Preter::SupprimerEmprunteur(id);
-        QCOMPARE(Bac::toutLire(), attendu);
+private Q_SLOTS:
+    void lesPretsDUnePersonneEtDeTous()
+    {
+        const Bac bac;
+        peupler();
+        const Entrees gens = Prets::LireEmprunteurs();
+        QCOMPARE(gens.size(), 3);
+        QCOMPARE(gens.texte(gens.rang(1)), "Zürcher");
+        QCOMPARE(prets(1),
+            QStringList(
+                {"3|Demain|Zürcher|-1", "2|Zut|Zürcher|-1", "8|Sans date|Zürcher|-1", "1|Écume|Zürcher|40"}));
+        QCOMPARE(prets(2), QStringList());
+        QCOMPARE(prets(0),
+            QStringList({"3|Demain|Zürcher|-1", "1|Écume|Zürcher|40", "5|Edgar||0", "8|Sans date|Zürcher|-1",
+                "2|Zut|Zürcher|-1"}));
     }
-    histoire.annuler();
-    QCOMPARE(Bac::toutLire(), avant);
-    QVERIFY(!histoire.peutAnnuler());
-}
+
+    void rendreEtSupprimer_data()
+    {
+        colonnes<bool, int, QStringList>();
+        QTest::newRow("retour") << true << 1
+                                << QStringList{"UPDATE Album SET NPret = 0, DPret = '' WHERE Num = 1"};
+        QTest::newRow("personne") << false << 1 << QStringList{"DELETE FROM Pret WHERE NPret = 1"};
+        QTest::newRow("album disparu") << true << 99 << QStringList();
+        QTest::newRow("personne disparue") << false << 9 << QStringList();
+    }
+
+    void rendreEtSupprimer()
+    {
+        const auto [rend, id, reference] = essai<bool, int, QStringList>();
+        Bac bac;
+        peupler();
+        const QStringList avant = Bac::toutLire();
+        const QStringList attendu = apres(reference);
+        Historique histoire(bac.annonces);
+        // Once more is no error, and no further step.
+        for (int i = 0; i < 2; ++i) {
+            rend ? Preter::Rendre(id) : Preter::SupprimerEmprunteur(id);
+            QCOMPARE(Bac::toutLire(), attendu);
+        }
+        histoire.annuler();
+        QCOMPARE(Bac::toutLire(), avant);
+        QVERIFY(!histoire.peutAnnuler());
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_prets)
 #include "tst_prets.moc"

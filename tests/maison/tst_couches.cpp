@@ -6,38 +6,11 @@
 #include <QSet>
 #include <QTest>
 
-/// The house's walls: which folder may know which, what a library may link, what a form may not say.
-class tst_couches : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void lesDossiersSeConnaissentDansUnSeulSens();
-    void aucunCercleEntreModulesNiDossiers();
-    void laLogiqueNeVoitAucunWidget();
-    void lesFormesNeParlentPasSql();
-    void lesFormesNEcriventQueParUnActe();
-    void seulLeBureauConnaitLaFenetre();
-
-private:
-    /// Include paths of a source, of this project only.
-    QStringList inclusions(const QString &fichier) const;
-    QString contenu(const QString &fichier) const;
-    bool estForme(const QString &fichier) const { return m_formes.contains(fichier); }
-
-    QDir m_sources{QStringLiteral(SOURCES)};
-    QStringList m_fichiers;
-    QSet<QString> m_formes;
-    QMap<QString, QString> m_maison;
-};
-
 namespace {
 
 /// The floors, each knowing those above it in this list; what is not named is a room of the top floor.
-const QStringList Etages{QStringLiteral("core"), QStringLiteral("core/ui"), QStringLiteral("db/schema"),
-    QStringLiteral("db"), QStringLiteral("db/files"), QStringLiteral("db/conversion"),
-    QStringLiteral("model"), QStringLiteral("acts")};
+const QStringList Etages{QStringLiteral("core"), QStringLiteral("core/ui"), QStringLiteral("db/schema"), "db",
+    "db/files", "db/conversion", "model", "acts"};
 const QString Sommet = QStringLiteral("app");
 
 QString dossierDe(const QString &fichier)
@@ -92,131 +65,145 @@ QString unCercle(const Graphe &graphe)
     for (auto lieu = graphe.keyBegin(); lieu != graphe.keyEnd(); ++lieu) {
         const QStringList cercle = chercherCercle(graphe, *lieu, {}, sus);
         if (!cercle.isEmpty())
-            return cercle.join(QStringLiteral(" -> "));
+            return cercle.join(" -> ");
     }
     return {};
 }
 
 }
 
-void tst_couches::initTestCase()
+/// The house's walls: which folder may know which, what a library may link, what a form may not say.
+class tst_couches : public QObject
 {
-    for (QDirIterator i(m_sources.path(), {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
-             QDirIterator::Subdirectories);
-         i.hasNext();)
-        m_fichiers << m_sources.relativeFilePath(i.next());
-    QVERIFY(m_fichiers.size() > 60);
-    QFile liste(QStringLiteral(MAISON));
-    QVERIFY(liste.open(QIODevice::ReadOnly));
-    const QStringList lignes = QString::fromUtf8(liste.readAll()).split(u'\n');
-    for (const QString &ligne : lignes)
-        m_maison[ligne.section(u'=', 0, 0)] = ligne.section(u'=', 1);
-    const QStringList formes = m_maison[QStringLiteral("formes")].split(u';');
-    m_formes = QSet<QString>(formes.begin(), formes.end());
-    QVERIFY(m_formes.contains(QStringLiteral("browse/Frmmain.cpp")));
-}
+    Q_OBJECT
 
-QString tst_couches::contenu(const QString &fichier) const
-{
-    QFile source(m_sources.filePath(fichier));
-    return source.open(QIODevice::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString();
-}
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (QDirIterator i(m_sources.path(), {"*.h", "*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+             i.hasNext();)
+            m_fichiers << m_sources.relativeFilePath(i.next());
+        QVERIFY(m_fichiers.size() > 60);
+        QFile liste(QStringLiteral(MAISON));
+        QVERIFY(liste.open(QIODevice::ReadOnly));
+        const QStringList lignes = QString::fromUtf8(liste.readAll()).split(u'\n');
+        for (const QString &ligne : lignes)
+            m_maison[ligne.section(u'=', 0, 0)] = ligne.section(u'=', 1);
+        const QStringList formes = m_maison[QStringLiteral("formes")].split(u';');
+        m_formes = QSet<QString>(formes.begin(), formes.end());
+        QVERIFY(m_formes.contains("browse/Frmmain.cpp"));
+    }
 
-QStringList tst_couches::inclusions(const QString &fichier) const
-{
-    static const QRegularExpression forme(
-        QStringLiteral("^#include \"([^\"]+(?<!\\.moc))\""), QRegularExpression::MultilineOption);
-    QStringList chemins;
-    for (auto trouve = forme.globalMatch(contenu(fichier)); trouve.hasNext();)
-        chemins << trouve.next().captured(1);
-    return chemins;
-}
-
-void tst_couches::lesDossiersSeConnaissentDansUnSeulSens()
-{
-    for (const QString &fichier : std::as_const(m_fichiers)) {
-        const QString dossier = dossierDe(fichier);
-        const QStringList chemins = inclusions(fichier);
-        for (const QString &chemin : chemins) {
-            const QString vu = dossierDe(chemin);
-            const bool permis = memePiece(dossier, vu) || rangDe(vu) < rangDe(dossier);
-            QVERIFY2(chemin.contains(u'/') && permis, qPrintable(fichier + QStringLiteral(" -> ") + chemin));
+    void lesDossiersSeConnaissentDansUnSeulSens()
+    {
+        for (const QString &fichier : std::as_const(m_fichiers)) {
+            const QString dossier = dossierDe(fichier);
+            const QStringList chemins = inclusions(fichier);
+            for (const QString &chemin : chemins) {
+                const QString vu = dossierDe(chemin);
+                const bool permis = memePiece(dossier, vu) || rangDe(vu) < rangDe(dossier);
+                QVERIFY2(
+                    chemin.contains(u'/') && permis, qPrintable(fichier + QStringLiteral(" -> ") + chemin));
+            }
         }
     }
-}
 
-void tst_couches::aucunCercleEntreModulesNiDossiers()
-{
-    Graphe modules;
-    Graphe dossiers;
-    for (const QString &fichier : std::as_const(m_fichiers)) {
-        const QStringList chemins = inclusions(fichier);
-        for (const QString &chemin : chemins) {
-            if (moduleDe(chemin) != moduleDe(fichier))
-                modules[moduleDe(fichier)] << moduleDe(chemin);
-            if (dossierDe(chemin) != dossierDe(fichier))
-                dossiers[dossierDe(fichier)] << dossierDe(chemin);
+    void aucunCercleEntreModulesNiDossiers()
+    {
+        Graphe modules;
+        Graphe dossiers;
+        for (const QString &fichier : std::as_const(m_fichiers)) {
+            const QStringList chemins = inclusions(fichier);
+            for (const QString &chemin : chemins) {
+                if (moduleDe(chemin) != moduleDe(fichier))
+                    modules[moduleDe(fichier)] << moduleDe(chemin);
+                if (dossierDe(chemin) != dossierDe(fichier))
+                    dossiers[dossierDe(fichier)] << dossierDe(chemin);
+            }
+        }
+        QVERIFY(modules.size() > 60 && dossiers.size() > 12);
+        QCOMPARE(unCercle(modules), QString());
+        QCOMPARE(unCercle(dossiers), QString());
+    }
+
+    void laLogiqueNeVoitAucunWidget()
+    {
+        QVERIFY(m_maison[QStringLiteral("liensLogique")].contains("Qt6::Gui"));
+        QVERIFY2(!m_maison[QStringLiteral("liensLogique")].contains("Widgets"),
+            qPrintable(m_maison[QStringLiteral("liensLogique")]));
+        for (const QString &fichier : std::as_const(m_fichiers)) {
+            if (estForme(fichier) || dossierDe(fichier) == Sommet)
+                continue;
+            const QStringList chemins = inclusions(fichier);
+            for (const QString &chemin : chemins)
+                QVERIFY2(!estForme(chemin), qPrintable(fichier + QStringLiteral(" -> ") + chemin));
         }
     }
-    QVERIFY(modules.size() > 60 && dossiers.size() > 12);
-    QCOMPARE(unCercle(modules), QString());
-    QCOMPARE(unCercle(dossiers), QString());
-}
 
-void tst_couches::laLogiqueNeVoitAucunWidget()
-{
-    QVERIFY(m_maison[QStringLiteral("liensLogique")].contains(QStringLiteral("Qt6::Gui")));
-    QVERIFY2(!m_maison[QStringLiteral("liensLogique")].contains(QStringLiteral("Widgets")),
-        qPrintable(m_maison[QStringLiteral("liensLogique")]));
-    for (const QString &fichier : std::as_const(m_fichiers)) {
-        if (estForme(fichier) || dossierDe(fichier) == Sommet)
-            continue;
-        const QStringList chemins = inclusions(fichier);
-        for (const QString &chemin : chemins)
-            QVERIFY2(!estForme(chemin), qPrintable(fichier + QStringLiteral(" -> ") + chemin));
+    void lesFormesNeParlentPasSql()
+    {
+        static const QRegularExpression sql(
+            "\"\\s*(select|insert|update|delete)\\s", QRegularExpression::CaseInsensitiveOption);
+        for (const QString &fichier : std::as_const(m_formes)) {
+            QVERIFY2(!contenu(fichier).contains(sql), qPrintable(fichier));
+            QVERIFY2(!inclusions(fichier).contains("db/Base.h"), qPrintable(fichier));
+        }
     }
-}
 
-void tst_couches::lesFormesNeParlentPasSql()
-{
-    static const QRegularExpression sql(
-        QStringLiteral("\"\\s*(select|insert|update|delete)\\s"), QRegularExpression::CaseInsensitiveOption);
-    for (const QString &fichier : std::as_const(m_formes)) {
-        QVERIFY2(!contenu(fichier).contains(sql), qPrintable(fichier));
-        QVERIFY2(!inclusions(fichier).contains(QStringLiteral("db/Base.h")), qPrintable(fichier));
+    /// What writes rows without an act is for acts alone: no room includes it, and none calls it by way of another header.
+    void lesFormesNEcriventQueParUnActe()
+    {
+        static const QStringList nus{QStringLiteral("acts/EcrireFiche.h"),
+            QStringLiteral("acts/EcrireGrilles.h"), "db/AccesBase.h", "db/Recordset.h", "db/Transaction.h"};
+        static const QRegularExpression appel(QStringLiteral(
+            "Creer::(CreerAlbum|CreerEntree|CreerAuteur|LierAuteur|AjouterAuteur)\\(|\\bTransaction \\w"));
+        for (const QString &fichier : std::as_const(m_fichiers)) {
+            if (rangDe(dossierDe(fichier)) < Etages.size() && !estForme(fichier))
+                continue;
+            QVERIFY2(!contenu(fichier).contains(appel), qPrintable(fichier));
+            QVERIFY2(!contenu(fichier).contains(QLatin1String("Execute("))
+                    || contenu(fichier).contains(QLatin1String("acte.base().Execute(")),
+                qPrintable(fichier));
+            const QStringList chemins = inclusions(fichier);
+            for (const QString &chemin : chemins)
+                QVERIFY2(!nus.contains(chemin), qPrintable(fichier + QStringLiteral(" -> ") + chemin));
+        }
     }
-}
 
-/// What writes rows without an act is for acts alone: no room includes it, and none calls it by way of another header.
-void tst_couches::lesFormesNEcriventQueParUnActe()
-{
-    static const QStringList nus{QStringLiteral("acts/EcrireFiche.h"), QStringLiteral("acts/EcrireGrilles.h"),
-        QStringLiteral("db/AccesBase.h"), QStringLiteral("db/Recordset.h"),
-        QStringLiteral("db/Transaction.h")};
-    static const QRegularExpression appel(QStringLiteral(
-        "Creer::(CreerAlbum|CreerEntree|CreerAuteur|LierAuteur|AjouterAuteur)\\(|\\bTransaction \\w"));
-    for (const QString &fichier : std::as_const(m_fichiers)) {
-        if (rangDe(dossierDe(fichier)) < Etages.size() && !estForme(fichier))
-            continue;
-        QVERIFY2(!contenu(fichier).contains(appel), qPrintable(fichier));
-        QVERIFY2(!contenu(fichier).contains(QLatin1String("Execute("))
-                || contenu(fichier).contains(QLatin1String("acte.base().Execute(")),
-            qPrintable(fichier));
-        const QStringList chemins = inclusions(fichier);
-        for (const QString &chemin : chemins)
-            QVERIFY2(!nus.contains(chemin), qPrintable(fichier + QStringLiteral(" -> ") + chemin));
+    void seulLeBureauConnaitLaFenetre()
+    {
+        static const QSet<QString> inities{"app/Bureau.cpp", "browse/Frmmain.cpp"};
+        for (const QString &fichier : std::as_const(m_fichiers)) {
+            const bool connait = inclusions(fichier).contains("browse/Frmmain.h");
+            QVERIFY2(!connait || inities.contains(fichier), qPrintable(fichier));
+        }
     }
-}
 
-void tst_couches::seulLeBureauConnaitLaFenetre()
-{
-    static const QSet<QString> inities{
-        QStringLiteral("app/Bureau.cpp"), QStringLiteral("browse/Frmmain.cpp")};
-    for (const QString &fichier : std::as_const(m_fichiers)) {
-        const bool connait = inclusions(fichier).contains(QStringLiteral("browse/Frmmain.h"));
-        QVERIFY2(!connait || inities.contains(fichier), qPrintable(fichier));
+private:
+    /// Include paths of a source, of this project only.
+    QStringList inclusions(const QString &fichier) const
+    {
+        static const QRegularExpression forme(
+            QStringLiteral("^#include \"([^\"]+(?<!\\.moc))\""), QRegularExpression::MultilineOption);
+        QStringList chemins;
+        for (auto trouve = forme.globalMatch(contenu(fichier)); trouve.hasNext();)
+            chemins << trouve.next().captured(1);
+        return chemins;
     }
-}
+
+    QString contenu(const QString &fichier) const
+    {
+        QFile source(m_sources.filePath(fichier));
+        return source.open(QIODevice::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString();
+    }
+
+    bool estForme(const QString &fichier) const { return m_formes.contains(fichier); }
+
+    QDir m_sources{QStringLiteral(SOURCES)};
+    QStringList m_fichiers;
+    QSet<QString> m_formes;
+    QMap<QString, QString> m_maison;
+};
 
 QTEST_GUILESS_MAIN(tst_couches)
 #include "tst_couches.moc"

@@ -6,22 +6,30 @@
 #include "db/schema/Tables.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
+#include <filesystem>
 
 namespace {
 
+/// Not by Qt, whose copies wait for the disk.
 void copierDossier(const QString &source, const QString &cible)
 {
-    QDir().mkpath(cible);
-    for (QDirIterator i(source, QDir::AllEntries | QDir::NoDotAndDotDot); i.hasNext();) {
-        const QFileInfo entree(i.next());
-        const QString copie = cible + u'/' + entree.fileName();
-        if (entree.isDir())
-            copierDossier(entree.filePath(), copie);
-        else if (!QFile::copy(entree.filePath(), copie))
-            qFatal("%s", qPrintable(copie));
+    std::filesystem::copy(
+        source.toStdString(), cible.toStdString(), std::filesystem::copy_options::recursive);
+}
+
+/// An application folder as the program prepares it, made once from a model or from nothing.
+QString prepare(const QString &modele)
+{
+    static const QTemporaryDir lieu;
+    const QString racine = lieu.filePath(QString::number(qHash(modele)));
+    if (!QDir(racine).exists()) {
+        if (!modele.isEmpty())
+            copierDossier(modele, racine);
+        const Dossier dossier(racine, Bac::livre());
+        Livraison::Preparer();
     }
+    return racine;
 }
 
 }
@@ -30,9 +38,7 @@ Bac::Bac(const QString &modele)
     : dossier(m_dossier.path() + QStringLiteral("/bulleo"), livre())
     , reglages(m_dossier.path() + QStringLiteral("/reglages.ini"))
 {
-    if (!modele.isEmpty())
-        copierDossier(modele, dossier.racine());
-    Livraison::Preparer();
+    copierDossier(prepare(modele), dossier.racine());
 }
 
 QString Bac::chemin(const QString &nom) const
@@ -88,14 +94,10 @@ QStringList Bac::toutLire()
     QStringList lignes;
     const QStringList tables = Schema::Tables();
     for (const QString &table : tables) {
-        const qsizetype champs = Schema::Champs(table).size();
-        for (auto rs = base.OpenRecordset("SELECT rowid, * FROM " + table + " ORDER BY rowid"); !rs.AtEnd();
-             rs.MoveNext()) {
-            QStringList ligne{table};
-            for (int i = 0; i <= champs; ++i)
-                ligne << QLatin1String(rs.Fields(i).typeName()) + u':' + rs.Fields(i).toString();
-            lignes << ligne.join(u'|');
-        }
+        const QString valeurs = "quote(" + Schema::Champs(table).join(") || '|' || quote(") + u')';
+        const QString sql = "SELECT '%1|' || rowid || '|' || %2 FROM %1 ORDER BY rowid";
+        for (auto rs = base.OpenRecordset(sql.arg(table, valeurs)); !rs.AtEnd(); rs.MoveNext())
+            lignes << rs.Fields(0).toString();
     }
     return lignes;
 }

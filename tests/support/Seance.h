@@ -1,5 +1,6 @@
 #pragma once
 
+#include "acts/Demandes.h"
 #include "app/Application.h"
 #include "app/Bureau.h"
 #include "core/ui/Habillage.h"
@@ -13,27 +14,9 @@
 #include <QLabel>
 #include <QTest>
 
-/// The real program on a copy of the sample collection, worked by object names.
-struct Seance
+/// What a hand does with the forms, worked by object names.
+struct Gestes
 {
-    explicit Seance(bool dejaVu = true)
-        : bac(QStringLiteral(EXEMPLE))
-    {
-        static const bool habillee = (Habillage::Appliquer(*qApp), true);
-        Q_UNUSED(habillee)
-        if (dejaVu)
-            bac.reglages.ecrire(Cle::FirstTime, 1);
-    }
-    void demarrer()
-    {
-        bureau = std::make_unique<Bureau>(Options());
-        bureau->demarrer();
-        QVERIFY(QTest::qWaitForWindowExposed(fenetre("Frmmain")));
-        QTRY_VERIFY(!texteDe("TAlbum").isEmpty() || !boites.textes.isEmpty());
-    }
-
-    Demandes &demandes() const { return bureau->demandes(); }
-
     static QWidget *fenetre(const char *nom)
     {
         for (QWidget *candidate : QApplication::topLevelWidgets()) {
@@ -47,9 +30,20 @@ struct Seance
     {
         return fenetre(forme)->findChild<T *>(QLatin1String(nom));
     }
+    static bool visible(const char *forme) { return fenetre(forme) && fenetre(forme)->isVisible(); }
     static void cliquer(const char *nom, const char *forme = "Frmmain")
     {
         QTest::mouseClick(trouver<QAbstractButton>(nom, forme), Qt::LeftButton);
+    }
+    /// Opens a form by its button of the launcher.
+    static void ouvrir(const char *groupe, const char *bouton, const char *forme)
+    {
+        cliquer("Menu(0)");
+        cliquer(groupe, "Splash");
+        cliquer(bouton, "Splash");
+        QTRY_VERIFY(visible(forme));
+        QVERIFY(QTest::qWaitForWindowExposed(fenetre(forme)));
+        QCoreApplication::processEvents(); // it fills after it has shown
     }
     /// Types a text, character by character, into a field or an editable list.
     static void ecrire(const char *nom, const QString &texte, const char *forme)
@@ -81,10 +75,38 @@ struct Seance
         liste->scrollTo(trouves.first());
         QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualRect(trouves.first()).center());
     }
+};
+
+/// The real program on a copy of the sample collection, not started yet.
+struct Seance : Gestes
+{
+    explicit Seance(bool dejaVu = true)
+        : bac(QStringLiteral(EXEMPLE))
+    {
+        static const bool habillee = (Habillage::Appliquer(*qApp), true);
+        Q_UNUSED(habillee)
+        if (dejaVu)
+            bac.reglages.ecrire(Cle::FirstTime, 1);
+    }
+    void demarrer()
+    {
+        bureau = std::make_unique<Bureau>(Options());
+        bureau->demarrer();
+        QVERIFY(QTest::qWaitForWindowExposed(fenetre("Frmmain")));
+        QTRY_VERIFY(!texteDe("TAlbum").isEmpty() || !boites.textes.isEmpty());
+    }
+
+    Demandes &demandes() const { return bureau->demandes(); }
 
     Bac bac;
     Messages::Doublure boites;
     std::unique_ptr<Bureau> bureau;
+};
+
+/// The same, started.
+struct Ouverte : Seance
+{
+    Ouverte() { demarrer(); }
 };
 
 /// What each program of journeys does, as its main().
@@ -96,3 +118,9 @@ int jouer(int argc, char *argv[])
     Parcours parcours;
     return QTest::qExec(&parcours, argc, argv);
 }
+
+#define JOUER(Parcours)                                                                                      \
+    int main(int argc, char *argv[])                                                                         \
+    {                                                                                                        \
+        return jouer<Parcours>(argc, argv);                                                                  \
+    }
