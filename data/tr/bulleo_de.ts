@@ -520,20 +520,12 @@
 <context>
     <name>Frmmain</name>
     <message>
-        <source>Le titre a été coupé à 50 caractères.</source>
-        <translation>Der Titel wurde auf 50 Zeichen gekürzt.</translation>
-    </message>
-    <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
     </message>
     <message>
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Freie Software unter der Lizenz GNU GPL, Version 3 oder später</translation>
-    </message>
-    <message>
-        <source>La donnée existe déjà !</source>
-        <translation>Dieser Eintrag existiert bereits!</translation>
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
@@ -832,6 +824,17 @@
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
         <translation>Es gibt keinen Scanner.</translation>
+    </message>
+</context>
+<context>
+    <name>Parcours</name>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Dieser Eintrag existiert bereits!</translation>
+    </message>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>Der Titel wurde auf 50 Zeichen gekürzt.</translation>
     </message>
 </context>
 <context>

@@ -520,20 +520,12 @@
 <context>
     <name>Frmmain</name>
     <message>
-        <source>Le titre a été coupé à 50 caractères.</source>
-        <translation>The title was cut to 50 characters.</translation>
-    </message>
-    <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
     </message>
     <message>
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Free software, under the GNU GPL licence, version 3 or later</translation>
-    </message>
-    <message>
-        <source>La donnée existe déjà !</source>
-        <translation>This entry already exists!</translation>
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
@@ -832,6 +824,17 @@
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
         <translation>There is no scanner.</translation>
+    </message>
+</context>
+<context>
+    <name>Parcours</name>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>This entry already exists!</translation>
+    </message>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>The title was cut to 50 characters.</translation>
     </message>
 </context>
 <context>

@@ -520,20 +520,12 @@
 <context>
     <name>Frmmain</name>
     <message>
-        <source>Le titre a été coupé à 50 caractères.</source>
-        <translation>El título se ha recortado a 50 caracteres.</translation>
-    </message>
-    <message>
         <source>Version %1</source>
         <translation>Versión %1</translation>
     </message>
     <message>
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Software libre, con licencia GNU GPL, versión 3 o posterior</translation>
-    </message>
-    <message>
-        <source>La donnée existe déjà !</source>
-        <translation>¡Este dato ya existe!</translation>
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
@@ -832,6 +824,17 @@
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
         <translation>No hay ningún escáner.</translation>
+    </message>
+</context>
+<context>
+    <name>Parcours</name>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>¡Este dato ya existe!</translation>
+    </message>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>El título se ha recortado a 50 caracteres.</translation>
     </message>
 </context>
 <context>

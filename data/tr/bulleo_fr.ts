@@ -520,20 +520,12 @@
 <context>
     <name>Frmmain</name>
     <message>
-        <source>Le titre a été coupé à 50 caractères.</source>
-        <translation>Le titre a été coupé à 50 caractères.</translation>
-    </message>
-    <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
     </message>
     <message>
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</translation>
-    </message>
-    <message>
-        <source>La donnée existe déjà !</source>
-        <translation>La donnée existe déjà !</translation>
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
@@ -832,6 +824,17 @@
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
         <translation>Il n&apos;y a pas de scanner.</translation>
+    </message>
+</context>
+<context>
+    <name>Parcours</name>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>La donnée existe déjà !</translation>
+    </message>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>Le titre a été coupé à 50 caractères.</translation>
     </message>
 </context>
 <context>

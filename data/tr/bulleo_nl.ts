@@ -520,20 +520,12 @@
 <context>
     <name>Frmmain</name>
     <message>
-        <source>Le titre a été coupé à 50 caractères.</source>
-        <translation>De titel is afgekapt op 50 tekens.</translation>
-    </message>
-    <message>
         <source>Version %1</source>
         <translation>Versie %1</translation>
     </message>
     <message>
         <source>Logiciel libre, sous licence GNU GPL, version 3 ou ultérieure</source>
         <translation>Vrije software, onder de licentie GNU GPL, versie 3 of later</translation>
-    </message>
-    <message>
-        <source>La donnée existe déjà !</source>
-        <translation>Dit gegeven bestaat al!</translation>
     </message>
     <message>
         <source>Le texte que vous venez de taper ne peut pas être enregistré. Le perdre ?</source>
@@ -832,6 +824,17 @@
     <message>
         <source>Il n&apos;y a pas de scanner.</source>
         <translation>Er is geen scanner.</translation>
+    </message>
+</context>
+<context>
+    <name>Parcours</name>
+    <message>
+        <source>La donnée existe déjà !</source>
+        <translation>Dit gegeven bestaat al!</translation>
+    </message>
+    <message>
+        <source>Le titre a été coupé à 50 caractères.</source>
+        <translation>De titel is afgekapt op 50 tekens.</translation>
     </message>
 </context>
 <context>

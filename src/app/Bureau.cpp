@@ -6,6 +6,7 @@
 #include "appearance/Textures.h"
 #include "archives/Restauration.h"
 #include "browse/Frmmain.h"
+#include "browse/Parcours.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
 #include "core/Reglages.h"
@@ -52,12 +53,13 @@ void Bureau::repondre()
 {
     connect(&m_demandes, &Demandes::forme, this, &Bureau::montrer);
     connect(
-        &m_demandes, &Demandes::entree, this, [this](Entree entree) { fenetre().montrerEntree(entree); },
-        Qt::QueuedConnection);
-    connect(&m_demandes, &Demandes::liste, this, [this](General::Tri tri) { fenetre().montrerTri(tri); });
+        &m_demandes, &Demandes::entree, this,
+        [this](Entree entree) { fenetre().parcours().montrerEntree(entree); }, Qt::QueuedConnection);
+    connect(&m_demandes, &Demandes::liste, this,
+        [this](General::Tri tri) { fenetre().parcours().montrerTri(tri); });
     connect(&m_demandes, &Demandes::selection, this,
         [this](const QString &libelle, const std::vector<int> &albums) {
-            fenetre().montrerSelection(libelle, albums);
+            fenetre().parcours().montrerSelection(libelle, albums);
             montrer(Nom::Frmmain);
         });
     connect(&m_demandes, &Demandes::retour, this, &Bureau::retourner);
@@ -77,9 +79,10 @@ void Bureau::repondreAuxFiches()
         &m_demandes, &Demandes::image, this, [this](const Edition &edition) { pop().choisirImage(edition); });
     connect(&m_demandes, &Demandes::menu, this,
         [this](const Edition &edition, const QPoint &point) { pop().ouvrir(edition, point); });
-    connect(
-        &m_demandes, &Demandes::renommage, this, [this](Entree entree) { fenetre().renommerEntree(entree); });
-    connect(&m_demandes, &Demandes::ajout, this, [this](General::Tri tri) { fenetre().ajouterEntree(tri); });
+    connect(&m_demandes, &Demandes::renommage, this,
+        [this](Entree entree) { fenetre().parcours().renommerEntree(entree); });
+    connect(&m_demandes, &Demandes::ajout, this,
+        [this](General::Tri tri) { fenetre().parcours().ajouterEntree(tri); });
     connect(&m_demandes, &Demandes::suppression, this, [this](Entree entree) { pop().supprimer(entree); });
     connect(&m_demandes, &Demandes::annulation, &m_historique, &Historique::annuler);
     connect(&m_demandes, &Demandes::retablissement, &m_historique, &Historique::refaire);
@@ -106,7 +109,7 @@ std::unique_ptr<Forme> Bureau::fabriquer(Nom nom)
     case Nom::Stats:
         return std::make_unique<Stats>(m_demandes);
     case Nom::Impression:
-        return suivre(std::make_unique<Impression>([this] { return fenetre().listeMontree(); }));
+        return suivre(std::make_unique<Impression>([this] { return fenetre().parcours().listeMontree(); }));
     case Nom::Acquisition:
         return suivre(std::make_unique<Acquisition>());
     case Nom::Pret:
@@ -128,7 +131,7 @@ std::unique_ptr<Forme> Bureau::fabriquer(Nom nom)
 template <class F>
 std::unique_ptr<Forme> Bureau::suivre(std::unique_ptr<F> forme)
 {
-    connect(&fenetre(), &Frmmain::entreeMontree, forme.get(), &F::poserCourante);
+    connect(&fenetre().parcours(), &Parcours::entreeMontree, forme.get(), &F::poserCourante);
     forme->poserCourante(courante());
     return forme;
 }
@@ -162,13 +165,13 @@ Entree Bureau::courante()
 
 void Bureau::brancherFenetre()
 {
-    connect(&fenetre(), &Frmmain::triChange, this, [this](int tri) {
+    connect(&fenetre().parcours(), &Parcours::triChange, this, [this](int tri) {
         if (m_formes.contains(Nom::Splash))
             forme<Splash>(Nom::Splash).poserTri(tri);
     });
     connect(
         &Annonces::courant(), &Annonces::remplacee, &fenetre(),
-        [this] { fenetre().montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris))); },
+        [this] { fenetre().parcours().montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris))); },
         Qt::QueuedConnection);
 }
 
@@ -212,7 +215,7 @@ void Bureau::montrerEtape(const Etape &etape, const QString &message)
 {
     const Entree entree = etape.lieu;
     if (entree.id > 0 && entree != courante() && General::EstDansLaListe(entree.tri, entree.id))
-        fenetre().montrerEntree(entree);
+        fenetre().parcours().montrerEntree(entree);
     fenetre().dire(message.arg(etape.titre));
 }
 
@@ -232,7 +235,7 @@ void Bureau::montrer(Nom nom)
 void Bureau::retourner()
 {
     montrer(Nom::Frmmain);
-    fenetre().montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris)));
+    fenetre().parcours().montrerTri(General::TriDe(Reglages::courant().entier(Cle::Tris)));
 }
 
 void Bureau::demarrer()

@@ -1,8 +1,8 @@
 #include "browse/Frmmain.h"
 
 #include "acts/Demandes.h"
-#include "acts/Renommer.h"
 #include "browse/Bandeau.h"
+#include "browse/Parcours.h"
 #include "browse/Pied.h"
 #include "browse/PileFiches.h"
 #include "browse/VoletListes.h"
@@ -19,7 +19,6 @@
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
-#include "db/files/Reprise.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -29,7 +28,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QLoggingCategory>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
@@ -44,9 +42,6 @@ namespace {
 constexpr QSize TailleDessinee(1280, 800);
 constexpr QSize TailleMinimale(860, 560);
 constexpr int LargeurVolet = 318;
-
-/// For measuring the start: QT_LOGGING_RULES="bulleo.demarrage=true" tells when the list is on screen.
-Q_LOGGING_CATEGORY(demarrage, "bulleo.demarrage", QtInfoMsg)
 
 }
 
@@ -65,6 +60,7 @@ Frmmain::Frmmain(Demandes &demandes)
     construireCorps(page);
     m_pied = new Pied(this);
     page->addWidget(m_pied);
+    m_parcours = new Parcours(*m_volet, *m_fiches, *m_pied, this);
     new Depot(this, [this](const QString &chemin) { Q_EMIT m_demandes.fichier(chemin); });
     brancher();
     raccourcis();
@@ -101,9 +97,6 @@ void Frmmain::construireCorps(QBoxLayout *page)
 
 void Frmmain::brancher()
 {
-    connect(m_volet, &VoletListes::triDemande, this, &Frmmain::montrerTri);
-    connect(m_volet, &VoletListes::entreeChoisie, this, &Frmmain::choisir);
-    connect(m_volet, &VoletListes::renommageDemande, this, &Frmmain::renommer);
     connect(m_bandeau, &Bandeau::aideDemandee, this, [] { Aide::Ouvrir(QStringLiteral("index")); });
     connect(
         m_bandeau, &Bandeau::siteDemande, this, [] { Liens::Ouvrir(Reglages::courant().texte(Cle::Site)); });
@@ -136,7 +129,7 @@ void Frmmain::raccourcis()
     ajouter(refaire, [this] { retablir(); });
     ajouter({QKeySequence::Print}, [this] { Q_EMIT m_demandes.forme(Nom::Impression); });
     for (int i = 0; i < NombreDeTris; ++i)
-        ajouter({Qt::CTRL | Qt::Key(Qt::Key_1 + i)}, [this, i] { montrerTri(TriDe(i)); });
+        ajouter({Qt::CTRL | Qt::Key(Qt::Key_1 + i)}, [this, i] { m_parcours->montrerTri(TriDe(i)); });
 }
 
 void Frmmain::commencer()
@@ -148,13 +141,9 @@ void Frmmain::commencer()
     // From the event loop, so that a collection that cannot be opened is told of like any other error, and
     // still before the window is first painted.
     QTimer::singleShot(0, this, [this] {
-        // One in the old format is not opened: it is offered to be converted.
-        if (Reprise::EstAncien(Dossier::courant().collection()))
-            return;
-        m_volet->montrer(TriDe(Reglages::courant().entier(Cle::Tris)));
-        m_ouverte = true;
+        m_parcours->ouvrir();
         if (m_peinte)
-            montrerPremiere();
+            m_parcours->montrerPremiere();
     });
 }
 
@@ -183,113 +172,6 @@ void Frmmain::memoriserTaille()
         QString::fromLatin1(m_partage->saveState().toBase64() + '|' + m_volet->etat().toBase64()));
 }
 
-void Frmmain::montrerTri(Tri tri)
-{
-    quitterFiche();
-    m_volet->montrer(tri);
-    m_ouverte = true;
-    retenirTri(tri);
-    m_courante = {};
-    // The list that was there already keeps its entry.
-    if (m_volet->liste()->choisie() > 0)
-        choisirCourante();
-    else
-        montrerPremiere();
-}
-
-void Frmmain::retenirTri(Tri tri)
-{
-    Reglages::courant().ecrire(Cle::Tris, static_cast<int>(tri));
-    Q_EMIT triChange(static_cast<int>(tri));
-}
-
-void Frmmain::montrerSelection(const QString &libelle, const std::vector<int> &albums)
-{
-    montrerTri(Tri::Albums);
-    m_volet->montrerSelection(libelle, albums);
-    m_volet->liste()->setCurrentIndex(m_volet->liste()->modele().index(0));
-}
-
-Liste Frmmain::listeMontree() const
-{
-    return m_volet->montree();
-}
-
-void Frmmain::montrerPremiere()
-{
-    qCDebug(demarrage) << "peinte";
-    VueListe *liste = m_volet->liste();
-    if (!m_ouverte)
-        return;
-    m_pied->poserTotaux();
-    if (liste->currentIndex().isValid())
-        return;
-    if (liste->modele().rowCount() == 0) {
-        oublier();
-        return;
-    }
-    choisirPremiere();
-    liste->setFocus();
-}
-
-void Frmmain::choisirPremiere()
-{
-    ListeEntrees &modele = m_volet->liste()->modele();
-    const int premiere = modele.id(modele.index(0));
-    if (premiere == 0)
-        return;
-    m_volet->liste()->choisir(premiere);
-    choisir({modele.tri(), premiere});
-}
-
-void Frmmain::montrerEntree(Entree entree)
-{
-    // An album shows beside any list that has albums; every other entry belongs to its own list.
-    if (entree.tri != Tri::Albums && entree.tri != m_volet->tri()) {
-        m_volet->montrer(entree.tri);
-        retenirTri(entree.tri);
-    }
-    if (entree.tri == m_volet->tri()) {
-        m_volet->montrerLigne(entree.id);
-        choisir(entree);
-        return;
-    }
-    m_volet->albums()->choisir(entree.id);
-    montrerFiche(entree);
-}
-
-/// An entry was chosen in a list: its sheet, and what is linked to it when the main list shows it.
-void Frmmain::choisir(Entree entree)
-{
-    if (entree.tri == m_volet->tri())
-        m_volet->montrerLies(entree);
-    montrerFiche(entree);
-}
-
-void Frmmain::montrerFiche(Entree entree)
-{
-    if (entree != m_courante)
-        quitterFiche();
-    m_courante = entree;
-    if (m_fiches->montrer(entree))
-        Q_EMIT entreeMontree(entree);
-    else
-        oublier();
-}
-
-/// What was typed into the sheet's texts is written before another sheet stands in its place.
-void Frmmain::quitterFiche()
-{
-    try {
-        m_fiches->ecrireMemos();
-    } catch (...) {
-        // The text stays, and the list stands by it.
-        if (m_courante.tri == m_volet->tri())
-            m_volet->liste()->choisir(m_courante.id);
-        throw;
-    }
-}
-
 void Frmmain::annuler()
 {
     m_fiches->ecrireMemos();
@@ -302,78 +184,14 @@ void Frmmain::retablir()
     Q_EMIT m_demandes.retablissement();
 }
 
-/// The entry shown is gone.
-void Frmmain::oublier()
-{
-    m_courante = {};
-    m_fiches->vider(m_ouverte && General::EstVierge());
-    Q_EMIT entreeMontree(m_courante);
-}
-
-void Frmmain::renommerEntree(Entree entree)
-{
-    m_volet->renommer(entree);
-}
-
-void Frmmain::ajouterEntree(Tri tri)
-{
-    if (tri != m_volet->tri())
-        montrerTri(tri);
-    m_volet->ajouter();
-}
-
-void Frmmain::ajouter(Tri tri, const QString &libelle)
-{
-    const Renommer::Ajout ajout = Renommer::AjouterEntree(tri, libelle);
-    if (ajout.id == 0)
-        return;
-    if (!ajout.nouveau)
-        Messages::Avertir(this, tr("La donnée existe déjà !"));
-    // Once the lists know of it.
-    QTimer::singleShot(0, this, [this, tri, id = ajout.id] { montrerEntree({tri, id}); });
-}
-
-void Frmmain::renommer(Tri tri, int id, const QString &libelle)
-{
-    if (id == 0)
-        return ajouter(tri, libelle);
-    if (Renommer::RenommerEntree({tri, id}, libelle) == Renommer::Renommage::Coupe)
-        dire(tr("Le titre a été coupé à 50 caractères."));
-}
-
 void Frmmain::actualiser(const Changements &changements)
 {
-    m_volet->actualiser(changements);
-    const Entree avant = m_courante;
-    // Who is no longer in the list of his kind is gone from here, though his row may stay.
-    const bool parti = avant.tri == m_volet->tri() && m_volet->liste()->modele().entrees().rang(avant.id) < 0;
-    if (parti)
-        oublier();
-    else if (m_courante.id > 0)
-        montrerFiche(m_courante);
-    if (m_courante.id == 0 && avant.id > 0 && avant.tri != m_volet->tri())
-        montrerVoisin(avant.tri);
-    if (m_courante.id == 0)
-        choisirCourante();
-    // The first entries of a collection that was empty.
-    if (m_courante.id == 0)
-        choisirPremiere();
-    m_pied->poserTotaux();
+    m_parcours->actualiser(changements);
 }
 
-/// An entry of the lower lists is gone: the one that stands in its place is shown.
-void Frmmain::montrerVoisin(Tri tri)
+Entree Frmmain::courante() const
 {
-    VueListe *liste = tri == Tri::Albums ? m_volet->albums() : m_volet->presse();
-    if (const int voisin = liste->choisie())
-        montrerFiche({tri, voisin});
-}
-
-/// Shows the sheet of the entry that the main list stands on, if it stands on one.
-void Frmmain::choisirCourante()
-{
-    if (const int courante = m_volet->liste()->choisie())
-        choisir({m_volet->tri(), courante});
+    return m_parcours->courante();
 }
 
 void Frmmain::appliquerApparence()
@@ -400,7 +218,7 @@ void Frmmain::Traduire()
     m_volet->Traduire();
     m_fiches->Traduire();
     m_pied->Traduire();
-    if (m_ouverte)
+    if (m_parcours->estOuvert())
         QTimer::singleShot(0, this, [this] { actualiser({}); });
 }
 
@@ -412,7 +230,7 @@ bool Frmmain::event(QEvent *evenement)
         m_pied->animer(false);
     else if (evenement->type() == QEvent::Paint && !std::exchange(m_peinte, true))
         // The list is on screen; only now is there time for the first sheet.
-        QTimer::singleShot(0, this, &Frmmain::montrerPremiere);
+        QTimer::singleShot(0, m_parcours, &Parcours::montrerPremiere);
     return Forme::event(evenement);
 }
 

@@ -9,13 +9,13 @@
 #include "core/ui/Liens.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
+#include "launcher/Boutons.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -99,34 +99,6 @@ protected:
     }
 };
 
-/// A group in the left column: its name at the left, on paper when it is the one shown.
-class BoutonGroupe : public QToolButton
-{
-public:
-    explicit BoutonGroupe(QWidget *parent)
-        : QToolButton(parent)
-    {
-        setCheckable(true);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        setMinimumHeight(44);
-    }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        const QColor bleu = palette().color(QPalette::Highlight);
-        const QColor papier = palette().color(QPalette::HighlightedText);
-        p.setPen(hasFocus() ? QPen(papier, 1.5) : QPen(Qt::NoPen));
-        p.setBrush(isChecked() ? papier : bleu.lighter(underMouse() ? 150 : 125));
-        p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
-        p.setPen(isChecked() ? bleu : papier);
-        p.setFont(Theme::Taille(font(), 1, isChecked() ? QFont::Bold : QFont::Normal));
-        p.drawText(rect().adjusted(Theme::Moyen, 0, -Theme::Petit, 0), Qt::AlignVCenter, text());
-    }
-};
-
 /// A text in two lines where one would be cut.
 QString enDeuxLignes(const QString &texte, const QFontMetrics &mesures, int largeur)
 {
@@ -137,51 +109,6 @@ QString enDeuxLignes(const QString &texte, const QFontMetrics &mesures, int larg
         coupe = texte.lastIndexOf(u' ', coupe - 1);
     return coupe <= 0 ? texte : texte.left(coupe) + u'\n' + texte.mid(coupe + 1);
 }
-
-/// A large button with an edge, so that it seems to stand out.
-class GrosBouton : public QToolButton
-{
-public:
-    explicit GrosBouton(QWidget *parent)
-        : QToolButton(parent)
-    {
-        setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        setIconSize({34, 34});
-        setMinimumSize(170, 96);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    }
-
-protected:
-    void paintEvent(QPaintEvent *evenement) override
-    {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        const QRectF r = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -3.5);
-        const bool enfonce = isDown();
-        p.setPen(Qt::NoPen);
-        p.setBrush(palette().color(QPalette::Shadow));
-        if (!enfonce)
-            p.drawRoundedRect(r.translated(0, 3), 8, 8);
-        QLinearGradient fond(r.topLeft(), r.bottomLeft());
-        fond.setColorAt(0, palette().color(QPalette::Base));
-        fond.setColorAt(1, palette().color(QPalette::Midlight));
-        p.setPen(isChecked() ? QPen(Theme::Bleu(palette()), 2) : QPen(Theme::Trait(palette())));
-        p.setBrush(fond);
-        p.drawRoundedRect(enfonce ? r.translated(0, 2) : r, 8, 8);
-        p.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-        const QRect icone(
-            QPoint((width() - iconSize().width()) / 2, height() / 2 - iconSize().height() + 2), iconSize());
-        icon().paint(&p, icone, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-        p.drawText(rect().adjusted(6, height() / 2 + 8, -6, -8),
-            int(Qt::AlignHCenter) | Qt::AlignTop | Qt::TextWordWrap, text());
-        if (hasFocus()) {
-            p.setPen(QPen(Theme::Bleu(palette()), 1.5, Qt::DotLine));
-            p.setBrush(Qt::NoBrush);
-            p.drawRoundedRect(r.adjusted(4, 4, -4, -4), 5, 5);
-        }
-        evenement->accept();
-    }
-};
 
 }
 
