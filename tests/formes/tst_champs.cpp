@@ -16,6 +16,7 @@ constexpr const char *TousLesCas = R"(
 0;NbPage;Saisir;;Album.NbPage
 0;PrixA;Saisir;12,5;Album.PrixA;12.5;12,50 €
 0;PrixA;Saisir;1 012.25 €;Album.PrixA;1012.25;1 012,25 €
+0;PrixA;Saisir;;Album.PrixA
 0;DepotLegale;Saisir;  mai 1901 ;Album.DepotL;mai 1901
 0;Dedi(0);Saisir;À l'ami;LAlbums.dedi1
 0;Dedi(1);Saisir;dessin.PNG;LAlbums.dedi2
