@@ -78,28 +78,6 @@ private Q_SLOTS:
         QCOMPARE(noms(base.read("SELECT Nom FROM Genre ORDER BY NGenre")), attendus);
     }
 
-    void lAjoutEtLEditionLaissentLeurSignet()
-    {
-        const Bac bac;
-        Base base;
-        remplirGenres(2);
-        auto rs = base.edit("Genre");
-        rs.AddNew();
-        rs.SetField(0, 7);
-        rs.SetField("NOM", "Humour");
-        rs.Update();
-        QCOMPARE(rs.Fields("Nom"), "a01");
-        rs.SetBookmark(rs.LastModified());
-        QCOMPARE(rs.Fields("Nom"), "Humour");
-        rs.Edit();
-        rs.SetField(1, "Essai");
-        rs.SetField("nom", "Western");
-        rs.Update();
-        QCOMPARE(rs.LastModified(), 7);
-        QCOMPARE(rs.Fields(1), "Western");
-        QCOMPARE(rs.RecordCount(), 3);
-    }
-
     void leNombreDeLignesEstEntierEtApresLaFinIlNYAPlusDeLigne()
     {
         const Bac bac;

@@ -187,20 +187,6 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(ici + "copie en cours.tmp"));
         QCOMPARE(Bac::lire(ici + "liste.txt").count('\n'), 2);
     }
-
-    void laDerniereSaineEstTrouvee()
-    {
-        Etabli e;
-        e.ecrire(3);
-        const auto liste = Sauvegardes::Lister();
-        QByteArray octets = Bac::lire(liste[0].chemin);
-        Bac::ecrire(liste[0].chemin, octets.replace(4096, 40'000, QByteArray(40'000, '\x5A')));
-        Bac::ecrire(liste[1].chemin, "plus rien");
-        QCOMPARE(Sauvegardes::Lister()[1].albums, -1);
-        QCOMPARE(Sauvegardes::DerniereSaine(), liste[2].chemin);
-        QFile::remove(liste[2].chemin);
-        QCOMPARE(Sauvegardes::DerniereSaine(), "");
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_sauvegardes)

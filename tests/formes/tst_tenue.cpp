@@ -17,16 +17,27 @@
 
 namespace {
 
-/// Opens a form as the program does; the two that edit a field come by a field of the sheet.
-QWidget *afficher(Seance &s, const QByteArray &nom)
+/// The names of all forms.
+QByteArrayList noms()
 {
-    const bool champ = nom.startsWith("FrmModif");
-    if (champ) {
+    QByteArrayList tous;
+    const QMetaEnum formes = QMetaEnum::fromType<Forme::Nom>();
+    for (int i = 0; i < formes.keyCount(); ++i)
+        tous << formes.key(i);
+    return tous;
+}
+
+/// Opens a form as the program does; the two that edit a field come by a field of the sheet.
+QWidget *montrer(const Seance &s, const QByteArray &nom)
+{
+    const int forme = QMetaEnum::fromType<Forme::Nom>().keyToValue(nom);
+    if (nom.startsWith("FrmModif"))
         QTest::mouseClick(Seance::trouver<QWidget>(nom == "FrmModif" ? "Scena" : "PrixA"), Qt::LeftButton);
-    } else if (nom != "Frmmain") {
-        Q_EMIT s.demandes().forme(static_cast<Forme::Nom>(QMetaEnum::fromType<Forme::Nom>().keyToValue(nom)));
-    }
-    QTest::qWait(30);
+    else if (nom != "Frmmain")
+        Q_EMIT s.demandes().forme(Forme::Nom(forme));
+    if (!QTest::qWaitFor([&] { return Seance::visible(nom); }))
+        qFatal("%s", nom.constData());
+    QCoreApplication::processEvents();
     return Seance::fenetre(nom);
 }
 
@@ -131,79 +142,59 @@ class tst_tenue : public QObject, private Gestes
     Q_OBJECT
 
 private Q_SLOTS:
-    void leClavierVaPartout_data() { formes(); }
-
     void leClavierVaPartout()
     {
-        QFETCH(QByteArray, nom);
         Ouverte s;
-        QWidget *forme = afficher(s, nom);
-        QVERIFY(forme && forme->isVisible());
-        forme->activateWindow();
-        QTRY_VERIFY(forme->isActiveWindow());
-        const QSet<QWidget *> atteints = parcourir(forme);
-        QVERIFY(atteints.size() > 1);
         QStringList hors;
         QStringList anonymes;
         QStringList muets;
-        for (QWidget *w : forme->findChildren<QWidget *>()) {
-            if (!estUnControle(w))
-                continue;
-            if (w->accessibleName().isEmpty())
-                anonymes << nomDe(w);
-            const bool atteint = atteints.contains(w) || estAtteintParUnAutre(w, atteints);
-            if (!atteint)
-                hors << nomDe(w);
-            if (!atteints.contains(w))
-                continue;
-            forme->setFocus();
-            const QImage sans = w->grab().toImage();
-            w->setFocus(Qt::TabFocusReason);
-            if (w->hasFocus() && w->grab().toImage() == sans)
-                muets << nomDe(w);
+        for (const QByteArray &nom : noms()) {
+            QWidget *forme = montrer(s, nom);
+            forme->activateWindow();
+            QVERIFY2(QTest::qWaitForWindowActive(forme), nom);
+            const QSet<QWidget *> atteints = parcourir(forme);
+            QVERIFY2(atteints.size() > 1, nom);
+            for (QWidget *w : forme->findChildren<QWidget *>()) {
+                if (!estUnControle(w))
+                    continue;
+                const QString lui = nom + u' ' + nomDe(w);
+                if (w->accessibleName().isEmpty())
+                    anonymes << lui;
+                if (!atteints.contains(w) && !estAtteintParUnAutre(w, atteints))
+                    hors << lui;
+                if (!atteints.contains(w))
+                    continue;
+                forme->setFocus();
+                const QImage sans = w->grab().toImage();
+                w->setFocus(Qt::TabFocusReason);
+                if (w->hasFocus() && w->grab().toImage() == sans)
+                    muets << lui;
+            }
+            if (nom != "Frmmain")
+                forme->close();
         }
         QVERIFY2(anonymes.isEmpty(), qPrintable(anonymes.join(u'\n')));
         QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
         QVERIFY2(muets.isEmpty(), qPrintable(muets.join(u'\n')));
     }
 
-    void aucuneLegendeNEstCoupee_data()
-    {
-        QTest::addColumn<QString>("langue");
-        for (const char *langue : {"Français", "English", "Deutsch", "Español", "Italiano", "Nederlands"})
-            QTest::newRow(langue) << QString::fromUtf8(langue) + QStringLiteral(".lng");
-    }
-
     void aucuneLegendeNEstCoupee()
     {
-        QFETCH(QString, langue);
         Ouverte s;
-        Q_EMIT s.demandes().langue(langue);
-        fenetre("Frmmain")->resize(1280, 800);
         QStringList coupees;
-        const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
-        for (int i = 0; i < noms.keyCount(); ++i) {
-            QWidget *forme = afficher(s, noms.key(i));
-            // A layout follows its texts from the event loop.
-            QStringList ici = coupeesDans(forme);
-            for (int essai = 0; !ici.isEmpty() && essai < 40; ++essai) {
-                QTest::qWait(50);
-                ici = coupeesDans(forme);
+        for (const QString &langue : Traduction::Langues()) {
+            Q_EMIT s.demandes().langue(langue);
+            fenetre("Frmmain")->resize(1280, 800);
+            for (const QByteArray &nom : noms()) {
+                QWidget *forme = montrer(s, nom);
+                // A layout follows its texts from the event loop.
+                if (!QTest::qWaitFor([&] { return coupeesDans(forme).isEmpty(); }, 2000))
+                    coupees << langue << coupeesDans(forme);
+                if (nom != "Frmmain")
+                    forme->close();
             }
-            coupees << ici;
-            if (i > 0)
-                forme->close();
         }
         QVERIFY2(coupees.isEmpty(), qPrintable(coupees.join(u'\n')));
-    }
-
-private:
-    static void formes()
-    {
-        QTest::addColumn<QByteArray>("nom");
-        const QMetaEnum noms = QMetaEnum::fromType<Forme::Nom>();
-        for (int i = 0; i < noms.keyCount(); ++i)
-            QTest::newRow(noms.key(i)) << QByteArray(noms.key(i));
     }
 };
 

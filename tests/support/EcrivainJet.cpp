@@ -48,7 +48,7 @@ void poser(QByteArray &page, qsizetype position, Entier valeur)
     qToLittleEndian(valeur, page.data() + position);
 }
 
-/// RC4, by which the format masks its header and codes its pages.
+/// RC4, by which the format masks its header.
 void brouiller(QByteArray &page, qsizetype debut, qsizetype longueur, quint32 cle)
 {
     const QByteArray c = octets(cle);
@@ -124,37 +124,16 @@ bool estVariable(Type type)
 
 qsizetype largeur(Type type)
 {
-    switch (type) {
-    case Type::Court:
-        return 2;
-    case Type::Long:
-        return 4;
-    case Type::Monnaie:
-    case Type::Double:
-    case Type::Date:
-        return 8;
-    case Type::Texte:
-        return 510;
-    default:
-        return 0;
-    }
+    static const QMap<Type, qsizetype> Largeurs{{Type::Court, 2}, {Type::Long, 4}, {Type::Monnaie, 8},
+        {Type::Double, 8}, {Type::Date, 8}, {Type::Texte, 510}};
+    return Largeurs.value(type);
 }
 
 QByteArray fixe(Type type, const QVariant &valeur)
 {
-    switch (type) {
-    case Type::Court:
-        return octets(static_cast<qint16>(valeur.toInt()));
-    case Type::Long:
-        return octets(static_cast<qint32>(valeur.toLongLong()));
-    case Type::Monnaie:
-        return octets(valeur.toLongLong());
-    case Type::Double:
-    case Type::Date:
-        return octets(std::bit_cast<quint64>(valeur.toDouble()));
-    default:
-        return {};
-    }
+    const bool reel = type == Type::Double || type == Type::Date;
+    const auto bits = std::bit_cast<quint64>(valeur.toDouble());
+    return octets(reel ? bits : static_cast<quint64>(valeur.toLongLong())).left(largeur(type));
 }
 
 /// The file as it grows.
@@ -179,7 +158,6 @@ public:
         for (qsizetype i = 0; i < tables.size(); ++i)
             pages << ecrireRangees(tables[i], PremiereTable + i);
         ecrireDefinitions(tables, pages);
-        chiffrer();
         return m_pages.join();
     }
 
@@ -344,12 +322,6 @@ private:
         const quint32 vide = cartes.ranger(carte({}));
         for (qsizetype i = 0; i < tables.size(); ++i)
             m_pages[PremiereTable + i] = definition(tables[i], cartes.ranger(carte(pages[i])), vide);
-    }
-
-    void chiffrer()
-    {
-        for (qsizetype i = 1; i < m_pages.size() && m_fichier.codee; ++i)
-            brouiller(m_pages[i], 0, m_format.page, CleDeLEssai ^ static_cast<quint32>(i));
     }
 
     const EcrivainJet::Fichier &m_fichier;

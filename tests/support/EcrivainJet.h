@@ -40,7 +40,7 @@ struct Table
 struct Fichier
 {
     QList<Table> tables;
-    bool codee = false; ///< the pages, by a key of the header, in the way of the format
+    bool codee = false; ///< says so in its header, by a key; the pages stay as they are
     bool jet3 = false; ///< the older one: smaller pages, texts in a code page (Windows-1252)
 };
 
