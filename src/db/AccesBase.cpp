@@ -10,7 +10,7 @@ namespace {
 /// Every name that goes into a query as text passes here.
 const QString &connu(const QString &table, const QString &champ)
 {
-    Q_ASSERT_X(Schema::Champs(table).contains(champ, Qt::CaseInsensitive), "AccesBase",
+    Q_ASSERT_X(Schema::Colonnes(table).contains(champ, Qt::CaseInsensitive), "AccesBase",
         qPrintable(table + u'.' + champ));
     return table;
 }
@@ -50,7 +50,7 @@ int AccesBase::NouvelIdentifiant(const QString &table, const QString &champ)
 QStringList AccesBase::LireNoms(const QString &table)
 {
     const Base base;
-    const QString nom = Schema::Champs(table).at(1);
+    const QString nom = Schema::Colonnes(table).at(1);
     QStringList noms;
     for (auto rs = base.read(QStringLiteral("SELECT %1 From %2 order by %1 asc").arg(nom, table));
          !rs.AtEnd(); rs.MoveNext())

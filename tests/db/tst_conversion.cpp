@@ -80,7 +80,7 @@ QStringList attendues(const Schema::Table &table, QString &champs)
     Csv::Lire(materiel(QString("expected/%1.csv").arg(table.nom)), [&](const Csv::Rangee &r) {
         champs = r.entete->join(", ");
         QStringList ligne;
-        for (const Schema::Champ &champ : table.champs) {
+        for (const Schema::Colonne &champ : table.colonnes) {
             if (r.entete->contains(QLatin1String(champ.nom)))
                 ligne << attendue(r[QLatin1String(champ.nom)], champ.type);
         }

@@ -22,7 +22,7 @@ private Q_SLOTS:
 void tst_fiche::lesDescriptionsNommentCeQuAUnSchema()
 {
     const auto a = [](const char *table, const char *colonne) {
-        return Schema::Champs(QLatin1String(table)).contains(QLatin1String(colonne));
+        return Schema::Colonnes(QLatin1String(table)).contains(QLatin1String(colonne));
     };
     for (const Champ &champ : Tous) {
         QVERIFY2(Chercher(champ.feuille, champ.nom) == &champ, champ.nom);

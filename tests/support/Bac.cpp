@@ -94,7 +94,7 @@ QStringList Bac::toutLire()
     QStringList lignes;
     const QStringList tables = Schema::Tables();
     for (const QString &table : tables) {
-        const QString valeurs = "quote(" + Schema::Champs(table).join(") || '|' || quote(") + u')';
+        const QString valeurs = "quote(" + Schema::Colonnes(table).join(") || '|' || quote(") + u')';
         const QString sql = "SELECT '%1|' || rowid || '|' || %2 FROM %1 ORDER BY rowid";
         for (auto rs = base.OpenRecordset(sql.arg(table, valeurs)); !rs.AtEnd(); rs.MoveNext())
             lignes << rs.Fields(0).toString();

@@ -31,7 +31,7 @@ EcrivainJet::Table EcrivainJet::DuSchema(const QString &nom)
     tables << Schema::DefinitionDuCatalogue();
     Table table{nom, {}, {}};
     for (const Schema::Table &definie : std::as_const(tables)) {
-        for (const Schema::Champ &champ : definie.champs) {
+        for (const Schema::Colonne &champ : definie.colonnes) {
             if (nom == QLatin1String(definie.nom))
                 table.champs.append({champ.nom, typeDe(champ.type, champ.nom)});
         }

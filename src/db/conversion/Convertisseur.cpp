@@ -99,7 +99,7 @@ private:
     {
         Paire paire{&table, m_jet.ouvrir(QLatin1String(table.nom)), {}};
         std::vector<bool> pris(paire.source->champs().size());
-        for (const Schema::Champ &champ : table.champs) {
+        for (const Schema::Colonne &champ : table.colonnes) {
             paire.champs.push_back(trouverChamp(*paire.source, champ.nom));
             if (paire.champs.back())
                 pris[*paire.champs.back()] = true;
@@ -162,7 +162,7 @@ public:
     }
 
 private:
-    const Schema::Champ &champ(std::size_t i) const { return m_paire.cible->champs[i]; }
+    const Schema::Colonne &champ(std::size_t i) const { return m_paire.cible->colonnes[i]; }
 
     /// True when the row is kept.
     bool reporterLigne()

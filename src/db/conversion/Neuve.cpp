@@ -31,11 +31,11 @@ QString instructionDAjout(const Schema::Table &table)
 {
     QStringList champs;
     QStringList places;
-    for (const Schema::Champ &champ : table.champs) {
+    for (const Schema::Colonne &champ : table.colonnes) {
         champs << QLatin1String(champ.nom);
         places << QStringLiteral("?");
     }
-    const bool cle = table.champs.front().type == Schema::Type::Cle;
+    const bool cle = table.colonnes.front().type == Schema::Type::Cle;
     return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
                .arg(QLatin1String(table.nom), champs.join(QStringLiteral(", ")),
                    places.join(QStringLiteral(", ")))

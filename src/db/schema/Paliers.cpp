@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <array>
 
-using Schema::Champ;
+using Schema::Colonne;
 using Schema::Table;
 using Schema::Type;
 
@@ -76,10 +76,10 @@ std::array<Declencheur, 4> declencheurs()
         Declencheur{"CleTomeAlbum", "AFTER UPDATE OF NAlbum ON Album", album}};
 }
 
-QString declaration(const Champ &champ)
+QString declaration(const Colonne &colonne)
 {
-    const QString nom = QLatin1String(champ.nom);
-    switch (champ.type) {
+    const QString nom = QLatin1String(colonne.nom);
+    switch (colonne.type) {
     case Type::Cle:
         return nom + QStringLiteral(" INTEGER PRIMARY KEY");
     case Type::Entier:
@@ -98,11 +98,11 @@ QString declaration(const Champ &champ)
 
 QString creation(const Table &table)
 {
-    QStringList champs;
-    for (const Champ &champ : table.champs)
-        champs << declaration(champ);
+    QStringList colonnes;
+    for (const Colonne &colonne : table.colonnes)
+        colonnes << declaration(colonne);
     return QStringLiteral("CREATE TABLE %1 (%2) STRICT")
-        .arg(QLatin1String(table.nom), champs.join(QStringLiteral(", ")));
+        .arg(QLatin1String(table.nom), colonnes.join(QStringLiteral(", ")));
 }
 
 /// An index or a rule by its name, and the statement that makes it, in the engine's own writing.
@@ -130,28 +130,34 @@ std::vector<Complement> complements()
     return tous;
 }
 
-bool aLeChamp(SQLite::Database &db, const char *table, const char *champ)
+bool aLaColonne(SQLite::Database &db, const Table &table, const Colonne &colonne)
 {
     SQLite::Statement cherche(db, "SELECT 1 FROM pragma_table_info(?) WHERE name = ? COLLATE NOCASE");
-    cherche.bind(1, table);
-    cherche.bind(2, champ);
+    cherche.bind(1, table.nom);
+    cherche.bind(2, colonne.nom);
     return cherche.executeStep();
 }
 
-/// Adds a field of the schema that the table lacks; false when it is there.
-bool ajouterChamp(SQLite::Database &db, const char *nomTable, const char *nomChamp)
+void ajouterColonne(SQLite::Database &db, const Table &table, const Colonne &colonne)
 {
-    if (aLeChamp(db, nomTable, nomChamp))
-        return false;
-    const auto &tables = Schema::Definitions();
-    const auto table = std::find_if(
-        tables.begin(), tables.end(), [&](const Table &t) { return qstrcmp(t.nom, nomTable) == 0; });
-    const auto champ = std::find_if(table->champs.begin(), table->champs.end(),
-        [&](const Champ &c) { return qstrcmp(c.nom, nomChamp) == 0; });
-    db.exec(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2")
-                .arg(QLatin1String(nomTable), declaration(*champ))
-                .toStdString());
-    return true;
+    const QString nom = QLatin1String(table.nom);
+    db.exec(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(nom, declaration(colonne)).toStdString());
+    // Rows older than the column must hold its default, or the journal would see Null there.
+    if (colonne.type == Type::Booleen)
+        db.exec(QStringLiteral("UPDATE %1 SET %2 = %2").arg(nom, QLatin1String(colonne.nom)).toStdString());
+}
+
+/// Adds the tables and columns that came with a step, unless they are there.
+void ajouterNouveautes(SQLite::Database &db, int palier)
+{
+    for (const Table &table : Schema::Definitions()) {
+        if (table.depuis == palier && !db.tableExists(table.nom))
+            db.exec(creation(table).toStdString());
+        for (const Colonne &colonne : table.colonnes) {
+            if (table.depuis < palier && colonne.depuis == palier && !aLaColonne(db, table, colonne))
+                ajouterColonne(db, table, colonne);
+        }
+    }
 }
 
 /// Whatever the file has under the name of an index or a rule becomes what it should be.
@@ -176,10 +182,7 @@ void completer(SQLite::Database &db)
 {
     for (const Declencheur &d : declencheurs())
         db.exec(std::string("DROP TRIGGER IF EXISTS ") + d.nom);
-    ajouterChamp(db, "SerieAlbums", "NumeroAlbum2");
-    // Rows older than the field must hold it, or the journal would see Null where the default stands.
-    if (ajouterChamp(db, "Album", "Coffret"))
-        db.exec("UPDATE Album SET Coffret = Coffret");
+    ajouterNouveautes(db, 2);
     db.exec("UPDATE SerieAlbums SET NumeroAlbum2 = char(65 + Album.NAlbum) FROM Album"
             " WHERE Album.Num = SerieAlbums.NAlbum AND Album.NAlbum BETWEEN 0 AND 190"
             " AND NumeroAlbum2 IS NOT char(65 + Album.NAlbum)");

@@ -1,6 +1,6 @@
 #include "db/schema/Tables.h"
 
-using Schema::Champ;
+using Schema::Colonne;
 using Schema::Table;
 using Schema::Type;
 
@@ -28,7 +28,7 @@ const std::vector<Schema::Table> &Schema::Definitions()
                 {"Commentaire", Texte}, {"NPays", Entier}, {"DepotL", Texte}, {"Dateparu", Texte},
                 {"NCouverture", Entier}, {"DPret", Texte}, {"NPret", Entier}, {"DA", Texte},
                 {"PrixA", Montant}, {"Broche", Booleen}, {"Couleur", Entier}, {"Integrale", Booleen},
-                {"SerieLim", Booleen}, {"EDitOrig", Booleen}, {"HSerie", Booleen}, {"Coffret", Booleen}}},
+                {"SerieLim", Booleen}, {"EDitOrig", Booleen}, {"HSerie", Booleen}, {"Coffret", Booleen, 2}}},
         {"LAlbums",
             {{"NAlbum", Cle}, {"TAlbum", Nom}, {"Photo1", Texte}, {"Photo2", Texte}, {"Histoire", Texte},
                 {"dedi1", Texte}, {"dedi2", Texte}, {"LieuD", Texte}, {"DateD", Texte}, {"EtatD", Texte}}},
@@ -62,7 +62,7 @@ const std::vector<Schema::Table> &Schema::Definitions()
                 {"DAchat", Texte}, {"Comm", Texte}, {"Photo1", Texte}, {"Photo2", Texte}}},
         {"Inter", {{"NInter", Cle}, {"Nom", Nom}, {"Prenom", Nom}}},
         {"Metier", {{"NMetier", Cle}, {"Nom", Nom}}},
-        {"SerieAlbums", {{"NSerie", Entier}, {"NAlbum", Entier}, {"NumeroAlbum2", Texte}}},
+        {"SerieAlbums", {{"NSerie", Entier}, {"NAlbum", Entier}, {"NumeroAlbum2", Texte, 2}}},
         {"GenreAlbums", {{"NGenre", Entier}, {"NAlbum", Entier}}},
         {"EditeurAlbums", {{"NEdit", Entier}, {"NAlbum", Entier}}},
         {"CollAlbums", {{"NColl", Entier}, {"NAlbum", Entier}}},
@@ -97,12 +97,12 @@ QStringList Schema::Tables(int palier)
     return noms;
 }
 
-QStringList Schema::Champs(const QString &table)
+QStringList Schema::Colonnes(const QString &table)
 {
     QStringList noms;
     if (const Table *trouvee = chercher(table)) {
-        for (const Champ &champ : trouvee->champs)
-            noms << QLatin1String(champ.nom);
+        for (const Colonne &colonne : trouvee->colonnes)
+            noms << QLatin1String(colonne.nom);
     }
     return noms;
 }
@@ -111,11 +111,11 @@ QVariantList Schema::Blanc(const QString &table)
 {
     QVariantList valeurs;
     if (const Table *trouvee = chercher(table)) {
-        for (const Champ &champ : trouvee->champs) {
-            const bool texte = champ.type == Type::Texte || champ.type == Type::Nom;
-            valeurs << (texte                     ? QVariant(QStringLiteral(" "))
-                    : champ.type == Type::Booleen ? QVariant(false)
-                                                  : QVariant(0));
+        for (const Colonne &colonne : trouvee->colonnes) {
+            const bool texte = colonne.type == Type::Texte || colonne.type == Type::Nom;
+            valeurs << (texte                       ? QVariant(QStringLiteral(" "))
+                    : colonne.type == Type::Booleen ? QVariant(false)
+                                                    : QVariant(0));
         }
     }
     return valeurs;

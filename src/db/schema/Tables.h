@@ -7,22 +7,23 @@
 #include <QVariantList>
 #include <vector>
 
-/// The tables of the collection: one place says which there are and what their fields hold.
+/// The tables of the collection: one place says which there are and what their columns hold.
 namespace Schema {
 
-/// What a field holds: an identifier, a whole number, -1 or 0, an amount, a text, a text that sorts as a name.
+/// What a column holds: an identifier, a whole number, -1 or 0, an amount, a text, a text that sorts as a name.
 enum class Type { Cle, Entier, Booleen, Montant, Texte, Nom };
 
-struct Champ
+struct Colonne
 {
     const char *nom;
     Type type;
+    int depuis = Version::PremierPalier; ///< the step that brought it
 };
 
 struct Table
 {
     const char *nom;
-    std::vector<Champ> champs;
+    std::vector<Colonne> colonnes;
     int depuis = Version::PremierPalier; ///< the step that brought it
 };
 
@@ -33,9 +34,9 @@ const Table &DefinitionDuCatalogue();
 
 /// The tables that a collection of this step has.
 QStringList Tables(int palier = Version::DernierPalier);
-/// Fields of a table in their order; empty when there is no such table. Names are matched without case.
-QStringList Champs(const QString &table);
-/// What a new row holds in each of its fields until more is known: a blank, 0, no flag.
+/// The columns of a table in their order; none when there is no such table. Names are matched without case.
+QStringList Colonnes(const QString &table);
+/// What a new row holds in each of its columns until more is known: a blank, 0, no flag.
 QVariantList Blanc(const QString &table);
 
 }
