@@ -200,7 +200,7 @@ void chargerFicheDe(benchmark::State &etat)
     const Terrain terrain(static_cast<int>(etat.range(0)));
     const auto tri = General::TriDe(static_cast<int>(etat.range(1)));
     for (auto _ : etat) {
-        benchmark::DoNotOptimize(Fiche::Lire(General::GenreDe(tri).feuille, 1));
+        benchmark::DoNotOptimize(Fiche::Lire(General::ListeDe(tri).feuille, 1));
         if (tri >= General::Tri::Dessinateurs && tri <= General::Tri::Coloristes)
             benchmark::DoNotOptimize(ChargerAuteurs::LireMetiers(1, tri).titre);
     }

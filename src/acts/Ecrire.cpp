@@ -126,7 +126,7 @@ QString Ecrire::LibelleDe(const Edition &edition)
 QString Ecrire::RaisonSiAbsente(const Edition &edition)
 {
     const Champ *champ = ChampDe(edition);
-    const Champs::Feuille feuille = General::GenreDe(edition.entree.tri).feuille;
+    const Champs::Feuille feuille = General::ListeDe(edition.entree.tri).feuille;
     const int id = edition.entree.id;
     return Fiche::Existe(feuille, id) && (!champ || Fiche::Existe(feuille, id, champ->table))
         ? QString()

@@ -70,7 +70,7 @@ void EcrireFiche::PoserMetiers(int auteur, const QString &metiers)
     if (rs.RecordCount() == 0)
         return;
     rs.Edit();
-    for (const Especes::Metier &metier : Especes::Metiers)
+    for (const Especes::Metier &metier : Especes::TousLesMetiers)
         rs.SetField(AccesBase::NomDuRole(metier.role), metiers.contains(QString::fromUtf8(metier.mot)));
     rs.Update();
 }

@@ -129,7 +129,7 @@ Renommage Renommer::RenommerEntree(Entree entree, const QString &libelle)
     const QString net = libelle.trimmed();
     if (net.isEmpty())
         return Renommage::Rien;
-    const Champs::Champ &champ = Champs::DuNom(General::GenreDe(entree.tri).feuille);
+    const Champs::Champ &champ = Champs::DuNom(General::ListeDe(entree.tri).feuille);
     Renommage fait = Renommage::Rien;
     Ecrire::EnUnActe({entree, &champ}, libelle, [&](Base &) {
         fait = ecrireLibelle(champ, entree.id, net);
@@ -144,7 +144,7 @@ Ajout Renommer::AjouterEntree(Tri tri, const QString &libelle)
     if (net.isEmpty() || tri == Tri::Albums)
         return {};
     Acte acte(texte(Txt::Ajouter) + QStringLiteral(": ") + libelle.simplified());
-    const auto role = General::GenreDe(tri).role;
+    const auto role = General::ListeDe(tri).role;
     const Ajout ajout = role ? ajouterAuteur(acte.base(), *role, net) : ajouterNomme(acte.base(), tri, net);
     acte.placer({tri, ajout.id});
     acte.valider();

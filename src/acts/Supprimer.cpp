@@ -31,7 +31,7 @@ void Supprimer::SupprimerEntree(General::Entree entree)
 {
     Acte acte(
         texte(Txt::Supprimer) + QStringLiteral(": ") + General::LireTexte(entree.tri, entree.id), entree);
-    if (const auto role = General::GenreDe(entree.tri).role)
+    if (const auto role = General::ListeDe(entree.tri).role)
         oterMetier(acte.base(), entree.id, *role);
     else
         oterLignes(entree);

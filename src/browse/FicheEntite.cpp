@@ -195,7 +195,7 @@ QWidget *FicheEntite::construireMemos()
 void FicheEntite::Traduire()
 {
     FicheForme::Traduire();
-    m_genre->setText(texte(General::GenreDe(m_tri).bouton));
+    m_genre->setText(texte(General::ListeDe(m_tri).bouton));
     for (const auto &[titre, numero] : m_titres)
         titre->setText(texte(numero));
     m_albums->setAccessibleName(texte(Txt::ListeDesAlbums));
@@ -205,7 +205,7 @@ void FicheEntite::Traduire()
 void FicheEntite::montrer(General::Entree entree, const Valeurs &valeurs, const Entrees &albums)
 {
     m_tri = entree.tri;
-    m_genre->setText(texte(General::GenreDe(m_tri).bouton));
+    m_genre->setText(texte(General::ListeDe(m_tri).bouton));
     montrerValeurs(entree, valeurs);
     m_albums->montrer(albums);
     m_albums->setVisible(!albums.empty());
@@ -220,7 +220,7 @@ void FicheEntite::remontrer()
         montrerMetiers(m_metiersLus);
 }
 
-void FicheEntite::montrerMetiers(const ChargerAuteurs::Metiers &metiers)
+void FicheEntite::montrerMetiers(const ChargerAuteurs::ZoneMetiers &metiers)
 {
     m_metiersLus = metiers;
     m_metier->setText(texte(metiers.titre));

@@ -22,7 +22,7 @@ public:
 
     void montrer(General::Entree entree, const Valeurs &valeurs, const Entrees &albums);
     /// The trades area of an author.
-    void montrerMetiers(const ChargerAuteurs::Metiers &metiers);
+    void montrerMetiers(const ChargerAuteurs::ZoneMetiers &metiers);
 
 protected:
     void Traduire() override;
@@ -45,7 +45,7 @@ private:
     QLabel *m_nombre = nullptr;
     TitreGroupe *m_metier = nullptr;
     QCheckBox *m_metiers[2] = {};
-    ChargerAuteurs::Metiers m_metiersLus{};
+    ChargerAuteurs::ZoneMetiers m_metiersLus{};
     Etagere *m_albums = nullptr;
     General::Tri m_tri = General::Tri::Albums;
 };

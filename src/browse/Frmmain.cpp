@@ -184,11 +184,6 @@ void Frmmain::retablir()
     Q_EMIT m_demandes.retablissement();
 }
 
-void Frmmain::actualiser(const Changements &changements)
-{
-    m_parcours->actualiser(changements);
-}
-
 Entree Frmmain::courante() const
 {
     return m_parcours->courante();
@@ -197,7 +192,7 @@ Entree Frmmain::courante() const
 void Frmmain::appliquerApparence()
 {
     m_volet->appliquerApparence();
-    m_fiches->AppliquerPolices();
+    m_fiches->appliquerPolices();
     m_fond->charger();
 }
 
@@ -219,7 +214,7 @@ void Frmmain::Traduire()
     m_fiches->Traduire();
     m_pied->Traduire();
     if (m_parcours->estOuvert())
-        QTimer::singleShot(0, this, [this] { actualiser({}); });
+        QTimer::singleShot(0, this, [this] { m_parcours->actualiser({}); });
 }
 
 bool Frmmain::event(QEvent *evenement)

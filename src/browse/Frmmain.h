@@ -27,7 +27,6 @@ public:
     Parcours &parcours() const { return *m_parcours; }
     General::Entree courante() const;
 
-    void actualiser(const Changements &changements) override;
     void appliquerApparence() override;
     void dire(const QString &message);
     /// Titles of the steps that undo and redo would take next; empty where there is none.

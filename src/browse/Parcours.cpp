@@ -28,6 +28,7 @@ Parcours::Parcours(VoletListes &volet, PileFiches &fiches, Pied &pied, QObject *
     , m_fiches(fiches)
     , m_pied(pied)
 {
+    connect(&Annonces::courant(), &Annonces::changee, this, &Parcours::actualiser);
     connect(&m_volet, &VoletListes::triDemande, this, &Parcours::montrerTri);
     connect(&m_volet, &VoletListes::entreeChoisie, this, &Parcours::choisir);
     connect(&m_volet, &VoletListes::renommageDemande, this, &Parcours::renommer);
@@ -69,7 +70,7 @@ void Parcours::montrerSelection(const QString &libelle, const std::vector<int> &
     m_volet.liste()->setCurrentIndex(m_volet.liste()->modele().index(0));
 }
 
-Liste Parcours::listeMontree() const
+Selection Parcours::listeMontree() const
 {
     return m_volet.montree();
 }

@@ -36,7 +36,7 @@ public:
     void actualiser(const Changements &changements);
 
     /// What the main list shows.
-    General::Liste listeMontree() const;
+    General::Selection listeMontree() const;
     /// The entry whose sheet is shown; its identifier is 0 when there is none.
     General::Entree courante() const { return m_courante; }
 

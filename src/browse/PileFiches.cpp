@@ -17,7 +17,7 @@ bool PileFiches::montrer(General::Entree entree)
 {
     if (entree.tri == General::Tri::Albums)
         return montrerAlbum(entree.id);
-    const Champs::Feuille feuille = General::GenreDe(entree.tri).feuille;
+    const Champs::Feuille feuille = General::ListeDe(entree.tri).feuille;
     const auto valeurs = Fiche::Lire(feuille, entree.id);
     if (!valeurs)
         return false;
@@ -84,7 +84,7 @@ void PileFiches::poserDefilement(bool defile)
         m_album->poserDefilement(defile);
 }
 
-void PileFiches::AppliquerPolices()
+void PileFiches::appliquerPolices()
 {
     if (m_album)
         m_album->AppliquerPolicesFiche();

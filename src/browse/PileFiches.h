@@ -29,7 +29,7 @@ public:
     void oublierMemos();
     /// Slideshow of the album's covers.
     void poserDefilement(bool defile);
-    void AppliquerPolices();
+    void appliquerPolices();
     void Traduire();
 
 private:

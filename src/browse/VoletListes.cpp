@@ -79,7 +79,7 @@ QWidget *VoletListes::construireTris()
     auto *groupe = new QButtonGroup(this);
     for (int i = 0; i < NombreDeTris; ++i) {
         auto *bouton = nommer(new QToolButton(zone), QStringLiteral("Tris"), i);
-        bouton->setIcon(Icones::Charger(QString::fromLatin1(GenreDe(TriDe(i)).icone)));
+        bouton->setIcon(Icones::Charger(QString::fromLatin1(ListeDe(TriDe(i)).icone)));
         bouton->setIconSize({20, 20});
         bouton->setFixedSize(CoteTri, CoteTri);
         bouton->setCheckable(true);
@@ -174,7 +174,7 @@ void VoletListes::montrerLigne(int id)
     m_liste->choisir(id);
 }
 
-Liste VoletListes::montree() const
+Selection VoletListes::montree() const
 {
     return {m_tri, m_liste->modele().visibles()};
 }
@@ -277,14 +277,14 @@ void VoletListes::poserPretes()
 
 void VoletListes::poserNombre()
 {
-    const Genre &genre = GenreDe(m_tri);
+    const General::Liste &decrite = ListeDe(m_tri);
     const int nombre = m_liste->modele().rowCount();
     const int entier = m_liste->modele().entrees().size();
-    m_titre->setText(texte(genre.titre));
+    m_titre->setText(texte(decrite.titre));
     const QString compte = QString::number(nombre);
-    m_nombre->setText(texte(genre.prefixe) + u' '
+    m_nombre->setText(texte(decrite.prefixe) + u' '
         + (nombre == entier ? compte : compte + QStringLiteral(" / ") + QString::number(entier)));
-    m_liste->setAccessibleName(texte(genre.titre));
+    m_liste->setAccessibleName(texte(decrite.titre));
     // A collection that could not be read must not look like an empty one.
     m_vide->setVisible(m_remplie && nombre == 0);
     m_vide->setText(entier > 0 && m_filtre->text().isEmpty() ? tr("Ces albums ne sont plus là.")
@@ -339,7 +339,7 @@ void VoletListes::actualiser(const Changements &changements)
 void VoletListes::Traduire()
 {
     for (int i = 0; i < NombreDeTris; ++i)
-        expliquer(m_tris[static_cast<std::size_t>(i)], texte(GenreDe(TriDe(i)).bouton));
+        expliquer(m_tris[static_cast<std::size_t>(i)], texte(ListeDe(TriDe(i)).bouton));
     m_onglets->setTabText(0, texte(Txt::AlbumsDeBD));
     m_onglets->setTabText(1, texte(Txt::PressesBD));
     m_albums->setAccessibleName(texte(Txt::ListeDesAlbums));

@@ -33,7 +33,7 @@ public:
 
     General::Tri tri() const { return m_tri; }
     /// What the main list shows, filters regarded.
-    General::Liste montree() const;
+    General::Selection montree() const;
     /// Narrows the main list, of albums, to some of them, under a name that a click takes away again.
     void montrerSelection(const QString &libelle, const std::vector<int> &albums);
     /// Makes an entry of the main list the current one, taking away the filter that would hide it.

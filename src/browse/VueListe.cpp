@@ -36,7 +36,7 @@ void VueListe::remplir(General::Tri tri, Entrees entrees)
     const int rang = memeListe ? currentIndex().row() : -1;
     const int hauteur = memeListe ? verticalScrollBar()->value() : 0;
     m_muette = true;
-    const QString icone = QString::fromLatin1(General::GenreDe(tri).icone);
+    const QString icone = QString::fromLatin1(General::ListeDe(tri).icone);
     m_modele.poserIcones(Icones::Charger(icone), Icones::AvecMarque(icone, QStringLiteral("pret")));
     m_modele.remplir(tri, std::move(entrees));
     if (courante > 0) {

@@ -65,14 +65,14 @@ Pop::Pop(Demandes &demandes)
     setObjectName(QStringLiteral("Pop"));
 }
 
-template <class Acte>
-QAction *Pop::commande(const char *nom, const QString &libelle, Acte acte)
+template <class Geste>
+QAction *Pop::commande(const char *nom, const QString &libelle, Geste geste)
 {
     QAction *action = addAction(libelle);
     action->setObjectName(QLatin1String(nom));
     if (const QString dessin = icone(action->objectName()); !dessin.isEmpty())
         action->setIcon(Icones::Charger(dessin));
-    connect(action, &QAction::triggered, this, acte);
+    connect(action, &QAction::triggered, this, geste);
     return action;
 }
 
@@ -103,7 +103,7 @@ void Pop::remplir()
         remplirEntree();
     addSeparator();
     if (entree.tri != Tri::Albums) {
-        const QString liste = texte(General::GenreDe(entree.tri).bouton);
+        const QString liste = texte(General::ListeDe(entree.tri).bouton);
         commande("ajouter", texte(Txt::Ajouter) + QStringLiteral(": ") + liste,
             [this, entree] { Q_EMIT m_demandes.ajout(entree.tri); });
     } else {

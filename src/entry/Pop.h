@@ -24,8 +24,8 @@ public:
 
 private:
     /// Adds a command under the name that it bears.
-    template <class Acte>
-    QAction *commande(const char *nom, const QString &libelle, Acte acte);
+    template <class Geste>
+    QAction *commande(const char *nom, const QString &libelle, Geste geste);
     void remplir();
     void remplirEntree();
     void remplirValeur();

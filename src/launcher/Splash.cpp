@@ -52,20 +52,8 @@ QString commentaireDe(const Groupe &groupe)
     return groupe.nomme ? texte(groupe.commentaire) + u' ' + titre() : texte(groupe.commentaire);
 }
 
-struct Liste
-{
-    Txt nom;
-    const char *icone;
-};
-constexpr std::array Listes{
-    Liste{Txt::AlbumsDeBD, "liste-albums"},
-    Liste{Txt::Series, "liste-series"},
-    Liste{Txt::Dessinateurs, "liste-dessinateurs"},
-    Liste{Txt::Scenaristes, "liste-scenaristes"},
-    Liste{Txt::Coloristes, "liste-coloristes"},
-    Liste{Txt::ExLibris, "liste-exlibris"},
-    Liste{Txt::PressesBD, "liste-presse"},
-};
+/// The lists that have a button here: all but those of publishers and collections.
+constexpr int NombreDeListes = 7;
 
 using Outil = Splash::Outil;
 constexpr std::array Creations{
@@ -279,13 +267,13 @@ void Splash::construireImport(QGridLayout *page)
 void Splash::construireTris(QGridLayout *page)
 {
     m_tris = new QButtonGroup(this);
-    int rang = 0;
-    for (const Liste &liste : Listes) {
+    for (int rang = 0; rang < NombreDeListes; ++rang) {
+        const General::Liste &liste = General::ListeDe(General::TriDe(rang));
         auto *bouton = ajouter(page, QStringLiteral("Tris"), rang, QString::fromLatin1(liste.icone),
-            {nullptr, [&liste] { return texte(liste.nom); },
-                [&liste] { return tr(" Sélectionner la liste des ") + texte(liste.nom); }});
+            {nullptr, [&liste] { return texte(liste.bouton); },
+                [&liste] { return tr(" Sélectionner la liste des ") + texte(liste.bouton); }});
         bouton->setCheckable(true);
-        m_tris->addButton(bouton, rang++);
+        m_tris->addButton(bouton, rang);
     }
     connect(m_tris, &QButtonGroup::idClicked, this,
         [this](int tri) { Q_EMIT m_demandes.liste(General::TriDe(tri)); });

@@ -14,14 +14,14 @@ Cursor ouvrir(const Base &base, int nAuteur)
 
 }
 
-ChargerAuteurs::Metiers ChargerAuteurs::LireMetiers(int nAuteur, Tri liste)
+ChargerAuteurs::ZoneMetiers ChargerAuteurs::LireMetiers(int nAuteur, Tri liste)
 {
     const Base base;
     const auto rs = ouvrir(base, nAuteur);
-    Metiers metiers{Especes::Metiers[0].libelle, {}};
+    ZoneMetiers metiers{Especes::TousLesMetiers[0].libelle, {}};
     int rang = 0;
-    for (const Metier &metier : Especes::Metiers) {
-        if (metier.role == General::GenreDe(liste).role)
+    for (const Metier &metier : Especes::TousLesMetiers) {
+        if (metier.role == General::ListeDe(liste).role)
             metiers.titre = metier.libelle;
         else if (rang < 2)
             metiers.autres[rang++]
@@ -34,8 +34,8 @@ QString ChargerAuteurs::TexteDesMetiers(Tri liste, bool premier, bool second)
 {
     QStringList mots;
     int rang = 0;
-    for (const Metier &metier : Especes::Metiers) {
-        if (metier.role == General::GenreDe(liste).role || (rang++ == 0 ? premier : second))
+    for (const Metier &metier : Especes::TousLesMetiers) {
+        if (metier.role == General::ListeDe(liste).role || (rang++ == 0 ? premier : second))
             mots << QString::fromUtf8(metier.mot);
     }
     return mots.join(u'|');

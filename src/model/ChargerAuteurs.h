@@ -7,7 +7,7 @@
 namespace ChargerAuteurs {
 
 /// The trades area, as it stands for an author who was chosen from the list of one trade.
-struct Metiers
+struct ZoneMetiers
 {
     Txt titre;
     struct Autre
@@ -18,7 +18,7 @@ struct Metiers
 };
 
 /// The trade of the list first, then the two others with their flags. Throws Error.
-Metiers LireMetiers(int nAuteur, General::Tri liste);
+ZoneMetiers LireMetiers(int nAuteur, General::Tri liste);
 
 /// The text of trades of an author of that list, who has the two others or not.
 QString TexteDesMetiers(General::Tri liste, bool premier, bool second);

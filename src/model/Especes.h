@@ -84,7 +84,7 @@ struct Metier
     Txt libelle;
     const char *mot;
 };
-inline constexpr Metier Metiers[] = {
+inline constexpr Metier TousLesMetiers[] = {
     {AccesBase::Role::Dessin, Txt::Dessinateur, "Dessinateur"},
     {AccesBase::Role::Scena, Txt::Scenariste, "Scénariste"},
     {AccesBase::Role::Color, Txt::Coloriste, "Coloriste"},

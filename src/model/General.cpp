@@ -16,23 +16,23 @@ using Especes::Libelle;
 
 namespace {
 
-constexpr std::array Genres{
-    Genre{
+constexpr std::array Listes{
+    Liste{
         Tri::Albums, Txt::ListeDesAlbums, Txt::AlbumsNombre, Txt::AlbumsDeBD, Feuille::Album, "liste-albums"},
-    Genre{Tri::Series, Txt::ListeDesSeries, Txt::SeriesNombre, Txt::Series, Feuille::Serie, "liste-series"},
-    Genre{Tri::Dessinateurs, Txt::ListeDesDessinateurs, Txt::DessinateursNombre, Txt::Dessinateurs,
+    Liste{Tri::Series, Txt::ListeDesSeries, Txt::SeriesNombre, Txt::Series, Feuille::Serie, "liste-series"},
+    Liste{Tri::Dessinateurs, Txt::ListeDesDessinateurs, Txt::DessinateursNombre, Txt::Dessinateurs,
         Feuille::Auteur, "liste-dessinateurs", AccesBase::Role::Dessin},
-    Genre{Tri::Scenaristes, Txt::ListeDesScenaristes, Txt::ScenaristesNombre, Txt::Scenaristes,
+    Liste{Tri::Scenaristes, Txt::ListeDesScenaristes, Txt::ScenaristesNombre, Txt::Scenaristes,
         Feuille::Auteur, "liste-scenaristes", AccesBase::Role::Scena},
-    Genre{Tri::Coloristes, Txt::ListeDesColoristes, Txt::ColoristesNombre, Txt::Coloristes, Feuille::Auteur,
+    Liste{Tri::Coloristes, Txt::ListeDesColoristes, Txt::ColoristesNombre, Txt::Coloristes, Feuille::Auteur,
         "liste-coloristes", AccesBase::Role::Color},
-    Genre{Tri::ExLibris, Txt::ListeDesExLibris, Txt::ExLibrisNombre, Txt::ExLibris, Feuille::ExLibris,
+    Liste{Tri::ExLibris, Txt::ListeDesExLibris, Txt::ExLibrisNombre, Txt::ExLibris, Feuille::ExLibris,
         "liste-exlibris"},
-    Genre{Tri::Presse, Txt::ListeDesPressesBD, Txt::PressesBDNombre, Txt::PressesBD, Feuille::Presse,
+    Liste{Tri::Presse, Txt::ListeDesPressesBD, Txt::PressesBDNombre, Txt::PressesBD, Feuille::Presse,
         "liste-presse"},
-    Genre{Tri::Editeurs, Txt::ListeDesEditeurs, Txt::EditeursNombre, Txt::Editeurs, Feuille::Editeur,
+    Liste{Tri::Editeurs, Txt::ListeDesEditeurs, Txt::EditeursNombre, Txt::Editeurs, Feuille::Editeur,
         "liste-editeurs"},
-    Genre{Tri::Collections, Txt::ListeDesCollections, Txt::CollectionsNombre, Txt::Collections, Feuille::Coll,
+    Liste{Tri::Collections, Txt::ListeDesCollections, Txt::CollectionsNombre, Txt::Collections, Feuille::Coll,
         "liste-collections"},
 };
 
@@ -99,14 +99,14 @@ bool garde(const Changement &c)
 
 }
 
-const Genre &General::GenreDe(Tri tri)
+const Liste &General::ListeDe(Tri tri)
 {
-    return Genres[static_cast<std::size_t>(tri)];
+    return Listes[static_cast<std::size_t>(tri)];
 }
 
 QString General::ConditionDe(Tri tri)
 {
-    const auto role = GenreDe(tri).role;
+    const auto role = ListeDe(tri).role;
     return role ? AccesBase::NomDuRole(*role) + QStringLiteral(" <> 0") : QString();
 }
 
@@ -127,7 +127,7 @@ Entrees General::LireAlbums(Tri tri, int id)
     const Especes::Espece &espece = EspeceDe(tri);
     if (!espece.liens)
         return {};
-    const auto role = GenreDe(tri).role;
+    const auto role = ListeDe(tri).role;
     const Base base;
     return remplir(
         base.read(
@@ -217,9 +217,9 @@ Totaux General::LireTotaux()
 bool General::EstVierge()
 {
     const Base base;
-    return std::all_of(Genres.begin(), Genres.end(), [&](const Genre &genre) {
+    return std::all_of(Listes.begin(), Listes.end(), [&](const Liste &liste) {
         return base
-            .read(QStringLiteral("SELECT 1 From %1 limit 1").arg(QLatin1String(EspeceDe(genre.tri).table)))
+            .read(QStringLiteral("SELECT 1 From %1 limit 1").arg(QLatin1String(EspeceDe(liste.tri).table)))
             .AtEnd();
     });
 }

@@ -33,14 +33,14 @@ struct Entree
 };
 
 /// The entries of a kind that a list shows, in its order.
-struct Liste
+struct Selection
 {
     Tri tri = Tri::Albums;
     std::vector<int> ids;
 };
 
-/// One kind of list as the window presents it.
-struct Genre
+/// One of the lists: whom it holds, and how the window presents it.
+struct Liste
 {
     Tri tri;
     Txt titre;
@@ -50,10 +50,10 @@ struct Genre
     const char *icone;
     std::optional<AccesBase::Role> role = {}; ///< the trade of the authors that it lists
 };
-const Genre &GenreDe(Tri tri);
+const Liste &ListeDe(Tri tri);
 inline const Especes::Espece &EspeceDe(Tri tri)
 {
-    return Especes::De(GenreDe(tri).feuille);
+    return Especes::De(ListeDe(tri).feuille);
 }
 /// What the entries of a kind must have to be in its list: "Scena <> 0"; empty where the table holds no others.
 QString ConditionDe(Tri tri);

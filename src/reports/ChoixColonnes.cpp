@@ -31,7 +31,7 @@ QStringList mots()
 
 QString debutDe(General::Tri tri)
 {
-    return QString::number(static_cast<int>(General::GenreDe(tri).feuille)) + u'.';
+    return QString::number(static_cast<int>(General::ListeDe(tri).feuille)) + u'.';
 }
 
 }

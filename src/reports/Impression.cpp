@@ -61,7 +61,7 @@ constexpr const char *Extensions[] = {"html", "txt", "pdf", "csv"};
 
 }
 
-Impression::Impression(std::function<Liste()> liste)
+Impression::Impression(std::function<Selection()> liste)
     : FormeOutil(QStringLiteral("Impression"), TailleDessinee, Mini | Progression)
     , m_liste(std::move(liste))
 {
@@ -191,7 +191,7 @@ void Impression::poserCourante(Entree entree)
 /// The list of the main window may be another one by now.
 void Impression::relireListe()
 {
-    const Liste liste = m_liste();
+    const Selection liste = m_liste();
     const bool memeSorte = liste.tri == m_montree.tri;
     m_montree = liste;
     proposerPortees();
@@ -214,7 +214,7 @@ void Impression::proposerPortees()
     if (!fiche && m_portees[2]->isChecked())
         m_portees[1]->setChecked(true);
     m_portees[1]->setText(
-        QStringLiteral("%1 (%2)").arg(tr("La liste affichée"), texte(GenreDe(m_montree.tri).bouton)));
+        QStringLiteral("%1 (%2)").arg(tr("La liste affichée"), texte(ListeDe(m_montree.tri).bouton)));
     m_portees[1]->setAccessibleName(m_portees[1]->text());
 }
 

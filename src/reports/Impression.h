@@ -20,7 +20,7 @@ class Impression : public FormeOutil
 
 public:
     /// `liste` says what the list of the main window shows.
-    explicit Impression(std::function<General::Liste()> liste);
+    explicit Impression(std::function<General::Selection()> liste);
 
     /// Takes up the list and the sheet that the main window shows. Throws Error.
     void charger() override;
@@ -55,9 +55,9 @@ private:
     static void preparer(QPrinter &imprimante, const Listage::Tableau &liste);
     bool travailler(const std::function<bool(const Sorties::Avance &)> &travail);
 
-    std::function<General::Liste()> m_liste;
+    std::function<General::Selection()> m_liste;
     General::Entree m_courante;
-    General::Liste m_montree;
+    General::Selection m_montree;
 
     std::array<TitreGroupe *, 3> m_groupes{};
     ChoixColonnes *m_colonnes = nullptr;

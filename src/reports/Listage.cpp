@@ -201,7 +201,7 @@ QString total(Txt libelle, qint64 nombre)
 QStringList totauxDe(Tri tri, const Compte &compte)
 {
     if (tri != Tri::Albums)
-        return {total(General::GenreDe(tri).bouton, compte.lignes)};
+        return {total(General::ListeDe(tri).bouton, compte.lignes)};
     return {total(Txt::NombreTotalDAlbums, compte.lignes),
         total(Txt::NombreTotalDeSeries, static_cast<qint64>(compte.series.size()))};
 }
@@ -240,7 +240,7 @@ Lignes lireFiche(General::Entree entree, QString &image)
 {
     Lignes lignes;
     const Base base;
-    const Feuille feuille = General::GenreDe(entree.tri).feuille;
+    const Feuille feuille = General::ListeDe(entree.tri).feuille;
     std::optional<Valeurs> valeurs = Fiche::Lire(feuille, entree.id);
     if (!valeurs)
         return lignes;
@@ -262,7 +262,7 @@ Lignes lireFiche(General::Entree entree, QString &image)
 std::vector<Colonne> Listage::ColonnesDe(Tri tri)
 {
     std::vector<Colonne> colonnes;
-    const Feuille feuille = General::GenreDe(tri).feuille;
+    const Feuille feuille = General::ListeDe(tri).feuille;
     const bool albums = feuille == Feuille::Album;
     if (albums)
         colonnes.assign(std::begin(DAlbums), std::end(DAlbums));
@@ -285,7 +285,7 @@ Tableau Listage::DesEntrees(
     if (seulement)
         std::sort(seulement->begin(), seulement->end());
     Tableau tableau;
-    tableau.titre = texte(General::GenreDe(tri).titre);
+    tableau.titre = texte(General::ListeDe(tri).titre);
     for (const Colonne &colonne : colonnes)
         tableau.tetes.push_back({LibelleDe(colonne), estUnNombre(*colonne.champ)});
     tableau.lignes = seulement ? static_cast<qint64>(seulement->size()) : compter(tri);

@@ -56,7 +56,7 @@ QWidget *Recherche::construireCriteres()
     auto *options = new QHBoxLayout;
     m_tris = nommer(new QComboBox(zone), QStringLiteral("ListeTri"));
     for (int i = 0; i < NombreDeTris; ++i)
-        m_tris->addItem(Icones::Charger(QString::fromLatin1(GenreDe(TriDe(i)).icone)), {});
+        m_tris->addItem(Icones::Charger(QString::fromLatin1(ListeDe(TriDe(i)).icone)), {});
     m_debut = nommer(new QCheckBox(zone), QStringLiteral("OptRec"));
     options->addWidget(m_tris);
     options->addSpacing(Theme::Moyen);
@@ -111,7 +111,7 @@ void Recherche::Traduire()
     m_debut->setToolTip(texte(Txt::CommencantPar) + QStringLiteral(" / ") + texte(Txt::Partout));
     m_tris->setAccessibleName(texte(Txt::Tris));
     for (int i = 0; i < NombreDeTris; ++i)
-        m_tris->setItemText(i, texte(GenreDe(TriDe(i)).bouton));
+        m_tris->setItemText(i, texte(ListeDe(TriDe(i)).bouton));
     m_resultat->setText(texte(Txt::ResultatDeRecherche));
     m_liste->setAccessibleName(texte(Txt::ResultatDeRecherche));
     poserNombre();
@@ -127,7 +127,7 @@ void Recherche::chercher()
 /// The hits of the last search, looked for anew.
 void Recherche::remplir()
 {
-    const QString icone = QString::fromLatin1(GenreDe(m_criteres->tri).icone);
+    const QString icone = QString::fromLatin1(ListeDe(m_criteres->tri).icone);
     m_modele.poserIcones(Icones::Charger(icone), {});
     m_modele.remplir(
         m_criteres->tri, Rechercher::Chercher(m_criteres->tri, m_criteres->texte, m_criteres->mode));
@@ -142,7 +142,7 @@ void Recherche::poserNombre()
     else if (nombre == 0)
         m_nombre->setText(tr("Rien de tel"));
     else
-        m_nombre->setText(texte(GenreDe(m_criteres->tri).prefixe) + u' ' + QString::number(nombre));
+        m_nombre->setText(texte(ListeDe(m_criteres->tri).prefixe) + u' ' + QString::number(nombre));
 }
 
 /// What was found may be renamed or gone.

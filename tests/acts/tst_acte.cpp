@@ -55,7 +55,7 @@ void peupler()
 
 Edition edition(Tri tri, const char *champ, const QString &affichee = {}, const QVariant &stockee = {})
 {
-    return {{tri, 1}, Champs::Chercher(GenreDe(tri).feuille, champ), affichee, stockee};
+    return {{tri, 1}, Champs::Chercher(ListeDe(tri).feuille, champ), affichee, stockee};
 }
 
 Album nouveau()

@@ -168,7 +168,7 @@ private Q_SLOTS:
         }
         for (const Champs::Champ &champ : Champs::Tous) {
             const auto concerne = [&](const Cas &cas) {
-                return General::GenreDe(General::TriDe(cas.tri)).feuille == champ.feuille
+                return General::ListeDe(General::TriDe(cas.tri)).feuille == champ.feuille
                     && cas.controle.startsWith(QLatin1String(champ.controle));
             };
             if (champ.vue != Champs::Vue::Image && std::none_of(tous.begin(), tous.end(), concerne))

@@ -338,7 +338,7 @@ private Q_SLOTS:
             m.cliquerLigne(resultat, 0);
             QTRY_COMPARE(m.fiche(), "Doré, Gustave");
             QCOMPARE(m.courante(), m.fiche());
-            QCOMPARE(m.texteDe("TitreListe"), texte(GenreDe(TriDe(tri)).titre));
+            QCOMPARE(m.texteDe("TitreListe"), texte(ListeDe(TriDe(tri)).titre));
             QCOMPARE(m.bac.reglages.entier(Cle::Tris), tri);
         }
         // A line that narrows the list does not hide what was found.

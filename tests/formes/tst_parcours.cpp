@@ -48,11 +48,11 @@ private Q_SLOTS:
         for (int i = 0; i < NombreDeTris; ++i) {
             cliquer(qPrintable(QStringLiteral("Tris(%1)").arg(i)));
             auto *liste = trouver<QAbstractItemView>("Liste");
-            const Genre &genre = GenreDe(TriDe(i));
+            const Liste &decrite = ListeDe(TriDe(i));
             QVERIFY(liste->model()->rowCount() > 0);
-            QCOMPARE(texteDe("TitreListe"), texte(genre.titre));
-            QCOMPARE(
-                texteDe("Nombre"), texte(genre.prefixe) + u' ' + QString::number(liste->model()->rowCount()));
+            QCOMPARE(texteDe("TitreListe"), texte(decrite.titre));
+            QCOMPARE(texteDe("Nombre"),
+                texte(decrite.prefixe) + u' ' + QString::number(liste->model()->rowCount()));
             QCOMPARE(s.bac.reglages.entier(Cle::Tris), i);
             QVERIFY(liste->currentIndex().data(Qt::UserRole).toString().startsWith(QLatin1String("N ")));
             // Entries that have albums show them below; the others fold the pane away.

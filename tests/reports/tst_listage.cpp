@@ -79,7 +79,7 @@ private Q_SLOTS:
             for (int rang = 0; rang < liste.size(); ++rang) {
                 const auto valeurs = tri == Tri::Albums
                     ? ChargerAlbums::AfficherAlbum(liste.id(rang))->valeurs
-                    : Fiche::Lire(GenreDe(tri).feuille, liste.id(rang));
+                    : Fiche::Lire(ListeDe(tri).feuille, liste.id(rang));
                 for (std::size_t c = 0; c < colonnes.size(); ++c)
                     QCOMPARE(lues[static_cast<std::size_t>(rang)][static_cast<qsizetype>(c)],
                         surLaFiche(colonnes[c], *valeurs));
