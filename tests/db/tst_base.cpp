@@ -96,17 +96,17 @@ private Q_SLOTS:
 
     void unFichierEtrangerResteIntact_data()
     {
-        colonnes<QByteArray, Error::Sorte>();
+        const Colonnes<QByteArray, Error::Sorte> cas;
         using enum Error::Sorte;
         const QByteArray access = QByteArray("\0\1\0\0Standard Jet DB\0", 20);
-        QTest::newRow("vide") << QByteArray() << Etrangere;
-        QTest::newRow("texte") << QByteArray("Ceci n'est pas une base.\n").repeated(50) << Etrangere;
-        QTest::newRow("autre base") << avecApplication(vierge(), 0) << Etrangere;
-        QTest::newRow("en-tete coupe") << vierge().left(99) << Etrangere;
-        QTest::newRow("en-tete seul") << vierge().left(100) << Abimee;
-        QTest::newRow("coupe au milieu") << vierge().left(vierge().size() / 8192 * 4096) << Abimee;
-        QTest::newRow("dernier octet perdu") << vierge().chopped(1) << Abimee;
-        QTest::newRow("ancien format") << access + QByteArray(4096, '\0') << Ancienne;
+        cas("vide", {}, Etrangere);
+        cas("texte", QByteArray("Ceci n'est pas une base.\n").repeated(50), Etrangere);
+        cas("autre base", avecApplication(vierge(), 0), Etrangere);
+        cas("en-tete coupe", vierge().left(99), Etrangere);
+        cas("en-tete seul", vierge().left(100), Abimee);
+        cas("coupe au milieu", vierge().left(vierge().size() / 8192 * 4096), Abimee);
+        cas("dernier octet perdu", vierge().chopped(1), Abimee);
+        cas("ancien format", access + QByteArray(4096, '\0'), Ancienne);
     }
 
     void unFichierEtrangerResteIntact()

@@ -152,11 +152,11 @@ private Q_SLOTS:
 
     void supprimerDemandePuisMontreLaSuivante_data()
     {
-        colonnes<int, QByteArray>();
-        QTest::newRow("album") << 0 << QByteArray("Liste");
-        QTest::newRow("série") << 1 << QByteArray("Liste");
-        QTest::newRow("dessinateur") << 2 << QByteArray("Liste");
-        QTest::newRow("album d'une série") << 1 << QByteArray("LFilms");
+        const Colonnes<int, QByteArray> cas;
+        cas("album", 0, "Liste");
+        cas("série", 1, "Liste");
+        cas("dessinateur", 2, "Liste");
+        cas("album d'une série", 1, "LFilms");
     }
 
     void supprimerDemandePuisMontreLaSuivante()
