@@ -13,19 +13,26 @@ struct Colonnes
 {
     Colonnes()
     {
-        [&]<std::size_t... Rangs>(std::index_sequence<Rangs...>) {
+        [&]<std::size_t... Rangs>(std::index_sequence<Rangs...>)
+        {
             (QTest::addColumn<Types>(RangsDesColonnes[Rangs]), ...);
-        }(std::index_sequence_for<Types...>());
+        }
+        (std::index_sequence_for<Types...>());
     }
-    void operator()(const char *nom, const Types &...valeurs) const { (QTest::newRow(nom) << ... << valeurs); }
+    void operator()(const char *nom, const Types &...valeurs) const
+    {
+        (QTest::newRow(nom) << ... << valeurs);
+    }
 };
 
 /// The row of such a table that is being tried.
 template <class... Types>
 std::tuple<Types...> essai()
 {
-    return []<std::size_t... Rangs>(std::index_sequence<Rangs...>) {
+    return []<std::size_t... Rangs>(std::index_sequence<Rangs...>)
+    {
         return std::tuple<Types...>(
             *static_cast<Types *>(QTest::qData(RangsDesColonnes[Rangs], qMetaTypeId<Types>()))...);
-    }(std::index_sequence_for<Types...>());
+    }
+    (std::index_sequence_for<Types...>());
 }
