@@ -27,10 +27,7 @@ class tst_traduction : public QObject
 private Q_SLOTS:
     void uneLigneDonneSonTexte_data()
     {
-        colonnes<QByteArray, int, QString>();
-        const auto ligne = [](const char *nom, const QByteArray &octets, int indice, const QString &attendu) {
-            QTest::newRow(nom) << octets << indice << attendu;
-        };
+        const Colonnes<QByteArray, int, QString> ligne;
         ligne("lignes sans separateur", "\n ; note\r\n5 : Cinq\n\n7:#:Sept\n\n", 7, "Sept");
         ligne("tabulation et blancs", "5:#:  Un\tdeux \t\r\n", 5, "Undeux");
         ligne("deux separateurs", "5:#:Cinq:#:Six\n", 5, "Cinq");

@@ -1,32 +1,20 @@
 #include "db/Base.h"
 #include "db/Comparaison.h"
-#include "db/Transaction.h"
 #include "db/files/MiseANiveau.h"
 #include "db/schema/Version.h"
 #include "support/Anonyme.h"
+#include "support/Autre.h"
 #include "support/Bac.h"
 #include "support/Colonnes.h"
 #include "support/Refus.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QTest>
-#include <QTextStream>
 #include <QtEndian>
 #include <sqlite3.h>
 
 namespace {
-
-/// What this program does when it is started by its own tests as another process.
-int roleDAutre(const QStringList &arguments);
-
-/// SQLITE_OK when another process can take the file for itself, SQLITE_BUSY when it cannot even read it.
-int essayer(const QString &fichier)
-{
-    return QProcess::execute(QCoreApplication::applicationFilePath(), {"essayer", fichier});
-}
 
 QByteArray vierge()
 {
@@ -58,31 +46,30 @@ private Q_SLOTS:
         const QStringList entrees = QDir(bac.chemin()).entryList();
         {
             Base externe;
-            QCOMPARE(essayer(bac.collection()), SQLITE_BUSY);
+            QCOMPARE(Autre::essayer(bac.collection()), SQLITE_BUSY);
             {
                 Base interne;
                 interne.Execute("INSERT INTO Genre VALUES (1, 'Humour')");
                 QCOMPARE(externe.OpenRecordset("SELECT Nom FROM Genre").Fields(0), "Humour");
             }
-            QCOMPARE(essayer(bac.collection()), SQLITE_BUSY);
+            QCOMPARE(Autre::essayer(bac.collection()), SQLITE_BUSY);
         }
         {
             // A walk keeps its base open, where it goes, too.
             auto rs = Base().edit("Genre");
             Recordset autre = std::move(rs);
-            QCOMPARE(essayer(bac.collection()), SQLITE_BUSY);
+            QCOMPARE(Autre::essayer(bac.collection()), SQLITE_BUSY);
             QCOMPARE(autre.Fields("Nom"), "Humour");
         }
         QCOMPARE(QDir(bac.chemin()).entryList(), entrees);
-        QCOMPARE(essayer(bac.collection()), SQLITE_OK);
+        QCOMPARE(Autre::essayer(bac.collection()), SQLITE_OK);
     }
 
     void unFichierTenuAilleursEstEnUsageJusquAuNouvelEssai()
     {
         Bac bac;
-        QProcess teneur;
-        teneur.start(QCoreApplication::applicationFilePath(), {"tenir", bac.collection()});
-        QVERIFY(teneur.waitForReadyRead(30'000));
+        auto teneur = std::make_unique<Autre>(bac.collection());
+        teneur->executer("BEGIN EXCLUSIVE");
         QElapsedTimer temps;
         temps.start();
         QVERIFY(refus([] { Base(); }) == Error::Sorte::EnUsage);
@@ -94,8 +81,8 @@ private Q_SLOTS:
         QCOMPARE(questions, 2);
 
         bac.annonces.reessayer = [&](const Error &) {
-            teneur.closeWriteChannel();
-            return ++questions < 10 && teneur.waitForFinished();
+            teneur.reset();
+            return ++questions < 10;
         };
         Bac::executer("INSERT INTO Genre VALUES (1, 'Humour')");
         QCOMPARE(questions, 3);
@@ -109,17 +96,17 @@ private Q_SLOTS:
 
     void unFichierEtrangerResteIntact_data()
     {
-        colonnes<QByteArray, Error::Sorte>();
+        const Colonnes<QByteArray, Error::Sorte> cas;
         using enum Error::Sorte;
         const QByteArray access = QByteArray("\0\1\0\0Standard Jet DB\0", 20);
-        QTest::newRow("vide") << QByteArray() << Etrangere;
-        QTest::newRow("texte") << QByteArray("Ceci n'est pas une base.\n").repeated(50) << Etrangere;
-        QTest::newRow("autre base") << avecApplication(vierge(), 0) << Etrangere;
-        QTest::newRow("en-tete coupe") << vierge().left(99) << Etrangere;
-        QTest::newRow("en-tete seul") << vierge().left(100) << Abimee;
-        QTest::newRow("coupe au milieu") << vierge().left(vierge().size() / 8192 * 4096) << Abimee;
-        QTest::newRow("dernier octet perdu") << vierge().chopped(1) << Abimee;
-        QTest::newRow("ancien format") << access + QByteArray(4096, '\0') << Ancienne;
+        cas("vide", {}, Etrangere);
+        cas("texte", QByteArray("Ceci n'est pas une base.\n").repeated(50), Etrangere);
+        cas("autre base", avecApplication(vierge(), 0), Etrangere);
+        cas("en-tete coupe", vierge().left(99), Etrangere);
+        cas("en-tete seul", vierge().left(100), Abimee);
+        cas("coupe au milieu", vierge().left(vierge().size() / 8192 * 4096), Abimee);
+        cas("dernier octet perdu", vierge().chopped(1), Abimee);
+        cas("ancien format", access + QByteArray(4096, '\0'), Ancienne);
     }
 
     void unFichierEtrangerResteIntact()
@@ -159,58 +146,15 @@ private Q_SLOTS:
         QVERIFY(Bac::lire(bac.collection()) == avant);
     }
 
-    /// A process that rewrites all rows at a time, says when it has nearly done so and when it has, and is killed
-    /// in turn at the one and at the other. The rows are more than the engine's cache holds, so that the file itself
-    /// is half written by then.
-    void uneMortBrutaleNePerdRien()
-    {
-        const Bac bac;
-        for (int i = 1; i <= 200; ++i)
-            Bac::executer("INSERT INTO Auteurs (NAuteur, Commentaire) VALUES (?, '0')", {i});
-        qint64 dit = 0;
-        for (int tour = 0; tour < 10; ++tour) {
-            QProcess ecrivain;
-            ecrivain.start(QCoreApplication::applicationFilePath(),
-                {"ecrire", bac.collection(), QString::number(dit + 1)});
-            const auto entendre = [&] {
-                bool nombre = false;
-                const qint64 ligne = ecrivain.readLine().trimmed().toLongLong(&nombre);
-                dit = nombre ? ligne : dit;
-            };
-            for (int lignes = 0; lignes < 1 + tour; ++lignes) {
-                QVERIFY(ecrivain.canReadLine() || ecrivain.waitForReadyRead(30'000));
-                entendre();
-            }
-            ecrivain.kill();
-            QVERIFY(ecrivain.waitForFinished(30'000));
-            QCOMPARE(ecrivain.exitStatus(), QProcess::CrashExit);
-            while (ecrivain.canReadLine())
-                entendre();
-
-            QCOMPARE(Bac::valeur("PRAGMA integrity_check"), "ok");
-            QCOMPARE(Bac::valeur("SELECT count(DISTINCT Commentaire) FROM Auteurs"), 1);
-            const qint64 garde = Bac::valeur("SELECT CAST(Commentaire AS INTEGER) FROM Auteurs").toLongLong();
-            QVERIFY2(
-                garde == dit || garde == dit + 1, qPrintable(QStringLiteral("%1 %2").arg(garde).arg(dit)));
-            dit = garde;
-        }
-        // The journal of the dead goes with the first write after it.
-        Bac::executer("DELETE FROM Auteurs WHERE NAuteur = 1");
-        QVERIFY(!QFile::exists(bac.collection() + "-journal"));
-    }
-
     void unAutreCollateurRefaitLesIndex()
     {
         const Bac bac;
-        sqlite3 *db = nullptr;
-        QCOMPARE(sqlite3_open(qPrintable(bac.collection()), &db), SQLITE_OK);
-        sqlite3_create_collation(db, "FRANCAIS", SQLITE_UTF8, nullptr, comparerALEnvers);
-        const int rc = sqlite3_exec(db,
-            "INSERT INTO Genre VALUES (1, 'Edgar'), (2, 'Écume'), (3, 'Echo'); PRAGMA user_version = 1",
-            nullptr, nullptr, nullptr);
-        sqlite3_close(db);
-        QCOMPARE(rc, SQLITE_OK);
-
+        {
+            Autre autre(bac.collection());
+            sqlite3_create_collation(autre.db(), "FRANCAIS", SQLITE_UTF8, nullptr, comparerALEnvers);
+            autre.executer("INSERT INTO Genre VALUES (1, 'Edgar'), (2, 'Écume'), (3, 'Echo');"
+                           "PRAGMA user_version = 1");
+        }
         QStringList noms;
         for (auto rs = Base().OpenRecordset("SELECT Nom FROM Genre ORDER BY Nom"); !rs.AtEnd(); rs.MoveNext())
             noms << rs.Fields(0).toString();
@@ -222,61 +166,5 @@ private Q_SLOTS:
     }
 };
 
-namespace {
-
-int prendre(const QString &fichier, bool garder)
-{
-    sqlite3 *db = nullptr;
-    sqlite3_open(qPrintable(fichier), &db);
-    int rc = sqlite3_exec(db, "SELECT * FROM sqlite_schema", nullptr, nullptr, nullptr);
-    if (rc == SQLITE_OK && sqlite3_exec(db, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr) != SQLITE_OK)
-        rc = SQLITE_LOCKED;
-    if (garder) {
-        QTextStream(stdout) << "tenu\n" << Qt::flush;
-        QTextStream(stdin).readAll();
-    }
-    sqlite3_close(db);
-    return rc;
-}
-
-int ecrireSansFin(const QString &fichier, qint64 debut)
-{
-    Annonces annonces;
-    QTextStream sortie(stdout);
-    for (qint64 i = debut;; ++i) {
-        Base base(fichier, Entete::Nature::Collection);
-        Transaction transaction(base);
-        for (auto rs = base.edit("Auteurs"); !rs.AtEnd(); rs.MoveNext()) {
-            rs.Edit();
-            rs.SetField("Commentaire", QString::number(i).leftJustified(16'000));
-            rs.Update();
-            if (rs.Fields(0) == 180)
-                sortie << "presque\n" << Qt::flush;
-        }
-        transaction.Commit();
-        sortie << i << '\n' << Qt::flush;
-    }
-}
-
-int roleDAutre(const QStringList &arguments)
-{
-    const QString role = arguments.value(1);
-    const QString fichier = arguments.value(2);
-    if (role == "tenir" || role == "essayer")
-        return prendre(fichier, role == "tenir");
-    return ecrireSansFin(fichier, arguments.value(3).toLongLong());
-}
-
-}
-
-int main(int argc, char *argv[])
-{
-    QCoreApplication application(argc, argv);
-    const QStringList roles{"tenir", "essayer", "ecrire"};
-    if (roles.contains(application.arguments().value(1)))
-        return roleDAutre(application.arguments());
-    tst_base test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(tst_base)
 #include "tst_base.moc"

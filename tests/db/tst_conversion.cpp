@@ -143,11 +143,11 @@ private Q_SLOTS:
 
     void uneVraieBaseDonneSesCellules_data()
     {
-        colonnes<QString, bool>();
-        QTest::newRow("Jet 4") << "bd-jet4.mdb" << true;
-        QTest::newRow("mot de passe") << "bd-password.mdb" << true;
-        QTest::newRow("ACE") << "bd-2007.accdb" << true;
-        QTest::newRow("vide") << "bd-empty.mdb" << false;
+        const Colonnes<QString, bool> cas;
+        cas("Jet 4", "bd-jet4.mdb", true);
+        cas("mot de passe", "bd-password.mdb", true);
+        cas("ACE", "bd-2007.accdb", true);
+        cas("vide", "bd-empty.mdb", false);
     }
 
     void uneVraieBaseDonneSesCellules()
@@ -267,27 +267,27 @@ private Q_SLOTS:
 
     void unRefusNeLaisseRien_data()
     {
-        colonnes<QByteArray, Code>();
+        const Colonnes<QByteArray, Code> cas;
         const QByteArray saine = UneCollection(40);
         const auto changee = [&](qsizetype ou, const QByteArray &par) {
             QByteArray octets = saine;
             return octets.replace(ou, par.size(), par);
         };
-        QTest::newRow("vide") << QByteArray() << Code::Etrangere;
-        QTest::newRow("autre marque") << changee(4, "Standard Kit") << Code::Etrangere;
-        QTest::newRow("autre version") << changee(0x14, "\x09") << Code::Etrangere;
-        QTest::newRow("autres tables") << Octets({{DuSchema("Serie")}}) << Code::Etrangere;
-        QTest::newRow("codee") << Octets({.tables = {DuSchema("Album")}, .codee = true}) << Code::Chiffree;
-        QTest::newRow("coupee entre deux pages") << saine.first(8 * Page) << Code::Abimee;
-        QTest::newRow("catalogue illisible") << changee(2 * Page, QByteArray(Page, '\xA5')) << Code::Abimee;
-        QTest::newRow("catalogue incomplet") << changee(2 * Page + 16, "\x05") << Code::Abimee;
-        QTest::newRow("page d'une autre table") << changee(7 * Page + 4, "\x05") << Code::Abimee;
+        cas("vide", {}, Code::Etrangere);
+        cas("autre marque", changee(4, "Standard Kit"), Code::Etrangere);
+        cas("autre version", changee(0x14, "\x09"), Code::Etrangere);
+        cas("autres tables", Octets({{DuSchema("Serie")}}), Code::Etrangere);
+        cas("codee", Octets({.tables = {DuSchema("Album")}, .codee = true}), Code::Chiffree);
+        cas("coupee entre deux pages", saine.first(8 * Page), Code::Abimee);
+        cas("catalogue illisible", changee(2 * Page, QByteArray(Page, '\xA5')), Code::Abimee);
+        cas("catalogue incomplet", changee(2 * Page + 16, "\x05"), Code::Abimee);
+        cas("page d'une autre table", changee(7 * Page + 4, "\x05"), Code::Abimee);
         // The rank of the row count in a definition page.
-        QTest::newRow("table dite vide") << changee(4 * Page + 16, QByteArray(1, '\0')) << Code::Abimee;
-        QTest::newRow("texte long d'une table")
-            << changee(saine.indexOf("LVAL"), QByteArray("\x03\0\0", 4)) << Code::Abimee;
+        cas("table dite vide", changee(4 * Page + 16, QByteArray(1, '\0')), Code::Abimee);
+        cas("texte long d'une table", changee(saine.indexOf("LVAL"), QByteArray("\x03\0\0", 4)),
+            Code::Abimee);
         for (const char *nom : {"bd-truncated.mdb", "bd-garbage.mdb"})
-            QTest::newRow(nom) << Bac::lire(materiel(nom)) << Code::Abimee;
+            cas(nom, Bac::lire(materiel(nom)), Code::Abimee);
     }
 
     void unRefusNeLaisseRien()

@@ -142,18 +142,17 @@ private Q_SLOTS:
 
     void unDossierNonVideNEstPasEcrase_data()
     {
-        colonnes<QStringList, QStringList>();
+        const Colonnes<QStringList, QStringList> cas;
         const QStringList avecMarque = Complements + QStringList(Marque);
-        QTest::newRow("collection perdue") << QStringList{"images/a.jpg=moi"} << QStringList();
-        QTest::newRow("collection seule") << QStringList{"bd.mdb=moi"} << avecMarque;
-        QTest::newRow("collection en majuscules") << QStringList{"BD.MDB=moi"} << avecMarque;
-        QTest::newRow("langues a moi")
-            << QStringList{"bd.mdb=moi", "LANGUES/Moi.lng=moi", "help/INDEX.htm=moi"}
-            << QStringList{
-                   Complements[0], Complements[1], "LANGUES/English.lng=langues/English.lng1", Marque};
-        QTest::newRow("complet") << QStringList{"bd.mdb=moi", "BDbase.bd=moi", "langues/english.LNG=moi",
-            "Help/index.htm=moi", "Help/a=moi", "Fond Ecran/bois.jpg=moi"}
-                                 << QStringList{Marque};
+        cas("collection perdue", {"images/a.jpg=moi"}, {});
+        cas("collection seule", {"bd.mdb=moi"}, avecMarque);
+        cas("collection en majuscules", {"BD.MDB=moi"}, avecMarque);
+        cas("langues a moi", {"bd.mdb=moi", "LANGUES/Moi.lng=moi", "help/INDEX.htm=moi"},
+            {Complements[0], Complements[1], "LANGUES/English.lng=langues/English.lng1", Marque});
+        cas("complet",
+            {"bd.mdb=moi", "BDbase.bd=moi", "langues/english.LNG=moi", "Help/index.htm=moi", "Help/a=moi",
+                "Fond Ecran/bois.jpg=moi"},
+            {Marque});
     }
 
     void unDossierNonVideNEstPasEcrase()
@@ -269,11 +268,11 @@ private Q_SLOTS:
 
     void uneLivraisonAbimeeNeRemplaceRien_data()
     {
-        colonnes<QByteArray, bool>();
-        QTest::newRow("saine") << QByteArray() << true;
-        QTest::newRow("ligne coupee") << QByteArray("0123456789abcdef  Help/") << false;
-        QTest::newRow("sans nom") << empreinteDe("") + "  \n" << false;
-        QTest::newRow("octets") << QByteArray("\xff\0\xfe\n", 4) << false;
+        const Colonnes<QByteArray, bool> cas;
+        cas("saine", {}, true);
+        cas("ligne coupee", "0123456789abcdef  Help/", false);
+        cas("sans nom", empreinteDe("") + "  \n", false);
+        cas("octets", QByteArray("\xff\0\xfe\n", 4), false);
     }
 
     void uneLivraisonAbimeeNeRemplaceRien()
@@ -317,11 +316,11 @@ private Q_SLOTS:
 
     void lesDroitsDeLUtilisateurSontRespectes_data()
     {
-        colonnes<QString, int, bool, bool>();
-        QTest::newRow("libre") << "Help/index.htm" << 0x6600 << false << true;
-        QTest::newRow("fichier illisible") << "Help/index.htm" << 0x2200 << false << false;
-        QTest::newRow("fichier protege") << "Help/index.htm" << 0x4400 << false << false;
-        QTest::newRow("dossier protege") << "Help" << 0x5500 << true << false;
+        const Colonnes<QString, int, bool, bool> cas;
+        cas("libre", "Help/index.htm", 0x6600, false, true);
+        cas("fichier illisible", "Help/index.htm", 0x2200, false, false);
+        cas("fichier protege", "Help/index.htm", 0x4400, false, false);
+        cas("dossier protege", "Help", 0x5500, true, false);
     }
 
     void lesDroitsDeLUtilisateurSontRespectes()
@@ -347,13 +346,13 @@ private Q_SLOTS:
 
     void unCatalogueSeJugeASonContenu_data()
     {
-        colonnes<QString, bool>();
-        QTest::newRow("tel quel") << "" << true;
-        QTest::newRow("meme contenu, autres octets") << "PRAGMA user_version = 7; VACUUM" << true;
-        QTest::newRow("une rangee de plus") << "INSERT INTO BD(Numero, Titre) VALUES (9, 'mien')" << false;
-        QTest::newRow("une rangee de moins") << "DELETE FROM BD WHERE Numero = 2" << false;
-        QTest::newRow("une colonne de plus") << "ALTER TABLE BD ADD COLUMN Note TEXT" << false;
-        QTest::newRow("abime") << "DROP TABLE BD" << false;
+        const Colonnes<QString, bool> cas;
+        cas("tel quel", "", true);
+        cas("meme contenu, autres octets", "PRAGMA user_version = 7; VACUUM", true);
+        cas("une rangee de plus", "INSERT INTO BD(Numero, Titre) VALUES (9, 'mien')", false);
+        cas("une rangee de moins", "DELETE FROM BD WHERE Numero = 2", false);
+        cas("une colonne de plus", "ALTER TABLE BD ADD COLUMN Note TEXT", false);
+        cas("abime", "DROP TABLE BD", false);
     }
 
     void unCatalogueSeJugeASonContenu()
@@ -397,13 +396,11 @@ private Q_SLOTS:
 
     void uneCollectionViergeEstRenouvelee_data()
     {
-        colonnes<QString, bool>();
-        QTest::newRow("d'une autre version") << "PRAGMA user_version = 1" << true;
-        QTest::newRow("de celle-ci") << "PRAGMA application_id = 1112886348; VACUUM" << false;
-        QTest::newRow("remplie")
-            << "PRAGMA user_version = 1; INSERT INTO Genre(NGenre, Nom) VALUES (1, 'moi')" << false;
-        QTest::newRow("d'un autre programme")
-            << "PRAGMA user_version = 1; PRAGMA application_id = 1" << false;
+        const Colonnes<QString, bool> cas;
+        cas("d'une autre version", "PRAGMA user_version = 1", true);
+        cas("de celle-ci", "PRAGMA application_id = 1112886348; VACUUM", false);
+        cas("remplie", "PRAGMA user_version = 1; INSERT INTO Genre(NGenre, Nom) VALUES (1, 'moi')", false);
+        cas("d'un autre programme", "PRAGMA user_version = 1; PRAGMA application_id = 1", false);
     }
 
     void uneCollectionViergeEstRenouvelee()

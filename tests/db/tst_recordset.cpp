@@ -140,15 +140,15 @@ private Q_SLOTS:
 
     void uneValeurRevientCommeElleDoit_data()
     {
-        colonnes<QString, QVariant, QVariant>();
+        const Colonnes<QString, QVariant, QVariant> cas;
         for (const QVariant &texte : QVariantList{QVariant(), "", "L'Écume d'été \"Lou\" ?1 :a; true -- DROP",
                  "œ € 😀 日本", QString(200'000, u'é')})
             QTest::addRow("%s", qPrintable(texte.toString().left(9))) << "TAlbum" << texte << texte;
         for (const auto &[donne, garde] : {std::pair(0.1 + 0.2, 0.3), std::pair(-12.34567, -12.3457),
                  std::pair(0.00004, 0.0), std::pair(900719925474.0991, 900719925474.0991)})
             QTest::addRow("%g", donne) << "PrixA" << QVariant(donne) << QVariant(garde);
-        QTest::newRow("vrai") << "Broche" << QVariant(true) << QVariant(-1);
-        QTest::newRow("faux") << "Broche" << QVariant(false) << QVariant(0);
+        cas("vrai", "Broche", QVariant(true), QVariant(-1));
+        cas("faux", "Broche", QVariant(false), QVariant(0));
     }
 
     void uneValeurRevientCommeElleDoit()

@@ -51,17 +51,17 @@ class tst_restauration : public QObject
 private Q_SLOTS:
     void unFichierEstPrisPourCeQuIlEst_data()
     {
-        colonnes<QByteArray, Etat>();
+        const Colonnes<QByteArray, Etat> cas;
         const Bac bac;
-        QTest::newRow("saine") << albumNomme("a") << Etat::Saine;
-        QTest::newRow("vierge") << Bac::lire(bac.collection()) << Etat::Vierge;
-        QTest::newRow("ancienne") << Access << Etat::Ancienne;
-        QTest::newRow("catalogue") << Bac::lire(bac.chemin("BDbase.bd")) << Etat::Catalogue;
-        QTest::newRow("coupee") << albumNomme("a").chopped(5000) << Etat::Abimee;
-        QTest::newRow("pages abimees") << abimer(albumNomme("a")) << Etat::Abimee;
-        QTest::newRow("table qui manque") << albumNomme("a", "DROP TABLE Editeur") << Etat::Abimee;
-        QTest::newRow("texte") << QByteArray("du texte") << Etat::Etrangere;
-        QTest::newRow("vide") << QByteArray() << Etat::Etrangere;
+        cas("saine", albumNomme("a"), Etat::Saine);
+        cas("vierge", Bac::lire(bac.collection()), Etat::Vierge);
+        cas("ancienne", Access, Etat::Ancienne);
+        cas("catalogue", Bac::lire(bac.chemin("BDbase.bd")), Etat::Catalogue);
+        cas("coupee", albumNomme("a").chopped(5000), Etat::Abimee);
+        cas("pages abimees", abimer(albumNomme("a")), Etat::Abimee);
+        cas("table qui manque", albumNomme("a", "DROP TABLE Editeur"), Etat::Abimee);
+        cas("texte", "du texte", Etat::Etrangere);
+        cas("vide", {}, Etat::Etrangere);
     }
 
     void unFichierEstPrisPourCeQuIlEst()

@@ -49,10 +49,7 @@ class tst_sauvegardes : public QObject
 private Q_SLOTS:
     void ceQuiAFaitSonTempsSEnVa_data()
     {
-        colonnes<QStringList, QStringList>();
-        const auto cas = [](const char *nom, const QStringList &gardees, const QStringList &perimees) {
-            QTest::newRow(nom) << gardees << perimees;
-        };
+        const Colonnes<QStringList, QStringList> cas;
         // Today is Saturday 2026-11-21.
         cas("rien", {}, {});
         cas("tout d'aujourd'hui", {"2026-11-21 00-00-00", "2026-11-21 09-00-00", "2026-11-21 18-00-00"}, {});

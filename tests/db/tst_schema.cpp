@@ -75,19 +75,16 @@ private Q_SLOTS:
     void chaqueAncienSchemaDevientCeluiDAujourdhui_data()
     {
         // abimer: what a start that was cut off may have left
-        colonnes<QString, int, QString>();
-        QTest::newRow("le premier") << "premier" << 0 << "";
-        QTest::newRow("le premier, inscrit") << "premier" << 1 << "";
-        QTest::newRow("sans regles") << "palier-1" << 1
-                                     << "DROP TRIGGER CleTomeLien; DROP INDEX IndexGenreNom;";
-        QTest::newRow("les regles sans un champ")
-            << "palier-1" << 1
-            << "ALTER TABLE Album DROP COLUMN Coffret; CREATE INDEX autre ON Genre(Nom); DROP INDEX autre;";
-        QTest::newRow("une regle d'un autre texte")
-            << "palier-1" << 1
-            << "DROP TRIGGER CleTomeAlbum; CREATE TRIGGER CleTomeAlbum AFTER"
-               " UPDATE ON Album BEGIN SELECT 1; END;"
-               "DROP INDEX IndexGenreNom; CREATE INDEX IndexGenreNom ON Pays(Nom);";
+        const Colonnes<QString, int, QString> cas;
+        cas("le premier", "premier", 0, "");
+        cas("le premier, inscrit", "premier", 1, "");
+        cas("sans regles", "palier-1", 1, "DROP TRIGGER CleTomeLien; DROP INDEX IndexGenreNom;");
+        cas("les regles sans un champ", "palier-1", 1,
+            "ALTER TABLE Album DROP COLUMN Coffret; CREATE INDEX autre ON Genre(Nom); DROP INDEX autre;");
+        cas("une regle d'un autre texte", "palier-1", 1,
+            "DROP TRIGGER CleTomeAlbum; CREATE TRIGGER CleTomeAlbum AFTER"
+            " UPDATE ON Album BEGIN SELECT 1; END;"
+            "DROP INDEX IndexGenreNom; CREATE INDEX IndexGenreNom ON Pays(Nom);");
     }
 
     void chaqueAncienSchemaDevientCeluiDAujourdhui()

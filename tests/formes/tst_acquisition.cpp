@@ -110,6 +110,7 @@ private Q_SLOTS:
         QCOMPARE(s.photo1(), "rouge (2).png");
         deposer(cadre, s.bac.collection());
         QTRY_COMPARE(s.boites.textes.size(), 1);
+        QVERIFY2(s.boites.textes[0].contains(s.bac.collection()), "the refusal names the file");
         QCOMPARE(s.photo1(), "rouge (2).png");
 
         QGuiApplication::clipboard()->setImage(rouge);

@@ -59,12 +59,11 @@ private Q_SLOTS:
 
     void rendreEtSupprimer_data()
     {
-        colonnes<bool, int, QStringList>();
-        QTest::newRow("retour") << true << 1
-                                << QStringList{"UPDATE Album SET NPret = 0, DPret = '' WHERE Num = 1"};
-        QTest::newRow("personne") << false << 1 << QStringList{"DELETE FROM Pret WHERE NPret = 1"};
-        QTest::newRow("album disparu") << true << 99 << QStringList();
-        QTest::newRow("personne disparue") << false << 9 << QStringList();
+        const Colonnes<bool, int, QStringList> cas;
+        cas("retour", true, 1, {"UPDATE Album SET NPret = 0, DPret = '' WHERE Num = 1"});
+        cas("personne", false, 1, {"DELETE FROM Pret WHERE NPret = 1"});
+        cas("album disparu", true, 99, {});
+        cas("personne disparue", false, 9, {});
     }
 
     void rendreEtSupprimer()

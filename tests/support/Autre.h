@@ -19,6 +19,14 @@ public:
     Autre(const Autre &) = delete;
     Autre &operator=(const Autre &) = delete;
 
+    /// SQLITE_OK when another can take the file for itself, SQLITE_BUSY when it cannot even read it.
+    static int essayer(const QString &fichier)
+    {
+        const Autre autre(fichier);
+        return sqlite3_exec(
+            autre.m_db, "SELECT * FROM sqlite_schema; BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    }
+    sqlite3 *db() const { return m_db; }
     void executer(const QString &sql)
     {
         if (sqlite3_exec(m_db, qUtf8Printable(sql), nullptr, nullptr, nullptr) != SQLITE_OK)

@@ -6,16 +6,24 @@
 
 inline constexpr const char *RangsDesColonnes[] = {"1", "2", "3", "4", "5", "6"};
 
-/// Columns of a table of cases, by their types alone; essai() names their values where they are used.
+/// A table of cases: its columns by their types alone, then a call for each row, by its name and values. What they mean
+/// is said by the names that essai() gives them where they are used.
 template <class... Types>
-void colonnes()
+struct Colonnes
 {
-    [&]<std::size_t... Rangs>(std::index_sequence<Rangs...>)
+    Colonnes()
     {
-        (QTest::addColumn<Types>(RangsDesColonnes[Rangs]), ...);
+        [&]<std::size_t... Rangs>(std::index_sequence<Rangs...>)
+        {
+            (QTest::addColumn<Types>(RangsDesColonnes[Rangs]), ...);
+        }
+        (std::index_sequence_for<Types...>());
     }
-    (std::index_sequence_for<Types...>());
-}
+    void operator()(const char *nom, const Types &...valeurs) const
+    {
+        (QTest::newRow(nom) << ... << valeurs);
+    }
+};
 
 /// The row of such a table that is being tried.
 template <class... Types>
