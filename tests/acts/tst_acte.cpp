@@ -9,6 +9,7 @@
 #include "reports/Statistiques.h"
 #include "support/Autre.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 #include "support/Ecoute.h"
 #include "support/Etapes.h"
 #include "support/Refus.h"
@@ -19,20 +20,6 @@
 
 using General::Entree;
 using General::Tri;
-
-/// Whatever a form can set off is one act: it writes once, undo knows it by a title and finds its place again, and when
-/// it fails midway nothing of it stays.
-class tst_acte : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void chaqueActeEstUneEtapeEnSonLieu_data();
-    void chaqueActeEstUneEtapeEnSonLieu();
-    void unActeRateNeLaisseRien_data() { chaqueActeEstUneEtapeEnSonLieu_data(); }
-    void unActeRateNeLaisseRien();
-    void unSecondEssaiNeDoubleRien();
-};
 
 using Geste = std::function<void(const Bac &)>;
 Q_DECLARE_METATYPE(Geste)
@@ -80,143 +67,156 @@ quint32 ecritures(const Bac &bac)
 
 }
 
-void tst_acte::chaqueActeEstUneEtapeEnSonLieu_data()
+/// Whatever a form can set off is one act: it writes once, undo knows it by a title and finds its place again, and when
+/// it fails midway nothing of it stays.
+class tst_acte : public QObject
 {
-    QTest::addColumn<Geste>("geste");
-    QTest::addColumn<Entree>("lieu");
-    const auto cas = [](const char *nom, const Entree &lieu, const Geste &geste) {
-        QTest::newRow(nom) << geste << lieu;
-    };
-    const Entree album{Tri::Albums, 1};
-    cas("valeur tapee", album, [](auto &) { Ecrire::EcrireSaisie(edition(Tri::Albums, "PrixA"), "12,50"); });
-    cas("resume", album, [](auto &) { Ecrire::EcrireSaisie(edition(Tri::Albums, "Hist"), "Une vague.", 5); });
-    cas("metiers", {Tri::Dessinateurs, 1}, [](auto &) {
-        Ecrire::EcrireSaisie({{Tri::Dessinateurs, 1}, Metiers()}, "Dessinateur|Coloriste");
-    });
-    cas("cote", album, [](auto &) {
-        Ecrire::EcrireSaisie({{Tri::Albums, 1}, CelluleCote{{"2026", "12"}}}, "15");
-    });
-    cas("choix nouveau", album, [](auto &) {
-        Choisir::Valider(edition(Tri::Albums, "Scena"), {0, "Sel, Anne"});
-    });
-    cas("choix de la liste", album, [](auto &) {
-        Choisir::Valider(edition(Tri::Albums, "Coll"), {1, "Voiles"});
-    });
-    cas("choix vide", album, [](auto &) { Choisir::Vider(edition(Tri::Albums, "Serie", "Écume", 1)); });
-    cas("date", album, [](auto &) { Choisir::Valider(edition(Tri::Albums, "DA"), {0, "mai 2026"}); });
-    cas("intervenant", album, [](auto &) {
-        Choisir::Valider({{Tri::Albums, 1}, CelluleIntervenant()}, {0, "Luc , Lettre"});
-    });
-    cas("emprunteur", album, [](auto &) { Choisir::Valider(edition(Tri::Albums, "NPret"), {0, "Cousine"}); });
-    cas("ajout au choix", album, [](auto &) { Choisir::Ajouter(edition(Tri::Albums, "Genre"), "Conte"); });
-    cas("image posee", album, [](auto &bac) { Joindre::Poser(edition(Tri::Albums, "Photo1"), image(bac)); });
-    cas("image en memoire", {Tri::ExLibris, 1}, [](auto &) {
-        Joindre::PoserImage(edition(Tri::ExLibris, "Photo1"), QImage(8, 8, QImage::Format_RGB32));
-    });
-    cas("image otee", album, [](auto &) { Joindre::Oter(edition(Tri::Albums, "Photo2")); });
-    cas("dedicace", album, [](auto &bac) { Joindre::Poser(edition(Tri::Albums, "Dedi(0)"), image(bac)); });
-    cas("album renomme", album, [](auto &) { Renommer::RenommerEntree({Tri::Albums, 1}, "Hiver"); });
-    cas("auteur renomme", {Tri::Dessinateurs, 1}, [](auto &) {
-        Renommer::RenommerEntree({Tri::Dessinateurs, 1}, "Sel, Anne");
-    });
-    cas("presse renommee", {Tri::Presse, 1}, [](auto &) {
-        Renommer::RenommerEntree({Tri::Presse, 1}, "Le Mousse - 8");
-    });
-    cas("serie ajoutee", {Tri::Series, 2}, [](auto &) { Renommer::AjouterEntree(Tri::Series, "Dune"); });
-    cas("auteur ajoute", {Tri::Coloristes, 2},
-        [](auto &) { Renommer::AjouterEntree(Tri::Coloristes, "Bleu, Ciel"); });
-    cas("presse ajoutee", {Tri::Presse, 2},
-        [](auto &) { Renommer::AjouterEntree(Tri::Presse, "Le Mousse - 8"); });
-    for (const Tri tri : {Tri::Albums, Tri::Series, Tri::Dessinateurs, Tri::ExLibris, Tri::Presse,
-             Tri::Editeurs, Tri::Collections})
-        cas(qPrintable("suppression " + QString::number(int(tri))), {tri, 1}, [tri](auto &) {
-            Supprimer::SupprimerEntree({tri, 1});
-        });
-    cas("retour", album, [](auto &) { Preter::Rendre(1); });
-    cas("emprunteur supprime", {}, [](auto &) { Preter::SupprimerEmprunteur(1); });
-    cas("creation", {Tri::Albums, 2}, [](auto &) { Saisie::CreerAlbum(nouveau()); });
-    cas("importation", {}, [](auto &bac) {
-        Bac::ecrire(bac.chemin("a.csv"), "Titre,Genre\nA,Un\nB,Deux\n");
-        Importer::ImporterAlbums(
-            bac.chemin("a.csv"), Importer::Proposer({"Titre", "Genre"}), Importer::Doublons::Prendre);
-    });
-    cas("statistiques", {}, [](auto &) { Statistiques::Nettoyer(); });
-}
+    Q_OBJECT
 
-void tst_acte::chaqueActeEstUneEtapeEnSonLieu()
-{
-    QFETCH(Geste, geste);
-    QFETCH(Entree, lieu);
-    Bac bac;
-    peupler();
-    const QStringList avant = Bac::toutLire();
-    Ecoute ecoute(bac.annonces);
-    Etapes etapes(bac.annonces);
-    Historique histoire(bac.annonces);
-    const quint32 debut = ecritures(bac);
-    geste(bac);
-    const QStringList apres = Bac::toutLire();
-    QVERIFY(apres != avant);
-    QCOMPARE(ecritures(bac), debut + 1);
-    QCOMPARE(etapes.faites.size(), 1U);
-    QVERIFY(!etapes.faites[0].titre.trimmed().isEmpty());
-    QCOMPARE(etapes.faites[0].lieu.tri, lieu.tri);
-    QCOMPARE(etapes.faites[0].lieu.id, lieu.id);
-    QCOMPARE(ecoute.annonces().size(), 1U);
-    histoire.annuler();
-    QCOMPARE(Bac::toutLire(), avant);
-    histoire.refaire();
-    QCOMPARE(Bac::toutLire(), apres);
-}
-
-/// The last of the writes is refused by the engine.
-void tst_acte::unActeRateNeLaisseRien()
-{
-    QFETCH(Geste, geste);
-    Bac bac;
-    peupler();
-    std::vector<Etape> faites;
+private Q_SLOTS:
+    void chaqueActeEstUneEtapeEnSonLieu_data()
     {
+        const Colonnes<Entree, Geste> cas;
+        const Entree album{Tri::Albums, 1};
+        cas("valeur tapee", album,
+            [](auto &) { Ecrire::EcrireSaisie(edition(Tri::Albums, "PrixA"), "12,50"); });
+        cas("resume", album,
+            [](auto &) { Ecrire::EcrireSaisie(edition(Tri::Albums, "Hist"), "Une vague.", 5); });
+        cas("metiers", {Tri::Dessinateurs, 1}, [](auto &) {
+            Ecrire::EcrireSaisie({{Tri::Dessinateurs, 1}, Metiers()}, "Dessinateur|Coloriste");
+        });
+        cas("cote", album, [](auto &) {
+            Ecrire::EcrireSaisie({{Tri::Albums, 1}, CelluleCote{{"2026", "12"}}}, "15");
+        });
+        cas("choix nouveau", album, [](auto &) {
+            Choisir::Valider(edition(Tri::Albums, "Scena"), {0, "Sel, Anne"});
+        });
+        cas("choix de la liste", album, [](auto &) {
+            Choisir::Valider(edition(Tri::Albums, "Coll"), {1, "Voiles"});
+        });
+        cas("choix vide", album, [](auto &) { Choisir::Vider(edition(Tri::Albums, "Serie", "Écume", 1)); });
+        cas("date", album, [](auto &) { Choisir::Valider(edition(Tri::Albums, "DA"), {0, "mai 2026"}); });
+        cas("intervenant", album, [](auto &) {
+            Choisir::Valider({{Tri::Albums, 1}, CelluleIntervenant()}, {0, "Luc , Lettre"});
+        });
+        cas("emprunteur", album, [](auto &) {
+            Choisir::Valider(edition(Tri::Albums, "NPret"), {0, "Cousine"});
+        });
+        cas("ajout au choix", album,
+            [](auto &) { Choisir::Ajouter(edition(Tri::Albums, "Genre"), "Conte"); });
+        cas("image posee", album,
+            [](auto &bac) { Joindre::Poser(edition(Tri::Albums, "Photo1"), image(bac)); });
+        cas("image en memoire", {Tri::ExLibris, 1}, [](auto &) {
+            Joindre::PoserImage(edition(Tri::ExLibris, "Photo1"), QImage(8, 8, QImage::Format_RGB32));
+        });
+        cas("image otee", album, [](auto &) { Joindre::Oter(edition(Tri::Albums, "Photo2")); });
+        cas("dedicace", album,
+            [](auto &bac) { Joindre::Poser(edition(Tri::Albums, "Dedi(0)"), image(bac)); });
+        cas("album renomme", album, [](auto &) { Renommer::RenommerEntree({Tri::Albums, 1}, "Hiver"); });
+        cas("auteur renomme", {Tri::Dessinateurs, 1}, [](auto &) {
+            Renommer::RenommerEntree({Tri::Dessinateurs, 1}, "Sel, Anne");
+        });
+        cas("presse renommee", {Tri::Presse, 1}, [](auto &) {
+            Renommer::RenommerEntree({Tri::Presse, 1}, "Le Mousse - 8");
+        });
+        cas("serie ajoutee", {Tri::Series, 2}, [](auto &) { Renommer::AjouterEntree(Tri::Series, "Dune"); });
+        cas("auteur ajoute", {Tri::Coloristes, 2},
+            [](auto &) { Renommer::AjouterEntree(Tri::Coloristes, "Bleu, Ciel"); });
+        cas("presse ajoutee", {Tri::Presse, 2},
+            [](auto &) { Renommer::AjouterEntree(Tri::Presse, "Le Mousse - 8"); });
+        for (const Tri tri : {Tri::Albums, Tri::Series, Tri::Dessinateurs, Tri::ExLibris, Tri::Presse,
+                 Tri::Editeurs, Tri::Collections})
+            cas(qPrintable("suppression " + QString::number(int(tri))), {tri, 1}, [tri](auto &) {
+                Supprimer::SupprimerEntree({tri, 1});
+            });
+        cas("retour", album, [](auto &) { Preter::Rendre(1); });
+        cas("emprunteur supprime", {}, [](auto &) { Preter::SupprimerEmprunteur(1); });
+        cas("creation", {Tri::Albums, 2}, [](auto &) { Saisie::CreerAlbum(nouveau()); });
+        cas("importation", {}, [](auto &bac) {
+            Bac::ecrire(bac.chemin("a.csv"), "Titre,Genre\nA,Un\nB,Deux\n");
+            Importer::ImporterAlbums(
+                bac.chemin("a.csv"), Importer::Proposer({"Titre", "Genre"}), Importer::Doublons::Prendre);
+        });
+        cas("statistiques", {}, [](auto &) { Statistiques::Nettoyer(); });
+    }
+
+    void chaqueActeEstUneEtapeEnSonLieu()
+    {
+        const auto [lieu, geste] = essai<Entree, Geste>();
+        Bac bac;
+        peupler();
+        const QStringList avant = Bac::toutLire();
+        Ecoute ecoute(bac.annonces);
         Etapes etapes(bac.annonces);
         Historique histoire(bac.annonces);
+        const quint32 debut = ecritures(bac);
         geste(bac);
-        faites = etapes.faites;
+        const QStringList apres = Bac::toutLire();
+        QVERIFY(apres != avant);
+        QCOMPARE(ecritures(bac), debut + 1);
+        QCOMPARE(etapes.faites.size(), 1U);
+        QVERIFY(!etapes.faites[0].titre.trimmed().isEmpty());
+        QCOMPARE(etapes.faites[0].lieu.tri, lieu.tri);
+        QCOMPARE(etapes.faites[0].lieu.id, lieu.id);
+        QCOMPARE(ecoute.annonces().size(), 1U);
         histoire.annuler();
+        QCOMPARE(Bac::toutLire(), avant);
+        histoire.refaire();
+        QCOMPARE(Bac::toutLire(), apres);
     }
-    QString table;
-    QString quand;
-    faites.at(0).bande->remonter([&](const Bande::Note &n) {
-        // The rules that keep the tome's key write for themselves.
-        if (!table.isEmpty() || n.table == "SerieAlbums")
-            return;
-        table = QString::fromUtf8(n.table.data(), qsizetype(n.table.size()));
-        quand = n.sorte == Bande::Sorte::Ajout ? "INSERT"
-            : n.sorte == Bande::Sorte::Edition ? "UPDATE"
-                                               : "DELETE";
-    });
-    Bac::executer(QStringLiteral("CREATE TRIGGER Refus BEFORE %1 ON %2 BEGIN SELECT raise(ABORT, 'non'); END")
-                      .arg(quand, table));
-    const QStringList avant = Bac::toutLire();
-    Ecoute ecoute(bac.annonces);
-    ecoute.annonces();
-    const auto annonces = ecoute.annonces().size();
-    Etapes etapes(bac.annonces);
-    QVERIFY(refus([&] { geste(bac); }).has_value());
-    QCOMPARE(Bac::toutLire(), avant);
-    QVERIFY(etapes.faites.empty());
-    QCOMPARE(ecoute.annonces().size(), annonces);
-}
 
-void tst_acte::unSecondEssaiNeDoubleRien()
-{
-    Bac bac;
-    Bac::executer("CREATE TRIGGER Refus BEFORE INSERT ON LAlbums BEGIN SELECT raise(ABORT, 'non'); END");
-    QVERIFY(refus([] { Saisie::CreerAlbum(nouveau()); }).has_value());
-    Bac::executer("DROP TRIGGER Refus");
-    QCOMPARE(Saisie::CreerAlbum(nouveau()), 1);
-    for (const char *liens : {"GenreAlbums", "EditeurAlbums", "SerieAlbums", "AuteursAlbums", "Album"})
-        QCOMPARE(Bac::valeur(QStringLiteral("SELECT count(*) FROM %1").arg(liens)), 1);
-}
+    void unActeRateNeLaisseRien_data() { chaqueActeEstUneEtapeEnSonLieu_data(); }
+
+    /// The last of the writes is refused by the engine.
+    void unActeRateNeLaisseRien()
+    {
+        const auto [lieu, geste] = essai<Entree, Geste>();
+        Bac bac;
+        peupler();
+        std::vector<Etape> faites;
+        {
+            Etapes etapes(bac.annonces);
+            Historique histoire(bac.annonces);
+            geste(bac);
+            faites = etapes.faites;
+            histoire.annuler();
+        }
+        QString table;
+        QString quand;
+        faites.at(0).bande->remonter([&](const Bande::Note &n) {
+            // The rules that keep the tome's key write for themselves.
+            if (!table.isEmpty() || n.table == "SerieAlbums")
+                return;
+            table = QString::fromUtf8(n.table.data(), qsizetype(n.table.size()));
+            quand = n.sorte == Bande::Sorte::Ajout ? "INSERT"
+                : n.sorte == Bande::Sorte::Edition ? "UPDATE"
+                                                   : "DELETE";
+        });
+        Bac::executer(
+            QStringLiteral("CREATE TRIGGER Refus BEFORE %1 ON %2 BEGIN SELECT raise(ABORT, 'non'); END")
+                .arg(quand, table));
+        const QStringList avant = Bac::toutLire();
+        Ecoute ecoute(bac.annonces);
+        ecoute.annonces();
+        const auto annonces = ecoute.annonces().size();
+        Etapes etapes(bac.annonces);
+        QVERIFY(refus([&] { geste(bac); }).has_value());
+        QCOMPARE(Bac::toutLire(), avant);
+        QVERIFY(etapes.faites.empty());
+        QCOMPARE(ecoute.annonces().size(), annonces);
+    }
+
+    void unSecondEssaiNeDoubleRien()
+    {
+        Bac bac;
+        Bac::executer("CREATE TRIGGER Refus BEFORE INSERT ON LAlbums BEGIN SELECT raise(ABORT, 'non'); END");
+        QVERIFY(refus([] { Saisie::CreerAlbum(nouveau()); }).has_value());
+        Bac::executer("DROP TRIGGER Refus");
+        QCOMPARE(Saisie::CreerAlbum(nouveau()), 1);
+        for (const char *liens : {"GenreAlbums", "EditeurAlbums", "SerieAlbums", "AuteursAlbums", "Album"})
+            QCOMPARE(Bac::valeur(QStringLiteral("SELECT count(*) FROM %1").arg(liens)), 1);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_acte)
 #include "tst_acte.moc"

@@ -15,18 +15,6 @@
 #include <QTextStream>
 #include <SQLiteCpp/Database.h>
 
-/// A process that is at work on the collection is killed at any moment: what it leaves is sound, and as before
-/// or as after.
-class tst_coupures : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void uneSauvegardeCoupee();
-    void uneRestaurationCoupee();
-    void uneImportationCoupee();
-};
-
 namespace {
 
 constexpr int Coupures = 50;
@@ -75,73 +63,82 @@ bool sontEntieres(const QList<Sauvegardes::Sauvegarde> &copies)
 
 }
 
-void tst_coupures::uneSauvegardeCoupee()
+/// A process that is at work on the collection is killed at any moment: what it leaves is sound, and as before
+/// or as after.
+class tst_coupures : public QObject
 {
-    Bac bac;
-    Bac::ecrire(bac.collection(), remplie("0"));
-    QRandomGenerator hasard(1);
-    for (int tour = 0; tour < Coupures; ++tour) {
-        QVERIFY(!couper("sauver", bac, hasard.bounded(DureeMs), tour));
-        QCOMPARE(Verification::Verifier(), "");
-        QVERIFY(estEntiere(bac.collection()));
-        QVERIFY(sontEntieres(Sauvegardes::Lister()));
-    }
-    QVERIFY(!Sauvegardes::Lister().isEmpty());
-    // The next copy clears what the dead left; of fifty days few copies are kept.
-    bac.annonces.sauvegardes.maintenant = [] { return QDateTime({2026, 12, 1}, {8, 0}); };
-    Bac::agir("UPDATE Auteurs SET Nom = 'fin'");
-    const QStringList restes = QDir(bac.chemin("sauvegardes")).entryList(QDir::Files);
-    QCOMPARE(restes.filter(".tmp"), QStringList());
-    QVERIFY2(restes.size() < 30, qPrintable(restes.join(u'\n')));
-}
+    Q_OBJECT
 
-/// In every second round the collection to be replaced is damaged.
-void tst_coupures::uneRestaurationCoupee()
-{
-    const Bac bac;
-    Bac::ecrire(bac.chemin("a.bd"), remplie("a"));
-    Bac::ecrire(bac.chemin("b.bd"), remplie("b"));
-    const QByteArray abimee = Bac::lire(bac.chemin("a.bd")).replace(4096, 40'000, QByteArray(40'000, '\x5A'));
-    QRandomGenerator hasard(2);
-    for (int tour = 0; tour < Coupures; ++tour) {
-        const bool saine = tour % 2 == 0;
-        Bac::ecrire(bac.collection(), saine ? Bac::lire(bac.chemin("b.bd")) : abimee);
-        QVERIFY(!couper("restaurer", bac, hasard.bounded(DureeMs)));
-        const bool enPlace = Bac::lire(bac.collection()) == abimee;
-        const QStringList deCote = QDir(bac.chemin()).entryList({"bd abîmée *.mdb"});
-        QVERIFY(saine || enPlace || deCote.size() == 1);
-        for (const QString &nom : deCote)
-            QVERIFY(Bac::lire(bac.chemin(nom)) == abimee && QFile::remove(bac.chemin(nom)));
-        QVERIFY(enPlace || (Verification::Verifier().isEmpty() && estEntiere(bac.collection())));
-        QVERIFY(sontEntieres(Sauvegardes::Lister()));
-        QDir(bac.chemin("sauvegardes")).removeRecursively();
+private Q_SLOTS:
+    void uneSauvegardeCoupee()
+    {
+        Bac bac;
+        Bac::ecrire(bac.collection(), remplie("0"));
+        QRandomGenerator hasard(1);
+        for (int tour = 0; tour < Coupures; ++tour) {
+            QVERIFY(!couper("sauver", bac, hasard.bounded(DureeMs), tour));
+            QCOMPARE(Verification::Verifier(), "");
+            QVERIFY(estEntiere(bac.collection()));
+            QVERIFY(sontEntieres(Sauvegardes::Lister()));
+        }
+        QVERIFY(!Sauvegardes::Lister().isEmpty());
+        // The next copy clears what the dead left; of fifty days few copies are kept.
+        bac.annonces.sauvegardes.maintenant = [] { return QDateTime({2026, 12, 1}, {8, 0}); };
+        Bac::agir("UPDATE Auteurs SET Nom = 'fin'");
+        const QStringList restes = QDir(bac.chemin("sauvegardes")).entryList(QDir::Files);
+        QCOMPARE(restes.filter(".tmp"), QStringList());
+        QVERIFY2(restes.size() < 30, qPrintable(restes.join(u'\n')));
     }
-}
 
-void tst_coupures::uneImportationCoupee()
-{
-    const Bac bac;
-    const QByteArray octets = remplie("a");
-    Bac::ecrire(bac.collection(), octets);
-    QByteArray albums = "Titre;Tome;Série;Dessinateur;Résumé\n";
-    for (int i = 0; i < 60; ++i)
-        albums += "L'album " + QByteArray::number(i) + ";1;Zig;Cham;" + QByteArray(4000, 'x') + '\n';
-    Bac::ecrire(bac.chemin("albums.csv"), albums);
-    const QStringList avant = Bac::toutLire();
-    const auto duree = couper("importer", bac, 60'000);
-    const QStringList apres = Bac::toutLire();
-    QVERIFY(duree && Bac::valeur("SELECT count(*) FROM Album") == 60);
-    QRandomGenerator hasard(3);
-    int coupees = 0;
-    for (int tour = 0; tour < Coupures; ++tour) {
+    /// In every second round the collection to be replaced is damaged.
+    void uneRestaurationCoupee()
+    {
+        const Bac bac;
+        Bac::ecrire(bac.chemin("a.bd"), remplie("a"));
+        Bac::ecrire(bac.chemin("b.bd"), remplie("b"));
+        const QByteArray abimee
+            = Bac::lire(bac.chemin("a.bd")).replace(4096, 40'000, QByteArray(40'000, '\x5A'));
+        QRandomGenerator hasard(2);
+        for (int tour = 0; tour < Coupures; ++tour) {
+            const bool saine = tour % 2 == 0;
+            Bac::ecrire(bac.collection(), saine ? Bac::lire(bac.chemin("b.bd")) : abimee);
+            QVERIFY(!couper("restaurer", bac, hasard.bounded(DureeMs)));
+            const bool enPlace = Bac::lire(bac.collection()) == abimee;
+            const QStringList deCote = QDir(bac.chemin()).entryList({"bd abîmée *.mdb"});
+            QVERIFY(saine || enPlace || deCote.size() == 1);
+            for (const QString &nom : deCote)
+                QVERIFY(Bac::lire(bac.chemin(nom)) == abimee && QFile::remove(bac.chemin(nom)));
+            QVERIFY(enPlace || (Verification::Verifier().isEmpty() && estEntiere(bac.collection())));
+            QVERIFY(sontEntieres(Sauvegardes::Lister()));
+            QDir(bac.chemin("sauvegardes")).removeRecursively();
+        }
+    }
+
+    void uneImportationCoupee()
+    {
+        const Bac bac;
+        const QByteArray octets = remplie("a");
         Bac::ecrire(bac.collection(), octets);
-        coupees += couper("importer", bac, hasard.bounded(static_cast<int>(*duree) + 1)) ? 0 : 1;
-        QCOMPARE(Verification::Verifier(), "");
-        const QStringList trouvee = Bac::toutLire();
-        QVERIFY(trouvee == avant || trouvee == apres);
+        QByteArray albums = "Titre;Tome;Série;Dessinateur;Résumé\n";
+        for (int i = 0; i < 60; ++i)
+            albums += "L'album " + QByteArray::number(i) + ";1;Zig;Cham;" + QByteArray(4000, 'x') + '\n';
+        Bac::ecrire(bac.chemin("albums.csv"), albums);
+        const QStringList avant = Bac::toutLire();
+        const auto duree = couper("importer", bac, 60'000);
+        const QStringList apres = Bac::toutLire();
+        QVERIFY(duree && Bac::valeur("SELECT count(*) FROM Album") == 60);
+        QRandomGenerator hasard(3);
+        int coupees = 0;
+        for (int tour = 0; tour < Coupures; ++tour) {
+            Bac::ecrire(bac.collection(), octets);
+            coupees += couper("importer", bac, hasard.bounded(static_cast<int>(*duree) + 1)) ? 0 : 1;
+            QCOMPARE(Verification::Verifier(), "");
+            const QStringList trouvee = Bac::toutLire();
+            QVERIFY(trouvee == avant || trouvee == apres);
+        }
+        QVERIFY2(coupees > Coupures / 4, qPrintable(QString::number(coupees)));
     }
-    QVERIFY2(coupees > Coupures / 4, qPrintable(QString::number(coupees)));
-}
+};
 
 namespace {
 

@@ -8,20 +8,6 @@
 
 using AccesBase::Role;
 
-class tst_creer : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void lePremierAlbumFaitToutesSesLignes();
-    void toutCeQuiEstSaisiSeMontre();
-    void lesNomsConnusSontRetrouves();
-    void leMemeAuteurDeuxFoisNAQuUneLigne();
-    void unAuteurSEcritNomVirgulePrenom();
-    void sansNomNiEntreeNiLien();
-    void leNumeroRedonneNHeriteDeRien();
-};
-
 namespace {
 
 /// All rows of a table, as text, in the order of their making.
@@ -52,118 +38,123 @@ Album albumComplet()
 
 }
 
-void tst_creer::lePremierAlbumFaitToutesSesLignes()
+class tst_creer : public QObject
 {
-    const Bac bac;
-    QCOMPARE(Creer::CreerAlbum(albumComplet()), 1);
-    QCOMPARE(lignes("Album"),
-        QStringList("1|3|1|1|1|1|2|3|5|5| | | |Un récit.| |0| |mai 1931|0| |0| |12.5|-1|1|0|0|0|0|0"));
-    QCOMPARE(lignes("LAlbums"), QStringList("1|L'Écume d'été|a.jpg| |Un récit.| | |NULL|NULL|NULL"));
-    QCOMPARE(lignes("Genre"), QStringList("1|Humour"));
-    QCOMPARE(lignes("Editeur"), QStringList("1|Plon| | | | |0| | | | "));
-    QCOMPARE(lignes("Serie"), QStringList("1|Zig|1|1|5|5|5|5| | | | | | "));
-    QCOMPARE(lignes("Auteurs"),
-        QStringList({"1|Pinchon| | | | |0| | | | | |-1|0|0", "2|D'Ivoi| | | | |0| | | | | |0|-1|0",
-            "3|Gris| | | | |0| | | | | |0|0|-1"}));
-    QCOMPARE(lignes("AuteursAlbums"), QStringList({"1|1|-1|0|0", "2|1|0|-1|0", "3|1|0|0|-1"}));
-    QCOMPARE(lignes("SerieAlbums"), QStringList("1|1|D"));
-    QCOMPARE(lignes("GenreAlbums") + lignes("EditeurAlbums"), QStringList({"1|1", "1|1"}));
-    QVERIFY(lignes("CollAlbums").isEmpty() && lignes("PaysAlbum").isEmpty());
-}
+    Q_OBJECT
 
-/// Whatever can be entered is stored, and its sheet shows it.
-void tst_creer::toutCeQuiEstSaisiSeMontre()
-{
-    const Bac bac;
-    Album album;
-    for (const auto &champ : ChampsDeCreation::Tous) {
-        const bool nombre
-            = champ.champ->regle != Champs::Regle::Texte && champ.champ->regle != Champs::Regle::Titre;
-        album[champ.rubrique] = nombre && !champ.champ->source ? "1" : "Ceci";
+private Q_SLOTS:
+    void lePremierAlbumFaitToutesSesLignes()
+    {
+        const Bac bac;
+        QCOMPARE(Creer::CreerAlbum(albumComplet()), 1);
+        QCOMPARE(lignes("Album"),
+            QStringList("1|3|1|1|1|1|2|3|5|5| | | |Un récit.| |0| |mai 1931|0| |0| |12.5|-1|1|0|0|0|0|0"));
+        QCOMPARE(lignes("LAlbums"), QStringList("1|L'Écume d'été|a.jpg| |Un récit.| | |NULL|NULL|NULL"));
+        QCOMPARE(lignes("Genre"), QStringList("1|Humour"));
+        QCOMPARE(lignes("Editeur"), QStringList("1|Plon| | | | |0| | | | "));
+        QCOMPARE(lignes("Serie"), QStringList("1|Zig|1|1|5|5|5|5| | | | | | "));
+        QCOMPARE(lignes("Auteurs"),
+            QStringList({"1|Pinchon| | | | |0| | | | | |-1|0|0", "2|D'Ivoi| | | | |0| | | | | |0|-1|0",
+                "3|Gris| | | | |0| | | | | |0|0|-1"}));
+        QCOMPARE(lignes("AuteursAlbums"), QStringList({"1|1|-1|0|0", "2|1|0|-1|0", "3|1|0|0|-1"}));
+        QCOMPARE(lignes("SerieAlbums"), QStringList("1|1|D"));
+        QCOMPARE(lignes("GenreAlbums") + lignes("EditeurAlbums"), QStringList({"1|1", "1|1"}));
+        QVERIFY(lignes("CollAlbums").isEmpty() && lignes("PaysAlbum").isEmpty());
     }
-    const auto valeurs = Fiche::Lire(Champs::Feuille::Album, Creer::CreerAlbum(album));
-    for (const auto &champ : ChampsDeCreation::Tous) {
-        const ValeurDeChamp &valeur = valeurs->at(champ.champ->nom);
-        const QString texte = album[champ.rubrique];
-        QVERIFY2(valeur.affichee == texte || valeur.stockee.toString() == texte
-                || (champ.champ->regle == Champs::Regle::Drapeau && valeur.stockee.toBool()),
-            champ.champ->nom);
+
+    /// Whatever can be entered is stored, and its sheet shows it.
+    void toutCeQuiEstSaisiSeMontre()
+    {
+        const Bac bac;
+        Album album;
+        for (const auto &champ : ChampsDeCreation::Tous) {
+            const bool nombre
+                = champ.champ->regle != Champs::Regle::Texte && champ.champ->regle != Champs::Regle::Titre;
+            album[champ.rubrique] = nombre && !champ.champ->source ? "1" : "Ceci";
+        }
+        const auto valeurs = Fiche::Lire(Champs::Feuille::Album, Creer::CreerAlbum(album));
+        for (const auto &champ : ChampsDeCreation::Tous) {
+            const ValeurDeChamp &valeur = valeurs->at(champ.champ->nom);
+            const QString texte = album[champ.rubrique];
+            QVERIFY2(valeur.affichee == texte || valeur.stockee.toString() == texte
+                    || (champ.champ->regle == Champs::Regle::Drapeau && valeur.stockee.toBool()),
+                champ.champ->nom);
+        }
+        // A loan whose date nobody gave begins today.
+        album[Rubrique::DatePret].clear();
+        Creer::CreerAlbum(album);
+        QCOMPARE(Bac::valeur("SELECT DPret FROM Album WHERE Num = 2"), Dates::Ecrire(QDate::currentDate()));
     }
-    // A loan whose date nobody gave begins today.
-    album[Rubrique::DatePret].clear();
-    Creer::CreerAlbum(album);
-    QCOMPARE(Bac::valeur("SELECT DPret FROM Album WHERE Num = 2"), Dates::Ecrire(QDate::currentDate()));
-}
 
-void tst_creer::lesNomsConnusSontRetrouves()
-{
-    const Bac bac;
-    Creer::CreerAlbum(albumComplet());
-    Album second = albumComplet();
-    second[Rubrique::Titre] = QString(60, u'x');
-    second[Rubrique::Serie] = QStringLiteral("ZIG");
-    second[Rubrique::Editeur] = QStringLiteral("plon");
-    second[Rubrique::Scena] = QStringLiteral("d'ivoi");
-    second[Rubrique::Couleur] = "2";
-    QCOMPARE(Creer::CreerAlbum(second), 2);
-    for (const char *table : {"Genre", "Editeur", "Serie"})
-        QCOMPARE(lignes(QLatin1String(table)).size(), 1);
-    QCOMPARE(lignes("Auteurs").size(), 3);
-    QCOMPARE(lignes("SerieAlbums"), QStringList({"1|1|D", "1|2|D"}));
-    QCOMPARE(Bac::valeur(QStringLiteral("SELECT TAlbum FROM LAlbums WHERE NAlbum = 2")).toString(),
-        QString(50, u'x'));
-    QCOMPARE(Bac::valeur(QStringLiteral("SELECT Couleur FROM Album WHERE Num = 2")).toInt(), 2);
-}
+    void lesNomsConnusSontRetrouves()
+    {
+        const Bac bac;
+        Creer::CreerAlbum(albumComplet());
+        Album second = albumComplet();
+        second[Rubrique::Titre] = QString(60, u'x');
+        second[Rubrique::Serie] = QStringLiteral("ZIG");
+        second[Rubrique::Editeur] = QStringLiteral("plon");
+        second[Rubrique::Scena] = QStringLiteral("d'ivoi");
+        second[Rubrique::Couleur] = "2";
+        QCOMPARE(Creer::CreerAlbum(second), 2);
+        for (const char *table : {"Genre", "Editeur", "Serie"})
+            QCOMPARE(lignes(QLatin1String(table)).size(), 1);
+        QCOMPARE(lignes("Auteurs").size(), 3);
+        QCOMPARE(lignes("SerieAlbums"), QStringList({"1|1|D", "1|2|D"}));
+        QCOMPARE(Bac::valeur("SELECT TAlbum FROM LAlbums WHERE NAlbum = 2").toString(), QString(50, u'x'));
+        QCOMPARE(Bac::valeur("SELECT Couleur FROM Album WHERE Num = 2").toInt(), 2);
+    }
 
-void tst_creer::leMemeAuteurDeuxFoisNAQuUneLigne()
-{
-    const Bac bac;
-    Album album = albumComplet();
-    album[Rubrique::Scena] = QStringLiteral("pinchon");
-    album[Rubrique::Color].clear();
-    Creer::CreerAlbum(album);
-    QCOMPARE(lignes("AuteursAlbums"), QStringList("1|1|-1|-1|0"));
-    QCOMPARE(lignes("Auteurs"), QStringList("1|Pinchon| | | | |0| | | | | |-1|-1|0"));
-    QCOMPARE(Bac::valeur(QStringLiteral("SELECT NScen FROM Album")).toInt(), 1);
-    QVERIFY(!Bac::valeur(QStringLiteral("SELECT NColor FROM Album")).isValid());
-}
+    void leMemeAuteurDeuxFoisNAQuUneLigne()
+    {
+        const Bac bac;
+        Album album = albumComplet();
+        album[Rubrique::Scena] = QStringLiteral("pinchon");
+        album[Rubrique::Color].clear();
+        Creer::CreerAlbum(album);
+        QCOMPARE(lignes("AuteursAlbums"), QStringList("1|1|-1|-1|0"));
+        QCOMPARE(lignes("Auteurs"), QStringList("1|Pinchon| | | | |0| | | | | |-1|-1|0"));
+        QCOMPARE(Bac::valeur("SELECT NScen FROM Album").toInt(), 1);
+        QVERIFY(!Bac::valeur("SELECT NColor FROM Album").isValid());
+    }
 
-void tst_creer::unAuteurSEcritNomVirgulePrenom()
-{
-    const Bac bac;
-    Bac::executer(QStringLiteral(
-        "INSERT INTO Auteurs(NAuteur, Nom, Prenom) VALUES (4, 'Töpffer', 'Rodolphe'), (5, 'A, B', ' ')"));
-    QCOMPARE(Creer::AjouterAuteur(QStringLiteral("töpffer, Rodolphe"), Role::Dessin, 1), 4);
-    QCOMPARE(Creer::AjouterAuteur(QStringLiteral("A, B"), Role::Dessin, 1), 5);
-    // Another first name is another author, and a text is never split to make one.
-    QCOMPARE(Creer::AjouterAuteur(QStringLiteral("Töpffer, Charles"), Role::Scena, 1), 6);
-    QCOMPARE(lignes("Auteurs").last(), QStringLiteral("6|Töpffer, Charles| | | | |0| | | | | |0|-1|0"));
-}
+    void unAuteurSEcritNomVirgulePrenom()
+    {
+        const Bac bac;
+        Bac::executer(QStringLiteral(
+            "INSERT INTO Auteurs(NAuteur, Nom, Prenom) VALUES (4, 'Töpffer', 'Rodolphe'), (5, 'A, B', ' ')"));
+        QCOMPARE(Creer::AjouterAuteur("töpffer, Rodolphe", Role::Dessin, 1), 4);
+        QCOMPARE(Creer::AjouterAuteur("A, B", Role::Dessin, 1), 5);
+        // Another first name is another author, and a text is never split to make one.
+        QCOMPARE(Creer::AjouterAuteur("Töpffer, Charles", Role::Scena, 1), 6);
+        QCOMPARE(lignes("Auteurs").last(), "6|Töpffer, Charles| | | | |0| | | | | |0|-1|0");
+    }
 
-void tst_creer::sansNomNiEntreeNiLien()
-{
-    const Bac bac;
-    Album album;
-    album[Rubrique::Titre] = QStringLiteral("Seul");
-    album[Rubrique::Serie] = QStringLiteral("  ");
-    album[Rubrique::Editeur] = QStringLiteral(" ");
-    Creer::CreerAlbum(album);
-    for (const char *table : {"Genre", "Editeur", "Serie", "Auteurs", "SerieAlbums", "GenreAlbums",
-             "EditeurAlbums", "AuteursAlbums"})
-        QVERIFY2(lignes(QLatin1String(table)).isEmpty(), table);
-    QCOMPARE(lignes("Album"),
-        QStringList("1|0|NULL|NULL|NULL|NULL|NULL|NULL|5|5| | | | | |0| | |0| |0| |0|0|2|0|0|0|0|0"));
-}
+    void sansNomNiEntreeNiLien()
+    {
+        const Bac bac;
+        Album album;
+        album[Rubrique::Titre] = QStringLiteral("Seul");
+        album[Rubrique::Serie] = QStringLiteral("  ");
+        album[Rubrique::Editeur] = QStringLiteral(" ");
+        Creer::CreerAlbum(album);
+        for (const char *table : {"Genre", "Editeur", "Serie", "Auteurs", "SerieAlbums", "GenreAlbums",
+                 "EditeurAlbums", "AuteursAlbums"})
+            QVERIFY2(lignes(QLatin1String(table)).isEmpty(), table);
+        QCOMPARE(lignes("Album"),
+            QStringList("1|0|NULL|NULL|NULL|NULL|NULL|NULL|5|5| | | | | |0| | |0| |0| |0|0|2|0|0|0|0|0"));
+    }
 
-void tst_creer::leNumeroRedonneNHeriteDeRien()
-{
-    const Bac bac;
-    Bac::executer(QStringLiteral("INSERT INTO CotesAlbum VALUES (1, '2024', '60'), (2, '2024', '7')"));
-    Bac::executer(QStringLiteral("INSERT INTO InterMetier VALUES (1, 1, 1)"));
-    Creer::CreerAlbum(albumComplet());
-    QCOMPARE(lignes("CotesAlbum"), QStringList("2|2024|7"));
-    QVERIFY(lignes("InterMetier").isEmpty());
-}
+    void leNumeroRedonneNHeriteDeRien()
+    {
+        const Bac bac;
+        Bac::executer("INSERT INTO CotesAlbum VALUES (1, '2024', '60'), (2, '2024', '7')");
+        Bac::executer("INSERT INTO InterMetier VALUES (1, 1, 1)");
+        Creer::CreerAlbum(albumComplet());
+        QCOMPARE(lignes("CotesAlbum"), QStringList("2|2024|7"));
+        QVERIFY(lignes("InterMetier").isEmpty());
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_creer)
 #include "tst_creer.moc"
