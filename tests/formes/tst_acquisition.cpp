@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QDropEvent>
 #include <QFile>
+#include <QLibrary>
+#include <QLibraryInfo>
 #include <QMimeData>
 #include <QPushButton>
 #include <QToolButton>
@@ -50,6 +52,14 @@ class tst_acquisition : public QObject, private Gestes
     Q_OBJECT
 
 private Q_SLOTS:
+    /// What the scanner's back end keeps to the end counts as kept only as long as it is loaded.
+    void initTestCase()
+    {
+        QLibrary pilote(QLibraryInfo::path(QLibraryInfo::LibrariesPath) + "/sane/libsane-test.so.1");
+        pilote.setLoadHints(QLibrary::PreventUnloadHint);
+        QVERIFY2(pilote.load(), qPrintable(pilote.errorString()));
+    }
+
     void uneNumerisationDevientLaCouverture()
     {
         Atelier s;
