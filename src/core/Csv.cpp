@@ -78,7 +78,7 @@ void finDeLigne(int caractere, void *donnees)
 /// The next piece of a file that is not at its end.
 QByteArray lireMorceau(QFile &fichier)
 {
-    const QByteArray octets = fichier.read(Morceau);
+    QByteArray octets = fichier.read(Morceau);
     if (octets.isEmpty())
         echec(fichier.fileName(), fichier.errorString());
     return octets;

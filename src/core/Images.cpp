@@ -27,7 +27,7 @@ QString existant(const QString &chemin)
 QString parDernierePartie(const QString &nom)
 {
     for (const QString &dossier : DossiersDImages) {
-        const QString chemin = existant(Dossier::courant().chemin(dossier + u'/' + nom));
+        QString chemin = existant(Dossier::courant().chemin(dossier + u'/' + nom));
         if (!chemin.isEmpty())
             return chemin;
     }

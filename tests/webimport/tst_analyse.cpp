@@ -4,8 +4,8 @@
 #include "support/Refus.h"
 #include "webimport/AnalyserPage.h"
 
-#include <QElapsedTimer>
 #include <QTest>
+#include <ctime>
 
 using AnalysePage::Page;
 
@@ -123,13 +123,14 @@ private Q_SLOTS:
 
     void uneGrossePageSeLitVite()
     {
-        QElapsedTimer chrono;
-        chrono.start();
+        // The machine may be busy with other things: only our own time counts.
+        const std::clock_t debut = std::clock();
         Page page;
         AnalysePage::AnalyserPage("<h2>" + QByteArray("<p>").repeated(2 << 20) + "Fin</h2>", page);
         AnalysePage::AnalyserPage(QByteArray("dessinateurs : </span>a</a>\n").repeated(100'000), page);
         QCOMPARE(page.titre, "fin");
-        QVERIFY2(chrono.elapsed() < 5000, qPrintable(QString::number(chrono.elapsed())));
+        const double secondes = double(std::clock() - debut) / CLOCKS_PER_SEC;
+        QVERIFY2(secondes < 5, qPrintable(QString::number(secondes)));
     }
 };
 

@@ -15,7 +15,7 @@ QString ChoisirImage(QWidget *parent)
         dossier = Dossier::courant().chemin(QStringLiteral("image"));
     const QString filtre
         = QString(texte(Txt::FiltreImages)).replace(QLatin1String("*.bmp"), QLatin1String("*.bmp;*.png"));
-    const QString chemin = Messages::OuvrirFichier(parent, texte(Txt::OuvrirUnFichierImage), dossier, filtre);
+    QString chemin = Messages::OuvrirFichier(parent, texte(Txt::OuvrirUnFichierImage), dossier, filtre);
     if (!chemin.isEmpty())
         reglages.ecrire(Cle::DossierImages, QFileInfo(chemin).absolutePath());
     return chemin;
