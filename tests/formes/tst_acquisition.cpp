@@ -6,8 +6,6 @@
 #include <QComboBox>
 #include <QDropEvent>
 #include <QFile>
-#include <QLibrary>
-#include <QLibraryInfo>
 #include <QMimeData>
 #include <QPushButton>
 #include <QToolButton>
@@ -18,7 +16,6 @@ struct Atelier : Seance
 {
     Atelier()
     {
-        qputenv("SANE_CONFIG_DIR", SCANNERS);
         demarrer();
         ouvrir("Menu(3)", "Outils(2)", "Acquisition");
         QTRY_VERIFY(trouver<QComboBox>("Sources", "Acquisition")->count() > 0);
@@ -52,14 +49,6 @@ class tst_acquisition : public QObject, private Gestes
     Q_OBJECT
 
 private Q_SLOTS:
-    /// What the scanner's back end keeps to the end counts as kept only as long as it is loaded.
-    void initTestCase()
-    {
-        QLibrary pilote(QLibraryInfo::path(QLibraryInfo::LibrariesPath) + "/sane/libsane-test.so.1");
-        pilote.setLoadHints(QLibrary::PreventUnloadHint);
-        QVERIFY2(pilote.load(), qPrintable(pilote.errorString()));
-    }
-
     void uneNumerisationDevientLaCouverture()
     {
         Atelier s;

@@ -12,6 +12,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLibrary>
+#include <QLibraryInfo>
 #include <QTest>
 
 /// What a hand does with the forms, worked by object names.
@@ -115,6 +117,10 @@ int jouer(int argc, char *argv[])
 {
     Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    // What the scanner's back end keeps to the end counts as kept only as long as it is loaded.
+    QLibrary pilote(QLibraryInfo::path(QLibraryInfo::LibrariesPath) + "/sane/libsane-test.so.1");
+    pilote.setLoadHints(QLibrary::PreventUnloadHint);
+    pilote.load();
     Parcours parcours;
     return QTest::qExec(&parcours, argc, argv);
 }
