@@ -103,7 +103,6 @@ private Q_SLOTS:
         QTest::newRow("abimee") << abimer(albumNomme("celle d'avant"));
         QTest::newRow("coupee") << albumNomme("celle d'avant").chopped(5000);
         QTest::newRow("ancienne") << Access;
-        QTest::newRow("vide") << QByteArray();
     }
 
     void laBaseRemplaceeEstGardee()
