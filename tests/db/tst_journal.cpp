@@ -216,8 +216,7 @@ private Q_SLOTS:
         const auto lire = [](const Bande &bande, auto sens) {
             QStringList notes;
             (bande.*sens)([&](const Bande::Note &n) {
-                notes << QStringLiteral("%1 %2 %3 %4 ").arg(int(n.sorte)).arg(n.cle).arg(n.avant).arg(n.apres)
-                        + QByteArray(n.table.data(), qsizetype(n.table.size()))
+                notes << QStringLiteral("%1 %2 %3 ").arg(n.cle).arg(n.avant).arg(n.apres)
                         + QByteArray(n.valeurs.data(), qsizetype(n.valeurs.size()));
             });
             return notes;

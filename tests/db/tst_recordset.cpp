@@ -1,6 +1,5 @@
 #include "acts/Acte.h"
 #include "db/Base.h"
-#include "db/Transaction.h"
 #include "support/Bac.h"
 #include "support/Colonnes.h"
 #include "support/Refus.h"
@@ -46,25 +45,6 @@ private Q_SLOTS:
         }
         QCOMPARE(vus, QVariantList({1, 3, 5, 7, 9}));
         QCOMPARE(Bac::valeur("SELECT Nom FROM Genre"), "z5");
-    }
-
-    void unParcoursSurvitAUneAnnulation()
-    {
-        const Bac bac;
-        Base base;
-        remplirGenres(3);
-        const auto noms = [&](auto rs) {
-            QStringList noms;
-            for (; !rs.AtEnd(); rs.MoveNext()) {
-                noms << rs.Fields("nom").toString();
-                const Transaction transaction(base);
-                base.Execute("UPDATE Genre SET Nom = 'perdu'");
-            }
-            return noms;
-        };
-        const QStringList attendus{"a01", "a02", "a03"};
-        QCOMPARE(noms(base.edit("Genre", "order by NGenre")), attendus);
-        QCOMPARE(noms(base.read("SELECT Nom FROM Genre ORDER BY NGenre")), attendus);
     }
 
     void uneValeurImpossibleEstRefusee()
@@ -122,21 +102,6 @@ private Q_SLOTS:
             QCOMPARE(base.edit("Auteurs", condition).RecordCount(), nombre.toInt());
             QCOMPARE(Bac::valeur("SELECT count(*) From Auteurs where " + condition), nombre);
         }
-    }
-
-    void uneLigneSupprimeeEntreTempsRefuseLEdition()
-    {
-        const Bac bac;
-        Base base;
-        remplirGenres(2);
-        auto rs = base.edit("Genre");
-        rs.Edit();
-        rs.SetField("Nom", "Fantôme");
-        Bac::executer("DELETE FROM Genre WHERE NGenre = 1");
-        QVERIFY(refus([&] { rs.Update(); }).has_value());
-        rs.MoveNext();
-        QCOMPARE(rs.Fields("Nom"), "a02");
-        QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 1);
     }
 };
 

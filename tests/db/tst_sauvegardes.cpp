@@ -108,22 +108,16 @@ private Q_SLOTS:
 
     void laCopieEstLaBaseDAvantLEcriture()
     {
-        for (const QString comment : {"instruction", "edition", "suppression"}) {
+        for (const QString comment : {"instruction", "parcours"}) {
             const Etabli e;
             const QStringList avant = Bac::toutLire();
             {
                 Acte acte("acte");
                 Base &base = acte.base();
-                auto rs = base.edit("Genre");
                 if (comment == "instruction")
                     base.Execute("DELETE FROM Genre");
-                else if (comment == "suppression")
-                    rs.Delete();
-                else {
-                    rs.Edit();
-                    rs.SetField("Nom", "autre");
-                    rs.Update();
-                }
+                else
+                    base.edit("Genre").Delete();
                 // The hour that passes in the middle of a write is not the time for a copy, not even to try.
                 e.suivi.derniere = {};
                 base.Execute("INSERT INTO Genre VALUES (7, 'sept')");

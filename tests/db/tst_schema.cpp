@@ -152,7 +152,6 @@ private Q_SLOTS:
     void uneBaseDUnePlusRecenteNEstPasTouchee()
     {
         const Bac bac;
-        remplir({1});
         // An order of names that is not ours either: it must not be mended on the way.
         Bac::executer(
             QStringLiteral("PRAGMA user_version=%1").arg(Version::Composer(7, Version::DernierPalier + 1)));
