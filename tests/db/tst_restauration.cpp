@@ -60,7 +60,6 @@ private Q_SLOTS:
         cas("coupee", albumNomme("a").chopped(5000), Etat::Abimee);
         cas("pages abimees", abimer(albumNomme("a")), Etat::Abimee);
         cas("table qui manque", albumNomme("a", "DROP TABLE Editeur"), Etat::Abimee);
-        cas("texte", "du texte", Etat::Etrangere);
         cas("vide", {}, Etat::Etrangere);
     }
 
@@ -103,7 +102,6 @@ private Q_SLOTS:
         QTest::newRow("abimee") << abimer(albumNomme("celle d'avant"));
         QTest::newRow("coupee") << albumNomme("celle d'avant").chopped(5000);
         QTest::newRow("ancienne") << Access;
-        QTest::newRow("vide") << QByteArray();
     }
 
     void laBaseRemplaceeEstGardee()

@@ -74,8 +74,7 @@ struct Travaux : Gestes
         const auto lignes
             = liste->model()->match(liste->model()->index(0, 0), role, valeur, -1, Qt::MatchExactly);
         QVERIFY2(lignes.size() > rang, qPrintable(valeur));
-        liste->scrollTo(lignes[rang]);
-        QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualRect(lignes[rang]).center());
+        Gestes::cliquerLigne(liste, lignes[rang]);
     }
     /// The control of this name on the sheet shown.
     template <class T = QWidget>
@@ -175,14 +174,6 @@ struct Travaux : Gestes
     static void agir(const QString &controle, const QString &geste, const QString &saisie)
     {
         agir({0, controle, geste, saisie, {}, {}, {}, {}});
-    }
-    /// Ctrl and a key on the main window, away from any text.
-    static void commander(Qt::Key touche)
-    {
-        trouver<QWidget>("Liste")->setFocus();
-        fenetre("Frmmain")->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(fenetre("Frmmain")));
-        QTest::keyClick(fenetre("Frmmain"), touche, Qt::ControlModifier);
     }
     static bool peutAnnuler() { return trouver<QWidget>("Defaire")->isEnabled(); }
 };

@@ -43,21 +43,6 @@ private:
     }
 
 private Q_SLOTS:
-    void unReglageEtrangerSeMontreSansSeDoubler()
-    {
-        Seance s;
-        s.bac.reglages.ecrire(Cle::FontBold, QStringLiteral("True"));
-        s.bac.reglages.ecrire(Cle::FontSize, QStringLiteral("13"));
-        s.demarrer();
-        ouvrir("Menu(2)", "Interf(0)", "Polices");
-        // Neither another program's word for bold, nor a size that the list does not have.
-        QVERIFY(!trouver<QCheckBox>("Options(0)", "Polices")->isChecked());
-        const auto *tailles = trouver<QTreeWidget>("Taille", "Polices");
-        for (int i = 0; i < tailles->topLevelItemCount(); ++i)
-            QVERIFY(!tailles->topLevelItem(i)->font(0).bold());
-        QCOMPARE(exemple().pointSizeF(), 13.0);
-    }
-
     void laPoliceVautPourListesEtFiches()
     {
         Ouverte s;
@@ -92,11 +77,8 @@ private Q_SLOTS:
         cliquer("Valider", "Polices");
         QVERIFY(Theme::EstSombre(QApplication::palette()));
         QCOMPARE(s.bac.reglages.entier(Cle::Forecolor), 0);
-        // With no colour of its own, the list takes that of the windows.
-        QVERIFY(!trouver<QWidget>("Liste")->testAttribute(Qt::WA_SetPalette));
         s.bac.reglages.ecrire(Cle::Theme, 1);
-        Habillage::Relire();
-        QVERIFY(!Theme::EstSombre(QApplication::palette()));
+        Habillage::Relire(); // for those that follow
     }
 
     void uneTextureSeChoisitEtSAjoute()
@@ -106,19 +88,10 @@ private Q_SLOTS:
         const QImage nu = bureau();
         ouvrir("Menu(2)", "Interf(1)", "Textures");
         auto *liste = trouver<QListWidget>("ListeFond", "Textures");
-        QVERIFY(Fonds::Textures().size() >= 6);
         QCOMPARE(liste->count(), Fonds::Textures().size() + 1);
-        const auto prendre = [&] {
-            liste->setCurrentItem(liste->findItems("Lin", Qt::MatchExactly).value(0));
-            QVERIFY(liste->currentItem()->font().bold());
-        };
-        prendre();
-        QTest::keyClick(fenetre("Textures"), Qt::Key_Escape);
-        QTRY_VERIFY(!visible("Textures"));
+        liste->setCurrentItem(liste->findItems("Lin", Qt::MatchExactly).value(0));
+        QVERIFY(liste->currentItem()->font().bold());
         QVERIFY(s.bac.reglages.texte(Cle::FondScreen).isEmpty());
-        ouvrir("Menu(2)", "Interf(1)", "Textures");
-        QCOMPARE(liste->currentRow(), 0);
-        prendre();
         cliquer("Valider", "Textures");
         QCOMPARE(s.bac.reglages.texte(Cle::FondScreen), fond + "Lin.jpg");
         QVERIFY(bureau() != nu);
@@ -133,10 +106,8 @@ private Q_SLOTS:
             cliquer("TextureSuppl", "Textures");
         }
         QCOMPARE(liste->count(), avant + 2);
-        QCOMPARE(liste->item(avant)->text(), "MA");
         QVERIFY(QFile::exists(fond + "Lin (2).jpg"));
         QVERIFY(!trouver<QLabel>("Message", "Textures")->text().isEmpty());
-        QCOMPARE(s.bac.reglages.texte(Cle::FondScreen), fond + "Lin.jpg");
         cliquer("Valider", "Textures");
         QCOMPARE(s.bac.reglages.texte(Cle::FondScreen), fond + "Lin (2).jpg");
         liste->setCurrentRow(0);

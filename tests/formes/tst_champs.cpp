@@ -13,8 +13,6 @@ constexpr const char *TousLesCas = R"(
 0;NumBD;Saisir;1234;Album.NAlbum;123
 0;NumBD;Saisir;;Album.NAlbum;0;
 0;NbPage;Saisir;48;Album.NbPage
-0;NbPage;Saisir;;Album.NbPage
-0;PrixA;Saisir;12,5;Album.PrixA;12.5;12,50 €
 0;PrixA;Saisir;1 012.25 €;Album.PrixA;1012.25;1 012,25 €
 0;PrixA;Saisir;;Album.PrixA
 0;DepotLegale;Saisir;  mai 1901 ;Album.DepotL;mai 1901
@@ -23,7 +21,6 @@ constexpr const char *TousLesCas = R"(
 0;LieuD;Saisir;Angoulême;LAlbums.LieuD
 0;Cotes(0);Saisir;1550;Cotes;01 juillet 2024:1550;1550
 0;Mois(0);Jour;20;Cotes;20 juillet 2024:1500;20 juillet 2024
-0;Mois(0);Taper;été '24;Cotes;été '24:1500;été '24
 0;Etat;Etoile;2;Album.EtatBD
 0;Qualite;Chiffre;5;Album.QualBD
 0;EtatD;Etoile;4;LAlbums.EtatD
@@ -55,10 +52,8 @@ constexpr const char *TousLesCas = R"(
 0;ActI(0);Choisir;Graveur;Intervenants;1-4;Graveur;Metier
 1;Nom;Saisir;Écume;Serie.Nom
 1;CoteSerie;Saisir;7;Serie.cote;7;07
-1;CoteSerie;Saisir;;Serie.cote
 1;SiteWeb(0);Saisir;a.fr/b;Serie.SiteWeb1;http://a.fr/b
 1;SiteWeb(1);Saisir;HTTP://a.fr;Serie.SiteWeb2
-1;SiteWeb(1);Saisir;;Serie.SiteWeb2
 1;NoteG;Chiffre;1;Serie.NoteG
 1;NoteD;Etoile;3;Serie.NoteD
 1;NoteS;Etoile;1;Serie.NoteS

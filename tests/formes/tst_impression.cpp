@@ -100,12 +100,8 @@ private Q_SLOTS:
         Ouverte s;
         auto *liste = trouver<QAbstractItemView>("Liste");
         const int tous = liste->model()->rowCount();
-        const QString debut = liste->currentIndex().data().toString();
-        cliquer("Menu(0)");
-        cliquer("Outils(0)", "Splash");
-        QTRY_VERIFY(fenetre("Stats"));
-        auto *onglets = trouver<QTabWidget>("Onglets", "Stats");
-        onglets->setCurrentIndex(1);
+        ouvrir("Menu(3)", "Outils(0)", "Stats");
+        trouver<QTabWidget>("Onglets", "Stats")->setCurrentIndex(1);
         auto *genres = trouver<QWidget>("Graphique(0)", "Stats");
         QTRY_VERIFY(!genres->accessibleName().isEmpty());
         QTest::keyClick(genres, Qt::Key_Down);

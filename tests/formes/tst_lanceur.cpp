@@ -26,21 +26,6 @@ private Q_SLOTS:
         }
     }
 
-    /// The maker's site, once there is one: the group shows, and the button opens it.
-    void leSiteSOuvreQuandIlYEnAUn()
-    {
-        Ouverte s;
-        const Adresses ouvertes;
-        cliquer("Menu(0)");
-        QVERIFY(!trouver<QWidget>("Menu(4)", "Splash")->isVisible());
-        s.bac.reglages.ecrire(Cle::Site, QStringLiteral("http://127.0.0.1/bulleo"));
-        QEvent langue(QEvent::LanguageChange);
-        QApplication::sendEvent(fenetre("Splash"), &langue);
-        cliquer("Menu(4)", "Splash");
-        cliquer("Liens", "Splash");
-        QCOMPARE(ouvertes.prises, QStringList("http://127.0.0.1/bulleo"));
-    }
-
     void f1OuvreLaPageDeLaForme()
     {
         Ouverte s;

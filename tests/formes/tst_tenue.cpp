@@ -152,6 +152,8 @@ private Q_SLOTS:
             QWidget *forme = montrer(s, nom);
             forme->activateWindow();
             QVERIFY2(QTest::qWaitForWindowActive(forme), nom);
+            const QString debut = forme->focusWidget() ? forme->focusWidget()->objectName() : QString();
+            QVERIFY2(debut != "Mini" && debut != "Quit", nom); // the keyboard begins above the foot
             const QSet<QWidget *> atteints = parcourir(forme);
             QVERIFY2(atteints.size() > 1, nom);
             for (QWidget *w : forme->findChildren<QWidget *>()) {

@@ -64,11 +64,6 @@ void Bac::ecrire(const QString &chemin, const QByteArray &octets)
         qFatal("%s", qPrintable(fichier.errorString()));
 }
 
-QByteArray Bac::sansCompteurs(const QString &chemin)
-{
-    return lire(chemin).replace(24, 4, "----").replace(40, 4, "----").replace(92, 4, "----");
-}
-
 QVariant Bac::valeur(const QString &sql, const QVariantList &valeurs)
 {
     Base base;

@@ -24,8 +24,6 @@ public:
     /// Bytes of a file; empty when there is none.
     static QByteArray lire(const QString &chemin);
     static void ecrire(const QString &chemin, const QByteArray &octets);
-    /// Bytes of a collection, without its own counts of how often it was written: a copy counts anew.
-    static QByteArray sansCompteurs(const QString &chemin);
 
     /// First value of a query's first row, read through the engine.
     static QVariant valeur(const QString &sql, const QVariantList &valeurs = {});

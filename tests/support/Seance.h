@@ -61,6 +61,19 @@ struct Gestes
             QApplication::sendEvent(champ, &touche);
         }
     }
+    static void cliquerLigne(QAbstractItemView *vue, const QModelIndex &ligne)
+    {
+        vue->scrollTo(ligne);
+        QTest::mouseClick(vue->viewport(), Qt::LeftButton, {}, vue->visualRect(ligne).center());
+    }
+    /// Ctrl and a key on the main window, away from any text.
+    static void commander(Qt::Key touche)
+    {
+        trouver<QWidget>("Liste")->setFocus();
+        fenetre("Frmmain")->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(fenetre("Frmmain")));
+        QTest::keyClick(fenetre("Frmmain"), touche, Qt::ControlModifier);
+    }
     /// Caption of a label; empty until there is one.
     static QString texteDe(const char *nom)
     {
@@ -74,8 +87,7 @@ struct Gestes
         const auto trouves
             = liste->model()->match(liste->model()->index(0, 0), Qt::DisplayRole, texte, 1, Qt::MatchExactly);
         QVERIFY2(!trouves.isEmpty(), qPrintable(texte));
-        liste->scrollTo(trouves.first());
-        QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualRect(trouves.first()).center());
+        cliquerLigne(liste, trouves.first());
     }
 };
 
