@@ -1,5 +1,6 @@
 #include "core/Dates.h"
 #include "formes/Atelier.h"
+#include "support/SansCompter.h"
 
 #include <QCalendarWidget>
 
@@ -137,7 +138,10 @@ private Q_SLOTS:
         Atelier s(cas.tri);
         const bool formee = enForme(cas);
         const bool tenue = cas.table.startsWith("BEGIN");
-        const auto essayer = [&] { formee ? valider(cas) : agir(cas); };
+        const auto essayer = [&] {
+            const SansCompter aTraversQt;
+            formee ? valider(cas) : agir(cas);
+        };
         const auto montree = [&] { return formee ? saisi(cas) : montre(cas.controle); };
         if (formee)
             entrer(cas);
