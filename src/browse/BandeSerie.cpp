@@ -72,7 +72,8 @@ void BandeSerie::paintEvent(QPaintEvent *)
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     for (int i = 0; i < m_visibles; ++i) {
-        const InfosAlbum::Place &place = m_bande[static_cast<std::size_t>(m_premiere + i)];
+        const int rang = m_premiere + i;
+        const InfosAlbum::Place &place = m_bande[static_cast<std::size_t>(rang)];
         const QRectF r = QRectF(caseDe(i)).adjusted(0.5, 0.5, -0.5, -0.5);
         const bool trou = place.num == 0;
         const QColor fond = place.num == m_courant ? Theme::FondRouge(palette()) : Theme::FondBleu(palette());
