@@ -3,15 +3,11 @@
 #include "support/Autre.h"
 #include "support/Bac.h"
 #include "support/Colonnes.h"
-#include "support/Refus.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
 #include <QTest>
-#include <csignal>
-#include <functional>
-#include <sys/resource.h>
 
 namespace {
 
@@ -233,28 +229,6 @@ private Q_SLOTS:
         QCOMPARE(lieu.lire("Help/index.htm"), "Help/index.htm1");
         QCOMPARE(lieu.lire("langues/English.lng"), "langues/English.lng1");
         QCOMPARE(lieu.lire("Help/neuve.htm"), "neuve");
-    }
-
-    void unDisquePleinLaisseTout()
-    {
-        Lieu lieu;
-        lieu.preparer();
-        const QStringList avant = lieu.contenu();
-        for (const char *nom : {"langues/English.lng", "langues/Nederlands.lng"})
-            lieu.livrer(nom, QByteArray(4096, 'x'));
-        const auto ancien = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limite{};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &limite), 0);
-        const rlimit etroite{1000, limite.rlim_max};
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &etroite), 0);
-        const auto refuse = refus([&] { lieu.preparer(); });
-        setrlimit(RLIMIT_FSIZE, &limite);
-        std::signal(SIGXFSZ, ancien);
-        QVERIFY(refuse.has_value());
-        QCOMPARE(lieu.contenu(), avant);
-        // Not done, so it is tried again.
-        lieu.preparer();
-        QCOMPARE(lieu.lire("langues/English.lng").size(), 4096);
     }
 
     void unCatalogueSeJugeASonContenu_data()

@@ -1,14 +1,11 @@
 #include "core/Images.h"
 #include "support/Seance.h"
 
-#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QFile>
 #include <QMimeData>
-#include <QPushButton>
-#include <QToolButton>
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
-#include <QTextEdit>
 
 using namespace General;
 
@@ -112,6 +111,15 @@ private Q_SLOTS:
         s.bureau->demarrer();
         QTRY_COMPARE(fenetre("Frmmain")->height(),
             std::min(640, QGuiApplication::primaryScreen()->availableSize().height()));
+    }
+
+    void uneBaseEtrangereEstDite()
+    {
+        Seance s;
+        Bac::ecrire(s.bac.collection(), "ceci n'est pas une base");
+        s.demarrer();
+        QTRY_COMPARE(s.boites.textes.size(), 1);
+        QVERIFY(s.boites.textes[0].contains(s.bac.collection()));
     }
 
     void laCopieSeFaitDuLanceur()

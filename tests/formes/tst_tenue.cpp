@@ -3,7 +3,6 @@
 #include "support/Seance.h"
 
 #include <QAbstractItemView>
-#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>

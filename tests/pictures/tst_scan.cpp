@@ -90,17 +90,6 @@ private Q_SLOTS:
         QCOMPARE(Scan::Ajuster({10, 40}, {80, 80}), QRect(30, 0, 20, 80));
     }
 
-    void uneMauvaiseImageNEstPasUneImage()
-    {
-        const Bac bac;
-        const QString chemin = bac.chemin("essai.bmp");
-        QVERIFY(Scan::Ouvrir(bac.chemin("images")).isNull());
-        Scan::Enregistrer(repere({20, 10}), chemin);
-        QCOMPARE(Scan::Ouvrir(chemin), repere({20, 10}));
-        Bac::ecrire(chemin, "pas une image");
-        QVERIFY(Scan::Ouvrir(chemin).isNull());
-    }
-
     void unMetafichierSeDessine()
     {
         const Bac bac;

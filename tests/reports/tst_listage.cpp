@@ -7,7 +7,6 @@
 #include "support/Bac.h"
 #include "support/Refus.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QTest>
