@@ -15,6 +15,9 @@
 #include <QLibrary>
 #include <QLibraryInfo>
 #include <QTest>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
 
 /// What a hand does with the forms, worked by object names.
 struct Gestes
@@ -134,7 +137,13 @@ int jouer(int argc, char *argv[])
     pilote.setLoadHints(QLibrary::PreventUnloadHint);
     pilote.load();
     Parcours parcours;
-    return QTest::qExec(&parcours, argc, argv);
+    const int echecs = QTest::qExec(&parcours, argc, argv);
+#ifdef __SANITIZE_ADDRESS__
+    // Here and not at the exit, where the search falls over threads that end beside it.
+    return echecs + __lsan_do_recoverable_leak_check();
+#else
+    return echecs;
+#endif
 }
 
 #define JOUER(Parcours)                                                                                      \
