@@ -33,7 +33,7 @@ private:
     /// The entries announced since it was last asked, once the event loop is empty.
     QList<int> annoncees()
     {
-        QTest::qWait(0);
+        QCoreApplication::processEvents();
         QList<int> ids;
         while (!m_choisies->isEmpty())
             ids << m_choisies->takeFirst()[0].value<Entree>().id;
