@@ -10,6 +10,7 @@
 #include <array>
 #include <csv.h>
 #include <exception>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -84,7 +85,7 @@ QByteArray lireMorceau(QFile &fichier)
     return octets;
 }
 
-/// Whether all of a file is UTF-8. It stands behind its byte-order mark, if it has one, afterwards.
+/// Whether all of a file is UTF-8. It stands at its beginning afterwards.
 bool estEnUtf8(QFile &fichier)
 {
     QStringDecoder decodeur(QStringDecoder::Utf8);
@@ -93,13 +94,61 @@ bool estEnUtf8(QFile &fichier)
     }
     // A character that is cut off at the end shows when something follows it.
     [[maybe_unused]] const QString fin = decodeur(QByteArrayLiteral("\n"));
-    const QByteArray marque("\xEF\xBB\xBF");
     if (!fichier.seek(0))
         echec(fichier.fileName(), fichier.errorString());
-    if (!decodeur.hasError() && fichier.peek(marque.size()) == marque)
-        fichier.skip(marque.size());
     return !decodeur.hasError();
 }
+
+/// The form of UTF-16 that a file begins in: by its mark, or by the zeros that latin letters have in it.
+std::optional<QStringDecoder::Encoding> utf16(const QByteArray &debut)
+{
+    if (debut.startsWith("\xFF\xFE") || debut.startsWith("\xFE\xFF"))
+        return QStringDecoder::Utf16;
+    const bool zeroEnTete = debut.size() > 3 && debut[0] == 0 && debut[2] == 0 && debut[1] != 0;
+    const bool zeroEnQueue = debut.size() > 3 && debut[1] == 0 && debut[3] == 0 && debut[0] != 0;
+    return zeroEnTete ? std::optional(QStringDecoder::Utf16BE)
+        : zeroEnQueue ? std::optional(QStringDecoder::Utf16LE)
+                      : std::nullopt;
+}
+
+/// A text has no signs but those that end lines and cells.
+bool estUnTexte(const QString &texte)
+{
+    return std::none_of(texte.begin(), texte.end(), [](QChar c) {
+        return c.unicode() < 0x20 && c != u'\t' && c != u'\n' && c != u'\r' && c != u'\f' && c != u'\x1A';
+    });
+}
+
+/// A file read piece by piece as UTF-8, whatever it is written in.
+class Textuel
+{
+public:
+    explicit Textuel(const QString &chemin)
+        : m_fichier(chemin)
+    {
+        if (!m_fichier.open(QIODevice::ReadOnly))
+            echec(chemin, m_fichier.errorString());
+        const auto seize = utf16(m_fichier.peek(4));
+        m_en1252 = !seize && !estEnUtf8(m_fichier);
+        m_decodeur = QStringDecoder(seize.value_or(QStringDecoder::Utf8));
+    }
+
+    bool fini() const { return m_fichier.atEnd(); }
+    QByteArray suite()
+    {
+        const QByteArray octets = lireMorceau(m_fichier);
+        const QString texte = m_en1252 ? Texte::Decoder1252(octets) : QString(m_decodeur(octets));
+        if (!estUnTexte(texte))
+            echec(m_fichier.fileName(),
+                QCoreApplication::translate("Csv", "Ce n'est pas un fichier de valeurs séparées (CSV)."));
+        return texte.toUtf8();
+    }
+
+private:
+    QFile m_fichier;
+    bool m_en1252 = false;
+    QStringDecoder m_decodeur;
+};
 
 /// Owns the C parser.
 struct Analyseur
@@ -124,13 +173,13 @@ QString Csv::Rangee::operator[](const QString &colonne) const
 
 char Csv::Separateur(const QString &chemin)
 {
-    QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly))
-        echec(chemin, fichier.errorString());
+    Textuel fichier(chemin);
     std::array<qsizetype, Separateurs.size()> nombres{};
     bool entreGuillemets = false;
-    const QByteArray premiere = fichier.readLine();
-    for (const char c : premiere) {
+    const QByteArray debut = fichier.fini() ? QByteArray() : fichier.suite();
+    for (const char c : debut) {
+        if (c == '\n' && !entreGuillemets)
+            break;
         entreGuillemets = entreGuillemets != (c == '"');
         const auto lequel = std::find(Separateurs.begin(), Separateurs.end(), c);
         if (!entreGuillemets && lequel != Separateurs.end())
@@ -142,17 +191,13 @@ char Csv::Separateur(const QString &chemin)
 
 QStringList Csv::Lire(const QString &chemin, const std::function<void(const Rangee &)> &pour, char separateur)
 {
-    QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly))
-        echec(chemin, fichier.errorString());
-    const bool utf8 = estEnUtf8(fichier);
+    Textuel fichier(chemin);
     Analyseur analyseur(separateur);
     Lecture lecture;
     lecture.pour = &pour;
     bool lu = true;
-    while (lu && !fichier.atEnd()) {
-        const QByteArray octets
-            = utf8 ? lireMorceau(fichier) : Texte::Decoder1252(lireMorceau(fichier)).toUtf8();
+    while (lu && !fichier.fini()) {
+        const QByteArray octets = fichier.suite();
         const auto taille = static_cast<size_t>(octets.size());
         lu = csv_parse(&analyseur.parser, octets.constData(), taille, finDeCellule, finDeLigne, &lecture)
             == taille;

@@ -1,6 +1,8 @@
 #include "core/Texte.h"
 
 #include <QStringDecoder>
+#include <QTextBoundaryFinder>
+#include <algorithm>
 
 namespace {
 
@@ -22,6 +24,32 @@ const QString &Texte::Pointilles()
 bool Texte::EstVide(const QString &texte)
 {
     return texte.trimmed().isEmpty() || texte == Pointilles();
+}
+
+QString Texte::UneLigne(const QString &texte)
+{
+    QString ligne = texte;
+    for (QChar &c : ligne) {
+        const QChar::Category sorte = c.category();
+        if (sorte == QChar::Other_Control || sorte == QChar::Separator_Line
+            || sorte == QChar::Separator_Paragraph)
+            c = u' ';
+    }
+    return ligne.trimmed();
+}
+
+QString Texte::Couper(const QString &texte, qsizetype longueur)
+{
+    if (texte.size() <= longueur)
+        return texte;
+    QTextBoundaryFinder bords(QTextBoundaryFinder::Grapheme, texte);
+    bords.setPosition(longueur);
+    return texte.left(bords.isAtBoundary() ? longueur : bords.toPreviousBoundary());
+}
+
+bool Texte::EstUnNom(const QString &texte)
+{
+    return std::any_of(texte.begin(), texte.end(), [](QChar c) { return !c.isSpace() && c != u','; });
 }
 
 QString Texte::Decoder1252(const QByteArray &octets)

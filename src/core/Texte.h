@@ -12,6 +12,15 @@ const QString &Pointilles();
 /// A value that counts as nothing: empty, blanks only, or the dots.
 bool EstVide(const QString &texte);
 
+/// A text as one line: line breaks, tabs and other signs that control a line are blanks; none at its ends.
+QString UneLigne(const QString &texte);
+
+/// The first characters of a text, at most `longueur` units of it; none is halved, nor parted from its accents.
+QString Couper(const QString &texte, qsizetype longueur);
+
+/// True when there is more in it than blanks and commas, so that somebody or something may be called so.
+bool EstUnNom(const QString &texte);
+
 /// Bytes of a text file: UTF-8 when they are valid UTF-8 (a byte-order mark is dropped), else Windows-1252.
 QString Decoder(const QByteArray &octets);
 /// Bytes that are known to be Windows-1252.
