@@ -37,6 +37,7 @@ constexpr std::array Table{
     Reglage{Cle::TriImp, "Settings", "TriImp", Type::Entier, "0"},
     Reglage{Cle::Langue, "Settings", "Langue", Type::Texte, ""},
     Reglage{Cle::IniLu, "Settings", "IniLu", Type::Texte, ""},
+    Reglage{Cle::RestesVus, "Settings", "RestesVus", Type::Texte, ""},
     Reglage{Cle::Splash, "Splash", "Splash", Type::Entier, "0"},
     Reglage{Cle::FontName, "Color", "FontName", Type::Texte, "Verdana"},
     Reglage{Cle::FontSize, "Color", "FontSize", Type::Nombre, "10"},
@@ -193,7 +194,8 @@ int Reglages::importerIni(const QString &chemin)
     const QByteArray octets = fichier.readAll();
     const QString empreinte
         = QString::fromLatin1(QCryptographicHash::hash(octets, QCryptographicHash::Sha1).toHex());
-    if (empreinte == texte(Cle::IniLu))
+    QStringList lus = texte(Cle::IniLu).split(u' ', Qt::SkipEmptyParts);
+    if (lus.contains(empreinte))
         return 0;
 
     int pris = 0;
@@ -211,6 +213,7 @@ int Reglages::importerIni(const QString &chemin)
             ++pris;
         }
     }
-    ecrire(Cle::IniLu, empreinte);
+    lus << empreinte;
+    ecrire(Cle::IniLu, lus.join(u' '));
     return pris;
 }

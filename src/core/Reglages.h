@@ -21,6 +21,7 @@ enum class Cle {
     TriImp,
     Langue,
     IniLu,
+    RestesVus,
     Splash,
     FontName,
     FontSize,
@@ -64,9 +65,11 @@ public:
     void ecrire(Cle cle, bool valeur);
     void ecrire(Cle cle, int valeur);
     void ecrire(Cle cle, const QString &valeur);
+    /// A literal would be taken for a boolean.
+    void ecrire(Cle cle, const char *valeur) = delete;
 
     /// Takes the known keys of a settings file ("[section]", "key=value") into the store, once for each
-    /// content. Returns how many were taken. Throws Error when the file cannot be read.
+    /// content ever seen. Returns how many were taken. Throws Error when the file cannot be read.
     int importerIni(const QString &chemin);
 
 private:

@@ -82,8 +82,11 @@ private Q_SLOTS:
         bac.reglages.ecrire(Cle::Tris, 2);
         QCOMPARE(bac.reglages.importerIni(ini), 0);
         QCOMPARE(bac.reglages.entier(Cle::Tris), 2);
-        Bac::ecrire(ini, "[Settings]\nTris=6\n");
-        QCOMPARE(bac.reglages.importerIni(ini), 1);
+        Bac::ecrire(bac.chemin("autre.ini"), "[Settings]\nTris=6\n");
+        QCOMPARE(bac.reglages.importerIni(bac.chemin("autre.ini")), 1);
+        // Of several files each is seen once, whatever came between.
+        QCOMPARE(bac.reglages.importerIni(ini), 0);
+        QCOMPARE(bac.reglages.entier(Cle::Tris), 6);
     }
 };
 
