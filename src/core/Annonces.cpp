@@ -10,6 +10,7 @@ void Annonces::annoncer(const Changements &changements)
 
 void Annonces::remplacer()
 {
+    numeros.clear();
     Q_EMIT remplacee();
     annoncer({Changement()});
 }

@@ -5,7 +5,9 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
+#include <chrono>
 #include <functional>
+#include <map>
 #include <vector>
 
 class Error;
@@ -41,6 +43,16 @@ public:
     /// Asked when the file is in use by another program; true tries again. Without it the opening fails.
     std::function<bool(const Error &)> reessayer;
 
+    /// Asked, after so long, whether a reading is to go on; false ends it. Nothing may touch the base meanwhile.
+    struct Patience
+    {
+        std::chrono::milliseconds delai = std::chrono::seconds(5);
+        std::function<bool()> continuer;
+    } patience;
+
+    /// Told what the engine complained of when a change stands none the less. It may only post.
+    std::function<void(const Error &)> avertir;
+
     /// The backups of this run, which are made before it writes.
     struct SuiviDesSauvegardes
     {
@@ -51,6 +63,10 @@ public:
         QDateTime derniere; ///< when one was last made or tried; null before the first write
         bool enEchec = false;
     } sauvegardes;
+
+    /// The highest number known of each table of entries, given or still referred to; new ones lie above it. Forgotten
+    /// with the collection.
+    std::map<QString, int> numeros;
 
     /// Announces changed rows from the event loop, once the action that changed them is over.
     void annoncer(const Changements &changements);

@@ -4,9 +4,11 @@
 #include "db/Instruction.h"
 #include "db/Journal.h"
 
+#include <QDateTime>
 #include <QVariantList>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <unordered_map>
@@ -25,6 +27,9 @@ public:
     ~Connexion();
     Connexion(const Connexion &) = delete;
     Connexion &operator=(const Connexion &) = delete;
+
+    /// The file cannot be written: it is read, without being held against others, and writing throws Error.
+    bool lectureSeule() const { return m_lectureSeule; }
 
     SQLite::Database &db() { return *m_db; }
     Journal &journal() { return m_journal; }
@@ -48,11 +53,22 @@ public:
 
 private:
     friend struct Rendre;
-    void ouvrir(Entete::Nature nature);
+    bool ouvrirPourEcrire();
+    void ouvrirPourLire(Entete::Nature nature);
+    void armer();
+    int inscrite();
+    bool estAJour();
+    void mettreANiveau();
     void verifierIndex();
+    bool perimee() const;
+    int attendre();
 
     QString m_chemin;
+    bool m_lectureSeule = false;
+    QDateTime m_copiee; ///< when the file was written of which this is a copy; else not valid
     Journal m_journal;
+    std::chrono::steady_clock::time_point m_debut; ///< of the statement that was prepared last
+    bool m_occupee = false; ///< asking about a long reading
     std::unique_ptr<SQLite::Database> m_db;
     std::unordered_multimap<std::string, std::unique_ptr<SQLite::Statement>> m_instructions;
 };

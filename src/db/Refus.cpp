@@ -26,6 +26,8 @@ Error Refus::Dire(const SQLite::Exception &e, const QString &chemin)
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
         return {Sorte::Abimee, Tr::tr("La base est abîmée."), chemin, mots};
+    case SQLITE_INTERRUPT:
+        return {Tr::tr("La lecture a été arrêtée."), chemin};
     case SQLITE_FULL:
         return {Tr::tr("Le disque est plein."), chemin, mots};
     default:

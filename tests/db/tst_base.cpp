@@ -1,6 +1,8 @@
 #include "db/Base.h"
 #include "db/Comparaison.h"
+#include "db/Connexion.h"
 #include "db/files/MiseANiveau.h"
+#include "db/files/Verification.h"
 #include "db/schema/Version.h"
 #include "support/Autre.h"
 #include "support/Bac.h"
@@ -31,6 +33,24 @@ QByteArray avecApplication(QByteArray octets, quint32 nature)
 int comparerALEnvers(void *, int la, const void *a, int lb, const void *b)
 {
     return QByteArray(static_cast<const char *>(b), lb).compare(QByteArray(static_cast<const char *>(a), la));
+}
+
+/// A write that was begun, reached the file in part, and never ended.
+void laisserEnSuspens(const QString &fichier)
+{
+    QByteArray entamee;
+    QByteArray journal;
+    {
+        Autre autre(fichier);
+        autre.executer("PRAGMA cache_size = 2; BEGIN; UPDATE Genre SET Nom = 'perdu';"
+                       "INSERT INTO Pays WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n"
+                       " LIMIT 500) SELECT i, printf('%0100d', i) FROM n");
+        entamee = Bac::lire(fichier);
+        journal = Bac::lire(fichier + "-journal");
+    }
+    QVERIFY(entamee != Bac::lire(fichier) && !journal.isEmpty());
+    Bac::ecrire(fichier, entamee);
+    Bac::ecrire(fichier + "-journal", journal);
 }
 
 }
@@ -131,17 +151,87 @@ private Q_SLOTS:
         QVERIFY(Bac::lire(bac.collection()) == octets);
     }
 
-    void unFichierEnLectureSeuleEstRefuse()
+    void unFichierEnLectureSeuleSeLit_data()
     {
+        // what is done to it before
+        const Colonnes<QString> cas;
+        cas("a jour", "");
+        cas("d'un autre collateur", "PRAGMA user_version = 2");
+        cas("d'un palier plus bas", "DROP TRIGGER CleTomeLien; PRAGMA user_version = 1");
+        cas("ecriture en suspens", "-");
+    }
+
+    void unFichierEnLectureSeuleSeLit()
+    {
+        const auto [avant] = essai<QString>();
         const Bac bac;
-        for (const QString nom : {"..", ".", "bd.mdb"})
-            QFile::setPermissions(bac.chemin(nom), QFile::Permissions(nom == "bd.mdb" ? 0x4444 : 0x7777));
+        Bac::executer("INSERT INTO Genre VALUES (1, 'Écume'), (2, 'Zut')");
+        if (avant == "-")
+            laisserEnSuspens(bac.collection());
+        else
+            Autre(bac.collection()).executer(avant);
+        for (const QString nom : {"..", ".", "bd.mdb", "bd.mdb-journal"})
+            QFile::setPermissions(
+                bac.chemin(nom), QFile::Permissions(nom.startsWith("bd") ? 0x4444 : 0x5555));
+        const QByteArray octets = Bac::lire(bac.collection());
         // Root is not held back by what a file's mode forbids.
         const bool racine = geteuid() == 0;
         QVERIFY(!racine || setresuid(65534, 65534, 0) == 0);
-        const auto refuse = refus([] { Base(); });
+        QVariant lu;
+        const auto enLisant
+            = refus([&] { lu = Bac::valeur("SELECT NGenre FROM Genre WHERE Nom = 'ÉCUME'"); });
+        const auto enEcrivant = refus([] { Bac::executer("INSERT INTO Genre VALUES (3, 'x')"); });
+        const auto enAgissant = refus([] { Bac::agir("INSERT INTO Genre VALUES (3, 'x')"); });
+        bool seule = false;
+        const auto enOuvrant = refus([&] { seule = Base().connexion().lectureSeule(); });
+        const auto enJugeant = refus([&] { Verification::Verifier(bac.collection()); });
         QVERIFY(!racine || setresuid(0, 0, 0) == 0);
-        QVERIFY(refuse == Error::Sorte::LectureSeule);
+        QVERIFY(!enLisant && !enOuvrant && !enJugeant);
+        QCOMPARE(lu, 1);
+        QVERIFY(seule);
+        QVERIFY(enEcrivant == Error::Sorte::LectureSeule && enAgissant == Error::Sorte::LectureSeule);
+        QVERIFY(Bac::lire(bac.collection()) == octets);
+        for (const QString nom : {"..", ".", "bd.mdb", "bd.mdb-journal"})
+            QFile::setPermissions(bac.chemin(nom), QFile::Permissions(0x7777));
+        Bac::executer("INSERT INTO Genre VALUES (4, 'x')");
+    }
+
+    /// A view that never ends, or a rule of somebody else, hangs or fools whoever opens the file.
+    void ceQuiNEstPasDeNousNEstPasOuvert()
+    {
+        const QString sansFin = QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i FROM n)");
+        for (const QString &sql :
+            QStringList{"CREATE VIEW Autre AS " + sansFin + " SELECT i FROM n",
+                "DROP TABLE LAlbums; CREATE VIEW LAlbums AS " + sansFin
+                    + " SELECT i NAlbum, 'x' TAlbum FROM n",
+                "CREATE TRIGGER Piege AFTER INSERT ON Genre BEGIN DELETE FROM Album; END",
+                "DROP TRIGGER CleTomeLien; CREATE TRIGGER CleTomeLien AFTER INSERT ON Genre BEGIN DELETE FROM"
+                " Album; END",
+                QStringLiteral("CREATE VIRTUAL TABLE Autre USING fts5(x)")}) {
+            const Bac bac;
+            Autre(bac.collection()).executer(sql);
+            QVERIFY2(refus([] { Base(); }) == Error::Sorte::Etrangere, qPrintable(sql));
+            QVERIFY2(refus([&] { Verification::Verifier(bac.collection()); }) == Error::Sorte::Etrangere,
+                qPrintable(sql));
+        }
+    }
+
+    void uneLectureSansFinSArrete()
+    {
+        Bac bac;
+        const QString sansFin = QStringLiteral(
+            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i FROM n) SELECT max(i) FROM n");
+        int questions = 0;
+        bool occupee = false;
+        bac.annonces.patience.delai = std::chrono::milliseconds(20);
+        bac.annonces.patience.continuer = [&] {
+            occupee = refus([] { Bac::valeur("SELECT 1"); }) == Error::Sorte::EnUsage;
+            return ++questions < 2;
+        };
+        QVERIFY(refus([&] { Bac::valeur(sansFin); }).has_value());
+        QCOMPARE(questions, 2);
+        QVERIFY(occupee);
+        QCOMPARE(Bac::valeur("SELECT 1"), 1);
     }
 
     void unAutreCollateurRefaitLesIndex()

@@ -262,7 +262,8 @@ void Livraison::Preparer()
     const Dossier &dossier = Dossier::courant();
     if (estVide(dossier.racine()))
         remplir();
-    if (!QFileInfo::exists(dossier.collection()))
+    // A folder that is only to be read is taken as it is.
+    if (!QFileInfo::exists(dossier.collection()) || !QFileInfo(dossier.racine()).isWritable())
         return;
     const QByteArray liste = lire(dossier.livre() + Liste);
     const QByteArray marque = marqueDe(liste);

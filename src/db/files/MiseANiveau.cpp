@@ -58,5 +58,6 @@ void MiseANiveau::Executer()
         // A file that does not open is told of by whoever opens it next.
         return;
     }
-    franchirTous(*base);
+    if (!base->connexion().lectureSeule())
+        franchirTous(*base);
 }

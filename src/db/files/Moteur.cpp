@@ -2,6 +2,8 @@
 
 #include "db/Collation.h"
 #include "db/Connexion.h"
+#include "db/Copie.h"
+#include "db/Defenses.h"
 #include "db/Refus.h"
 
 #include <QCoreApplication>
@@ -43,8 +45,11 @@ std::unique_ptr<SQLite::Database> Moteur::Ouvrir(const QString &chemin, Entete::
 {
     Entete::Verifier(chemin, nature);
     try {
-        auto db = std::make_unique<SQLite::Database>(
-            chemin.toStdString(), SQLite::OPEN_READONLY, Connexion::AttenteMs);
+        auto db = Copie::EstEnSuspens(chemin) ? Copie::Ouvrir(chemin)
+                                              : std::make_unique<SQLite::Database>(chemin.toStdString(),
+                                                  SQLite::OPEN_READONLY, Connexion::AttenteMs);
+        Defenses::Poser(db->getHandle());
+        Defenses::Examiner(db->getHandle(), chemin);
         Collation::Enregistrer(db->getHandle());
         return db;
     } catch (const SQLite::Exception &e) {

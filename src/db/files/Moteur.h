@@ -11,7 +11,7 @@ class Database;
 /// What the engine does with whole files, beside the one that is at work.
 namespace Moteur {
 
-/// Opens a collection that is not at work, or a catalogue, to be read only. Throws Error.
+/// Opens a collection that is not at work, or a catalogue, to be read only; its file is not touched. Throws Error.
 std::unique_ptr<SQLite::Database> Ouvrir(
     const QString &chemin, Entete::Nature nature = Entete::Nature::Collection);
 

@@ -94,11 +94,6 @@ void controler(const QString &chemin, Examen &examen)
             lireContenu(chemin, examen);
     } catch (const SQLite::Exception &e) {
         throw Refus::Dire(e, chemin);
-    } catch (const Error &e) {
-        // Taking back what a crash left unfinished would write into a file that is only looked at.
-        if (e.sorte() != Error::Sorte::LectureSeule)
-            throw;
-        examen.mots = Tr::tr("Une écriture y est restée inachevée : ouvrez-la d'abord à sa place.");
     }
 }
 

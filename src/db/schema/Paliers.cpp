@@ -199,6 +199,16 @@ std::span<const Paliers::Palier> Paliers::Tous()
     return LesPaliers;
 }
 
+std::map<std::string, std::string> Paliers::Declencheurs()
+{
+    std::map<std::string, std::string> regles;
+    for (const Complement &c : complements()) {
+        if (c.sorte == QLatin1String("TRIGGER"))
+            regles.emplace(c.nom.toStdString(), c.instruction.toStdString());
+    }
+    return regles;
+}
+
 QStringList Paliers::CollectionVierge()
 {
     QStringList instructions;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QStringList>
+#include <map>
 #include <span>
+#include <string>
 
 namespace SQLite {
 class Database;
@@ -19,6 +21,9 @@ struct Palier
 
 /// In the order in which they run; the first brings files from before the steps were counted.
 std::span<const Palier> Tous();
+
+/// The rules of a collection: their statements by their names.
+std::map<std::string, std::string> Declencheurs();
 
 /// The statements that make an empty collection of the last step, and an empty reference catalogue.
 QStringList CollectionVierge();
