@@ -1,7 +1,24 @@
 #include "acts/Acte.h"
 
+#include "core/Error.h"
 #include "db/Connexion.h"
+#include "db/Retour.h"
 #include "db/files/Sauvegardes.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+void avertir(const Error &e)
+{
+    if (Annonces::courant().avertir)
+        Annonces::courant().avertir(
+            Error(QCoreApplication::translate(
+                      "Acte", "La modification est enregistrée, mais le disque a signalé une erreur."),
+                {}, e.message()));
+}
+
+}
 
 Acte::Notes::Notes(Journal &journal)
     : m_journal(journal)
@@ -51,13 +68,29 @@ std::shared_ptr<Bande> Acte::validerSansEtape()
     return m_etape.bande;
 }
 
+/// What the file says after a commit that failed: the engine may have failed in what follows it.
+bool Acte::estFait()
+{
+    try {
+        return !m_notes.bande().vide() && Retour::EstFait(m_base, m_notes.bande());
+    } catch (const Error &) {
+        return false;
+    }
+}
+
 void Acte::conclure(bool enEtape)
 {
     if (!m_notes.miennes())
         return m_transaction.Commit();
     // What can fail comes before the commit: after it the act is done.
     const Changements avis = m_notes.bande().avis();
-    m_transaction.Commit();
+    try {
+        m_transaction.Commit();
+    } catch (const Error &e) {
+        if (!estFait())
+            throw;
+        avertir(e);
+    }
     m_etape.bande = m_notes.prendre();
     if (m_etape.bande->vide())
         return;

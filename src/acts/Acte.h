@@ -61,6 +61,7 @@ private:
         bool m_miennes;
     };
 
+    bool estFait();
     void conclure(bool enEtape);
 
     Etape m_etape;

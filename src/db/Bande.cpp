@@ -200,15 +200,27 @@ void Bande::parcourir(const std::function<void(const Note &)> &pour) const
     }
 }
 
+/// The note that ends at a position, which becomes that where it begins.
+Bande::Note Bande::precedente(qint64 &position) const
+{
+    position -= qint64(sizeof(Longueur));
+    const auto longueur = extraire<Longueur>(octets(position, sizeof(Longueur), true));
+    position -= longueur;
+    const Note note = lire(octets(position, longueur, true));
+    position -= qint64(sizeof longueur);
+    return note;
+}
+
 void Bande::remonter(const std::function<void(const Note &)> &pour) const
 {
-    for (qint64 position = taille(); position > 0;) {
-        position -= qint64(sizeof(Longueur));
-        const auto longueur = extraire<Longueur>(octets(position, sizeof(Longueur), true));
-        position -= longueur;
-        pour(lire(octets(position, longueur, true)));
-        position -= qint64(sizeof longueur);
-    }
+    for (qint64 position = taille(); position > 0;)
+        pour(precedente(position));
+}
+
+Bande::Note Bande::derniere() const
+{
+    qint64 position = taille();
+    return precedente(position);
 }
 
 void Bande::prolonger(const Bande &suite)

@@ -58,6 +58,9 @@ public:
     void parcourir(const std::function<void(const Note &)> &pour) const;
     void remonter(const std::function<void(const Note &)> &pour) const;
 
+    /// The last row; there must be one.
+    Note derniere() const;
+
     /// Puts a later tape behind this one: edits of a row that go on from an earlier edit become one with it, and
     /// what came back to where it began goes. For short tapes.
     void prolonger(const Bande &suite);
@@ -70,6 +73,7 @@ private:
     quint16 numeroDe(std::string_view table);
     std::string_view octets(qint64 debut, qint64 longueur, bool versLeDebut) const;
     Note lire(std::string_view note) const;
+    Note precedente(qint64 &position) const;
 
     qint64 m_limite;
     qint64 m_notes = 0;

@@ -59,7 +59,7 @@ public:
 
     void reprendre(const Bande::Note &note)
     {
-        if (empreinteActuelle(note.cle) != (note.apres ? std::optional(note.apres) : std::nullopt))
+        if (!estFaite(note))
             throw Error(Error::Sorte::Perimee,
                 Tr::tr("Cette modification ne peut plus être reprise : la fiche a changé depuis."), {});
         if (note.sorte == Bande::Sorte::Ajout)
@@ -68,6 +68,12 @@ public:
             rajouter(note.cle, note.valeurs);
         else
             reediter(note.cle, note.valeurs);
+    }
+
+    /// The row is as it was left.
+    bool estFaite(const Bande::Note &note)
+    {
+        return empreinteActuelle(note.cle) == (note.apres ? std::optional(note.apres) : std::nullopt);
     }
 
 private:
@@ -135,4 +141,14 @@ void Retour::Refaire(Base &base, const Bande &bande)
             table->second.reprendre(note);
         });
     });
+}
+
+bool Retour::EstFait(Base &base, const Bande &bande)
+{
+    bool fait = false;
+    base.connexion().executer([&] {
+        const Bande::Note note = bande.derniere();
+        fait = Table(base.connexion(), note.table).estFaite(note);
+    });
+    return fait;
 }

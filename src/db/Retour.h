@@ -11,4 +11,7 @@ namespace Retour {
 /// is no longer as the tape left it.
 void Refaire(Base &base, const Bande &bande);
 
+/// True when what a tape holds was committed, as the file says: its last row stands as it was left. Throws Error.
+bool EstFait(Base &base, const Bande &bande);
+
 }

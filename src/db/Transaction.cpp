@@ -1,8 +1,10 @@
 #include "db/Transaction.h"
 
+#include "core/Error.h"
 #include "db/Base.h"
 #include "db/Connexion.h"
 
+#include <sqlite3.h>
 #include <string>
 
 namespace {
@@ -37,7 +39,21 @@ Transaction::~Transaction()
 
 void Transaction::Commit()
 {
-    m_connexion.executer([&] { m_connexion.db().exec("RELEASE " + point(m_connexion.profondeur - 1)); });
+    try {
+        m_connexion.executer([&] { m_connexion.db().exec("RELEASE " + point(m_connexion.profondeur - 1)); });
+    } catch (const Error &) {
+        // Where the engine has ended it in failing, there is nothing left to take back, and the file says what holds.
+        if (m_connexion.profondeur == 1 && sqlite3_get_autocommit(m_connexion.db().getHandle())) {
+            fermer();
+            m_connexion.oublierInstructions();
+        }
+        throw;
+    }
+    fermer();
+}
+
+void Transaction::fermer()
+{
     --m_connexion.profondeur;
     m_ouverte = false;
 }

@@ -15,10 +15,12 @@ public:
     Transaction(const Transaction &) = delete;
     Transaction &operator=(const Transaction &) = delete;
 
-    /// Throws Error; the writes are then undone.
+    /// Throws Error; the writes are then undone, unless the engine failed in what follows their commit.
     void Commit();
 
 private:
+    void fermer();
+
     Connexion &m_connexion;
     Bande::Marque m_marque;
     bool m_ouverte = true;

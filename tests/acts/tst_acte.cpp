@@ -17,6 +17,9 @@
 #include <QImage>
 #include <QTest>
 #include <QtEndian>
+#include <cerrno>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using General::Entree;
 using General::Tri;
@@ -65,6 +68,46 @@ quint32 ecritures(const Bac &bac)
     return qFromBigEndian<quint32>(Bac::lire(bac.collection()).mid(24, 4).constData());
 }
 
+/// As long as it lives the engine refuses such a write.
+struct Refusant
+{
+    Refusant(const QString &quand, const QString &table)
+    {
+        base.Execute(
+            QStringLiteral("CREATE TEMP TRIGGER Refus BEFORE %1 ON %2 BEGIN SELECT raise(ABORT, 'non'); END")
+                .arg(quand, table));
+    }
+    Base base; ///< holds the connection, and the rule with it
+};
+
+/// The disk fails when it is told to keep what was written, once, the n-th time that it is told so of such a file.
+struct DisqueFautif
+{
+    const char *fin = nullptr; ///< how the file's name ends
+    int reussites = 0;
+} disque;
+
+int garder(int fichier, long appel)
+{
+    const QByteArray nom
+        = QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(fichier)).toLocal8Bit();
+    if (disque.fin && nom.endsWith(disque.fin) && disque.reussites-- == 0) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(syscall(appel, fichier));
+}
+
+}
+
+// The engine's own calls come here.
+extern "C" int fsync(int fichier)
+{
+    return garder(fichier, SYS_fsync);
+}
+extern "C" int fdatasync(int fichier)
+{
+    return garder(fichier, SYS_fdatasync);
 }
 
 /// Whatever a form can set off is one act: it writes once, undo knows it by a title and finds its place again, and when
@@ -192,9 +235,7 @@ private Q_SLOTS:
                 : n.sorte == Bande::Sorte::Edition ? "UPDATE"
                                                    : "DELETE";
         });
-        Bac::executer(
-            QStringLiteral("CREATE TRIGGER Refus BEFORE %1 ON %2 BEGIN SELECT raise(ABORT, 'non'); END")
-                .arg(quand, table));
+        const Refusant refusant(quand, table);
         const QStringList avant = Bac::toutLire();
         Ecoute ecoute(bac.annonces);
         ecoute.annonces();
@@ -209,12 +250,47 @@ private Q_SLOTS:
     void unSecondEssaiNeDoubleRien()
     {
         Bac bac;
-        Bac::executer("CREATE TRIGGER Refus BEFORE INSERT ON LAlbums BEGIN SELECT raise(ABORT, 'non'); END");
-        QVERIFY(refus([] { Saisie::CreerAlbum(nouveau()); }).has_value());
-        Bac::executer("DROP TRIGGER Refus");
-        QCOMPARE(Saisie::CreerAlbum(nouveau()), 1);
+        {
+            const Refusant refusant("INSERT", "LAlbums");
+            QVERIFY(refus([] { Saisie::CreerAlbum(nouveau()); }).has_value());
+        }
+        QVERIFY(Saisie::CreerAlbum(nouveau()) > 0);
         for (const char *liens : {"GenreAlbums", "EditeurAlbums", "SerieAlbums", "AuteursAlbums", "Album"})
             QCOMPARE(Bac::valeur(QStringLiteral("SELECT count(*) FROM %1").arg(liens)), 1);
+    }
+
+    /// The disk fails before what was written is the file's, or after it: what is said is what holds.
+    void unDisqueFautifNeMentPas_data()
+    {
+        // whose keeping fails, after how many that succeed, and whether the change stands
+        const Colonnes<QString, int, bool> cas;
+        cas("journal", "-journal", 0, false);
+        cas("base", "bd.mdb", 0, false);
+        cas("journal, une fois son compte tenu", "-journal", 1, false);
+        cas("fin du journal", "-journal", 2, true);
+    }
+
+    void unDisqueFautifNeMentPas()
+    {
+        const auto [fin, reussites, tient] = essai<QString, int, bool>();
+        Bac bac;
+        peupler();
+        Bac::executer("UPDATE Serie SET NoteG = 1"); // the day's backup is made before
+        const QStringList avant = Bac::toutLire();
+        Historique histoire(bac.annonces);
+        int avis = 0;
+        bac.annonces.avertir = [&](const Error &) { ++avis; };
+        const QByteArray nom = fin.toLatin1();
+        disque = {nom.constData(), reussites};
+        const auto echec = refus([] { Ecrire::EcrireSaisie(edition(Tri::Albums, "ISBN"), "2-205"); });
+        disque = {};
+        QCOMPARE(!echec.has_value(), tient);
+        QCOMPARE(Bac::toutLire() != avant, tient);
+        QCOMPARE(histoire.peutAnnuler(), tient);
+        QCOMPARE(avis, int(tient));
+        if (tient)
+            histoire.annuler();
+        QCOMPARE(Bac::toutLire(), avant);
     }
 };
 
