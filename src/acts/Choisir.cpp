@@ -13,74 +13,59 @@
 
 using Champs::Champ;
 using Choisir::Choisie;
-using Especes::Espece;
-using Especes::Libelle;
 using Sources::Source;
 
 namespace {
 
-/// The two names of a typed text; the first name is empty where there is no comma.
-struct Personne
-{
-    QString nom;
-    QString prenom;
-};
-Personne separer(const QString &texte, Libelle libelle)
-{
-    const qsizetype virgule = texte.indexOf(u',');
-    if (libelle == Libelle::Nom || virgule < 0)
-        return {texte.trimmed(), {}};
-    const QString avant = texte.left(virgule).trimmed();
-    const QString apres = texte.mid(virgule + 1).trimmed();
-    // With nothing where the name should be, the text is a name as it stands.
-    if ((libelle == Libelle::NomPrenom ? avant : apres).isEmpty())
-        return {texte.trimmed(), {}};
-    return libelle == Libelle::NomPrenom ? Personne{avant, apres} : Personne{apres, avant};
-}
-
-/// Both names first, for an artist in the order of his sheet, too, which the caption may have put there; then
-/// the whole text as the one name of somebody who has a comma in it.
+/// As the labels show it; an artist in the order of his sheet, too, which the caption may have put there.
 int chercher(const Base &base, const Source &source, const QString &texte)
 {
     const QString nom = texte.trimmed();
     if (nom.isEmpty())
         return 0;
-    const Espece &espece = *source.espece;
-    const Personne personne = separer(nom, espece.libelle);
-    const bool deux = personne.nom != nom;
-    int id = deux ? Trouver::Personne(base, espece, personne.nom, personne.prenom) : 0;
-    if (id == 0 && deux && source.prenom == Sources::Prenom::Avant)
-        id = Trouver::Personne(base, espece, personne.prenom, personne.nom);
-    return id > 0 ? id : Trouver::ParNom(base, espece, nom);
+    const int id = Trouver::ParTexte(base, *source.espece, nom, source.role);
+    if (id > 0 || source.prenom != Sources::Prenom::Avant)
+        return id;
+    const Trouver::Noms noms = Trouver::Separer(*source.espece, nom);
+    return Trouver::Personne(base, *source.espece, noms.prenom, noms.nom);
 }
 
 int creer(const Source &source, const QString &texte)
 {
-    const auto [nom, prenom] = separer(texte, source.espece->libelle);
-    return source.role ? Creer::CreerAuteur(nom, prenom, *source.role)
-                       : Creer::CreerEntree(*source.espece, nom, prenom);
+    return source.role ? Creer::CreerAuteur(texte, *source.role) : Creer::CreerEntree(*source.espece, texte);
 }
 
-int trouverOuCreer(Base &base, const Source &source, const Choisie &choisie)
+/// What was picked, or what the text names, made where there is none: several where a field may hold several.
+std::vector<int> trouverOuCreer(Base &base, const Source &source, const Choisie &choisie)
 {
-    if (choisie.id > 0 || Texte::EstVide(choisie.texte))
-        return choisie.id;
-    const int id = chercher(base, source, choisie.texte);
-    return id > 0 ? id : creer(source, choisie.texte);
-}
-
-/// The album's links of one table become the one to this entry, or none.
-void remplacerLiens(Base &base, const Source &source, int album, int id)
-{
-    if (source.role) {
-        AccesBase::OterRole(album, *source.role);
-        if (id > 0)
-            Creer::LierAuteur(id, *source.role, album);
-        return;
+    if (choisie.id > 0)
+        return {choisie.id};
+    if (Texte::EstVide(choisie.texte))
+        return {};
+    const QStringList noms = source.lien == Sources::Lien::Tous
+        ? Trouver::Enumerer(base, *source.espece, choisie.texte)
+        : QStringList{choisie.texte};
+    std::vector<int> ids;
+    for (const QString &nom : noms) {
+        const int id = chercher(base, source, nom);
+        ids.push_back(id > 0 ? id : creer(source, nom));
     }
-    AccesBase::SupprimerLignes(QLatin1String(source.espece->liens), QStringLiteral("NAlbum"), album);
-    if (id > 0)
-        Creer::Lier(base, *source.espece, id, album);
+    return ids;
+}
+
+/// The album's links of one table become those to these entries.
+void remplacerLiens(Base &base, const Source &source, int album, const std::vector<int> &ids)
+{
+    if (source.role)
+        AccesBase::OterRole(album, *source.role);
+    else
+        AccesBase::SupprimerLignes(QLatin1String(source.espece->liens), QStringLiteral("NAlbum"), album);
+    for (const int id : ids) {
+        if (source.role)
+            Creer::LierAuteur(id, *source.role, album);
+        else
+            Creer::Lier(base, *source.espece, id, album);
+    }
 }
 
 /// A loan begins today unless its date is known already, and ends with its borrower.
@@ -103,13 +88,14 @@ void ecrireIntervenant(int album, const CelluleIntervenant &cellule, int id)
     ChargerAlbums::EcrireIntervenant(album, cellule.ligne, ligne);
 }
 
-void ecrireLien(Base &base, int entree, const Champ &champ, int id)
+void ecrireLien(Base &base, int entree, const Champ &champ, const std::vector<int> &ids)
 {
     const Source &source = *champ.source;
+    const int id = ids.empty() ? 0 : ids.front();
     if (source.role && id > 0)
         AccesBase::PoserRole(id, *source.role);
     if (source.lien != Sources::Lien::Aucun)
-        remplacerLiens(base, source, entree, id);
+        remplacerLiens(base, source, entree, ids);
     if (champ.colonne)
         EcrireFiche::Poser(champ, entree, id);
     if (&champ == &Champs::De(Champs::Feuille::Album, "NPret"))
@@ -122,11 +108,13 @@ QString ecrire(Base &base, const Edition &edition, const Choisie &choisie)
     const Source &source = *Ecrire::SourceDe(edition);
     if (choisie.id > 0 && !Trouver::Existe(base, *source.espece, choisie.id))
         return QCoreApplication::translate("Modification", "« %1 » n'existe plus.").arg(choisie.texte);
-    const int id = trouverOuCreer(base, source, choisie);
+    if (choisie.id == 0 && !Texte::EstVide(choisie.texte) && !Texte::EstUnNom(choisie.texte))
+        return QCoreApplication::translate("Modification", "Il manque un nom.");
+    const std::vector<int> ids = trouverOuCreer(base, source, choisie);
     if (const auto *cellule = std::get_if<CelluleIntervenant>(&edition.quoi))
-        ecrireIntervenant(edition.entree.id, *cellule, id);
+        ecrireIntervenant(edition.entree.id, *cellule, ids.empty() ? 0 : ids.front());
     else
-        ecrireLien(base, edition.entree.id, *Ecrire::ChampDe(edition), id);
+        ecrireLien(base, edition.entree.id, *Ecrire::ChampDe(edition), ids);
     return {};
 }
 
@@ -187,7 +175,9 @@ bool Choisir::PeutVider(const Edition &edition)
     const Champ *champ = Ecrire::ChampDe(edition);
     const bool legende = !champ || champ->voie != Champs::Voie::Directe;
     const bool nom = champ && champ == &Champs::DuNom(champ->feuille);
-    return legende && !nom && edition.viseUneValeur() && !Texte::EstVide(edition.affichee);
+    // The number of an entry that is gone shows nothing, and is to be taken away none the less.
+    const bool vide = Texte::EstVide(edition.affichee) && !(Ecrire::SourceDe(edition) && tenue(edition) > 0);
+    return legende && !nom && edition.viseUneValeur() && !vide;
 }
 
 void Choisir::Vider(const Edition &edition)

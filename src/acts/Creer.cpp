@@ -2,10 +2,12 @@
 
 #include "acts/Acte.h"
 #include "core/Dates.h"
+#include "core/Texte.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/schema/Tables.h"
 #include "model/Fiche.h"
+#include "model/Numeros.h"
 #include "model/Trouver.h"
 
 using AccesBase::Role;
@@ -27,19 +29,35 @@ void poser(Recordset &rs, std::initializer_list<Valeur> valeurs)
         rs.SetField(QLatin1String(v.champ), v.valeur);
 }
 
-/// The entry of this name, made when there is none, with the album tied to it; nothing for a blank name.
-QVariant lier(Base &base, const Sources::Source &source, const QString &nom, int album)
+/// The entry of this name, made when there is none, with the album tied to it.
+int lierUne(Base &base, const Sources::Source &source, const QString &nom, int album)
 {
-    if (nom.trimmed().isEmpty())
-        return {};
     if (source.role)
         return Creer::AjouterAuteur(nom, *source.role, album);
-    int numero = Trouver::ParNom(base, *source.espece, nom);
+    int numero = Trouver::ParTexte(base, *source.espece, nom);
     if (numero == 0)
         numero = Creer::CreerEntree(*source.espece, nom);
     if (source.lien != Sources::Lien::Aucun)
         Creer::Lier(base, *source.espece, numero, album);
     return numero;
+}
+
+/// All entries that a text names, where a field may hold several; the number is that of the first, nothing for a
+/// blank text.
+QVariant lier(Base &base, const Sources::Source &source, const QString &texte, int album)
+{
+    if (!Texte::EstUnNom(texte))
+        return {};
+    const QStringList noms = source.lien == Sources::Lien::Tous
+        ? Trouver::Enumerer(base, *source.espece, texte)
+        : QStringList{texte};
+    QVariant premier;
+    for (const QString &nom : noms) {
+        const int numero = lierUne(base, source, nom, album);
+        if (!premier.isValid())
+            premier = numero;
+    }
+    return premier;
 }
 
 /// A series that comes to be with an album has the genre and the publisher of that album.
@@ -49,13 +67,6 @@ void garnirSerie(Base &base, int serie, const QVariant &genre, const QVariant &e
     rs.Edit();
     poser(rs, {{"NGenre", genre}, {"NEditeur", editeur}});
     rs.Update();
-}
-
-/// What an earlier album of the same number left behind would seem to belong to the new one.
-void oterRestes(Base &base, int album)
-{
-    for (const char *table : {"InterMetier", "CotesAlbum"})
-        base.Execute(QStringLiteral("DELETE From %1 where NAlbum = ?").arg(QLatin1String(table)), {album});
 }
 
 /// What is stored for an entered text; nothing where nothing was entered and nothing stands for that.
@@ -119,17 +130,6 @@ Album dateDuPretComprise(Album album)
     return album;
 }
 
-/// The author of this name. A text with a comma that is nobody's name is read as "name, first name".
-int chercherAuteur(const Base &base, const QString &nom)
-{
-    const qsizetype virgule = nom.indexOf(u',');
-    const int entier = Trouver::ParNom(base, Especes::Auteur, nom);
-    if (entier > 0 || virgule < 0)
-        return entier;
-    return Trouver::Personne(
-        base, Especes::Auteur, nom.left(virgule).trimmed(), nom.mid(virgule + 1).trimmed());
-}
-
 }
 
 bool Creer::Existe(const Album &album)
@@ -148,8 +148,7 @@ int Creer::CreerAlbum(const Album &saisi)
 {
     Base base;
     const Album album = dateDuPretComprise(saisi);
-    const int num = AccesBase::NouvelIdentifiant(QStringLiteral("Album"), QStringLiteral("Num"));
-    oterRestes(base, num);
+    const int num = Numeros::Suivant(base, Especes::Album);
     auto rs = base.edit(QStringLiteral("Album"));
     rs.AddNew();
     rs.SetField(QStringLiteral("Num"), num);
@@ -172,41 +171,47 @@ int Creer::CreerEnUnActe(const Album &album)
 
 int Creer::AjouterAuteur(const QString &nom, Role role, int album)
 {
-    if (nom.trimmed().isEmpty())
+    if (!Texte::EstUnNom(nom))
         return 0;
     const Base base;
-    int auteur = chercherAuteur(base, nom);
+    int auteur = Trouver::ParTexte(base, Especes::Auteur, nom, role);
     if (auteur == 0)
-        auteur = CreerAuteur(nom, QStringLiteral(" "), role);
+        auteur = CreerAuteur(nom, role);
     else
         AccesBase::PoserRole(auteur, role);
     LierAuteur(auteur, role, album);
     return auteur;
 }
 
-int Creer::CreerEntree(const Especes::Espece &espece, const QString &nom, const QString &suite)
+int Creer::CreerEntree(const Especes::Espece &espece, const QString &texte)
+{
+    const Trouver::Noms noms = Trouver::Separer(espece, texte);
+    return CreerEntree(espece, noms);
+}
+
+int Creer::CreerEntree(const Especes::Espece &espece, const Trouver::Noms &noms)
 {
     Base base;
     const QString table = QLatin1String(espece.table);
     const QVariantList blanc = Schema::Blanc(table);
-    const int numero = AccesBase::NouvelIdentifiant(table, QLatin1String(espece.cle));
+    const int numero = Numeros::Suivant(base, espece);
     auto rs = base.edit(table);
     rs.AddNew();
     for (int i = 0; i < blanc.size(); ++i)
         rs.SetField(i, blanc.at(i));
     rs.SetField(QLatin1String(espece.cle), numero);
-    rs.SetField(QLatin1String(espece.nom), nom);
-    if (!suite.trimmed().isEmpty())
-        rs.SetField(QLatin1String(espece.suite), suite);
+    rs.SetField(QLatin1String(espece.nom), noms.nom);
+    if (!noms.prenom.isEmpty())
+        rs.SetField(QLatin1String(espece.suite), noms.prenom);
     if (&espece == &Especes::Serie)
         poser(rs, {{"NoteG", NoteNeuve}, {"NoteD", NoteNeuve}, {"NoteS", NoteNeuve}, {"cote", NoteNeuve}});
     rs.Update();
     return numero;
 }
 
-int Creer::CreerAuteur(const QString &nom, const QString &prenom, Role role)
+int Creer::CreerAuteur(const QString &texte, Role role)
 {
-    const int numero = CreerEntree(Especes::Auteur, nom, prenom);
+    const int numero = CreerEntree(Especes::Auteur, texte);
     AccesBase::PoserRole(numero, role);
     return numero;
 }

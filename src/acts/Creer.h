@@ -1,10 +1,7 @@
 #pragma once
 
 #include "model/Album.h"
-
-#include <QString>
-
-class Base;
+#include "model/Trouver.h"
 
 /// The creation of an album with its link rows: the one way in which albums come to be, whatever they come from.
 namespace Creer {
@@ -25,12 +22,13 @@ int CreerEnUnActe(const Album &album);
 /// has. Returns his number, 0 for a blank name. Throws Error.
 int AjouterAuteur(const QString &nom, AccesBase::Role role, int album);
 
-/// A new entry of a kind that has names, with the defaults of a creation: blank texts, 0, marks of 5; `suite` is
-/// what stands behind the name, a first name. Returns its number. Throws Error.
-int CreerEntree(const Especes::Espece &espece, const QString &nom, const QString &suite = {});
+/// A new entry of a kind that has names, with the defaults of a creation: blank texts, 0, marks of 5; of a person the
+/// text may say both names. Returns its number. Throws Error.
+int CreerEntree(const Especes::Espece &espece, const QString &texte);
+int CreerEntree(const Especes::Espece &espece, const Trouver::Noms &noms);
 
 /// A new author with one trade; returns his number. Throws Error.
-int CreerAuteur(const QString &nom, const QString &prenom, AccesBase::Role role);
+int CreerAuteur(const QString &texte, AccesBase::Role role);
 
 /// Ties an album to an entry by a row of links. Throws Error.
 void Lier(Base &base, const Especes::Espece &espece, int numero, int album);

@@ -3,6 +3,7 @@
 #include "acts/Acte.h"
 #include "acts/EcrireFiche.h"
 #include "acts/EcrireGrilles.h"
+#include "core/Texte.h"
 #include "core/Traduction.h"
 
 #include <QCoreApplication>
@@ -44,7 +45,8 @@ QString titre(const Edition &edition, const QString &valeur)
     if (ligne.isEmpty())
         return quoi;
     const bool longue = ligne.size() > LongueurMontree;
-    return quoi + QStringLiteral(": ") + (longue ? ligne.left(LongueurMontree) + QChar(0x2026) : ligne);
+    return quoi + QStringLiteral(": ")
+        + (longue ? Texte::Couper(ligne, LongueurMontree) + QChar(0x2026) : ligne);
 }
 
 /// Writes a cell of the grid of quotes, which is the line with this cell replaced.
@@ -66,7 +68,7 @@ QString ecrire(const Edition &edition, const QString &saisie)
     else if (std::holds_alternative<Metiers>(edition.quoi))
         EcrireFiche::PoserMetiers(id, saisie);
     else if (!EcrireFiche::PoserSaisie(*champ, id, saisie))
-        return Fiche::RaisonDuRefus(*champ);
+        return Fiche::RaisonDuRefus(*champ, saisie);
     return {};
 }
 
@@ -82,7 +84,7 @@ QString valeurMontree(const Champ *champ, const QString &saisie)
 QString avisDe(const Champ &champ, const QString &saisie)
 {
     const QString ecrite = Fiche::Verifier(champ, saisie)->toString();
-    const QString voulue = saisie.trimmed();
+    const QString voulue = Texte::UneLigne(saisie);
     if (champ.regle == Regle::Titre && ecrite != voulue)
         return QCoreApplication::translate("Edition", "Le titre a été coupé à 50 caractères.");
     if (champ.regle == Regle::Tome && voulue.size() > Fiche::LongueurTome)

@@ -1,5 +1,6 @@
 #include "acts/EcrireFiche.h"
 
+#include "core/Texte.h"
 #include "db/Base.h"
 #include "db/Transaction.h"
 #include "model/Fiche.h"
@@ -12,17 +13,28 @@ constexpr const Champ &NomDAuteur = De(Feuille::Auteur, "Nom");
 constexpr const Champ &PrenomDAuteur = De(Feuille::Auteur, "Prenom");
 const QString Separateur = QStringLiteral(", ");
 
-/// "first name, name", as the sheet's two name fields take it.
+/// The sheet's two name fields take "first name, name", with something on both sides.
+bool aDeuxNoms(const Champ &champ, const QString &texte)
+{
+    return (&champ == &NomDAuteur || &champ == &PrenomDAuteur) && texte.contains(Separateur)
+        && Texte::EstUnNom(texte.section(Separateur, 0, 0)) && Texte::EstUnNom(texte.section(Separateur, 1));
+}
+
 void ecrireDeuxNoms(int auteur, const QString &texte)
 {
     Base base;
     Transaction transaction(base);
-    const qsizetype coupe = texte.indexOf(Separateur);
-    EcrireFiche::Poser(PrenomDAuteur, auteur, texte.left(coupe).trimmed());
-    const QString nom = texte.mid(coupe + Separateur.size()).trimmed();
-    if (!nom.isEmpty())
-        EcrireFiche::Poser(NomDAuteur, auteur, nom);
+    EcrireFiche::Poser(PrenomDAuteur, auteur, texte.section(Separateur, 0, 0).trimmed());
+    EcrireFiche::Poser(NomDAuteur, auteur, texte.section(Separateur, 1).trimmed());
     transaction.Commit();
+}
+
+/// A name without a comma that was left behind it.
+QString sansVirgule(QString nom)
+{
+    while (nom.endsWith(u','))
+        nom = nom.chopped(1).trimmed();
+    return nom;
 }
 
 }
@@ -46,13 +58,15 @@ void EcrireFiche::Poser(const Champ &champ, int id, const QVariant &valeur)
 
 bool EcrireFiche::PoserSaisie(const Champ &champ, int id, const QString &saisie)
 {
-    if ((&champ == &NomDAuteur || &champ == &PrenomDAuteur) && saisie.contains(Separateur)) {
-        ecrireDeuxNoms(id, saisie);
+    if (aDeuxNoms(champ, saisie)) {
+        ecrireDeuxNoms(id, Texte::UneLigne(saisie));
         return true;
     }
-    const auto valeur = Fiche::Verifier(champ, saisie);
+    auto valeur = Fiche::Verifier(champ, saisie);
     if (!valeur)
         return false;
+    if (&champ == &NomDAuteur)
+        valeur = sansVirgule(valeur->toString());
     Base base;
     Transaction transaction(base);
     Poser(champ, id, *valeur);

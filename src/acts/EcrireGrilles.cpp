@@ -18,17 +18,10 @@ QString nu(const QString &texte)
 /// up alone; with a first name before the comma both must agree.
 int trouverOuFaire(Base &base, const Especes::Espece &espece, const QString &texte)
 {
-    const qsizetype virgule = texte.indexOf(u',');
-    const bool deux = espece.suite && virgule >= 0 && !texte.mid(virgule + 1).trimmed().isEmpty();
-    const QString nom = deux ? texte.mid(virgule + 1).trimmed() : texte;
-    if (nom.isEmpty())
+    if (!Texte::EstUnNom(texte))
         return 0;
-    const QString prenom = deux ? texte.left(virgule).trimmed() : QString();
-    const int connu
-        = deux ? Trouver::Personne(base, espece, nom, prenom) : Trouver::ParNom(base, espece, nom);
-    if (connu > 0)
-        return connu;
-    return Creer::CreerEntree(espece, nom, prenom);
+    const int connu = Trouver::ParTexte(base, espece, texte);
+    return connu > 0 ? connu : Creer::CreerEntree(espece, texte);
 }
 
 /// Takes away the first of the rows of a table that are such.

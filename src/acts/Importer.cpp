@@ -64,21 +64,12 @@ std::optional<bool> lireBooleen(const QString &cellule)
                                                                                         : std::nullopt;
 }
 
-/// An amount in whatever writing, with the signs that group its digits and its currency taken away. Of point and
-/// comma the last one is the decimal one, unless it stands there twice.
+/// An amount without its currency and the signs that some put between its figures.
 QString lirePrix(QString prix)
 {
     static const QRegularExpression signes(QStringLiteral("euros?|eur|[\\s€$£'’]"),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
-    prix.remove(signes);
-    const bool virgule = prix.lastIndexOf(u',') > prix.lastIndexOf(u'.');
-    const QChar decimal = virgule ? u',' : u'.';
-    const QChar groupe = virgule ? u'.' : u',';
-    const bool plusieurs = prix.count(decimal) > 1;
-    if (plusieurs && prix.contains(groupe))
-        return prix; // no writing of a number
-    prix.remove(plusieurs ? decimal : groupe);
-    return prix;
+    return prix.remove(signes);
 }
 
 bool estUnFichier(const QString &chemin)

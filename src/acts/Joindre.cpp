@@ -37,7 +37,7 @@ QString Joindre::QuestionSurLaNote(const Edition &edition)
         return {};
     return QCoreApplication::translate(
         "AccordPourLaNote", "Cette dédicace est une note : « %1 ». L'image la remplacera. Continuer ?")
-        .arg(note.left(LongueurMontree));
+        .arg(Texte::Couper(note, LongueurMontree));
 }
 
 void Joindre::Poser(const Edition &edition, const QString &chemin)

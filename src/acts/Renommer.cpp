@@ -4,6 +4,7 @@
 #include "acts/Creer.h"
 #include "acts/Ecrire.h"
 #include "acts/EcrireFiche.h"
+#include "core/Texte.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "model/Fiche.h"
@@ -64,13 +65,10 @@ Renommage ecrireLibelle(const Champs::Champ &champ, int id, const QString &libel
 /// A person has one row, whatever his trades.
 Ajout ajouterAuteur(const Base &base, AccesBase::Role role, const QString &libelle)
 {
-    const QString avant = libelle.section(u',', 0, 0).trimmed();
-    // With nothing before the comma, the text is a name as it stands.
-    const QString nom = avant.isEmpty() ? libelle : avant;
-    const QString prenom = avant.isEmpty() ? QString() : libelle.section(u',', 1).trimmed();
-    const int id = Trouver::Personne(base, Especes::Auteur, nom, prenom);
+    const Trouver::Noms noms = Trouver::Separer(Especes::Auteur, libelle);
+    const int id = Trouver::Personne(base, Especes::Auteur, noms.nom, noms.prenom);
     if (id == 0)
-        return {Creer::CreerAuteur(nom, prenom, role), true};
+        return {Creer::CreerAuteur(libelle, role), true};
     const bool exerce = base.read(Especes::Lecture(Especes::Auteur.fiche.front()), {id})
                             .Fields(AccesBase::NomDuRole(role))
                             .toBool();
@@ -126,8 +124,8 @@ DePresse Renommer::LireDePresse(const QString &libelle)
 
 Renommage Renommer::RenommerEntree(Entree entree, const QString &libelle)
 {
-    const QString net = libelle.trimmed();
-    if (net.isEmpty())
+    const QString net = Texte::UneLigne(libelle);
+    if (!Texte::EstUnNom(net))
         return Renommage::Rien;
     const Champs::Champ &champ = Champs::DuNom(General::ListeDe(entree.tri).feuille);
     Renommage fait = Renommage::Rien;
@@ -140,8 +138,8 @@ Renommage Renommer::RenommerEntree(Entree entree, const QString &libelle)
 
 Ajout Renommer::AjouterEntree(Tri tri, const QString &libelle)
 {
-    const QString net = libelle.trimmed();
-    if (net.isEmpty() || tri == Tri::Albums)
+    const QString net = Texte::UneLigne(libelle);
+    if (!Texte::EstUnNom(net) || tri == Tri::Albums)
         return {};
     Acte acte(texte(Txt::Ajouter) + QStringLiteral(": ") + libelle.simplified());
     const auto role = General::ListeDe(tri).role;

@@ -48,13 +48,17 @@ bool ditQuelqueChose(const Album &album)
 /// Why a text is refused; empty when it is taken.
 QString raisonDuRefus(const ChampDeCreation &champ, const QString &texte)
 {
-    if (champ.maniere == Maniere::Choix)
+    // What was left blank is nobody's business here: an album may have no title.
+    if (texte.trimmed().isEmpty())
         return {};
+    if (champ.maniere == Maniere::Choix)
+        return Texte::EstUnNom(texte) ? QString() : Tr::tr("Il manque un nom.");
     if (champ.maniere == Maniere::Image)
         return estUneImage(texte) ? QString() : Tr::tr("Ce fichier n'est pas une image lisible.");
     const bool coupe
         = champ.champ->regle == Champs::Regle::Tome && texte.trimmed().size() > Fiche::LongueurTome;
-    return coupe || !Fiche::Verifier(*champ.champ, texte) ? Fiche::RaisonDuRefus(*champ.champ) : QString();
+    return coupe || !Fiche::Verifier(*champ.champ, texte) ? Fiche::RaisonDuRefus(*champ.champ, texte)
+                                                          : QString();
 }
 
 }

@@ -9,7 +9,7 @@
 #include "core/ui/Suivi.h"
 #include "core/ui/Theme.h"
 #include "core/ui/TitreGroupe.h"
-#include "model/Fiche.h"
+#include "model/Montant.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -42,11 +42,11 @@ QString montree(Rubrique rubrique, const QString &lu)
     const ChampsDeCreation::ChampDeCreation &champ = ChampsDeCreation::De(rubrique);
     if (champ.maniere == ChampsDeCreation::Case)
         return texte(lu == QLatin1String(ChampsDeCreation::TexteDeCase(champ, true)) ? Txt::Oui : Txt::Non);
-    const double nombre = Fiche::LireMontant(lu).value_or(0);
+    const double nombre = Montant::Lire(lu).value_or(0);
     if (champ.champ->regle == Champs::Regle::Tome)
         return nombre > 0 ? QString::number(nombre) : QString();
     if (champ.champ->regle == Champs::Regle::Prix)
-        return nombre > 0 ? Traduction::courant().locale().toString(nombre, 'f', 2) : QString();
+        return nombre > 0 ? Montant::Montrer(nombre) : QString();
     return lu.simplified();
 }
 

@@ -23,7 +23,7 @@ enum class Regle {
     Nombre, ///< whole number, or empty
     Pages, ///< text that is empty or a number
     Prix, ///< amount; empty is none
-    Http, ///< web address; "http://" is put in front when it is missing
+    Http, ///< web address; "http://" is put in front of one without scheme
     Drapeau, ///< yes or no
     Identifiant ///< number of an entry of another table
 };

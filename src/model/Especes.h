@@ -29,6 +29,7 @@ struct Espece
     const char *liens = nullptr; ///< table that ties albums to it
     const char *ordre = "rowid"; ///< by which its albums stand
     std::span<const Rangs> fiche = {}; ///< the rows that its sheet shows
+    std::span<const Rangs> ailleurs = {}; ///< what else refers to it, and is no field of a sheet
 };
 
 namespace Lignes {
@@ -39,9 +40,19 @@ inline constexpr Rangs Editeur[] = {{"Editeur", "NEdit"}};
 inline constexpr Rangs ExLibris[] = {{"ExLibris", "NExLibris"}};
 inline constexpr Rangs Presse[] = {{"PresseBD", "NPressBD"}};
 inline constexpr Rangs Coll[] = {{"Coll", "NColl"}};
+
+inline constexpr Rangs DAlbums[] = {{"AuteursAlbums", "NAlbum"}, {"CollAlbums", "NAlbum"},
+    {"EditeurAlbums", "NAlbum"}, {"GenreAlbums", "NAlbum"}, {"PaysAlbum", "NAlbum"},
+    {"SerieAlbums", "NAlbum"}, {"InterMetier", "NAlbum"}, {"CotesAlbum", "NAlbum"}};
+inline constexpr Rangs DIntervenants[] = {{"InterMetier", "NInter"}};
+inline constexpr Rangs DActivites[] = {{"InterMetier", "NMetier"}};
 }
 
-inline constexpr Espece Album{.table = "LAlbums", .cle = "NAlbum", .nom = "TAlbum", .fiche = Lignes::Album};
+inline constexpr Espece Album{.table = "LAlbums",
+    .cle = "NAlbum",
+    .nom = "TAlbum",
+    .fiche = Lignes::Album,
+    .ailleurs = Lignes::DAlbums};
 inline constexpr Espece Serie{.table = "Serie",
     .cle = "NSerie",
     .liens = "SerieAlbums",
@@ -66,9 +77,12 @@ inline constexpr Espece Genre{.table = "Genre", .cle = "NGenre", .liens = "Genre
 inline constexpr Espece Pays{.table = "Pays", .cle = "NPays", .liens = "PaysAlbum"};
 inline constexpr Espece Emprunteur{.table = "Pret", .cle = "NPret"};
 inline constexpr Espece Librairie{.table = "Librairie", .cle = "NLibrairie"};
-inline constexpr Espece Intervenant{
-    .table = "Inter", .cle = "NInter", .suite = "Prenom", .libelle = Libelle::PrenomNom};
-inline constexpr Espece Activite{.table = "Metier", .cle = "NMetier"};
+inline constexpr Espece Intervenant{.table = "Inter",
+    .cle = "NInter",
+    .suite = "Prenom",
+    .libelle = Libelle::PrenomNom,
+    .ailleurs = Lignes::DIntervenants};
+inline constexpr Espece Activite{.table = "Metier", .cle = "NMetier", .ailleurs = Lignes::DActivites};
 
 /// The kinds that albums are tied to by rows of links.
 inline constexpr const Espece *Liees[] = {&Auteur, &Coll, &Editeur, &Genre, &Pays, &Serie};

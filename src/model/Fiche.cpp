@@ -3,17 +3,15 @@
 #include "core/Texte.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
+#include "model/Montant.h"
 
 #include <QCoreApplication>
 #include <QStringList>
 #include <array>
-#include <cmath>
 
 using namespace Champs;
 
 namespace {
-
-const QString Http = QStringLiteral("http://");
 
 constexpr std::array Formats{Txt::FormatNormal, Txt::GrandFormat, Txt::FormatItalienne, Txt::AutreFormat};
 constexpr std::array Couleurs{Txt::Couleur, Txt::NoirEtBlanc, Txt::Infographie};
@@ -69,8 +67,7 @@ QString prix(const QVariant &valeur)
 {
     if (!valeur.isValid() || valeur.toDouble() == 0.0)
         return {};
-    const QString montant = Traduction::courant().locale().toString(valeur.toDouble(), 'f', 2);
-    return montant + u' ' + texte(Txt::Euro);
+    return Montant::Montrer(valeur.toDouble()) + u' ' + texte(Txt::Euro);
 }
 
 /// Grades are shown by stars; what is no grade is shown as it is.
@@ -86,6 +83,12 @@ QString nomDe(const Champ &champ, int id, const QVariant &stockee)
     if (champ.source->lien == Sources::Lien::Tous)
         return Sources::LireNomsLies(*champ.source, id);
     return Sources::LireNom(*champ.source, stockee.toInt());
+}
+
+bool aUnSchema(const QString &adresse)
+{
+    return adresse.startsWith(QLatin1String("http://"), Qt::CaseInsensitive)
+        || adresse.startsWith(QLatin1String("https://"), Qt::CaseInsensitive);
 }
 
 std::optional<QVariant> entier(const QString &saisie, const QVariant &siVide)
@@ -166,10 +169,14 @@ std::vector<Fiche::Option> Fiche::Options(const Champ &champ)
 
 std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisie)
 {
-    const QString net = Texte::EstVide(saisie) ? QString() : saisie.trimmed();
+    if (champ.vue == Vue::Memo)
+        return saisie;
+    const QString net = Texte::EstVide(saisie) ? QString() : Texte::UneLigne(saisie);
+    if (&champ == &DuNom(champ.feuille) && !Texte::EstUnNom(net))
+        return std::nullopt;
     switch (champ.regle) {
     case Regle::Titre:
-        return net.left(LongueurTitre);
+        return Texte::Couper(net, LongueurTitre);
     case Regle::Tome: {
         const auto tome = entier(net.left(LongueurTome), 0);
         return tome && tome->toInt() >= 0 ? tome : std::nullopt;
@@ -186,17 +193,23 @@ std::optional<QVariant> Fiche::Verifier(const Champ &champ, const QString &saisi
         return valeur ? std::optional<QVariant>(*valeur) : std::nullopt;
     }
     case Regle::Http:
-        return net.isEmpty() || net.left(Http.size()).toLower() == Http ? net : Http + net;
+        return net.isEmpty() || aUnSchema(net) ? net : QStringLiteral("http://") + net;
     case Regle::Drapeau:
         return QVariant(net != QLatin1String("0") && !net.isEmpty());
     case Regle::Texte:
         break;
     }
-    return champ.vue == Vue::Memo ? saisie : net;
+    return net;
 }
 
-QString Fiche::RaisonDuRefus(const Champ &champ)
+QString Fiche::RaisonDuRefus(const Champ &champ, const QString &saisie)
 {
+    if (&champ == &DuNom(champ.feuille))
+        return Tr::tr("Il manque un nom.");
+    const bool montant = champ.regle == Regle::Prix || champ.regle == Regle::Pages;
+    if (const auto lectures = Montant::Lectures(saisie); montant && lectures.size() > 1)
+        return Tr::tr("« %1 » peut se lire %2 ou %3 : écrivez l'un des deux.")
+            .arg(saisie.trimmed(), Montant::Ecrire(lectures[0]), Montant::Ecrire(lectures[1]));
     switch (champ.regle) {
     case Regle::Tome:
         return Tr::tr("Le numéro est un nombre entier de 0 à 999.");
@@ -220,11 +233,7 @@ bool Fiche::Existe(Feuille feuille, int id, const char *table)
 
 std::optional<double> Fiche::LireMontant(const QString &saisie)
 {
-    QString net = saisie;
-    net.remove(texte(Txt::Euro)).remove(u' ').remove(QChar(0x00A0)).remove(QChar(0x202F));
-    bool sur = false;
-    const double valeur = net.replace(u',', u'.').toDouble(&sur);
-    return sur && std::isfinite(valeur) ? std::optional(valeur) : std::nullopt;
+    return Montant::Lire(saisie);
 }
 
 QString Fiche::MotDeLaNote(int note)

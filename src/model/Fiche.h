@@ -42,12 +42,12 @@ std::vector<Option> Options(const Champs::Champ &champ);
 /// The value to store for an entered text, or nothing when the field refuses it.
 std::optional<QVariant> Verifier(const Champs::Champ &champ, const QString &saisie);
 /// What the field takes, in one line, for the user whose text it refused.
-QString RaisonDuRefus(const Champs::Champ &champ);
+QString RaisonDuRefus(const Champs::Champ &champ, const QString &saisie);
 
 /// True when the entry has its row in this table of the sheet, by default in the first.
 bool Existe(Champs::Feuille feuille, int id, const char *table = nullptr);
 
-/// A typed amount, with a comma or a point, with or without the euro sign; nothing when it is none.
+/// A typed amount, in the signs of the language in force; nothing when it is none, or could be two.
 std::optional<double> LireMontant(const QString &saisie);
 
 /// The word for a grade of 1 to 5 stars; any other value is the lowest.

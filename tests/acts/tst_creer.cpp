@@ -1,3 +1,4 @@
+#include "acts/Choisir.h"
 #include "acts/Creer.h"
 #include "core/Dates.h"
 #include "db/Base.h"
@@ -125,9 +126,38 @@ private Q_SLOTS:
             "INSERT INTO Auteurs(NAuteur, Nom, Prenom) VALUES (4, 'Töpffer', 'Rodolphe'), (5, 'A, B', ' ')"));
         QCOMPARE(Creer::AjouterAuteur("töpffer, Rodolphe", Role::Dessin, 1), 4);
         QCOMPARE(Creer::AjouterAuteur("A, B", Role::Dessin, 1), 5);
-        // Another first name is another author, and a text is never split to make one.
+        // Another first name is another author, who has both his names; by the surname alone one is found again.
         QCOMPARE(Creer::AjouterAuteur("Töpffer, Charles", Role::Scena, 1), 6);
-        QCOMPARE(lignes("Auteurs").last(), "6|Töpffer, Charles| | | | |0| | | | | |0|-1|0");
+        QCOMPARE(lignes("Auteurs").last(), "6|Töpffer|Charles| | | |0| | | | | |0|-1|0");
+        QCOMPARE(Creer::AjouterAuteur("Töpffer", Role::Scena, 2), 6);
+        // What hangs on a name is none of it, and what has two commas is one name.
+        QCOMPARE(Creer::AjouterAuteur("Hergé, ", Role::Dessin, 2), 7);
+        QCOMPARE(lignes("Auteurs").last(), "7|Hergé| | | | |0| | | | | |-1|0|0");
+        QCOMPARE(Creer::AjouterAuteur(" , ", Role::Dessin, 2), 0);
+        Creer::AjouterAuteur("Un, Deux, Trois", Role::Dessin, 2);
+        QVERIFY(lignes("Auteurs").last().startsWith("8|Un, Deux, Trois| |"));
+    }
+
+    void plusieursNomsFontPlusieursLiens()
+    {
+        const Bac bac;
+        Bac::executer("INSERT INTO Genre VALUES (1, 'Aventure'), (2, 'Humour, noir')");
+        Album album = albumComplet();
+        album[Rubrique::Genre] = "Humour, aventure, Humour";
+        Creer::CreerAlbum(album);
+        QCOMPARE(lignes("Genre"), QStringList({"1|Aventure", "2|Humour, noir", "3|Humour"}));
+        QCOMPARE(lignes("GenreAlbums"), QStringList({"3|1", "1|1"}));
+        QCOMPARE(Bac::valeur("SELECT NGenre FROM Album"), 3);
+        // A name that holds a comma is found whole, or stands in quotes.
+        album[Rubrique::Genre] = "humour, noir";
+        Creer::CreerAlbum(album);
+        album[Rubrique::Genre] = "\"Sel, poivre\", Aventure";
+        Creer::CreerAlbum(album);
+        QCOMPARE(lignes("GenreAlbums").mid(2), QStringList({"2|2", "4|3", "1|3"}));
+        QCOMPARE(lignes("Genre").last(), "4|Sel, poivre");
+        Choisir::Valider(
+            {{General::Tri::Albums, 2}, &Champs::De(Champs::Feuille::Album, "Genre")}, {0, "Mer, Aventure"});
+        QCOMPARE(lignes("GenreAlbums"), QStringList({"3|1", "1|1", "4|3", "1|3", "5|2", "1|2"}));
     }
 
     void sansNomNiEntreeNiLien()
@@ -145,14 +175,26 @@ private Q_SLOTS:
             QStringList("1|0|NULL|NULL|NULL|NULL|NULL|NULL|5|5| | | | | |0| | |0| |0| |0|0|2|0|0|0|0|0"));
     }
 
-    void leNumeroRedonneNHeriteDeRien()
+    /// A new entry has a number that nothing bears, nor refers to.
+    void unNumeroNeufNHeriteDeRien()
     {
-        const Bac bac;
-        Bac::executer("INSERT INTO CotesAlbum VALUES (1, '2024', '60'), (2, '2024', '7')");
-        Bac::executer("INSERT INTO InterMetier VALUES (1, 1, 1)");
-        Creer::CreerAlbum(albumComplet());
-        QCOMPARE(lignes("CotesAlbum"), QStringList("2|2024|7"));
-        QVERIFY(lignes("InterMetier").isEmpty());
+        Bac bac;
+        for (const char *sql : {"INSERT INTO CotesAlbum VALUES (4, '2024', '60')",
+                 "INSERT INTO InterMetier VALUES (1, 7, 8)", "INSERT INTO LAlbums (NAlbum) VALUES (5)",
+                 "INSERT INTO Album (Num, NumSerie, NPret, NColor) VALUES (1, 40, 30, 20)",
+                 "INSERT INTO EditeurAlbums VALUES (50, 1)",
+                 "INSERT INTO Serie (NSerie, NGenre) VALUES (2, 60)"})
+            Bac::executer(sql);
+        QCOMPARE(Creer::CreerAlbum(albumComplet()), 6);
+        QCOMPARE(lignes("SerieAlbums"), QStringList("41|6|D"));
+        QCOMPARE(lignes("EditeurAlbums").last() + ' ' + lignes("GenreAlbums").last(), "51|6 61|6");
+        QCOMPARE(Bac::valeur("SELECT min(NAuteur) FROM Auteurs"), 21);
+        QCOMPARE(Creer::CreerEntree(Especes::Emprunteur, "Voisin"), 31);
+        QCOMPARE(Creer::CreerEntree(Especes::Intervenant, "Luc , Lettre"), 8);
+        QCOMPARE(Creer::CreerEntree(Especes::Activite, "Lettrage"), 9);
+        // What is deleted in between keeps its number to itself.
+        Bac::executer("DELETE FROM Pret");
+        QCOMPARE(Creer::CreerEntree(Especes::Emprunteur, "Voisine"), 32);
     }
 };
 

@@ -1,7 +1,9 @@
 #include "db/schema/Tables.h"
 #include "model/ChargerAlbums.h"
 #include "model/Fiche.h"
+#include "model/Montant.h"
 #include "support/Bac.h"
+#include "support/Colonnes.h"
 
 #include <QTest>
 
@@ -29,8 +31,10 @@ private Q_SLOTS:
             QVERIFY2(
                 a(e->table, e->cle) && a(e->table, e->nom) && (!e->suite || a(e->table, e->suite)), e->table);
             QVERIFY2(!e->liens || (a(e->liens, e->cle) && a(e->liens, "NAlbum")), e->table);
-            for (const E::Rangs &rangs : e->fiche)
-                QVERIFY2(a(rangs.table, rangs.cle), rangs.table);
+            for (const auto &lignes : {e->fiche, e->ailleurs}) {
+                for (const E::Rangs &rangs : lignes)
+                    QVERIFY2(a(rangs.table, rangs.cle), rangs.table);
+            }
         }
         for (int i = 0; i < 7; ++i)
             QVERIFY(DuNom(static_cast<Feuille>(i)).feuille == static_cast<Feuille>(i));
@@ -101,6 +105,80 @@ private Q_SLOTS:
         QCOMPARE(infos.bande.size(), 8u); // five albums and three holes
         QVERIFY(!PreparerInfosAlbum::Preparer(5, 9).precedent);
         QCOMPARE(PreparerInfosAlbum::Preparer(1, 0).possedes, 0);
+    }
+
+    void unMontantSeLitDansLesSignesDeLaLangue_data()
+    {
+        // in French, English and German: the amount, "?" when it could be two, "-" when it is none
+        const Colonnes<QString, QString> cas;
+        cas("virgule", "12,50", "12.5 12.5 12.5");
+        cas("point", "12.50 €", "12.5 12.5 12.5");
+        cas("point devant trois chiffres", "1.250", "? ? 1250");
+        cas("virgule devant trois chiffres", "1,250", "? 1250 ?");
+        cas("quatre chiffres devant", "1250,125", "1250.125 1250.125 1250.125");
+        cas("zero devant", "0.125", "0.125 0.125 0.125");
+        cas("les deux", "1.234,50", "1234.5 1234.5 1234.5");
+        cas("les deux, autrement", "1,234.50", "1234.5 1234.5 1234.5");
+        cas("plusieurs groupes", "1.234.567", "1234567 1234567 1234567");
+        cas("blancs", "1\u202F234,5", "1234.5 1234.5 1234.5");
+        cas("groupes boiteux", "1.23.456", "- - -");
+        cas("deux virgules", "1,2.3,4", "- - -");
+        cas("en puissance", "1e20", "- - -");
+        cas("demesure", "100000000000000000000", "- - -");
+        cas("mots", "douze", "- - -");
+        cas("signe seul", ",", "- - -");
+    }
+
+    void unMontantSeLitDansLesSignesDeLaLangue()
+    {
+        const auto [texte, voulus] = essai<QString, QString>();
+        Bac bac;
+        QStringList lus;
+        for (const char *langue : {"Français.lng", "English.lng", "Deutsch.lng"}) {
+            bac.traduction.choisir(QString::fromUtf8(langue));
+            const auto lectures = Montant::Lectures(texte);
+            lus << (lectures.empty()      ? "-"
+                    : lectures.size() > 1 ? "?"
+                                          : QString::number(lectures.front(), 'g', 15));
+            QCOMPARE(Fiche::Verifier(De(Feuille::Album, "PrixA"), texte).has_value(), lectures.size() == 1);
+        }
+        QCOMPARE(lus.join(u' '), voulus);
+    }
+
+    /// What could be two amounts is refused with both, and what is shown is always taken back.
+    void unMontantMontreSeRelit()
+    {
+        Bac bac;
+        const Champ &prix = De(Feuille::Album, "PrixA");
+        for (const char *langue : {"Français", "English", "Deutsch", "Español", "Italiano", "Nederlands"}) {
+            bac.traduction.choisir(QString::fromUtf8(langue) + ".lng");
+            for (const double montant : {0.5, 12.5, 1250.0, 1234.5, 1234567.89})
+                QVERIFY2(Fiche::Verifier(prix, Fiche::Afficher(prix, montant)) == QVariant(montant),
+                    qPrintable(Fiche::Afficher(prix, montant)));
+        }
+        bac.traduction.choisir(QStringLiteral("Français.lng"));
+        const QString raison = Fiche::RaisonDuRefus(prix, "1.250");
+        QVERIFY2(raison.contains("1250 ") && raison.contains("1,25 "), qPrintable(raison));
+    }
+
+    void unTexteDUneLigneEnResteUne()
+    {
+        const QString visage = QStringLiteral("\U0001F600");
+        QCOMPARE(Fiche::Verifier(De(Feuille::Album, "ISBN"), " 2-205\r\n\t1\u20282 "), "2-205   1 2");
+        QCOMPARE(Fiche::Verifier(De(Feuille::Album, "Infos"), "un\ndeux"), "un\ndeux");
+        // A character is cut off whole, with its accent.
+        const Champ &titre = De(Feuille::Album, "TAlbum");
+        QCOMPARE(Fiche::Verifier(titre, QString(49, u'a') + visage), QString(49, u'a'));
+        QCOMPARE(Fiche::Verifier(titre, QString(48, u'a') + visage), QString(48, u'a') + visage);
+        QCOMPARE(Fiche::Verifier(titre, QString(49, u'a') + "e\u0301"), QString(49, u'a'));
+        for (int i = 0; i < 7; ++i) {
+            const Champ &nom = DuNom(static_cast<Feuille>(i));
+            QVERIFY2(!Fiche::Verifier(nom, " \n") && !Fiche::Verifier(nom, ","), nom.nom);
+        }
+        const Champ &site = De(Feuille::Serie, "SiteWeb(0)");
+        QCOMPARE(Fiche::Verifier(site, "HTTPS://a.fr"), "HTTPS://a.fr");
+        QCOMPARE(Fiche::Verifier(site, "http://a.fr"), "http://a.fr");
+        QCOMPARE(Fiche::Verifier(site, "a.fr"), "http://a.fr");
     }
 };
 

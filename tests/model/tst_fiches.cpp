@@ -36,6 +36,21 @@ private Q_SLOTS:
         QCOMPARE(Bac::valeur("SELECT Dessin || Scena || Color FROM Auteurs"), "0-1-1");
     }
 
+    void unNomDAuteurNeSeVidePas()
+    {
+        const Bac bac;
+        Bac::executer("INSERT INTO Auteurs(NAuteur, Nom, Prenom) VALUES (1, 'Remi', 'Georges')");
+        const auto apres = [](const char *champ, const QString &texte) {
+            const bool pris = ChargerAuteurs::EcrireAuteur(1, QLatin1String(champ), texte);
+            return Bac::valeur("SELECT Nom || '|' || Prenom FROM Auteurs").toString() + (pris ? "" : " !");
+        };
+        QCOMPARE(apres("Nom", " \n "), "Remi|Georges !");
+        QCOMPARE(apres("Nom", ", "), "Remi|Georges !");
+        QCOMPARE(apres("Nom", "Hergé, "), "Hergé|Georges");
+        QCOMPARE(apres("Nom", "Paul, Dupont"), "Dupont|Paul");
+        QCOMPARE(apres("Prenom", " "), "Dupont|");
+    }
+
     void unIntervenantRemplaceLAncien()
     {
         const Bac bac;

@@ -120,7 +120,7 @@ private Q_SLOTS:
         cas("auteur au prénom nul", 3, "Zed", "3:Zed", 0, true);
         cas("homonyme", 3, "Töpffer, Charles", "4:Töpffer, Charles", 1, true);
         cas("nom seul d'un autre", 3, "Töpffer", "4:Töpffer", 1, true);
-        cas("virgule sans nom", 2, ", Paul", "4:, Paul", 1, true);
+        cas("virgule sans nom", 2, ", Paul", "4:Paul", 1, true);
     }
 
     void ajouterNeDoubleRien()
