@@ -2,6 +2,9 @@
 
 #include "acts/Acte.h"
 #include "core/Traduction.h"
+#include "model/Fiche.h"
+
+#include <QCoreApplication>
 
 namespace {
 
@@ -25,6 +28,41 @@ void oterLignes(General::Entree entree)
         AccesBase::SupprimerLignes(QLatin1String(espece->liens), QStringLiteral("NAlbum"), entree.id);
 }
 
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(Supprimer)
+};
+
+QString sansElle(General::Tri tri, int albums)
+{
+    using General::Tri;
+    switch (tri) {
+    case Tri::Series:
+        return Tr::tr("%n album(s) restent, sans série.", nullptr, albums);
+    case Tri::Editeurs:
+        return Tr::tr("%n album(s) restent, sans éditeur.", nullptr, albums);
+    case Tri::Collections:
+        return Tr::tr("%n album(s) restent, sans cette collection.", nullptr, albums);
+    default:
+        return Tr::tr("%n album(s) restent, sans cet auteur.", nullptr, albums);
+    }
+}
+
+QString chezQui(int album)
+{
+    const auto valeurs = Fiche::Lire(Champs::Feuille::Album, album);
+    const QString qui = valeurs ? valeurs->at(QStringLiteral("NPret")).affichee : QString();
+    return qui.isEmpty() ? QString() : Tr::tr("Cet album est prêté à %1.").arg(qui);
+}
+
+}
+
+QString Supprimer::Suites(General::Entree entree)
+{
+    if (entree.tri == General::Tri::Albums)
+        return chezQui(entree.id);
+    const int albums = General::LireAlbums(entree.tri, entree.id).size();
+    return albums > 0 ? sansElle(entree.tri, albums) : QString();
 }
 
 void Supprimer::SupprimerEntree(General::Entree entree)

@@ -10,4 +10,8 @@ namespace Supprimer {
 /// transaction; what is gone already is no error. Throws Error.
 void SupprimerEntree(General::Entree entree);
 
+/// What else a deletion means, in a line to be read before it: the albums that stay without the entry, the borrower
+/// who has the album. Empty when it concerns the entry alone. Throws Error.
+QString Suites(General::Entree entree);
+
 }

@@ -34,6 +34,12 @@
 using Nom = Forme::Nom;
 using General::Entree;
 
+namespace {
+
+constexpr int DelaiDesRestesMs = 1500;
+
+}
+
 Bureau::Bureau(const Options &options)
     : m_options(options)
     , m_historique(Annonces::courant())
@@ -246,17 +252,26 @@ void Bureau::demarrer()
         QTimer::singleShot(0, qApp, [avis] { Messages::Avertir(QApplication::activeWindow(), avis); });
     };
     chargerTextes();
-    Annonces::courant().sauvegardes.manquee = [this](const Error &e) {
+    Annonces::courant().patience.continuer = [] {
+        return Messages::Demander(QApplication::activeWindow(),
+            tr("La lecture de la base dure plus longtemps que prévu. Attendre encore ?"));
+    };
+    const auto avertir = [this](const Error &e) {
         QTimer::singleShot(0, this, [e] { Messages::Avertir(QApplication::activeWindow(), e.message()); });
     };
+    Annonces::courant().avertir = avertir;
+    Annonces::courant().sauvegardes.manquee = avertir;
     Demarrage::MettreEnEtat();
     brancherFenetre();
     brancherHistorique();
     fenetre().commencer();
     fenetre().show();
     proposerReprise();
-    if (m_options.capture.isEmpty())
-        premierDemarrage();
+    if (!m_options.capture.isEmpty())
+        return;
+    premierDemarrage();
+    // Once the window is there and at rest.
+    QTimer::singleShot(DelaiDesRestesMs, this, [this] { Demarrage::ProposerDOterLesRestes(&fenetre()); });
 }
 
 /// A collection or a catalogue in the old format is offered to be converted.

@@ -1,6 +1,8 @@
 #include "app/Demarrage.h"
 
+#include "acts/Restes.h"
 #include "archives/Secours.h"
+#include "core/Annonces.h"
 #include "core/Dossier.h"
 #include "core/Error.h"
 #include "core/Reglages.h"
@@ -9,17 +11,33 @@
 #include "db/files/Livraison.h"
 #include "db/files/MiseANiveau.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QScopedValueRollback>
 #include <functional>
 
 namespace {
 
+/// Each content is taken in once, so that what was set since stays.
 void importerIni()
 {
     const QDir dossier(Dossier::courant().racine());
-    const QStringList fichiers = dossier.entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Name);
-    if (!fichiers.isEmpty())
-        Reglages::courant().importerIni(dossier.filePath(fichiers.first()));
+    for (const QString &nom : dossier.entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Name)) {
+        // The desktop of another system keeps its own settings of a folder there.
+        if (nom.compare(QLatin1String("desktop.ini"), Qt::CaseInsensitive) != 0)
+            Reglages::courant().importerIni(dossier.filePath(nom));
+    }
+}
+
+/// Nothing of a collection that does not open now.
+std::optional<bool> resteQuelqueChose()
+{
+    try {
+        const QScopedValueRollback demande(Annonces::courant().reessayer, {});
+        return Restes::YEnA();
+    } catch (const Error &) {
+        return std::nullopt;
+    }
 }
 
 }
@@ -57,4 +75,21 @@ void Demarrage::MettreEnEtat()
     essayer([] { Secours::Examiner(nullptr, Dossier::courant().finBrutale()); });
     essayer(MiseANiveau::Executer);
     essayer(importerIni);
+}
+
+void Demarrage::ProposerDOterLesRestes(QWidget *parent)
+{
+    const QString examinee = QCoreApplication::applicationVersion() + u' ' + Dossier::courant().collection();
+    if (Reglages::courant().texte(Cle::RestesVus) == examinee)
+        return;
+    const auto reste = resteQuelqueChose();
+    if (reste)
+        Reglages::courant().ecrire(Cle::RestesVus, examinee);
+    if (!reste.value_or(false))
+        return;
+    const QString question = QCoreApplication::translate("Demarrage",
+        "La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes"
+        " d'albums supprimés. Les ôter ? Ctrl+Z les remet.");
+    if (Messages::Demander(parent, question))
+        Restes::Oter();
 }

@@ -47,7 +47,7 @@ QString icone(const QString &commande)
 QString pourMenu(const QString &texte)
 {
     const bool long_ = texte.size() > LongueurDuNom;
-    return QString(long_ ? texte.left(LongueurDuNom) + QChar(0x2026) : texte)
+    return QString(long_ ? Texte::Couper(texte, LongueurDuNom) + QChar(0x2026) : texte)
         .replace(u'&', QStringLiteral("&&"));
 }
 
@@ -173,8 +173,10 @@ void Pop::choisirImage(const Edition &edition)
 void Pop::supprimer(General::Entree entree)
 {
     const QString nom = General::LireTexte(entree.tri, entree.id);
-    const QString question
-        = texte(Txt::VoulezVousSupprimer) + QStringLiteral(" '") + nom + QStringLiteral("' ?");
-    if (Messages::Demander(QApplication::activeWindow(), question))
+    const QString suites = Supprimer::Suites(entree);
+    QString question = texte(Txt::VoulezVousSupprimer) + QStringLiteral(" '") + nom + QStringLiteral("' ?");
+    if (!suites.isEmpty())
+        question += u'\n' + suites;
+    if (Messages::Demander(QApplication::activeWindow(), question, !suites.isEmpty()))
         Supprimer::SupprimerEntree(entree);
 }

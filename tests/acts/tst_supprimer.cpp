@@ -1,4 +1,5 @@
 #include "acts/Historique.h"
+#include "acts/Restes.h"
 #include "acts/Supprimer.h"
 #include "support/Apres.h"
 #include "support/Autre.h"
@@ -98,6 +99,48 @@ private Q_SLOTS:
         }
         Supprimer::SupprimerEntree({Tri::Albums, 1});
         QVERIFY(Bac::toutLire() != avant && histoire.peutAnnuler());
+    }
+
+    void laQuestionDitCeQuiReste()
+    {
+        const Exemple exemple;
+        const auto dit = [](Tri tri, const QString &nombre) {
+            const QString suites = Supprimer::Suites({tri, 2});
+            QVERIFY2(suites.contains(nombre) && suites.contains("album"), qPrintable(suites));
+        };
+        dit(Tri::Series, Bac::valeur("SELECT count(*) FROM SerieAlbums WHERE NSerie = 2").toString());
+        dit(Tri::Editeurs, Bac::valeur("SELECT count(*) FROM EditeurAlbums WHERE NEdit = 2").toString());
+        Bac::executer("UPDATE Album SET NPret = (SELECT min(NPret) FROM Pret WHERE NPret > 0) WHERE Num = 2");
+        dit(Tri::Albums,
+            Bac::valeur("SELECT Nom FROM Pret WHERE NPret > 0 ORDER BY NPret").toString().trimmed());
+        Bac::executer("UPDATE Album SET NPret = 0");
+        Bac::executer("DELETE FROM SerieAlbums");
+        for (const Tri tri : {Tri::Albums, Tri::Series, Tri::ExLibris, Tri::Presse})
+            QVERIFY(Supprimer::Suites({tri, 2}).isEmpty());
+    }
+
+    /// What cut-off creations left is found and taken away, and nothing else.
+    void lesRestesSOtent()
+    {
+        Exemple exemple;
+        Restes::Oter();
+        QVERIFY(!Restes::YEnA());
+        const QStringList avant = Bac::toutLire();
+        for (const char *reste :
+            {"INSERT INTO Album (Num, NAlbum) VALUES (90000, 1)", "INSERT INTO GenreAlbums VALUES (1, 90000)",
+                "INSERT INTO CotesAlbum VALUES (90001, 'a', 'b')",
+                "INSERT INTO SerieAlbums SELECT * FROM SerieAlbums WHERE rowid = 1",
+                "INSERT INTO AuteursAlbums SELECT * FROM AuteursAlbums WHERE rowid = 1"}) {
+            Bac::executer(reste);
+            QVERIFY2(Restes::YEnA(), reste);
+            const QStringList encombree = Bac::toutLire();
+            Historique histoire(exemple.bac.annonces);
+            QCOMPARE(Restes::Oter(), 1);
+            QCOMPARE(Bac::toutLire(), avant);
+            histoire.annuler();
+            QCOMPARE(Bac::toutLire(), encombree);
+            histoire.refaire();
+        }
     }
 };
 

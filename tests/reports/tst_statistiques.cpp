@@ -1,4 +1,5 @@
 #include "acts/Historique.h"
+#include "acts/Supprimer.h"
 #include "reports/Statistiques.h"
 #include "support/Bac.h"
 
@@ -73,6 +74,20 @@ private Q_SLOTS:
         histoire.annuler();
         QCOMPARE(Bac::toutLire(), perdus);
         QVERIFY(!histoire.peutAnnuler());
+    }
+
+    /// What a deletion leaves hanging and the cleaning takes comes back with what was deleted.
+    void uneSuppressionNettoyeeSeReprend()
+    {
+        Bac bac(QStringLiteral(EXEMPLE));
+        Statistiques::Nettoyer();
+        const QStringList avant = Bac::toutLire();
+        Historique histoire(bac.annonces);
+        Supprimer::SupprimerEntree({General::Tri::Series, 2});
+        QVERIFY(Statistiques::Nettoyer() > 1);
+        histoire.annuler();
+        histoire.annuler();
+        QCOMPARE(Bac::toutLire(), avant);
     }
 };
 

@@ -16,10 +16,11 @@ Messages::Doublure *&doublure()
     return courante;
 }
 
-int montrer(
-    QWidget *parent, QMessageBox::Icon icone, const QString &texte, QMessageBox::StandardButtons boutons)
+int montrer(QWidget *parent, QMessageBox::Icon icone, const QString &texte,
+    QMessageBox::StandardButtons boutons, QMessageBox::StandardButton premier = QMessageBox::NoButton)
 {
     QMessageBox boite(icone, titre(), texte, boutons, parent);
+    boite.setDefaultButton(premier);
     boite.setTextFormat(Qt::PlainText);
     return boite.exec();
 }
@@ -33,13 +34,13 @@ void dire(QWidget *parent, QMessageBox::Icon icone, const QString &texte)
 }
 
 bool choisir(QWidget *parent, QMessageBox::Icon icone, const QString &texte, QMessageBox::StandardButton oui,
-    QMessageBox::StandardButton non)
+    QMessageBox::StandardButton non, bool prudente = false)
 {
     if (doublure()) {
         doublure()->textes << texte;
         return !doublure()->reponses.isEmpty() && doublure()->reponses.dequeue();
     }
-    return montrer(parent, icone, texte, oui | non) == oui;
+    return montrer(parent, icone, texte, oui | non, prudente ? non : oui) == oui;
 }
 
 QString prochainFichier()
@@ -74,9 +75,9 @@ void Messages::Arreter(QWidget *parent, const QString &texte)
     dire(parent, QMessageBox::Critical, texte);
 }
 
-bool Messages::Demander(QWidget *parent, const QString &question)
+bool Messages::Demander(QWidget *parent, const QString &question, bool prudente)
 {
-    return choisir(parent, QMessageBox::Question, question, QMessageBox::Yes, QMessageBox::No);
+    return choisir(parent, QMessageBox::Question, question, QMessageBox::Yes, QMessageBox::No, prudente);
 }
 
 void Messages::Signaler(const Error &erreur)

@@ -13,8 +13,8 @@ namespace Messages {
 void Informer(QWidget *parent, const QString &texte);
 void Avertir(QWidget *parent, const QString &texte);
 void Arreter(QWidget *parent, const QString &texte);
-/// Yes or no, with the question icon. False when the box is closed in another way.
-bool Demander(QWidget *parent, const QString &question);
+/// Yes or no, with the question icon. False when the box is closed in another way. `prudente` questions begin on no.
+bool Demander(QWidget *parent, const QString &question, bool prudente = false);
 /// Tells what broke from the event loop, once whatever is under way is over.
 void Signaler(const Error &erreur);
 /// Try again or give up.
