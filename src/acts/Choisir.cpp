@@ -54,6 +54,19 @@ int chercher(const Base &base, const Source &source, const QString &texte)
     return id > 0 ? id : Trouver::ParNom(base, espece, nom);
 }
 
+int porteurDe(const Base &base, const Source &source, const QString &texte)
+{
+    const QString entier = texte.trimmed();
+    const Espece &espece = *source.espece;
+    if (espece.libelle == Libelle::Nom)
+        return entier.isEmpty() ? 0 : Trouver::ParNom(base, espece, entier);
+    const Personne personne = separer(entier, espece.libelle);
+    int id = Trouver::Personne(base, espece, personne.nom, personne.prenom);
+    if (id == 0 && source.prenom == Sources::Prenom::Avant)
+        id = Trouver::Personne(base, espece, personne.prenom, personne.nom);
+    return id > 0 ? id : Trouver::Personne(base, espece, entier, {});
+}
+
 int creer(const Source &source, const QString &texte)
 {
     const auto [nom, prenom] = separer(texte, source.espece->libelle);
@@ -65,7 +78,7 @@ int trouverOuCreer(Base &base, const Source &source, const Choisie &choisie)
 {
     if (choisie.id > 0 || Texte::EstVide(choisie.texte))
         return choisie.id;
-    const int id = chercher(base, source, choisie.texte);
+    const int id = choisie.neuve ? 0 : chercher(base, source, choisie.texte);
     return id > 0 ? id : creer(source, choisie.texte);
 }
 
@@ -162,6 +175,12 @@ int Choisir::Chercher(const Edition &edition, const QString &texte)
 {
     const Base base;
     return chercher(base, *Ecrire::SourceDe(edition), texte);
+}
+
+int Choisir::PorteurDe(const Edition &edition, const QString &texte)
+{
+    const Base base;
+    return porteurDe(base, *Ecrire::SourceDe(edition), texte);
 }
 
 int Choisir::Ajouter(const Edition &edition, const QString &texte)

@@ -17,11 +17,15 @@ struct Choisie
 {
     int id = 0;
     QString texte;
+    bool neuve = false; ///< a person of this name is made, whoever else bears a part of it
 };
 
 /// The entry that a typed text names, whatever case; 0 for none. A person is "name, first name", a contributor
 /// "first name , name".
 int Chercher(const Edition &edition, const QString &texte);
+
+/// The entry whose whole name, first name included, a typed text is, whether the field offers it or not; 0 for none.
+int PorteurDe(const Edition &edition, const QString &texte);
 
 /// Adds an entry to the field's table; an author gets the trade of the field. Returns its identifier.
 int Ajouter(const Edition &edition, const QString &texte);
