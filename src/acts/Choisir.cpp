@@ -30,6 +30,19 @@ int chercher(const Base &base, const Source &source, const QString &texte)
     return Trouver::Personne(base, *source.espece, noms.prenom, noms.nom);
 }
 
+/// The one of this very name, first name included.
+int porteurDe(const Base &base, const Source &source, const QString &texte)
+{
+    const Especes::Espece &espece = *source.espece;
+    const Trouver::Noms noms = Trouver::Separer(espece, texte);
+    if (!espece.suite || noms.nom.isEmpty())
+        return noms.nom.isEmpty() ? 0 : Trouver::ParNom(base, espece, noms.nom);
+    int id = Trouver::Personne(base, espece, noms.nom, noms.prenom);
+    if (id == 0 && source.prenom == Sources::Prenom::Avant)
+        id = Trouver::Personne(base, espece, noms.prenom, noms.nom);
+    return id > 0 ? id : Trouver::Personne(base, espece, texte.trimmed(), {});
+}
+
 int creer(const Source &source, const QString &texte)
 {
     return source.role ? Creer::CreerAuteur(texte, *source.role) : Creer::CreerEntree(*source.espece, texte);
@@ -47,7 +60,7 @@ std::vector<int> trouverOuCreer(Base &base, const Source &source, const Choisie 
         : QStringList{choisie.texte};
     std::vector<int> ids;
     for (const QString &nom : noms) {
-        const int id = chercher(base, source, nom);
+        const int id = choisie.neuve ? 0 : chercher(base, source, nom);
         ids.push_back(id > 0 ? id : creer(source, nom));
     }
     return ids;
@@ -152,6 +165,12 @@ int Choisir::Chercher(const Edition &edition, const QString &texte)
     return chercher(base, *Ecrire::SourceDe(edition), texte);
 }
 
+int Choisir::PorteurDe(const Edition &edition, const QString &texte)
+{
+    const Base base;
+    return porteurDe(base, *Ecrire::SourceDe(edition), texte);
+}
+
 int Choisir::Ajouter(const Edition &edition, const QString &texte)
 {
     int id = 0;
@@ -170,13 +189,17 @@ QString Choisir::Valider(const Edition &edition, const Choisie &choisie)
         edition, choisie.texte, [&](Base &base) { return ecrire(base, edition, choisie); });
 }
 
+bool Choisir::TientUnDisparu(const Edition &edition)
+{
+    return Ecrire::SourceDe(edition) && Texte::EstVide(edition.affichee) && tenue(edition) > 0;
+}
+
 bool Choisir::PeutVider(const Edition &edition)
 {
     const Champ *champ = Ecrire::ChampDe(edition);
     const bool legende = !champ || champ->voie != Champs::Voie::Directe;
     const bool nom = champ && champ == &Champs::DuNom(champ->feuille);
-    // The number of an entry that is gone shows nothing, and is to be taken away none the less.
-    const bool vide = Texte::EstVide(edition.affichee) && !(Ecrire::SourceDe(edition) && tenue(edition) > 0);
+    const bool vide = Texte::EstVide(edition.affichee) && !TientUnDisparu(edition);
     return legende && !nom && edition.viseUneValeur() && !vide;
 }
 

@@ -17,15 +17,21 @@ struct Choisie
 {
     int id = 0;
     QString texte;
+    bool neuve = false; ///< a person of this name is made, whoever else bears a part of it
 };
 
 /// The entry that a typed text names, whatever case; 0 for none. A person is "name, first name", a contributor
 /// "first name , name".
 int Chercher(const Edition &edition, const QString &texte);
 
+/// The entry whose whole name, first name included, a typed text is, whether the field offers it or not; 0 for none.
+int PorteurDe(const Edition &edition, const QString &texte);
+
 /// Adds an entry to the field's table; an author gets the trade of the field. Returns its identifier.
 int Ajouter(const Edition &edition, const QString &texte);
 
+/// True when the field holds the number of an entry that is gone: it shows nothing, and can be emptied none the less.
+bool TientUnDisparu(const Edition &edition);
 /// True when the field holds something and may be emptied; names and titles may not.
 bool PeutVider(const Edition &edition);
 /// Stores nothing in the field, as one step.

@@ -107,11 +107,16 @@ std::optional<Saisie::Refus> Saisie::Verifier(const Album &album)
     if (!ditQuelqueChose(album))
         return Refus{Rubrique::Titre, Tr::tr("Donnez au moins un titre.")};
     for (const ChampDeCreation &champ : ChampsDeCreation::Tous) {
-        const QString raison = raisonDuRefus(champ, album[champ.rubrique]);
-        if (!raison.isEmpty())
-            return Refus{champ.rubrique, raison};
+        if (const auto refus = VerifierTexte(champ.rubrique, album[champ.rubrique]))
+            return refus;
     }
     return std::nullopt;
+}
+
+std::optional<Saisie::Refus> Saisie::VerifierTexte(Rubrique rubrique, const QString &texte)
+{
+    const QString raison = raisonDuRefus(ChampsDeCreation::De(rubrique), texte);
+    return raison.isEmpty() ? std::nullopt : std::optional(Refus{rubrique, raison});
 }
 
 int Saisie::CreerAlbum(Album album)

@@ -29,6 +29,8 @@ struct Refus
 /// The first refusal, before anything is written; nothing when all is well. A picture that is a path must be the one of
 /// a picture file.
 std::optional<Refus> Verifier(const Album &album);
+/// The same of one text by itself.
+std::optional<Refus> VerifierTexte(Rubrique rubrique, const QString &texte);
 
 /// Takes the pictures that are files into the collection and creates the album; returns its number. It must have
 /// passed Verifier. Throws Error.

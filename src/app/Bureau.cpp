@@ -74,7 +74,9 @@ void Bureau::repondre()
     connect(&m_demandes, &Demandes::copie, this, &Bureau::sauvegarderCopie);
     connect(&m_demandes, &Demandes::fichier, this, &Bureau::recevoirFichier);
     connect(&m_demandes, &Demandes::sortie, this, [this] { fenetre().close(); });
-    connect(&m_demandes, &Demandes::fin, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    // Left at once: quit() would ask every window to close first, and one that stays would stay alone.
+    connect(
+        &m_demandes, &Demandes::fin, qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
 }
 
 /// What is wished where entries and their values are shown.

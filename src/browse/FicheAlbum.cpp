@@ -37,7 +37,7 @@ void montrerVoisin(QToolButton &lien, const QString &titre)
 {
     const QString coupe = lien.fontMetrics().elidedText(titre, Qt::ElideRight, LargeurVoisin);
     lien.setText(QString(coupe).replace(u'&', QStringLiteral("&&")));
-    expliquer(&lien, titre.toHtmlEscaped());
+    expliquer(&lien, titre);
 }
 
 QToolButton *lienVoisin(QWidget *parent, const QString &nom, Qt::ToolButtonStyle style)

@@ -260,8 +260,9 @@ void Frmmain::closeEvent(QCloseEvent *evenement)
         QTimer::singleShot(0, this, &Frmmain::ecrirePuisFermer);
         return;
     }
-    const QString question = texte(Txt::VoulezVousQuitter) + u' ' + titre() + QStringLiteral(" ?");
-    if (!Messages::Demander(this, question)) {
+    QStringList question{texte(Txt::VoulezVousQuitter) + u' ' + titre() + QStringLiteral(" ?")};
+    question << Forme::Brouillons();
+    if (!Messages::Demander(this, question.join(u'\n'))) {
         evenement->ignore();
         return;
     }

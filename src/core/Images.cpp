@@ -11,13 +11,52 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QTextBoundaryFinder>
 #include <array>
 
 namespace {
 
-constexpr qsizetype LongueurDuNom = 120;
+constexpr qsizetype OctetsDeLaFin = 24; ///< of an ending, its dot included
 const QString Rangement = QStringLiteral("images");
 const std::array DossiersDImages{Rangement, QStringLiteral("image")};
+
+/// The kinds that are always read, and those that need a plug-in of the platform.
+const QStringList Courantes{QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("bmp"),
+    QStringLiteral("png"), QStringLiteral("wmf"), QStringLiteral("ico")};
+const QStringList Autres{QStringLiteral("gif"), QStringLiteral("webp"), QStringLiteral("tif"),
+    QStringLiteral("tiff"), QStringLiteral("avif")};
+
+/// Signs that show nothing of themselves and change how the rest reads.
+bool estUnPiege(char32_t signe)
+{
+    const QChar::Category sorte = QChar::category(signe);
+    const QChar::Direction sens = QChar::direction(signe);
+    // The isolates and the embeddings, the overrides and the marks of direction.
+    const bool dirige = sorte == QChar::Other_Format && sens != QChar::DirBN;
+    return dirige || sorte == QChar::Other_Control || sorte == QChar::Other_Surrogate
+        || sorte == QChar::Separator_Line || sorte == QChar::Separator_Paragraph;
+}
+
+QString sansPieges(const QString &texte)
+{
+    QString net;
+    for (const char32_t signe : texte.toUcs4())
+        net += estUnPiege(signe) ? QStringLiteral("_") : QString::fromUcs4(&signe, 1);
+    return net;
+}
+
+/// As many whole characters as so many bytes hold.
+QString couper(const QString &texte, qsizetype octets)
+{
+    qsizetype fin = 0;
+    QTextBoundaryFinder limites(QTextBoundaryFinder::Grapheme, texte);
+    for (qsizetype suivante = limites.toNextBoundary(); suivante > 0; suivante = limites.toNextBoundary()) {
+        if (QStringView(texte).left(suivante).toUtf8().size() > octets)
+            break;
+        fin = suivante;
+    }
+    return texte.left(fin);
+}
 
 QString existant(const QString &chemin)
 {
@@ -95,10 +134,19 @@ QImage lire(QIODevice &source, const QSize &taille, const QByteArray &format)
 
 bool Images::EstUneImage(const QString &nom)
 {
-    static const std::array<QString, 6> extensions{QStringLiteral("jpg"), QStringLiteral("jpeg"),
-        QStringLiteral("bmp"), QStringLiteral("png"), QStringLiteral("wmf"), QStringLiteral("ico")};
     const QString suffixe = QFileInfo(nom.trimmed()).suffix().toLower();
-    return std::find(extensions.begin(), extensions.end(), suffixe) != extensions.end();
+    return Courantes.contains(suffixe) || Autres.contains(suffixe);
+}
+
+QStringList Images::Extensions()
+{
+    const QList<QByteArray> lus = QImageReader::supportedImageFormats();
+    QStringList extensions = Courantes;
+    for (const QString &extension : Autres) {
+        if (lus.contains(extension.toLatin1()))
+            extensions << extension;
+    }
+    return extensions;
 }
 
 QString Images::Trouver(const QString &nom)
@@ -127,12 +175,14 @@ QString Images::CopierDans(const QString &dossier, const QString &chemin)
     if (!QDir().mkpath(cible({})))
         throw Error(
             QCoreApplication::translate("Images", "Le dossier des images ne peut pas être créé."), cible({}));
-    const QString suffixe = source.suffix().isEmpty() ? QString() : u'.' + source.suffix();
-    QString nom = source.fileName();
+    const QString suffixe
+        = source.suffix().isEmpty() ? QString() : couper(u'.' + sansPieges(source.suffix()), OctetsDeLaFin);
+    const QString base = couper(sansPieges(source.completeBaseName()), OctetsDuNom);
+    QString nom = base + suffixe;
     for (int rang = 2; QFileInfo::exists(cible(nom)); ++rang) {
         if (memeContenu(chemin, cible(nom)))
             return QFileInfo(cible(nom)).fileName();
-        nom = source.completeBaseName() + QStringLiteral(" (%1)").arg(rang) + suffixe;
+        nom = base + QStringLiteral(" (%1)").arg(rang) + suffixe;
     }
     QFile fichier(chemin);
     if (!fichier.copy(cible(nom)))
@@ -155,9 +205,10 @@ QImage Images::Decoder(const QString &chemin, const QSize &taille)
 QString Images::NomDeFichier(const QString &titre)
 {
     static const QString refuses = QStringLiteral("/\\:*?\"<>|");
-    QString nom = titre.left(LongueurDuNom);
+    // No more of a text of any length than may count.
+    QString nom = couper(sansPieges(titre.left(OctetsDuNom + 1)), OctetsDuNom);
     for (QChar &c : nom) {
-        if (refuses.contains(c) || c.category() == QChar::Other_Control)
+        if (refuses.contains(c))
             c = u'_';
     }
     // A leading dot would hide the file.

@@ -2,6 +2,7 @@
 
 #include "core/Dossier.h"
 #include "core/Error.h"
+#include "core/Traduction.h"
 #include "db/Base.h"
 #include "db/Module2.h"
 #include "db/schema/Version.h"
@@ -11,6 +12,9 @@
 using ChampsDeCreation::ChampDeCreation;
 
 namespace {
+
+/// No text of the catalogue holds it, and nobody types it.
+constexpr QChar Entre(0x1F);
 
 Base ouvrir(const QString &chemin)
 {
@@ -31,6 +35,21 @@ bool estTelQuel(const Base &base)
 std::optional<QString> decoder(const QString &code, bool telQuel)
 {
     return telQuel ? code : Module2::Decoder(code);
+}
+
+/// The texts that a line is made of, in the order of their parts; nothing when one of them cannot be decoded.
+std::optional<QStringList> lireParties(const Cursor &rs, bool telsQuels)
+{
+    QStringList parties;
+    for (int i = 1; i <= 6; ++i) {
+        const QString stockee = rs.Fields(i).toString();
+        // The tome is a number, and in no code.
+        const auto partie = i == 2 ? stockee : decoder(stockee, telsQuels);
+        if (!partie)
+            return std::nullopt;
+        parties << partie->trimmed();
+    }
+    return parties;
 }
 
 /// The columns of one row as they are entered; remembers when a text could not be decoded.
@@ -65,19 +84,14 @@ Catalogue::Liste Catalogue::LireAlbums()
     const Base base = ouvrir(chemin());
     Liste liste;
     liste.telsQuels = estTelQuel(base);
-    // Named columns, so that the walk stays on the index.
     for (auto rs
-         = base.read(QStringLiteral("SELECT Numero, Titre, Tome From BD order by Serie desc, Tome asc"));
+         = base.read(QStringLiteral("SELECT Numero, Titre, Tome, Serie, Dessin, Scena, Editeur From BD"
+                                    " order by Serie desc, Tome asc"));
          !rs.AtEnd(); rs.MoveNext()) {
-        const auto titre = decoder(rs.Fields(1).toString(), liste.telsQuels);
-        if (!titre) {
+        if (const auto parties = lireParties(rs, liste.telsQuels))
+            liste.albums.ajouter(static_cast<int>(rs.Int64(0)), parties->join(Entre).toStdString());
+        else
             ++liste.illisibles;
-            continue;
-        }
-        liste.albums.ajouter(static_cast<int>(rs.Int64(0)), titre->trimmed().toStdString());
-        liste.albums.prolonger("  (N° ");
-        liste.albums.prolonger(rs.Utf8(2));
-        liste.albums.prolonger(")");
     }
     if (liste.albums.empty() && liste.illisibles > 0)
         throw Error(Error::Sorte::Abimee,
@@ -85,6 +99,18 @@ Catalogue::Liste Catalogue::LireAlbums()
                 "Catalogue", "Les textes du catalogue de référence ne peuvent pas être décodés."),
             chemin());
     return liste;
+}
+
+QString Catalogue::PartieDe(const QString &ligne, Partie partie)
+{
+    const auto rang = static_cast<qsizetype>(partie);
+    return ligne.section(Entre, rang, rang);
+}
+
+QString Catalogue::Libelle(const QString &ligne)
+{
+    return QStringLiteral("%1  (%2 %3)")
+        .arg(PartieDe(ligne, Partie::Titre), texte(Txt::NumeroAbrege), PartieDe(ligne, Partie::Tome));
 }
 
 std::optional<Catalogue::Reference> Catalogue::LireReference(int numero)

@@ -9,15 +9,21 @@
 /// The reference catalogue, "BDbase.bd", of known albums.
 namespace Catalogue {
 
-/// The albums by series, last series first: "title  (N° tome)". Rows whose texts cannot be decoded are left
+/// The albums by series, last series first, each with what it may be looked up by. Rows whose texts cannot be decoded are left
 /// out and counted. In a catalogue that was converted from an old one nobody knows the code: its texts are
 /// given as they stand.
 struct Liste
 {
-    Entrees albums;
+    Entrees albums; ///< all parts of each, one behind the other
     int illisibles = 0;
     bool telsQuels = false;
 };
+/// A part of a line of that list.
+enum class Partie { Titre, Tome, Serie, Dessin, Scena, Editeur };
+QString PartieDe(const QString &ligne, Partie partie);
+/// A line as it is shown: "title  (N° tome)", the abbreviation in the language in force.
+QString Libelle(const QString &ligne);
+
 /// Throws Error when the file is missing or is no catalogue, or when none of its rows can be decoded.
 Liste LireAlbums();
 

@@ -5,6 +5,7 @@
 #include "core/ui/Theme.h"
 #include "entry/Catalogue.h"
 #include "entry/FormulaireAlbum.h"
+#include "entry/LigneCatalogue.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -45,6 +46,7 @@ QWidget *Facile::construireCatalogue()
     m_liste->setModel(&m_modele);
     m_liste->setUniformItemSizes(true);
     m_liste->setFont(Theme::PoliceChoisie());
+    m_liste->setItemDelegate(new LigneCatalogue(m_liste));
     m_liste->setSpacing(1);
     m_liste->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_nombre = nommer(new QLabel(zone), QStringLiteral("Nombre"));
@@ -58,7 +60,7 @@ QWidget *Facile::construireCatalogue()
     colonne->addLayout(pied);
     connect(m_filtre, &QLineEdit::textChanged, this, [this](const QString &texteDuFiltre) {
         m_modele.filtrer(texteDuFiltre);
-        m_nombre->setText(texte(Txt::AlbumsNombre) + u' ' + QString::number(m_modele.rowCount()));
+        compter();
     });
     connect(m_filtre, &QLineEdit::returnPressed, this, [this] { m_liste->setFocus(); });
     connect(m_liste, &QListView::clicked, this, &Facile::choisir);
@@ -77,27 +79,46 @@ void Facile::charger()
         dire(tr(
             "Ce catalogue vient d'un ancien programme : ses textes sont codés, et personne n'en a la clé."));
     m_modele.remplir(General::Tri::Albums, std::move(liste.albums));
-    m_nombre->setText(texte(Txt::AlbumsNombre) + u' ' + QString::number(m_modele.rowCount()));
+    compter();
     m_filtre->setFocus();
+}
+
+void Facile::compter()
+{
+    m_nombre->setText(texte(Txt::AlbumsNombre) + u' ' + QString::number(m_modele.rowCount()));
+}
+
+void Facile::vider()
+{
+    FormeCreation::vider();
+    m_carton->setChecked(false);
+    m_reference = 0;
 }
 
 void Facile::Traduire()
 {
     FormeCreation::Traduire();
-    m_filtre->setPlaceholderText(tr("Filtrer le catalogue"));
+    m_filtre->setPlaceholderText(tr("Titre, série, auteur ou éditeur"));
     m_filtre->setAccessibleName(tr("Filtrer le catalogue"));
     m_liste->setAccessibleName(texte(Txt::ListeDesAlbums));
     libeller(m_sel, tr("Choisir"));
     libeller(m_carton, texte(Txt::Cartonnee));
+    m_liste->viewport()->update();
+    compter();
 }
 
 void Facile::choisir(const QModelIndex &index)
 {
     if (!index.isValid())
         return;
-    const auto reference = Catalogue::LireReference(m_modele.id(index));
+    const int numero = m_modele.id(index);
+    const auto reference = Catalogue::LireReference(numero);
     if (!reference)
         return;
+    // What was chosen for the entry before is not this one's.
+    if (m_reference != 0 && m_reference != numero)
+        formulaire()->viderImages();
+    m_reference = numero;
     formulaire()->poser(reference->album);
     m_carton->setChecked(reference->carton == QStringLiteral("cartonné"));
 }

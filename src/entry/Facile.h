@@ -1,7 +1,7 @@
 #pragma once
 
 #include "entry/FormeCreation.h"
-#include "model/ListeEntrees.h"
+#include "entry/ListeCatalogue.h"
 
 class Demandes;
 class QCheckBox;
@@ -20,12 +20,15 @@ public:
 
 protected:
     void Traduire() override;
+    void vider() override;
 
 private:
     QWidget *construireCatalogue();
     void choisir(const QModelIndex &index);
+    void compter();
 
-    ListeEntrees m_modele;
+    ListeCatalogue m_modele;
+    int m_reference = 0; ///< the entry of the catalogue that filled the fields
     QLineEdit *m_filtre = nullptr;
     QListView *m_liste = nullptr;
     QLabel *m_nombre = nullptr;

@@ -15,8 +15,9 @@ class FormeCreation : public FormeOutil
     Q_OBJECT
 
 public:
-    /// Reads the choice lists; the form is emptied. Throws Error.
+    /// Reads the choice lists. What was entered before the form was closed stands there again. Throws Error.
     void charger() override;
+    QString brouillon() const override;
 
 protected:
     FormeCreation(Demandes &demandes, const QString &nom, const QSize &taille, Txt titre);
@@ -24,6 +25,9 @@ protected:
     void construireFormulaire(bool date);
 
     void Traduire() override;
+    void closeEvent(QCloseEvent *evenement) override;
+    /// Empties the form.
+    virtual void vider();
 
     FormulaireAlbum *formulaire() const { return m_formulaire; }
     /// Where a form puts what it has beside the fields.
@@ -31,11 +35,14 @@ protected:
 
 private:
     void creer();
+    void recommencer();
+    void refuser(const Saisie::Refus &refus);
 
     Demandes &m_demandes;
     Txt m_titre;
     FormulaireAlbum *m_formulaire = nullptr;
     QHBoxLayout *m_ligne = nullptr;
     QLabel *m_refus = nullptr;
+    QPushButton *m_vider = nullptr;
     QPushButton *m_creer = nullptr;
 };

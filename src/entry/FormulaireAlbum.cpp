@@ -60,27 +60,32 @@ FormulaireAlbum::FormulaireAlbum(bool date, QWidget *parent)
     page->setSpacing(Theme::Grand);
     page->addWidget(construireChamps(), 1);
     page->addWidget(construireImages(), 0, Qt::AlignTop);
-    auto *serie = champ<ListeChoix>(Rubrique::Serie);
-    connect(serie, &QComboBox::currentTextChanged, this, [this, serie](const QString &texte) {
-        if (serie->findText(texte.trimmed(), Qt::MatchFixedString) >= 0)
-            Q_EMIT serieChoisie(texte);
-    });
+    connect(champ<ListeChoix>(Rubrique::Serie), &QComboBox::currentTextChanged, this,
+        &FormulaireAlbum::suivreSerie);
     connect(
         champ<QLineEdit>(Rubrique::Tome), &QLineEdit::textEdited, this, [this] { m_tomePropose = false; });
+    m_vide = m_depart = album();
     Traduire();
 }
 
 QWidget *FormulaireAlbum::fabriquer(const ChampDeCreation &champ)
 {
     switch (champ.maniere) {
-    case Maniere::Choix:
-        return new ListeChoix(this);
-    case Maniere::Case:
-        return new QCheckBox(this);
+    case Maniere::Choix: {
+        auto *choix = new ListeChoix(this);
+        connect(choix, &QComboBox::currentTextChanged, this, &FormulaireAlbum::change);
+        return choix;
+    }
+    case Maniere::Case: {
+        auto *boite = new QCheckBox(this);
+        connect(boite, &QCheckBox::toggled, this, &FormulaireAlbum::change);
+        return boite;
+    }
     case Maniere::Memo: {
         auto *memo = new QPlainTextEdit(this);
         memo->setTabChangesFocus(true);
         memo->setMinimumHeight(HauteurMemo);
+        connect(memo, &QPlainTextEdit::textChanged, this, &FormulaireAlbum::change);
         return memo;
     }
     case Maniere::Image:
@@ -92,6 +97,7 @@ QWidget *FormulaireAlbum::fabriquer(const ChampDeCreation &champ)
     auto *ligne = new QLineEdit(this);
     ligne->setMaximumWidth(largeurDe(champ));
     connect(ligne, &QLineEdit::textChanged, this, &FormulaireAlbum::oterRefus);
+    connect(ligne, &QLineEdit::textChanged, this, &FormulaireAlbum::change);
     return ligne;
 }
 
@@ -175,14 +181,18 @@ QWidget *FormulaireAlbum::construireImages()
         m_images[rubrique].clear();
         cadre->setFixedSize(TailleCadre);
         cadre->setAcceptDrops(true);
+        cadre->setFocusPolicy(Qt::StrongFocus);
         auto *bouton = m_boutons[rubrique] = nommer(new QPushButton(zone), nom);
         colonne->addWidget(cadre);
         colonne->addWidget(bouton);
         const auto choisir = [this, rubrique = rubrique] { choisirImage(rubrique); };
         connect(bouton, &QPushButton::clicked, this, choisir);
         connect(cadre, &CadreImage::actionnee, this, choisir);
+        connect(cadre, &CadreImage::ouvertureDemandee, this, choisir);
+        connect(cadre, &CadreImage::retraitDemande, this,
+            [this, rubrique = rubrique] { poserImage(rubrique, {}); });
         connect(cadre, &CadreImage::fichierDepose, this,
-            [this, rubrique = rubrique](const QString &fichier) { poserImage(rubrique, fichier); });
+            [this, rubrique = rubrique](const QString &fichier) { prendreImage(rubrique, fichier); });
     }
     return zone;
 }
@@ -202,6 +212,7 @@ void FormulaireAlbum::Traduire()
     for (const auto &[rubrique, face] : faces) {
         libeller(m_boutons.at(rubrique), face);
         champ<CadreImage>(rubrique)->poserLegende(tr("Déposez une image ici"));
+        champ<CadreImage>(rubrique)->poserRetrait(texte(Txt::SupprimerLImage));
         champ<CadreImage>(rubrique)->setAccessibleName(face);
     }
     if (!m_avecDate)
@@ -224,10 +235,30 @@ void FormulaireAlbum::composerDate()
             m_jour->currentIndex(), m_mois->currentIndex(), m_annee->currentText().toInt()));
 }
 
+/// A known series proposes its next tome; with any other text the one that was proposed for it goes.
+void FormulaireAlbum::suivreSerie()
+{
+    // Not the text that was announced: the line may have completed it since.
+    const auto *serie = champ<ListeChoix>(Rubrique::Serie);
+    const QString texte = serie->currentText().trimmed();
+    if (serie->findText(texte, Qt::MatchFixedString) >= 0)
+        Q_EMIT serieChoisie(texte);
+    else
+        proposerTome(std::nullopt);
+}
+
 void FormulaireAlbum::choisirImage(Rubrique rubrique)
 {
     const QString chemin = ChoisirImage(this);
     if (!chemin.isEmpty())
+        prendreImage(rubrique, chemin);
+}
+
+void FormulaireAlbum::prendreImage(Rubrique rubrique, const QString &chemin)
+{
+    if (const auto refus = Saisie::VerifierTexte(rubrique, chemin))
+        Q_EMIT refusee(*refus);
+    else
         poserImage(rubrique, chemin);
 }
 
@@ -236,6 +267,7 @@ void FormulaireAlbum::poserImage(Rubrique rubrique, const QString &chemin)
     m_images[rubrique] = chemin;
     champ<CadreImage>(rubrique)->montrer(chemin);
     oterRefus();
+    Q_EMIT change();
 }
 
 QString FormulaireAlbum::lire(const ChampDeCreation &quoi) const
@@ -290,14 +322,28 @@ void FormulaireAlbum::poser(const Album &album)
     for (const ChampDeCreation *quoi : demandes())
         ecrire(*quoi, album[quoi->rubrique]);
     m_tomePropose = false;
+    m_depart = this->album();
     oterRefus();
+}
+
+bool FormulaireAlbum::aUneSaisie() const
+{
+    Album saisi = album();
+    if (m_tomePropose)
+        saisi[Rubrique::Tome] = m_depart[Rubrique::Tome];
+    return saisi != m_depart;
+}
+
+void FormulaireAlbum::viderImages()
+{
+    for (const Rubrique photo : {Rubrique::Photo1, Rubrique::Photo2})
+        poserImage(photo, {});
 }
 
 void FormulaireAlbum::vider()
 {
+    viderImages();
     poser({});
-    for (const Rubrique photo : {Rubrique::Photo1, Rubrique::Photo2})
-        poserImage(photo, {});
     if (m_avecDate) {
         for (QComboBox *choix : {m_jour, m_mois, m_annee})
             choix->setCurrentIndex(0);
@@ -311,17 +357,18 @@ void FormulaireAlbum::proposer(const Saisie::Choix &choix)
         champ<ListeChoix>(rubrique)->proposer(noms);
 }
 
-void FormulaireAlbum::proposerTome(int tome)
+void FormulaireAlbum::proposerTome(std::optional<int> tome)
 {
     auto *ligne = champ<QLineEdit>(Rubrique::Tome);
     if (!ligne->text().isEmpty() && !m_tomePropose)
         return;
-    ligne->setText(QString::number(tome));
-    m_tomePropose = true;
+    ligne->setText(tome ? QString::number(*tome) : QString());
+    m_tomePropose = tome.has_value();
 }
 
 void FormulaireAlbum::montrerRefus(const Saisie::Refus &refus)
 {
+    oterRefus();
     const auto bouton = m_boutons.find(refus.rubrique);
     m_refuse = bouton != m_boutons.end() ? bouton->second : m_champs.at(refus.rubrique);
     QPalette rouge = m_refuse->palette();

@@ -24,10 +24,15 @@ public:
     Album album() const;
     /// Fills the fields; the pictures stay.
     void poser(const Album &album);
+    void viderImages();
     void vider();
+    /// True when nothing stands in the fields.
+    bool estVide() const { return album() == m_vide; }
+    /// True when the user entered something: more than the form was filled with, or proposes.
+    bool aUneSaisie() const;
     void proposer(const Saisie::Choix &choix);
-    /// Proposes a tome, unless the user typed one.
-    void proposerTome(int tome);
+    /// Proposes a tome, or none any more, unless the user typed one.
+    void proposerTome(std::optional<int> tome);
     /// Puts the cursor into the field and marks it until it changes.
     void montrerRefus(const Saisie::Refus &refus);
     void oterRefus();
@@ -37,8 +42,12 @@ public:
     QHBoxLayout *ligneDesCases() const { return m_ligneCases; }
 
 Q_SIGNALS:
+    /// Something else stands in a field.
+    void change();
     /// The field holds the name of a series of the collection.
     void serieChoisie(const QString &serie);
+    /// What was picked for a field was not taken.
+    void refusee(const Saisie::Refus &refus);
     void refusOte();
 
 private:
@@ -48,7 +57,9 @@ private:
     QWidget *fabriquer(const ChampsDeCreation::ChampDeCreation &champ);
     void ajouter(QGridLayout *grille, const ChampsDeCreation::ChampDeCreation &champ);
     void composerDate();
+    void suivreSerie();
     void choisirImage(Rubrique rubrique);
+    void prendreImage(Rubrique rubrique, const QString &chemin);
     void poserImage(Rubrique rubrique, const QString &chemin);
     QString lire(const ChampsDeCreation::ChampDeCreation &champ) const;
     void ecrire(const ChampsDeCreation::ChampDeCreation &champ, const QString &texte);
@@ -59,6 +70,8 @@ private:
     }
 
     bool m_avecDate;
+    Album m_vide; ///< the texts of an empty form
+    Album m_depart; ///< those that the form was filled with
     std::map<Rubrique, QWidget *> m_champs;
     std::map<Rubrique, QLabel *> m_libelles;
     std::map<Rubrique, QPushButton *> m_boutons; ///< of the pictures

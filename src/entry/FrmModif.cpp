@@ -1,15 +1,17 @@
 #include "entry/FrmModif.h"
 
 #include "core/Dates.h"
+#include "core/Error.h"
+#include "core/Texte.h"
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
+#include "core/ui/LigneCompletee.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QListView>
 #include <QScopedValueRollback>
 #include <QTextCharFormat>
@@ -26,7 +28,8 @@ FrmModif::FrmModif(Demandes &demandes)
     : FormeModification(demandes, QStringLiteral("FrmModif"))
 {
     auto *ligne = new QHBoxLayout;
-    m_saisie = nommer(new QLineEdit(this), QStringLiteral("Saisie"));
+    m_saisie = nommer(new LigneCompletee([this](const QString &saisie) { return seulOffert(saisie); }, this),
+        QStringLiteral("Saisie"));
     m_saisie->setClearButtonEnabled(true);
     m_saisie->installEventFilter(this);
     ligne->addWidget(m_saisie, 1);
@@ -125,19 +128,63 @@ void FrmModif::remplir()
         m_liste->scrollTo(tenue, QListView::PositionAtCenter);
 }
 
-void FrmModif::taper(const QString &texte)
+/// The one line that a typed text leaves in the list and begins; empty without one.
+QString FrmModif::seulOffert(const QString &saisie)
 {
-    m_choisie = {0, texte.trimmed()};
+    if (!m_liste->isVisible())
+        return {};
+    const QScopedValueRollback montre(m_montre, true);
+    m_modele.filtrer(saisie);
+    const QString seul = m_modele.rowCount() == 1 ? m_modele.index(0).data().toString() : QString();
+    return Texte::Plier(seul).startsWith(Texte::Plier(saisie)) ? seul : QString();
+}
+
+void FrmModif::taper()
+{
+    m_choisie = {0, m_saisie->text().trimmed()};
     refuser({});
     if (!m_liste->isVisible())
         return;
     {
         const QScopedValueRollback montre(m_montre, true);
-        m_modele.filtrer(texte);
+        m_modele.filtrer(m_choisie.texte);
         m_liste->setCurrentIndex({});
     }
-    if (!m_choisie.texte.isEmpty() && !estOffert(m_choisie.texte))
-        prevenir(tr("« %1 » sera ajouté ; ↓ pour choisir dans la liste.").arg(m_choisie.texte));
+    try {
+        resoudre();
+    } catch (const Error &) {
+        // The base is not to be had just now: nothing can be said, and validating asks again.
+    }
+}
+
+/// Whom a typed text means: a line of the list, an entry of that very name which the list does not offer, or a new one.
+/// Says which.
+void FrmModif::resoudre()
+{
+    const QString texte = m_choisie.texte;
+    if (texte.isEmpty())
+        return;
+    if (const QModelIndex offert = offertSous(texte); offert.isValid())
+        return choisirOffert(offert);
+    const Sources::Source &source = *Ecrire::SourceDe(edition());
+    m_choisie.id = Choisir::PorteurDe(edition(), texte);
+    m_choisie.neuve = m_choisie.id == 0 && source.espece->libelle != Especes::Libelle::Nom;
+    const QStringList neuves = source.lien == Sources::Lien::Tous ? partiesNeuves(texte) : QStringList{texte};
+    if (m_choisie.id > 0 && source.role && m_modele.entrees().rang(m_choisie.id) < 0)
+        prevenir(tr("« %1 » est connu dans un autre métier : il sera choisi.").arg(texte));
+    else if (m_choisie.id > 0 || neuves.isEmpty())
+        prevenir(tr("« %1 » sera choisi.").arg(texte));
+    else
+        prevenir(tr("« %1 » sera ajouté ; ↓ pour choisir dans la liste.")
+                     .arg(neuves.join(QStringLiteral(" », « "))));
+}
+
+void FrmModif::choisirOffert(const QModelIndex &index)
+{
+    const QScopedValueRollback montre(m_montre, true);
+    m_choisie = {m_modele.id(index), index.data().toString()};
+    m_liste->setCurrentIndex(index);
+    prevenir(tr("« %1 » sera choisi.").arg(m_choisie.texte));
 }
 
 void FrmModif::prendre(const QModelIndex &index)
@@ -158,19 +205,37 @@ void FrmModif::prendreJour()
     refuser({});
 }
 
-/// True when a line of the list reads like this, whatever case.
-bool FrmModif::estOffert(const QString &nom) const
+/// The line that reads like this, whatever case; of several the one that the field holds.
+QModelIndex FrmModif::offertSous(const QString &nom) const
 {
+    const auto porte = [&](const QModelIndex &index) {
+        return index.data().toString().compare(nom, Qt::CaseInsensitive) == 0;
+    };
+    if (const QModelIndex tenue = m_modele.indexDe(m_tenue); porte(tenue))
+        return tenue;
     for (int i = 0; i < m_modele.rowCount(); ++i) {
-        if (m_modele.index(i).data().toString().compare(nom, Qt::CaseInsensitive) == 0)
-            return true;
+        if (porte(m_modele.index(i)))
+            return m_modele.index(i);
     }
-    return false;
+    return {};
+}
+
+/// Those of several names, joined by commas, that the list does not have.
+QStringList FrmModif::partiesNeuves(const QString &texte) const
+{
+    QStringList neuves;
+    for (const QString &partie : texte.split(u',', Qt::SkipEmptyParts))
+        neuves << partie.trimmed();
+    neuves.removeAll(QString());
+    for (int i = 0; i < m_modele.entrees().size(); ++i)
+        neuves.removeIf([nom = m_modele.entrees().texte(i)](
+                            const QString &partie) { return partie.compare(nom, Qt::CaseInsensitive) == 0; });
+    return neuves;
 }
 
 bool FrmModif::VerifierExist(const QString &nom) const
 {
-    return Choisir::Chercher(edition(), nom) > 0;
+    return Choisir::PorteurDe(edition(), nom) > 0;
 }
 
 void FrmModif::ajouter()
@@ -196,10 +261,12 @@ void FrmModif::valider()
 {
     // The same words may be another entry's.
     const bool autre = m_choisie.id > 0 && m_choisie.id != m_tenue;
-    if (m_choisie.texte == m_depart.trimmed() && !autre) {
+    if (m_choisie.texte == m_depart.trimmed() && !autre && !Choisir::TientUnDisparu(edition())) {
         close();
         return;
     }
+    if (m_choisie.id == 0 && m_liste->isVisible())
+        resoudre();
     const QString refus = Choisir::Valider(edition(), m_choisie);
     if (!refus.isEmpty()) {
         // What was picked may be gone: its text stays, to be found or made by the next try.

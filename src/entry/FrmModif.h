@@ -5,8 +5,8 @@
 #include "model/ListeEntrees.h"
 
 class Demandes;
+class LigneCompletee;
 class QCalendarWidget;
-class QLineEdit;
 class QListView;
 class QToolButton;
 
@@ -29,15 +29,19 @@ private:
     void construireCalendrier();
     void RendreDateVisible(bool visible);
     void remplir();
-    void taper(const QString &texte);
+    QString seulOffert(const QString &saisie);
+    void taper();
+    void resoudre();
+    void choisirOffert(const QModelIndex &index);
     void prendre(const QModelIndex &index);
     void prendreJour();
     bool VerifierExist(const QString &nom) const;
-    bool estOffert(const QString &nom) const;
+    QModelIndex offertSous(const QString &nom) const;
+    QStringList partiesNeuves(const QString &texte) const;
     void ajouter();
 
     ListeEntrees m_modele;
-    QLineEdit *m_saisie = nullptr;
+    LigneCompletee *m_saisie = nullptr;
     QToolButton *m_menu = nullptr;
     QListView *m_liste = nullptr;
     QCalendarWidget *m_date = nullptr;

@@ -23,6 +23,7 @@ public:
     {
         return m_textes[static_cast<std::size_t>(rubrique)];
     }
+    bool operator==(const Album &) const = default;
     bool a(Rubrique rubrique) const { return !(*this)[rubrique].trimmed().isEmpty(); }
 
 private:

@@ -9,6 +9,7 @@
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 #include "core/ui/VueWeb.h"
+#include "webimport/AccesBDNet.h"
 #include "webimport/DetailBDNet.h"
 
 #include <QCloseEvent>
@@ -24,13 +25,6 @@ namespace {
 
 constexpr QSize TailleDessinee(1000, 740);
 constexpr int LargeurProgression = 180;
-
-QUrl adresseEntiere(const QString &texte)
-{
-    const QString nette = texte.trimmed();
-    return QUrl(
-        nette.contains(QLatin1String("://")) ? nette : QStringLiteral("http://") + nette, QUrl::TolerantMode);
-}
 
 }
 
@@ -73,15 +67,11 @@ void BDNet::construireBarre(QBoxLayout *page)
 void BDNet::construireVues(QBoxLayout *page)
 {
     m_vues = new QStackedWidget(this);
-    m_notice = nommer(new QLabel(m_vues), QStringLiteral("Notice"));
-    m_notice->setAlignment(Qt::AlignCenter);
-    m_notice->setWordWrap(true);
-    m_notice->setForegroundRole(QPalette::PlaceholderText);
-    m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_acces = new AccesBDNet(m_vues);
     m_web = new VueWeb(FabriqueWeb::Acces::Web, m_vues);
     m_detail = new DetailBDNet(m_vues);
     for (QWidget *vue :
-        {static_cast<QWidget *>(m_notice), static_cast<QWidget *>(m_web), static_cast<QWidget *>(m_detail)})
+        {static_cast<QWidget *>(m_acces), static_cast<QWidget *>(m_web), static_cast<QWidget *>(m_detail)})
         m_vues->addWidget(vue);
     page->addWidget(m_vues, 1);
 }
@@ -98,12 +88,14 @@ void BDNet::construirePied()
 
 void BDNet::brancher()
 {
-    connect(m_accueil, &QToolButton::clicked, this,
-        [this] { allerA(Reglages::courant().texte(Cle::AccueilBDNet)); });
+    connect(m_accueil, &QToolButton::clicked, this, &BDNet::allerAccueil);
+    connect(m_acces, &AccesBDNet::enregistre, this, &BDNet::suivreReglages);
+    connect(m_acces, &AccesBDNet::refuse, this, [this](const QString &raison) { dire(raison); });
     connect(m_navigation[0], &QToolButton::clicked, m_web, &VueWeb::reculer);
     connect(m_navigation[1], &QToolButton::clicked, m_web, &VueWeb::avancer);
     connect(m_adresse, &QLineEdit::textChanged, this, [this](const QString &adresse) {
-        m_analyse->setVisible(!estSurDetail() && Importation::EstUneFiche(adresseEntiere(adresse)));
+        m_analyse->setVisible(
+            !estSurDetail() && Importation::EstUneFiche(Telechargement::AdresseDe(adresse)));
     });
     surEntree(m_adresse, [this] { suivreAdresse(); });
     connect(m_web, &VueWeb::adresseChangee, this, &BDNet::poserAdresse);
@@ -120,7 +112,7 @@ void BDNet::brancher()
     connect(m_analyse, &QPushButton::clicked, this, &BDNet::analyser);
     connect(annuler(), &QPushButton::clicked, &m_importation, &Importation::annuler);
     connect(m_creer, &QPushButton::clicked, this, &BDNet::creer);
-    connect(m_revenir, &QPushButton::clicked, this, &BDNet::revenir);
+    connect(m_revenir, &QPushButton::clicked, this, &BDNet::abandonner);
     connect(&m_importation, &Importation::avance, this, [this](qint64 recus, qint64 total) {
         poserCharge(texte(Txt::ChargementEnCours), total > 0 ? static_cast<int>(100 * recus / total) : 0);
     });
@@ -131,12 +123,21 @@ void BDNet::brancher()
 void BDNet::charger()
 {
     m_navigateur = m_web->preparer();
+    if (!brouillon().isEmpty())
+        return;
     if (!m_importation.enCours())
         revenir();
-    const QString accueil = Reglages::courant().texte(Cle::AccueilBDNet);
-    if (m_navigateur && !accueil.isEmpty() && m_adresse->text().isEmpty())
-        allerA(accueil);
+    if (m_navigateur && m_adresse->text().isEmpty())
+        allerAccueil();
     m_adresse->setFocus();
+}
+
+QString BDNet::brouillon() const
+{
+    if (!estSurDetail() || !m_detail->aUneSaisie())
+        return {};
+    return tr("« %1 » : un album commencé n'est pas encore créé, il sera perdu.")
+        .arg(texte(Txt::CreationDesAlbumsAvecBDNet));
 }
 
 void BDNet::Traduire()
@@ -153,7 +154,7 @@ void BDNet::Traduire()
     m_creer->setToolTip(tr("Ctrl+Entrée"));
     libeller(m_revenir, texte(Txt::RetourAuNavigateur));
     m_detail->Traduire();
-    poserNotice();
+    m_acces->Traduire();
 }
 
 bool BDNet::estSurDetail() const
@@ -165,10 +166,9 @@ void BDNet::allerA(const QString &adresse)
 {
     if (adresse.trimmed().isEmpty())
         return;
-    const QUrl url = adresseEntiere(adresse);
+    const QUrl url = Telechargement::AdresseDe(adresse);
     dire({});
-    const bool duWeb = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    if (!duWeb || !url.isValid() || url.host().isEmpty())
+    if (!Telechargement::EstDuWeb(url))
         return dire(tr("Seules les adresses du web peuvent être montrées."));
     m_adresse->setText(url.toString());
     if (m_navigateur) {
@@ -207,7 +207,7 @@ void BDNet::poserCharge(const QString &quoi, int pourcent)
 
 void BDNet::analyser()
 {
-    const QUrl url = adresseEntiere(m_adresse->text());
+    const QUrl url = Telechargement::AdresseDe(m_adresse->text());
     if (m_importation.enCours() || !Importation::EstUneFiche(url))
         return;
     dire({});
@@ -227,11 +227,14 @@ void BDNet::occuper(bool occupe)
 void BDNet::montrerResultat(const Importation::Resultat &resultat)
 {
     occuper(false);
-    setWindowTitle(QStringLiteral("terminé ..."));
-    if (!resultat.complet) {
-        setWindowTitle(windowTitle() + QStringLiteral("erreur ..."));
-        dire(tr("La page n'a pas pu être lue jusqu'au bout : complétez les champs."));
-    }
+    QStringList avis;
+    if (!resultat.complet)
+        avis << tr("La page n'a pas pu être lue jusqu'au bout : complétez les champs.");
+    if (!resultat.sansImage.isEmpty())
+        avis << tr("La couverture n'a pas pu être gardée : %1").arg(resultat.sansImage);
+    dire(avis.join(u' '));
+    setWindowTitle(
+        resultat.complet ? QStringLiteral("terminé ...") : windowTitle() + QStringLiteral(" erreur ..."));
     m_vues->setCurrentWidget(m_detail);
     m_detail->montrer(resultat);
     poserVue(true);
@@ -242,7 +245,7 @@ void BDNet::montrerEchec(const QString &raison)
     occuper(false);
     if (raison.isEmpty())
         return;
-    setWindowTitle(windowTitle() + QStringLiteral("erreur ..."));
+    setWindowTitle(windowTitle() + QStringLiteral(" erreur ..."));
     dire(raison);
 }
 
@@ -261,20 +264,26 @@ void BDNet::creer()
     Q_EMIT m_demandes.entree({General::Tri::Albums, num});
 }
 
-/// What is missing for the catalogue to be browsed, and where to set it.
-void BDNet::poserNotice()
+void BDNet::allerAccueil()
 {
-    const Reglages &reglages = Reglages::courant();
-    const bool accueil = !reglages.texte(Cle::AccueilBDNet).isEmpty();
-    QStringList avis;
-    if (!m_navigateur)
-        avis << tr("Le navigateur n'est pas installé (paquet libqt6webenginewidgets6). L'adresse d'une fiche "
-                   "d'album, écrite ci-dessus, suffit pour l'analyser.");
-    if (!accueil || reglages.texte(Cle::HoteBDNet).isEmpty())
-        avis << tr("Réglez la page d'accueil du catalogue (« Accueil ») et son adresse (« Hote »), section "
-                   "« BDNet » des réglages : %1")
-                    .arg(reglages.fichier());
-    m_notice->setText(avis.join(QStringLiteral("\n\n")));
+    allerA(Reglages::courant().texte(Cle::AccueilBDNet));
+}
+
+/// What was just stored counts from now on.
+void BDNet::suivreReglages()
+{
+    revenir();
+    if (m_navigateur)
+        allerAccueil();
+    m_adresse->setFocus();
+}
+
+/// The way back, which gives up what was entered of this album.
+void BDNet::abandonner()
+{
+    const QString question = tr("Cet album n'est pas encore créé. Perdre ce qui est saisi ?");
+    if (!m_detail->aUneSaisie() || Messages::Demander(this, question))
+        revenir();
 }
 
 /// Back to the browser, ready for the next album.
@@ -283,7 +292,8 @@ void BDNet::revenir()
     if (m_navigateur && !m_adresse->text().isEmpty())
         m_vues->setCurrentWidget(m_web);
     else
-        m_vues->setCurrentWidget(m_notice);
+        m_vues->setCurrentWidget(m_acces);
+    m_acces->montrer(m_navigateur);
     Traduire();
     dire({});
     m_accueil->setEnabled(m_navigateur && !Reglages::courant().texte(Cle::AccueilBDNet).isEmpty());
@@ -298,13 +308,20 @@ void BDNet::poserVue(bool detail)
     for (QToolButton *bouton : m_navigation)
         bouton->setVisible(m_navigateur && !detail);
     m_adresse->setReadOnly(detail);
-    m_analyse->setVisible(!detail && Importation::EstUneFiche(adresseEntiere(m_adresse->text())));
+    m_analyse->setVisible(!detail && Importation::EstUneFiche(Telechargement::AdresseDe(m_adresse->text())));
     m_creer->setVisible(detail);
     m_revenir->setVisible(detail);
 }
 
 void BDNet::closeEvent(QCloseEvent *evenement)
 {
+    const bool demande = isVisible() && !brouillon().isEmpty();
+    const QString question = tr("Cet album n'est pas encore créé. Fermer quand même ?") + u'\n'
+        + tr("La saisie sera là à la prochaine ouverture, tant que le programme n'est pas quitté.");
+    if (demande && !Messages::Demander(this, question)) {
+        evenement->ignore();
+        return;
+    }
     m_importation.annuler();
     FormeOutil::closeEvent(evenement);
 }

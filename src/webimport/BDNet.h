@@ -3,6 +3,7 @@
 #include "core/ui/FormeOutil.h"
 #include "webimport/Importation.h"
 
+class AccesBDNet;
 class Demandes;
 class DetailBDNet;
 class QBoxLayout;
@@ -23,6 +24,7 @@ public:
     explicit BDNet(Demandes &demandes);
 
     void charger() override;
+    QString brouillon() const override;
 
 protected:
     void Traduire() override;
@@ -43,8 +45,10 @@ private:
     void montrerEchec(const QString &raison);
     void occuper(bool occupe);
     void creer();
+    void abandonner();
     void revenir();
-    void poserNotice();
+    void suivreReglages();
+    void allerAccueil();
     void poserVue(bool detail);
     bool estSurDetail() const;
 
@@ -57,7 +61,7 @@ private:
     QPushButton *m_analyse = nullptr;
     QStackedWidget *m_vues = nullptr;
     VueWeb *m_web = nullptr;
-    QLabel *m_notice = nullptr;
+    AccesBDNet *m_acces = nullptr;
     DetailBDNet *m_detail = nullptr;
     QLabel *m_chargement = nullptr;
     QPushButton *m_creer = nullptr;

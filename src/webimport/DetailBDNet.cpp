@@ -101,6 +101,11 @@ QWidget *DetailBDNet::construireImages()
         auto *cadre = nommer(new CadreImage(zone), QString::fromLatin1(ChampsDeCreation::De(photo).controle));
         m_cadres[photo] = cadre;
         cadre->setFixedSize(TailleCadre);
+        cadre->setFocusPolicy(Qt::StrongFocus);
+        connect(cadre, &CadreImage::retraitDemande, this, [this, photo] {
+            m_montre[photo].clear();
+            m_cadres.at(photo)->montrer({});
+        });
         colonne->addWidget(cadre);
     }
     return zone;
@@ -118,6 +123,7 @@ void DetailBDNet::montrer(const Importation::Resultat &resultat)
     m_histoire->clear();
     for (const auto &[rubrique, cadre] : m_cadres)
         cadre->montrer(m_montre[rubrique]);
+    m_depart = album();
     designer(Rubrique::Titre);
 }
 
@@ -157,6 +163,7 @@ void DetailBDNet::Traduire()
     m_histoire->setAccessibleName(texte(Txt::Resume));
     for (const auto &[rubrique, cadre] : m_cadres) {
         cadre->poserLegende(texte(Txt::Couverture));
+        cadre->poserRetrait(texte(Txt::SupprimerLImage));
         cadre->setAccessibleName(texte(Txt::Couverture));
     }
 }

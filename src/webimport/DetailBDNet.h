@@ -23,6 +23,8 @@ public:
     void montrer(const Importation::Resultat &resultat);
     /// What stands in the fields now.
     Album album() const;
+    /// True when the user changed something of it.
+    bool aUneSaisie() const { return album() != m_depart; }
     /// Puts the cursor into the field.
     void designer(Rubrique rubrique);
     void Traduire();
@@ -31,6 +33,7 @@ private:
     QWidget *construireChamps();
     QWidget *construireImages();
 
+    Album m_depart; ///< the texts that the fields began with
     Album m_montre; ///< what the page gave, also what has no field here
     std::map<Rubrique, QLineEdit *> m_champs;
     std::map<Rubrique, QLabel *> m_libelles;

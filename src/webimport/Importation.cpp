@@ -133,8 +133,8 @@ void Importation::garderCouverture(const QByteArray &octets)
         if (!octets.isEmpty())
             m_resultat.album[premiere ? Rubrique::Photo1 : Rubrique::Photo2]
                 = Couvertures::Garder(octets, m_titreDesImages, *m_rang);
-    } catch (const Error &) {
-        // Nothing depends on a picture: the sheet shows that there is none.
+    } catch (const Error &e) {
+        m_resultat.sansImage = e.message();
     }
     if (!premiere)
         return terminer();

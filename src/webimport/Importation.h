@@ -20,6 +20,7 @@ public:
         AnalysePage::Page page; ///< title cleaned
         Album album; ///< what it says of the album; pictures by their bare names in "images"
         bool complet = true; ///< the page was read to its end
+        QString sansImage; ///< why a picture that came could not be kept; empty when all were
     };
 
     explicit Importation(QObject *parent = nullptr);

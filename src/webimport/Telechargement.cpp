@@ -4,6 +4,19 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
+QUrl Telechargement::AdresseDe(const QString &texte)
+{
+    const QString nette = texte.trimmed();
+    return QUrl(
+        nette.contains(QLatin1String("://")) ? nette : QStringLiteral("http://") + nette, QUrl::TolerantMode);
+}
+
+bool Telechargement::EstDuWeb(const QUrl &url)
+{
+    const bool duWeb = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+    return duWeb && url.isValid() && !url.host().isEmpty();
+}
+
 Telechargement::Telechargement(QObject *parent)
     : Telechargement(Limites(), parent)
 {
@@ -22,7 +35,7 @@ void Telechargement::commencer(const QUrl &url)
 {
     Q_ASSERT(!m_reponse);
     m_octets.clear();
-    if (url.scheme() != QLatin1String("http") && url.scheme() != QLatin1String("https")) {
+    if (!EstDuWeb(url)) {
         QTimer::singleShot(
             0, this, [this] { Q_EMIT echoue(tr("Cette adresse n'est pas une adresse web.")); });
         return;

@@ -23,6 +23,11 @@ public:
         int renvois = 5;
     };
 
+    /// An address as it is typed: "http://" is assumed where there is no scheme.
+    static QUrl AdresseDe(const QString &texte);
+    /// True for an address of the web, with a host.
+    static bool EstDuWeb(const QUrl &url);
+
     explicit Telechargement(QObject *parent = nullptr);
     Telechargement(const Limites &limites, QObject *parent);
 

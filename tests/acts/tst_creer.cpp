@@ -175,6 +175,19 @@ private Q_SLOTS:
             QStringList("1|0|NULL|NULL|NULL|NULL|NULL|NULL|5|5| | | | | |0| | |0| |0| |0|0|2|0|0|0|0|0"));
     }
 
+    void unNumeroMortSEfface()
+    {
+        const Bac bac;
+        Creer::CreerAlbum(albumComplet());
+        Bac::executer("DELETE FROM Serie");
+        const Edition morte
+            = Ecrire::EditionDe({General::Tri::Albums, 1}, Champs::De(Champs::Feuille::Album, "Serie"));
+        QVERIFY(Choisir::TientUnDisparu(morte) && Choisir::PeutVider(morte));
+        Choisir::Valider(morte, {});
+        QCOMPARE(
+            Bac::valeur("SELECT NumSerie || '/' || (SELECT count(*) FROM SerieAlbums) FROM Album"), "0/0");
+    }
+
     /// A new entry has a number that nothing bears, nor refers to.
     void unNumeroNeufNHeriteDeRien()
     {

@@ -129,7 +129,8 @@ private Q_SLOTS:
         }
         const Catalogue::Liste liste = Catalogue::LireAlbums();
         QCOMPARE(liste.illisibles, 1);
-        QCOMPARE(liste.albums.texte(0), "L'Été  (N° 7)");
+        QCOMPARE(Catalogue::Libelle(liste.albums.texte(0)), "L'Été  (N° 7)");
+        QCOMPARE(Catalogue::PartieDe(liste.albums.texte(0), Catalogue::Partie::Serie), "Zig");
         QCOMPARE(liste.albums.id(1), 6);
         const auto reference = Catalogue::LireReference(5);
         QCOMPARE(reference->carton, "cartonné");

@@ -101,6 +101,33 @@ private Q_SLOTS:
         }
     }
 
+    void unNomDeFichierSeLitCommeIlEst()
+    {
+        const QString long_ = QString(110, QChar(0x30C6));
+        for (const QString &texte : {long_, QString(400, u'é'), u'a' + QString("😀").repeated(150)}) {
+            const QString nom = Images::NomDeFichier(texte);
+            QVERIFY(texte.startsWith(nom) && nom.size() > 40);
+            QVERIFY(nom.toUtf8().size() <= Images::OctetsDuNom && nom.isValidUtf16());
+        }
+        // A letter and its accent are one character.
+        QCOMPARE(Images::NomDeFichier(QString(Images::OctetsDuNom - 1, u'x') + u'e' + QChar(0x301)),
+            QString(Images::OctetsDuNom - 1, u'x'));
+        for (const QChar signe : QStringView(u"\u202E\u2066\u200F\u061C\u2028\u2029\x7F\x1B\n"))
+            QCOMPARE(Images::NomDeFichier(u'a' + QString(signe) + ".gpj"), "a_.gpj");
+        QCOMPARE(Images::NomDeFichier("שלום 👩‍🎨"), "שלום 👩‍🎨");
+
+        const Bac bac;
+        const QTemporaryDir source;
+        const QString attachee = source.filePath(QString("a") + QChar(0x202E) + "gpj.png");
+        for (int rang = 1; rang < 3; ++rang) {
+            Bac::ecrire(attachee, QByteArray::number(rang));
+            QCOMPARE(Images::Copier(attachee), rang == 1 ? "a_gpj.png" : "a_gpj (2).png");
+            const QString longue = source.filePath(QString(80, QChar(0x30C6)) + ".png");
+            Bac::ecrire(longue, QByteArray::number(rang));
+            QCOMPARE(Bac::lire(bac.chemin("images/" + Images::Copier(longue))), QByteArray::number(rang));
+        }
+    }
+
     /// A page of 21 by 29.7 cm at 600 points an inch is far below the limit of pixels.
     void unePageNumeriseeEnFinSeDecode()
     {

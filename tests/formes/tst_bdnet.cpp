@@ -92,9 +92,60 @@ private Q_SLOTS:
         s.poserAdresse("/catalogue_detail_ouverte.html");
         QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
         QVERIFY(fenetre("BDNet")->windowTitle().endsWith("erreur ..."));
+        QVERIFY(!fenetre("BDNet")->windowTitle().contains("terminé"));
         QCOMPARE(Import::champ("Dataa(3)"), "essais ");
         cliquer("REvenir", "BDNet");
         QVERIFY(!Import::visible("BtnCreer") && Import::visible("Analyse"));
+    }
+
+    void uneFicheCorrigeeNeSePerdPas()
+    {
+        Import s;
+        const auto corriger = [&] {
+            s.poserAdresse("/catalogue_detail_cosinus.html");
+            QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
+            QVERIFY(!trouver<QCheckBox>("InfoSupp(2)", "BDNet")->isChecked());
+            trouver<QCheckBox>("InfoSupp(2)", "BDNet")->click();
+            ecrire("Dataa(0)", "Corrigé", "BDNet");
+        };
+        corriger();
+        cliquer("Quit", "BDNet");
+        QVERIFY(Gestes::visible("BDNet") && s.boites.textes.size() == 1);
+        s.boites.reponses << true;
+        cliquer("Quit", "BDNet");
+        QVERIFY(!Gestes::visible("BDNet"));
+        ouvrir("Menu(0)", "Creation(2)", "BDNet");
+        QVERIFY(Import::visible("BtnCreer"));
+        QCOMPARE(Import::champ("Dataa(0)"), "Corrigé");
+        cliquer("REvenir", "BDNet");
+        QVERIFY(Import::visible("BtnCreer"));
+        s.boites.reponses << true;
+        cliquer("REvenir", "BDNet");
+        QVERIFY(!Import::visible("BtnCreer"));
+        corriger();
+    }
+
+    void sansAdresseOnLaDonneIci()
+    {
+        Import s;
+        cliquer("Quit", "BDNet");
+        s.bac.reglages.ecrire(Cle::HoteBDNet, QString());
+        ouvrir("Menu(0)", "Creation(2)", "BDNet");
+        QVERIFY(!trouver<QLabel>("Notice", "BDNet")->text().contains(s.bac.reglages.fichier()));
+        auto *enregistrer = trouver<QWidget>("Enregistrer", "BDNet");
+        QVERIFY(Import::visible("Hote") && !enregistrer->isEnabled());
+        ecrire("Hote", "file:///etc", "BDNet");
+        cliquer("Enregistrer", "BDNet");
+        QVERIFY(!Import::refus().isEmpty() && s.bac.reglages.texte(Cle::HoteBDNet).isEmpty());
+        trouver<QLineEdit>("Hote", "BDNet")->clear();
+        ecrire("Hote", s.serveur.adresse().mid(7), "BDNet");
+        QTest::keyClick(trouver<QLineEdit>("Hote", "BDNet"), Qt::Key_Return);
+        QTRY_COMPARE(s.bac.reglages.texte(Cle::HoteBDNet), s.serveur.adresse().mid(7));
+        QVERIFY(Import::refus().isEmpty() && !enregistrer->isEnabled());
+        // At once: the cover comes from there.
+        s.poserAdresse("/catalogue_detail_cosinus.html");
+        QTRY_VERIFY_WITH_TIMEOUT(Import::visible("BtnCreer"), 20'000);
+        QVERIFY(!trouver<QWidget>("Photo1", "BDNet")->toolTip().isEmpty());
     }
 
     void unServeurLentSeQuitte()

@@ -20,7 +20,6 @@ private Q_SLOTS:
 0;Scena;Taper;Philipon, Charles;Roles;1d 6s 8c
 0;Scena;Choisir;Monnier, Henry;Roles;1d 8sc
 0;Color;Taper; töpffer ,rodolphe ;Roles;1dsc
-0;Color;Taper;TÖPFFER;Roles;1dsc
 0;Dessin;Taper;;Roles;1s 8c
 0;Color;Taper;Cham,;Roles;1ds 2c
 0;NomI(0);Taper;adolphe,best;Intervenants;4-1
@@ -34,6 +33,39 @@ private Q_SLOTS:
             montrer(0, 2);
             montrer(0, 1);
         }
+    }
+
+    /// One Dupont writes, another one and a man of that name alone draw.
+    void lIndiceDitCeQueFaitValider()
+    {
+        const Atelier s(0,
+            "INSERT INTO Auteurs (NAuteur, Nom, Prenom, Dessin, Scena) VALUES (900, 'Dupont', 'Jean', -1, 0),"
+            " (901, 'Dupont', 'Paul', 0, -1), (902, 'Dupond', ' ', -1, 0)");
+        const Cas cas{0, "Scena", "Taper", {}, {}, {}, {}, {}};
+        const auto taperPuisValider = [&](const QString &texte, bool effacer = false) {
+            Cas tape = cas;
+            tape.saisie = texte;
+            entrer(tape);
+            if (effacer)
+                QTest::keyClick(trouver<QLineEdit>("Saisie", "FrmModif"), Qt::Key_Delete);
+            const QString indice
+                = refus(cas).section(u'»', 0, 0) + refus(cas).section(u'»', 1).section(u';', 0, 0);
+            valider(cas);
+            return indice;
+        };
+        const QString ecrivain = "SELECT NScen FROM Album WHERE Num = 1";
+        QCOMPARE(taperPuisValider("dupon"), "« Dupont, Paul  sera choisi.");
+        QCOMPARE(lire(ecrivain), "901");
+        commander(Qt::Key_Z);
+        QTRY_COMPARE(lire(ecrivain), "1");
+        QCOMPARE(taperPuisValider("dupond"), "« dupond  est connu dans un autre métier : il sera choisi.");
+        QCOMPARE(lire(ecrivain), "902");
+        QCOMPARE(taperPuisValider("Dupont, Jean"),
+            "« Dupont, Jean  est connu dans un autre métier : il sera choisi.");
+        QCOMPARE(lire(ecrivain), "900");
+        QCOMPARE(taperPuisValider("Dupont", true), "« Dupont  sera ajouté ");
+        QCOMPARE(lire(ecrivain), "903");
+        QCOMPARE(lire("SELECT Nom || '/' || trim(Prenom) FROM Auteurs WHERE NAuteur = 903"), "Dupont/");
     }
 
     void unHomonymeChoisiEstPris()

@@ -1,5 +1,6 @@
 #include "browse/Frmmain.h"
 #include "core/ui/Legende.h"
+#include "support/Autre.h"
 #include "support/Seance.h"
 
 #include <QAbstractItemView>
@@ -13,6 +14,7 @@
 #include <QSet>
 #include <QTabBar>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace {
 
@@ -177,6 +179,56 @@ private Q_SLOTS:
         QVERIFY2(anonymes.isEmpty(), qPrintable(anonymes.join(u'\n')));
         QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
         QVERIFY2(muets.isEmpty(), qPrintable(muets.join(u'\n')));
+    }
+
+    void unNomNEstJamaisDuBalisage()
+    {
+        Seance s;
+        Autre autre(s.bac.collection());
+        for (const char *place : {"LAlbums.TAlbum", "LAlbums.dedi1", "Serie.Nom", "Auteurs.Nom",
+                 "Editeur.Nom", "Coll.Nom", "Genre.Nom", "Pays.Nom", "ExLibris.Nom", "PresseBD.Nom",
+                 "Inter.Nom", "Metier.Nom", "Pret.Nom"}) {
+            const QStringList p = QString(place).split(u'.');
+            autre.executer(QStringLiteral("UPDATE %1 SET %2 = '<b>gras</b> &lt; ' || %2").arg(p[0], p[1]));
+        }
+        const QImage image(8, 8, QImage::Format_RGB32);
+        QVERIFY(image.save(s.bac.chemin("images/<b>gras.png")));
+        autre.executer("UPDATE LAlbums SET Photo1 = '<b>gras.png', Photo2 = '<b>gras.png'");
+        s.demarrer();
+        const QString csv = s.bac.chemin("<b>gras.csv");
+        Bac::ecrire(csv, "Titre\n<b>gras</b>\n");
+        Q_EMIT s.demandes().fichier(csv);
+        QTRY_VERIFY(trouver<QLabel>("Fichier", "Import")->text().contains("<b>"));
+        QStringList fautes;
+        int vus = 0;
+        for (const QByteArray &nom : noms()) {
+            QWidget *forme = montrer(s, nom);
+            for (QWidget *w : forme->findChildren<QWidget *>()) {
+                const auto *label = qobject_cast<QLabel *>(w);
+                const bool porte = label && label->text().contains("<b>");
+                vus += porte || w->toolTip().contains("<b>");
+                if (porte && label->textFormat() != Qt::PlainText)
+                    fautes << nom + u' ' + nomDe(w) + label->text();
+                for (const QString &dit : {w->toolTip(), w->accessibleName()}) {
+                    if (dit.contains("&lt;b") || dit.contains("&amp;") || dit.contains("&quot;"))
+                        fautes << nom + u' ' + nomDe(w) + dit;
+                }
+            }
+        }
+        QVERIFY(vus > 10);
+        QVERIFY2(fautes.isEmpty(), qPrintable(fautes.join(u'\n')));
+        // A tool tip shows its text as it stands, too.
+        QToolTip::showText({10, 10}, "<b>gras</b>", fenetre("Frmmain"));
+        const auto bulle = [] {
+            for (QWidget *w : QApplication::topLevelWidgets())
+                if (w->inherits("QTipLabel"))
+                    return static_cast<QLabel *>(w);
+            return static_cast<QLabel *>(nullptr);
+        };
+        QTRY_VERIFY(bulle());
+        QCOMPARE(bulle()->text(), "<b>gras</b>");
+        QCOMPARE(bulle()->textFormat(), Qt::PlainText);
+        QToolTip::hideText();
     }
 
     void aucuneLegendeNEstCoupee()

@@ -125,6 +125,24 @@ private Q_SLOTS:
             QUrl(QStringLiteral("http://hote.fr/img/couvpage/x_pg.jpg")));
     }
 
+    void uneCouverturePerdueEstDite()
+    {
+        Visite v;
+        // A title of a hundred and ten signs of three bytes each.
+        QImage noire(20, 30, QImage::Format_RGB32);
+        noire.fill(Qt::black);
+        QVERIFY(noire.save(v.bac.chemin("essai.jpg")));
+        const QString nom = Couvertures::Garder(
+            Bac::lire(v.bac.chemin("essai.jpg")), QString(110, QChar(0x30C6)), Rang::Premiere);
+        QVERIFY(nom.endsWith("_1.jpg") && v.images().contains(nom));
+        // A file stands where the folder should.
+        QVERIFY(QDir(v.bac.chemin("images")).removeRecursively());
+        Bac::ecrire(v.bac.chemin("images"), "x");
+        const auto lue = v.importer("cosinus");
+        QVERIFY(lue && lue->complet && !lue->sansImage.isEmpty());
+        QVERIFY(!lue->album.a(Rubrique::Photo1));
+    }
+
     void uneImportationSArrete()
     {
         Visite v;

@@ -1,10 +1,13 @@
 #include "core/ui/CadreImage.h"
 
 #include "core/Images.h"
+#include "core/ui/Icones.h"
 #include "core/ui/Legende.h"
+#include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 #include "core/ui/Vignettes.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -13,11 +16,13 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolButton>
 #include <QUrl>
 
 namespace {
 
 constexpr int AttenteMs = 120;
+constexpr int CoteCroix = 24;
 
 }
 
@@ -31,8 +36,9 @@ CadreImage::CadreImage(QWidget *parent)
 void CadreImage::montrer(const QString &nom)
 {
     m_chemin = Images::Trouver(nom);
-    setToolTip(m_chemin.isEmpty() ? QString() : QFileInfo(m_chemin).fileName().toHtmlEscaped());
+    setToolTip(m_chemin.isEmpty() ? QString() : QFileInfo(m_chemin).fileName());
     demander();
+    placerRetrait();
 }
 
 void CadreImage::poserLegende(const QString &legende)
@@ -45,6 +51,39 @@ void CadreImage::poserModifiable()
 {
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
+}
+
+void CadreImage::poserRetrait(const QString &libelle)
+{
+    if (!m_retirer) {
+        m_retirer = nommer(new QAction(this), QStringLiteral("Retirer"));
+        m_retirer->setIcon(Icones::Charger(QStringLiteral("fermer")));
+        m_retirer->setShortcut(QKeySequence(Qt::Key_Delete));
+        m_retirer->setShortcutContext(Qt::WidgetShortcut);
+        addAction(m_retirer);
+        setContextMenuPolicy(Qt::ActionsContextMenu);
+        connect(m_retirer, &QAction::triggered, this, &CadreImage::retraitDemande);
+        // For the mouse alone: the keyboard has its key.
+        m_croix = nommer(new QToolButton(this), QStringLiteral("Croix"));
+        m_croix->setFocusPolicy(Qt::NoFocus);
+        m_croix->setFixedSize(CoteCroix, CoteCroix);
+        m_croix->setCursor(Qt::ArrowCursor);
+        m_croix->setIcon(m_retirer->icon());
+        connect(m_croix, &QToolButton::clicked, m_retirer, &QAction::trigger);
+    }
+    m_retirer->setText(libelle);
+    expliquer(m_croix, libelle);
+    placerRetrait();
+}
+
+/// There is nothing to take away from an empty frame.
+void CadreImage::placerRetrait()
+{
+    if (!m_retirer)
+        return;
+    m_retirer->setEnabled(aUneImage());
+    m_croix->setVisible(aUneImage());
+    m_croix->move(width() - CoteCroix - Theme::Fin, Theme::Fin);
 }
 
 void CadreImage::demander()
@@ -94,6 +133,7 @@ void CadreImage::paintEvent(QPaintEvent *)
 void CadreImage::resizeEvent(QResizeEvent *evenement)
 {
     QWidget::resizeEvent(evenement);
+    placerRetrait();
     // While a splitter is dragged the picture is only stretched.
     m_attente.start(m_image.isNull() ? 0 : AttenteMs);
 }

@@ -4,6 +4,9 @@
 #include <QTimer>
 #include <QWidget>
 
+class QAction;
+class QToolButton;
+
 /// A frame that shows the picture of a file, fitted into it. Decoding happens beside the window's work; until
 /// the picture is there the one before stays, so that walking a list does not flicker.
 class CadreImage : public QWidget
@@ -24,12 +27,16 @@ public:
 
     /// A frame of a sheet: the keyboard comes to it, files are dropped on it and pictures pasted into it.
     void poserModifiable();
+    /// Its picture can be taken away: by Delete, by the command of this name in its menu, by the cross in its corner.
+    void poserRetrait(const QString &libelle);
 
 Q_SIGNALS:
     /// Clicked, or Enter or Space was pressed on it.
     void actionnee();
     /// Its picture is to be opened: double click, or Enter.
     void ouvertureDemandee();
+    /// Its picture is to be taken away.
+    void retraitDemande();
     /// A picture was pasted with Ctrl+V.
     void imageCollee(const QImage &image);
     /// A file was dropped on the frame, when it accepts drops.
@@ -47,10 +54,13 @@ protected:
 private:
     void demander();
     void recevoir(int generation, const QImage &image);
+    void placerRetrait();
 
     QString m_chemin;
     QString m_legende;
     QImage m_image;
     QTimer m_attente;
     int m_generation = 0;
+    QAction *m_retirer = nullptr;
+    QToolButton *m_croix = nullptr;
 };

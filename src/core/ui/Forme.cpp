@@ -2,6 +2,7 @@
 
 #include "core/ui/Aide.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QShortcut>
@@ -12,6 +13,19 @@ Forme::Forme(const QString &nom, QWidget *parent)
     setObjectName(nom);
     auto *aide = new QShortcut(QKeySequence::HelpContents, this);
     connect(aide, &QShortcut::activated, this, [this] { Aide::Ouvrir(objectName()); });
+}
+
+QStringList Forme::Brouillons()
+{
+    QStringList lignes;
+    for (const QWidget *fenetre : QApplication::topLevelWidgets()) {
+        const auto *forme = qobject_cast<const Forme *>(fenetre);
+        const QString ligne = forme ? forme->brouillon() : QString();
+        if (!ligne.isEmpty())
+            lignes << ligne;
+    }
+    lignes.sort();
+    return lignes;
 }
 
 void Forme::changeEvent(QEvent *evenement)

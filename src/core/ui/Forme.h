@@ -22,6 +22,10 @@ public:
     virtual void actualiser(const Changements &) { }
     /// Fonts, colours or background are others in the settings.
     virtual void appliquerApparence() { }
+    /// What would be lost if the program were left now, in one line; empty when nothing would.
+    virtual QString brouillon() const { return {}; }
+    /// The same of all forms, shown or not.
+    static QStringList Brouillons();
 
 protected:
     /// Takes all captions and tool tips from the texts in force.

@@ -124,7 +124,7 @@ void Legende::enterEvent(QEnterEvent *evenement)
 {
     const bool coupe = !estVide() && fontMetrics().horizontalAdvance(text()) > width() - 2 * MargeLaterale;
     if (toolTip().isEmpty() && coupe)
-        setToolTip(text().toHtmlEscaped());
+        setToolTip(text());
     update();
     QLabel::enterEvent(evenement);
 }

@@ -1,10 +1,10 @@
 #include "core/ui/ListeChoix.h"
 
 #include "core/Texte.h"
+#include "core/ui/LigneCompletee.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
-#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 
@@ -16,13 +16,24 @@ constexpr int RolePlie = Qt::UserRole + 1;
 class Completion : public QCompleter
 {
 public:
-    using QCompleter::QCompleter;
+    explicit Completion(const LigneCompletee *ligne, QObject *parent)
+        : QCompleter(parent)
+        , m_ligne(ligne)
+    {
+    }
 
-    QStringList splitPath(const QString &saisie) const override { return {Texte::Plier(saisie)}; }
+    QStringList splitPath(const QString &saisie) const override
+    {
+        // What the line has completed by itself needs no list.
+        return {m_ligne->estCompletee() ? QString(QChar(0xFFFF)) : Texte::Plier(saisie)};
+    }
     QString pathFromIndex(const QModelIndex &index) const override
     {
         return index.data(Qt::DisplayRole).toString();
     }
+
+private:
+    const LigneCompletee *m_ligne;
 };
 
 }
@@ -30,12 +41,15 @@ public:
 ListeChoix::ListeChoix(QWidget *parent)
     : QComboBox(parent)
 {
+    auto *ligne = new LigneCompletee(
+        [this](const QString &saisie) { return LigneCompletee::SeulNom(m_noms, m_plies, saisie); });
     setEditable(true);
+    setLineEdit(ligne);
     setInsertPolicy(NoInsert);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(12);
     setMaxVisibleItems(14);
-    auto *completion = new Completion(this);
+    auto *completion = new Completion(ligne, this);
     completion->setCompletionRole(RolePlie);
     completion->setFilterMode(Qt::MatchContains);
     completion->setCaseSensitivity(Qt::CaseInsensitive);
@@ -50,9 +64,12 @@ void ListeChoix::proposer(const QStringList &noms)
     // A new model makes its first line the current one for a moment.
     const QSignalBlocker muette(this);
     auto *modele = new QStandardItemModel(this);
+    m_noms = noms;
+    m_plies.clear();
     for (const QString &nom : noms) {
+        m_plies << Texte::Plier(nom);
         auto *ligne = new QStandardItem(nom);
-        ligne->setData(Texte::Plier(nom), RolePlie);
+        ligne->setData(m_plies.last(), RolePlie);
         modele->appendRow(ligne);
     }
     // The list takes the model that it owns and drops the one before; the completion only borrows it.

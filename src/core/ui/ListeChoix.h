@@ -2,8 +2,8 @@
 
 #include <QComboBox>
 
-/// An editable choice list: what is typed stays as typed, while the names that hold it, whatever case and
-/// accents, are offered below.
+/// An editable choice list. What is typed is completed in the line when it can only mean one of the names; otherwise the
+/// names that hold it, whatever case and accents, are offered below.
 class ListeChoix : public QComboBox
 {
     Q_OBJECT
@@ -13,4 +13,8 @@ public:
 
     /// Offers these names; the text in the field stays.
     void proposer(const QStringList &noms);
+
+private:
+    QStringList m_noms;
+    QStringList m_plies; ///< the same, as they compare
 };

@@ -3,6 +3,7 @@
 #include "core/ui/Icones.h"
 #include "core/ui/Theme.h"
 
+#include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -161,6 +162,13 @@ void dessinerProgression(const QStyleOptionProgressBar &o, QPainter &p)
 Style::Style()
     : QProxyStyle(QStringLiteral("Fusion"))
 {
+}
+
+void Style::polish(QWidget *controle)
+{
+    QProxyStyle::polish(controle);
+    if (auto *label = qobject_cast<QLabel *>(controle); label && label->textFormat() == Qt::AutoText)
+        label->setTextFormat(Qt::PlainText);
 }
 
 void Style::drawPrimitive(

@@ -10,6 +10,9 @@ class Style : public QProxyStyle
 public:
     Style();
 
+    using QProxyStyle::polish;
+    /// Labels and tool tips show texts as they were typed: none is markup unless the label says so.
+    void polish(QWidget *controle) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
         const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
