@@ -50,6 +50,7 @@ public:
         std::function<void(const Error &)> manquee;
         QDateTime derniere; ///< when one was last made or tried; null before the first write
         bool enEchec = false;
+        int retraits = 1; ///< how many old ones may go, beside one for each that is made
     } sauvegardes;
 
     /// Announces changed rows from the event loop, once the action that changed them is over.
