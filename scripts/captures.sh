@@ -2,7 +2,7 @@
 # captures-aide.sh, after paquets.sh.
 
 BULLEO=build/release/bulleo
-FORMES="Frmmain Splash Manuelle Facile BDNet FrmModif FrmModif2 Recherche Pret Acquisition Stats Impression Polices
+FORMES="Frmmain Splash Manuelle Facile BDNet FrmModif FrmModif2 Recherche Pret Acquisition Stats Impression Apparence Polices
     Textures Restauration Import"
 
 # Builds the program and what pictures need.

@@ -2,8 +2,7 @@
 
 #include "acts/Choisir.h"
 #include "app/Demarrage.h"
-#include "appearance/Polices.h"
-#include "appearance/Textures.h"
+#include "appearance/Apparence.h"
 #include "archives/Restauration.h"
 #include "browse/Frmmain.h"
 #include "browse/Parcours.h"
@@ -110,10 +109,10 @@ std::unique_ptr<Forme> Bureau::fabriquer(Nom nom)
         return std::make_unique<Facile>(m_demandes);
     case Nom::BDNet:
         return std::make_unique<BDNet>(m_demandes);
+    case Nom::Apparence:
     case Nom::Polices:
-        return std::make_unique<Polices>(m_demandes);
     case Nom::Textures:
-        return std::make_unique<Textures>(m_demandes);
+        return std::make_unique<Apparence>(m_demandes);
     case Nom::Stats:
         return std::make_unique<Stats>(m_demandes);
     case Nom::Impression:
@@ -144,8 +143,9 @@ std::unique_ptr<Forme> Bureau::suivre(std::unique_ptr<F> forme)
     return forme;
 }
 
-Forme *Bureau::ouvrir(Nom nom)
+Forme *Bureau::ouvrir(Nom voulue)
 {
+    const Nom nom = Apparence::EstDemandee(voulue) ? Nom::Apparence : voulue;
     if (const auto faite = m_formes.find(nom); faite != m_formes.end())
         return faite->second.get();
     std::unique_ptr<Forme> forme = fabriquer(nom);
@@ -230,6 +230,8 @@ void Bureau::montrerEtape(const Etape &etape, const QString &message)
 void Bureau::montrer(Nom nom)
 {
     Forme *voulue = ouvrir(nom);
+    if (auto *apparence = qobject_cast<Apparence *>(voulue))
+        apparence->ouvrirPage(nom);
     // Shown anew, a form starts afresh; brought back from the task bar, it goes on where it was.
     if (!voulue->isVisible())
         QTimer::singleShot(0, voulue, [voulue] { voulue->charger(); });
@@ -375,5 +377,8 @@ void Bureau::sauvegarderCopie()
     }
     General::CopierBase(chemin);
     reglages.ecrire(Cle::DossierCopies, QFileInfo(chemin).absolutePath());
-    Messages::Informer(devant, texte(Txt::SauvegardeEffectuee));
+    Messages::Informer(devant,
+        texte(Txt::SauvegardeEffectuee) + u'\n'
+            + tr("La copie contient les données, pas les images : leurs dossiers, images et image, se "
+                 "copient à part."));
 }

@@ -1,15 +1,12 @@
 #include "appearance/Polices.h"
 
-#include "acts/Demandes.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
-#include "core/ui/Habillage.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
-#include <QComboBox>
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
@@ -19,7 +16,6 @@
 
 namespace {
 
-constexpr QSize TailleDessinee(680, 580);
 constexpr int LargeurTailles = 110;
 constexpr int HauteurExemple = 110;
 constexpr const char *Tailles[] = {"08", "09", "10", "11", "12", "14", "16", "18", "20"};
@@ -29,6 +25,7 @@ QTreeWidget *liste(const char *nom, QWidget *parent)
     auto *liste = nommer(new QTreeWidget(parent), QLatin1String(nom));
     liste->setRootIsDecorated(false);
     liste->setUniformRowHeights(true);
+    liste->setAllColumnsShowFocus(true);
     liste->setAlternatingRowColors(true);
     return liste;
 }
@@ -48,19 +45,21 @@ int nombreDe(const QColor &couleur)
 
 }
 
-Polices::Polices(Demandes &demandes)
-    : FormeOutil(QStringLiteral("Polices"), TailleDessinee)
-    , m_demandes(demandes)
+Polices::Polices(QWidget *parent)
+    : PageApparence(parent)
 {
-    construireListes();
-    corps()->addWidget(construireOptions());
-    construireExemple();
-    m_valider = ajouterAuPied(QStringLiteral("Valider"), true);
+    setObjectName(QStringLiteral("Polices"));
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(0, Theme::Moyen, 0, 0);
+    page->setSpacing(Theme::Moyen);
+    page->addLayout(construireListes(), 1);
+    page->addWidget(construireOptions());
+    page->addWidget(construireExemple());
+    setFocusProxy(m_police);
     brancher();
-    Polices::Traduire();
 }
 
-void Polices::construireListes()
+QBoxLayout *Polices::construireListes()
 {
     auto *listes = new QHBoxLayout;
     listes->setSpacing(Theme::Moyen);
@@ -73,7 +72,7 @@ void Polices::construireListes()
         m_taille->addTopLevelItem(new QTreeWidgetItem({QLatin1String(taille)}));
     listes->addWidget(m_police, 1);
     listes->addWidget(m_taille);
-    corps()->addLayout(listes, 1);
+    return listes;
 }
 
 QWidget *Polices::construireOptions()
@@ -88,19 +87,13 @@ QWidget *Polices::construireOptions()
     }
     m_couleur = nommer(new QPushButton(zone), QStringLiteral("Couleur"));
     m_sansCouleur = nommer(new QPushButton(zone), QStringLiteral("SansCouleur"));
-    m_libelleTheme = new QLabel(zone);
-    m_theme = nommer(new QComboBox(zone), QStringLiteral("Theme"));
-    m_theme->addItems({{}, {}, {}});
-    m_libelleTheme->setBuddy(m_theme);
     ligne->addWidget(m_couleur);
     ligne->addWidget(m_sansCouleur);
     ligne->addStretch(1);
-    ligne->addWidget(m_libelleTheme);
-    ligne->addWidget(m_theme);
     return zone;
 }
 
-void Polices::construireExemple()
+QWidget *Polices::construireExemple()
 {
     m_exemple = nommer(new QLabel(this), QStringLiteral("TExemple"));
     m_exemple->setAlignment(Qt::AlignCenter);
@@ -109,7 +102,7 @@ void Polices::construireExemple()
     m_exemple->setAutoFillBackground(true);
     m_exemple->setBackgroundRole(QPalette::Base);
     m_exemple->setFrameShape(QFrame::StyledPanel);
-    corps()->addWidget(m_exemple);
+    return m_exemple;
 }
 
 void Polices::brancher()
@@ -137,7 +130,6 @@ void Polices::brancher()
     });
     connect(m_couleur, &QPushButton::clicked, this, &Polices::choisirCouleur);
     connect(m_sansCouleur, &QPushButton::clicked, this, [this] { poserCouleur({}); });
-    connect(m_valider, &QPushButton::clicked, this, &Polices::valider);
 }
 
 void Polices::charger()
@@ -155,7 +147,6 @@ void Polices::charger()
     m_police->setCurrentItem(connues.isEmpty() ? nullptr : connues.first());
     m_options[0]->setChecked(police.bold());
     m_options[1]->setChecked(police.italic());
-    m_theme->setCurrentIndex(std::clamp(Reglages::courant().entier(Cle::Theme), 0, 2));
     m_choisie = police;
     poserCouleur(Theme::CouleurChoisie());
 }
@@ -194,16 +185,15 @@ void Polices::valider()
     reglages.ecrire(Cle::FontItalic, m_options[1]->isChecked());
     reglages.ecrire(Cle::FontSize, QString::number(m_choisie.pointSizeF()));
     reglages.ecrire(Cle::FontName, m_choisie.family());
-    reglages.ecrire(Cle::Theme, m_theme->currentIndex());
-    Habillage::Relire();
-    Q_EMIT m_demandes.apparence();
-    charger();
+}
+
+QString Polices::titre() const
+{
+    return texte(Txt::PolicesDeCaracteres);
 }
 
 void Polices::Traduire()
 {
-    FormeOutil::Traduire();
-    poserTitre(texte(Txt::PolicesDeCaracteres));
     m_police->setHeaderLabels({tr("police")});
     m_police->setAccessibleName(texte(Txt::ListeDesPolices));
     m_taille->setHeaderLabels({texte(Txt::Taille)});
@@ -212,11 +202,5 @@ void Polices::Traduire()
     libeller(m_options[1], texte(Txt::Italic));
     libeller(m_couleur, texte(Txt::Coloriser) + QStringLiteral("…"));
     libeller(m_sansCouleur, tr("Couleur du thème"));
-    m_libelleTheme->setText(tr("Fenêtres :"));
-    m_theme->setAccessibleName(tr("Fenêtres claires ou sombres"));
-    const QString choix[] = {tr("comme le bureau"), tr("claires"), tr("sombres")};
-    for (int i = 0; i < m_theme->count(); ++i)
-        m_theme->setItemText(i, choix[i]);
     m_exemple->setText(texte(Txt::Exemple) + QStringLiteral("\n") + texte(Txt::LeGestionnaireDeBDTheque));
-    libeller(m_valider, texte(Txt::Appliquer));
 }

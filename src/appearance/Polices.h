@@ -1,52 +1,45 @@
 #pragma once
 
-#include "core/ui/FormeOutil.h"
+#include "appearance/PageApparence.h"
 
 #include <QColor>
 #include <array>
 
-class Demandes;
+class QBoxLayout;
 class QCheckBox;
-class QComboBox;
 class QLabel;
+class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// The font and the colour of lists and sheets, shown live on a sample; beside them whether windows are light or
-/// dark.
-class Polices : public FormeOutil
+/// The font and the colour of lists and sheets, shown live on a sample.
+class Polices : public PageApparence
 {
     Q_OBJECT
 
 public:
-    explicit Polices(Demandes &demandes);
+    explicit Polices(QWidget *parent = nullptr);
 
-    /// Shows what the settings hold.
-    void charger() override;
-
-protected:
+    QString titre() const override;
     void Traduire() override;
+    void charger() override;
+    void valider() override;
 
 private:
-    void construireListes();
+    QBoxLayout *construireListes();
     QWidget *construireOptions();
-    void construireExemple();
+    QWidget *construireExemple();
     void brancher();
     void choisirCouleur();
     void poserCouleur(const QColor &couleur);
     void montrerExemple();
-    void valider();
 
-    Demandes &m_demandes;
     QTreeWidget *m_police = nullptr;
     QTreeWidget *m_taille = nullptr;
     std::array<QCheckBox *, 2> m_options{};
     QPushButton *m_couleur = nullptr;
     QPushButton *m_sansCouleur = nullptr;
-    QLabel *m_libelleTheme = nullptr;
-    QComboBox *m_theme = nullptr;
     QLabel *m_exemple = nullptr;
-    QPushButton *m_valider = nullptr;
 
     QFont m_choisie;
     QColor m_encre; ///< invalid for the theme's own

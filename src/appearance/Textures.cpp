@@ -1,6 +1,5 @@
 #include "appearance/Textures.h"
 
-#include "acts/Demandes.h"
 #include "core/Fonds.h"
 #include "core/Images.h"
 #include "core/Reglages.h"
@@ -14,14 +13,12 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr QSize TailleDessinee(720, 500);
 constexpr int LargeurListe = 230;
 constexpr QSize TailleEssai(64, 64);
 /// The file of a line; empty for the line of no texture.
@@ -36,25 +33,22 @@ void mettreEnGras(QListWidgetItem *ligne, bool gras)
 
 }
 
-Textures::Textures(Demandes &demandes)
-    : FormeOutil(QStringLiteral("Textures"), TailleDessinee)
-    , m_demandes(demandes)
+Textures::Textures(QWidget *parent)
+    : PageApparence(parent)
 {
-    auto *ligne = new QHBoxLayout;
+    setObjectName(QStringLiteral("Textures"));
+    auto *ligne = new QHBoxLayout(this);
+    ligne->setContentsMargins(0, Theme::Moyen, 0, 0);
     ligne->setSpacing(Theme::Grand);
     construireListe(ligne);
     construireApercu(ligne);
-    corps()->addLayout(ligne, 1);
-    ajouterMessage();
-    m_valider = ajouterAuPied(QStringLiteral("Valider"), true);
+    setFocusProxy(m_liste);
     connect(m_liste, &QListWidget::currentItemChanged, this, &Textures::choisir);
     connect(m_suppl, &QPushButton::clicked, this, &Textures::ajouterTexture);
     connect(m_apercu, &QCheckBox::clicked, this, [this](bool coche) {
         Reglages::courant().ecrire(Cle::Apercu, coche ? 1 : 0);
         montrerApercu();
     });
-    connect(m_valider, &QPushButton::clicked, this, &Textures::valider);
-    Textures::Traduire();
 }
 
 void Textures::construireListe(QBoxLayout *ligne)
@@ -86,7 +80,6 @@ void Textures::construireApercu(QBoxLayout *ligne)
 
 void Textures::charger()
 {
-    dire({});
     m_apercu->setChecked(Reglages::courant().entier(Cle::Apercu) != 0);
     m_defilement->setChecked(Reglages::courant().booleen(Cle::Defilement));
     const QString choisie = Fonds::CheminChoisi();
@@ -135,9 +128,9 @@ void Textures::ajouterTexture()
     const QString suffixe = QFileInfo(chemin).suffix().toLower();
     const bool jpeg = suffixe == QLatin1String("jpg") || suffixe == QLatin1String("jpeg");
     if (!jpeg || Images::Decoder(chemin, TailleEssai).isNull())
-        return dire(tr("Ce fichier n'est pas une image JPEG lisible."));
+        return Q_EMIT reponse(tr("Ce fichier n'est pas une image JPEG lisible."));
     const QString fichier = Fonds::Ajouter(chemin);
-    dire({});
+    Q_EMIT reponse({});
     for (int i = 0; i < m_liste->count(); ++i) {
         if (m_liste->item(i)->data(Fichier).toString() == fichier)
             return m_liste->setCurrentRow(i);
@@ -153,13 +146,15 @@ void Textures::valider()
     if (ligne && m_liste->currentRow() != m_presente)
         Fonds::Choisir(ligne->data(Fichier).toString());
     m_presente = m_liste->currentRow();
-    Q_EMIT m_demandes.apparence();
+}
+
+QString Textures::titre() const
+{
+    return texte(Txt::LesTextures);
 }
 
 void Textures::Traduire()
 {
-    FormeOutil::Traduire();
-    poserTitre(texte(Txt::LesTextures));
     m_titreListe->setText(texte(Txt::ListeDesFondsDEcran));
     m_liste->setAccessibleName(texte(Txt::ListeDesFondsDEcran));
     if (m_liste->count() > 0)
@@ -169,5 +164,4 @@ void Textures::Traduire()
     libeller(m_suppl, texte(Txt::PlusDeTextures));
     libeller(m_apercu, texte(Txt::Apercu));
     libeller(m_defilement, tr("Répéter l'image au lieu de l'étirer"));
-    libeller(m_valider, texte(Txt::Appliquer));
 }

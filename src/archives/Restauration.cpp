@@ -28,6 +28,8 @@ constexpr QSize TailleDessinee(680, 480);
 enum Colonne { ColonneDate, ColonneAlbums, ColonneTaille, ColonneFichier };
 constexpr int Chemin = Qt::UserRole;
 constexpr int EtatDuFichier = Qt::UserRole + 1;
+/// What the columns show, apart from the words of a language.
+constexpr int Valeur = Qt::UserRole + 2;
 
 /// Why nothing was converted, for a person.
 QString raisonDe(const Conversion::Rapport &rapport)
@@ -95,6 +97,7 @@ void Restauration::construireListe()
     m_sauvegardes = nommer(new QTreeWidget(this), QStringLiteral("Sauvegardes"));
     m_sauvegardes->setRootIsDecorated(false);
     m_sauvegardes->setUniformRowHeights(true);
+    m_sauvegardes->setAllColumnsShowFocus(true);
     m_sauvegardes->setAlternatingRowColors(true);
     corps()->addWidget(m_sauvegardes, 1);
     m_vide = new QLabel(m_sauvegardes);
@@ -103,6 +106,10 @@ void Restauration::construireListe()
     m_vide->setForegroundRole(QPalette::PlaceholderText);
     m_vide->setContentsMargins(Theme::Grand, Theme::Grand, Theme::Grand, Theme::Grand);
     (new QVBoxLayout(m_sauvegardes))->addWidget(m_vide);
+    m_sansImages = nommer(new QLabel(this), QStringLiteral("SansImages"));
+    m_sansImages->setWordWrap(true);
+    m_sansImages->setForegroundRole(QPalette::PlaceholderText);
+    corps()->addWidget(m_sansImages);
     m_rapport = nommer(new QPlainTextEdit(this), QStringLiteral("Rapport"));
     m_rapport->setReadOnly(true);
     m_rapport->setTabChangesFocus(true);
@@ -131,18 +138,31 @@ void Restauration::charger()
 
 void Restauration::ajouterLigne(const QString &chemin, const QString &nom, const Examen &examen, int rang)
 {
-    const QLocale &locale = Traduction::courant().locale();
     const bool lisible = examen.etat == Etat::Saine || examen.etat == Etat::Vierge;
-    auto *ligne = new QTreeWidgetItem({locale.toString(examen.date, QLocale::ShortFormat),
-        lisible ? locale.toString(examen.albums) : QStringLiteral("—"),
-        locale.formattedDataSize(examen.taille), nom});
-    for (const int colonne : {ColonneAlbums, ColonneTaille})
-        ligne->setTextAlignment(colonne, Qt::AlignRight | Qt::AlignVCenter);
+    auto *ligne = new QTreeWidgetItem;
     ligne->setData(0, Chemin, chemin);
     ligne->setData(0, EtatDuFichier, static_cast<int>(examen.etat));
+    ligne->setData(ColonneDate, Valeur, examen.date);
+    ligne->setData(ColonneAlbums, Valeur, lisible ? examen.albums : -1);
+    ligne->setData(ColonneTaille, Valeur, examen.taille);
+    ligne->setText(ColonneFichier, nom);
+    for (const int colonne : {ColonneAlbums, ColonneTaille})
+        ligne->setTextAlignment(colonne, Qt::AlignRight | Qt::AlignVCenter);
+    ecrireLigne(ligne);
     m_sauvegardes->insertTopLevelItem(rang, ligne);
     for (int colonne = 0; colonne < m_sauvegardes->columnCount(); ++colonne)
         m_sauvegardes->resizeColumnToContents(colonne);
+}
+
+/// Its date and figures, in the language in force.
+void Restauration::ecrireLigne(QTreeWidgetItem *ligne)
+{
+    const QLocale &locale = Traduction::courant().locale();
+    const int albums = ligne->data(ColonneAlbums, Valeur).toInt();
+    ligne->setText(
+        ColonneDate, locale.toString(ligne->data(ColonneDate, Valeur).toDateTime(), QLocale::ShortFormat));
+    ligne->setText(ColonneAlbums, albums < 0 ? QStringLiteral("—") : locale.toString(albums));
+    ligne->setText(ColonneTaille, locale.formattedDataSize(ligne->data(ColonneTaille, Valeur).toLongLong()));
 }
 
 void Restauration::choisirFichier()
@@ -196,8 +216,9 @@ void Restauration::restaurer()
     const QString chemin = cheminChoisi();
     if (static_cast<Etat>(ligne->data(0, EtatDuFichier).toInt()) == Etat::Ancienne)
         return convertir(chemin);
-    const QString question = tr("Remplacer la base en service par celle du %1, avec %2 album(s) ?")
-                                 .arg(ligne->text(ColonneDate), ligne->text(ColonneAlbums));
+    const QString question = tr("Remplacer la base en service par celle du %1, avec %n album(s) ?", nullptr,
+        ligne->data(ColonneAlbums, Valeur).toInt())
+                                 .arg(ligne->text(ColonneDate));
     if (!Messages::Demander(this, question))
         return;
     const QString refus = Remplacement::Restaurer(chemin);
@@ -252,6 +273,11 @@ void Restauration::Traduire()
     m_vide->setText(
         tr("Aucune sauvegarde pour l'instant : la première se fait d'elle-même, avant votre prochaine"
            " modification. Vous pouvez aussi choisir un fichier."));
+    m_sansImages->setText(
+        tr("Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se"
+           " copient à part."));
+    for (int i = 0; i < m_sauvegardes->topLevelItemCount(); ++i)
+        ecrireLigne(m_sauvegardes->topLevelItem(i));
     m_rapport->setAccessibleName(tr("Rapport"));
     libeller(m_choisir, tr("Choisir un fichier…"));
     libeller(m_valider, tr("Restaurer"));

@@ -7,6 +7,7 @@
 class QLabel;
 class QPlainTextEdit;
 class QTreeWidget;
+class QTreeWidgetItem;
 class TitreGroupe;
 
 /// Another collection in the place of the one at work: one of the dated backups, or a file chosen.
@@ -29,6 +30,7 @@ private:
     void construireListe();
     void ajouterLigne(
         const QString &chemin, const QString &nom, const Remplacement::Examen &examen, int rang);
+    static void ecrireLigne(QTreeWidgetItem *ligne);
     void choisirFichier();
     void expliquerChoix();
     void restaurer();
@@ -39,6 +41,7 @@ private:
     TitreGroupe *m_titreListe = nullptr;
     QTreeWidget *m_sauvegardes = nullptr;
     QLabel *m_vide = nullptr;
+    QLabel *m_sansImages = nullptr;
     QPlainTextEdit *m_rapport = nullptr;
     QPushButton *m_choisir = nullptr;
     QPushButton *m_valider = nullptr;

@@ -62,6 +62,7 @@ public:
         std::function<void(const Error &)> manquee;
         QDateTime derniere; ///< when one was last made or tried; null before the first write
         bool enEchec = false;
+        int retraits = 1; ///< how many old ones may go, beside one for each that is made
     } sauvegardes;
 
     /// The highest number known of each table of entries, given or still referred to; new ones lie above it. Forgotten

@@ -18,15 +18,15 @@ QString Fonds::CheminChoisi()
     const QString nom = Reglages::courant().texte(Cle::FondScreen).trimmed().replace(u'\\', u'/');
     if (nom.isEmpty())
         return {};
-    if (nom.startsWith(u'/'))
-        return QFileInfo(nom).isFile() ? nom : QString();
-    QString dossier = Reglages::courant().texte(Cle::RepFondScreen).trimmed().replace(u'\\', u'/');
-    if (dossier.isEmpty())
-        dossier = CheminDe({});
-    if (!dossier.endsWith(u'/'))
-        dossier += u'/';
-    const QString chemin = dossier + nom.section(u'/', -1);
-    return QFileInfo(chemin).isFile() ? chemin : QString();
+    const QString seul = nom.section(u'/', -1);
+    const QString dossier = Reglages::courant().texte(Cle::RepFondScreen).trimmed().replace(u'\\', u'/');
+    // A folder that was moved, or that another machine wrote in its own letters, still has the picture.
+    for (const QString &chemin :
+        {nom.startsWith(u'/') ? nom : QString(), dossier + u'/' + seul, CheminDe(seul)}) {
+        if (chemin.startsWith(u'/') && QFileInfo(chemin).isFile())
+            return QDir::cleanPath(chemin);
+    }
+    return {};
 }
 
 QStringList Fonds::Textures()

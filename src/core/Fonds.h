@@ -6,7 +6,8 @@
 /// The background pictures: the one of the settings, and those of the folder "Fond Ecran".
 namespace Fonds {
 
-/// Full path of the background picture of the settings, or empty.
+/// Full path of the background picture of the settings, or empty: where they say, else under its name in "Fond Ecran",
+/// whatever the letter case.
 QString CheminChoisi();
 
 /// The textures of "Fond Ecran", by file name.

@@ -14,7 +14,8 @@ enum class Nom {
     Manuelle,
     Facile,
     BDNet,
-    Polices,
+    Apparence,
+    Polices, ///< a page of Apparence, as the next
     Textures,
     Stats,
     Impression,

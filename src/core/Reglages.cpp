@@ -157,7 +157,8 @@ double Reglages::nombre(Cle cle) const
 {
     Q_ASSERT(reglage(cle).type == Type::Nombre);
     bool sur = false;
-    const double valeur = brut(cle).trimmed().replace(u',', u'.').toDouble(&sur);
+    // A comma that somebody wrote by hand came back with a blank.
+    const double valeur = brut(cle).remove(u' ').replace(u',', u'.').toDouble(&sur);
     if (sur && std::isfinite(valeur))
         return valeur;
     signaler(cle);

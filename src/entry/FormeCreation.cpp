@@ -2,6 +2,7 @@
 
 #include "acts/Demandes.h"
 #include "core/Traduction.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
@@ -23,6 +24,7 @@ FormeCreation::FormeCreation(Demandes &demandes, const QString &nom, const QSize
     , m_demandes(demandes)
     , m_titre(titre)
 {
+    Fond::Tapisser(this);
     m_ligne = new QHBoxLayout;
     m_ligne->setSpacing(Theme::Grand);
     corps()->addLayout(m_ligne, 1);

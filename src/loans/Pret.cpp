@@ -1,54 +1,39 @@
 #include "loans/Pret.h"
 
 #include "acts/Demandes.h"
-#include "acts/Preter.h"
 #include "core/Traduction.h"
-#include "core/ui/Icones.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
+#include "loans/Lignes.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr QSize TailleDessinee(820, 520);
-constexpr int LargeurPersonnes = 240;
-constexpr qsizetype LongueurDuTitre = 32;
+constexpr QSize TailleDessinee(960, 540);
+constexpr qsizetype LongueurSurUnBouton = 28;
 const QString Personne = QStringLiteral("Pers");
 const QString PretEnCours = QStringLiteral("Pret");
+enum Colonne { Titre, Jours, AQui };
 
-QStandardItem *cellule(const QString &texte, int id)
+/// As much as a button has room for.
+QString couper(const QString &texte)
 {
-    auto *item = new QStandardItem(texte);
-    item->setEditable(false);
-    item->setData(QStringLiteral("N %1").arg(id), Qt::UserRole);
-    return item;
+    return texte.size() > LongueurSurUnBouton ? texte.left(LongueurSurUnBouton) + QChar(0x2026) : texte;
 }
 
-int idDe(const QTreeView *liste)
+/// How a borrower is called in a sentence.
+QString appeler(const Prets::Emprunteur &emprunteur)
 {
-    const QString cle = liste->currentIndex().siblingAtColumn(0).data(Qt::UserRole).toString();
-    return cle.mid(1).trimmed().toInt();
-}
-
-/// Makes the line of an identifier the current one; without such a line, the one that took its place.
-void retrouver(QTreeView *liste, int id, int rang)
-{
-    const QAbstractItemModel *modele = liste->model();
-    const auto trouves = modele->match(
-        modele->index(0, 0), Qt::UserRole, QStringLiteral("N %1").arg(id), 1, Qt::MatchExactly);
-    const int voisin = std::min(rang, modele->rowCount() - 1);
-    if (!trouves.isEmpty())
-        liste->setCurrentIndex(trouves.first());
-    else if (id > 0 && voisin >= 0)
-        liste->setCurrentIndex(modele->index(voisin, 0));
+    const QString nom = (emprunteur.prenom + u' ' + emprunteur.nom).trimmed();
+    return nom.isEmpty() ? Pret::tr("quelqu'un qui n'est plus dans la liste") : nom;
 }
 
 }
@@ -57,81 +42,92 @@ Pret::Pret(Demandes &demandes)
     : FormeOutil(QStringLiteral("Pret"), TailleDessinee)
     , m_demandes(demandes)
 {
-    construireListes(corps());
+    Fond::Tapisser(this);
+    auto *listes = new QHBoxLayout;
+    listes->setSpacing(Theme::Grand);
+    listes->addLayout(construirePersonnes(), 2);
+    listes->addLayout(construirePrets(), 3);
+    corps()->addLayout(listes, 1);
+    ajouterMessage()->setTextFormat(Qt::PlainText);
     m_preter = ajouterAuPied(QStringLiteral("Preter"), true);
     m_del = ajouterAuPied(QStringLiteral("Del"));
     brancher();
     Pret::Traduire();
 }
 
-void Pret::construireListes(QBoxLayout *page)
+QLabel *Pret::construireTitre()
 {
-    auto *listes = new QHBoxLayout;
-    listes->setSpacing(Theme::Grand);
-    m_lPers = construireListe(QStringLiteral("LPers"), m_personnes);
-    m_lPret = construireListe(QStringLiteral("LPret"), m_prets);
-    m_lPers->setFixedWidth(LargeurPersonnes);
+    auto *titre = new QLabel(this);
+    titre->setFont(Theme::Taille(font(), 1, QFont::Bold));
+    return titre;
+}
+
+QBoxLayout *Pret::construirePersonnes()
+{
+    auto *colonne = new QVBoxLayout;
+    colonne->setSpacing(Theme::Fin);
+    m_titrePersonnes = construireTitre();
+    m_lPers = nommer(new ListePersonnes(this), QStringLiteral("LPers"));
+    m_tous = nommer(new QPushButton(this), QStringLiteral("Tous"));
+    m_ajouter = nommer(new QPushButton(this), QStringLiteral("AjouterPersonne"));
+    colonne->addWidget(m_titrePersonnes);
+    colonne->addWidget(m_lPers, 1);
+    auto *boutons = new QHBoxLayout;
+    boutons->addWidget(m_ajouter, 1);
+    boutons->addWidget(m_tous, 1);
+    colonne->addLayout(boutons);
+    return colonne;
+}
+
+QBoxLayout *Pret::construirePrets()
+{
+    auto *colonne = new QVBoxLayout;
+    colonne->setSpacing(Theme::Fin);
+    m_titrePrets = construireTitre();
     m_nombre = nommer(new QLabel(this), QStringLiteral("Nombre"));
     m_nombre->setForegroundRole(QPalette::PlaceholderText);
-    m_tous = nommer(new QPushButton(this), QStringLiteral("Tous"));
-    int rang = 0;
-    for (QTreeView *liste : {m_lPers, m_lPret}) {
-        auto *colonne = new QVBoxLayout;
-        colonne->setSpacing(Theme::Fin);
-        auto *tete = new QHBoxLayout;
-        m_titres[rang] = new QLabel(this);
-        m_titres[rang]->setFont(Theme::Taille(font(), 1, QFont::Bold));
-        tete->addWidget(m_titres[rang], 1);
-        if (liste == m_lPret)
-            tete->addWidget(m_nombre);
-        colonne->addLayout(tete);
-        colonne->addWidget(liste, 1);
-        if (liste == m_lPers)
-            colonne->addWidget(m_tous);
-        listes->addLayout(colonne, rang++);
-    }
-    page->addLayout(listes, 1);
+    m_lPret = nommer(new QTreeView(this), QStringLiteral("LPret"));
+    Lignes::Preparer(m_lPret, m_prets);
+    auto *tete = new QHBoxLayout;
+    tete->addWidget(m_titrePrets, 1);
+    tete->addWidget(m_nombre);
+    colonne->addLayout(tete);
+    colonne->addWidget(m_lPret, 1);
+    return colonne;
 }
 
 void Pret::brancher()
 {
-    connect(m_lPers->selectionModel(), &QItemSelectionModel::currentChanged, this, &Pret::choisirPersonne);
+    connect(m_lPers->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &Pret::choisirPersonne);
     connect(m_lPers, &QTreeView::clicked, this, &Pret::choisirPersonne);
+    connect(m_lPers, &ListePersonnes::saisie, this, &Pret::ecrirePersonne);
+    connect(m_lPers, &ListePersonnes::nouvelle, this, &Pret::ajouterPersonne);
     connect(m_lPret->selectionModel(), &QItemSelectionModel::currentChanged, this, &Pret::choisirPret);
     connect(m_lPret, &QTreeView::clicked, this, &Pret::choisirPret);
     connect(m_lPret, &QTreeView::doubleClicked, this, [this] {
         Q_EMIT m_demandes.entree({General::Tri::Albums, pret()});
     });
     connect(m_tous, &QPushButton::clicked, this, [this] { m_lPers->setCurrentIndex({}); });
+    connect(m_ajouter, &QPushButton::clicked, m_lPers, &ListePersonnes::ajouter);
     connect(m_preter, &QPushButton::clicked, this, &Pret::preter);
     connect(m_del, &QPushButton::clicked, this, &Pret::supprimer);
 }
 
-QTreeView *Pret::construireListe(const QString &nom, QStandardItemModel &modele)
-{
-    auto *liste = nommer(new QTreeView(this), nom);
-    liste->setModel(&modele);
-    liste->setRootIsDecorated(false);
-    liste->setUniformRowHeights(true);
-    liste->setAlternatingRowColors(true);
-    liste->setSelectionBehavior(QTreeView::SelectRows);
-    return liste;
-}
-
 int Pret::personne() const
 {
-    return idDe(m_lPers);
+    return Lignes::Courante(m_lPers);
 }
 
 int Pret::pret() const
 {
-    return idDe(m_lPret);
+    return Lignes::Courante(m_lPret);
 }
 
 void Pret::charger()
 {
+    dire({});
     m_lPers->setCurrentIndex({});
-    remplirPersonnes();
+    m_lPers->remplir(Prets::LireEmprunteurs());
     remplirPrets();
     m_lPers->setFocus();
 }
@@ -140,26 +136,14 @@ void Pret::actualiser(const Changements &)
 {
     if (!isVisible())
         return;
-    const int qui = personne();
     const int quoi = pret();
-    const int rangQui = m_lPers->currentIndex().row();
-    const int rangQuoi = m_lPret->currentIndex().row();
+    const int rang = m_lPret->currentIndex().row();
     const QString cible = m_del->property("tag").toString();
-    remplirPersonnes();
-    retrouver(m_lPers, qui, rangQui);
+    m_lPers->remplir(Prets::LireEmprunteurs());
     remplirPrets();
     if (cible == PretEnCours)
-        retrouver(m_lPret, quoi, rangQuoi);
+        Lignes::Retrouver(m_lPret, quoi, rang);
     poserCourante(m_courante);
-}
-
-void Pret::remplirPersonnes()
-{
-    const Entrees emprunteurs = Prets::LireEmprunteurs();
-    m_personnes.setRowCount(0);
-    for (int i = 0; i < emprunteurs.size(); ++i)
-        m_personnes.appendRow(cellule(emprunteurs.texte(i), emprunteurs.id(i)));
-    poserCible({});
 }
 
 /// Three columns when everybody's loans are shown: then one wants to know whose they are.
@@ -169,10 +153,12 @@ void Pret::remplirPrets()
     m_prets.setRowCount(0);
     for (const Prets::Pret &pret : Prets::LirePrets(qui)) {
         const QString jours = pret.jours ? tr("%n jour(s)", nullptr, *pret.jours) : QString();
-        m_prets.appendRow({cellule(pret.titre, pret.album), cellule(jours, pret.album),
-            cellule(pret.emprunteur, pret.album)});
+        m_prets.appendRow(
+            {new Lignes::Cellule(pret.titre, pret.album), new Lignes::Cellule(jours, pret.album, pret.jours),
+                new Lignes::Cellule(pret.emprunteur, pret.album)});
     }
-    m_lPret->setColumnHidden(2, qui > 0);
+    Lignes::Trier(m_lPret, m_prets);
+    m_lPret->setColumnHidden(AQui, qui > 0);
     m_nombre->setText(texte(Txt::AlbumsNombre) + u' ' + QString::number(m_prets.rowCount()));
     m_tous->setEnabled(qui > 0);
     poserCible(qui > 0 ? Personne : QString());
@@ -180,7 +166,9 @@ void Pret::remplirPrets()
 
 void Pret::choisirPersonne()
 {
+    dire({});
     remplirPrets();
+    nommerPreter();
 }
 
 void Pret::choisirPret()
@@ -196,34 +184,95 @@ void Pret::poserCible(const QString &cible)
     libeller(m_del, cible == PretEnCours ? tr("Rendre l'album") : tr("Supprimer la personne"));
 }
 
+void Pret::ecrirePersonne(int id, Preter::Donnee donnee, const QString &texte)
+{
+    const bool ecrite = Preter::EcrireEmprunteur(id, donnee, texte);
+    dire(ecrite ? QString() : tr("Une personne a un nom."));
+    // What was written may read otherwise than it was typed, and what was refused is as before.
+    m_lPers->remplir(Prets::LireEmprunteurs());
+    nommerPreter();
+}
+
+void Pret::ajouterPersonne(const QString &nom)
+{
+    m_lPers->attribuer(Preter::AjouterEmprunteur(nom));
+    choisirPersonne();
+}
+
+/// The number of albums stands in the question, since they stay marked as lent.
+QString Pret::questionDuRetrait() const
+{
+    const QString question = texte(Txt::RetirerCettePersonne);
+    const int albums = m_prets.rowCount();
+    return albums == 0 ? question
+                       : question + QStringLiteral("\n\n")
+            + tr("%n album(s) lui restent prêtés et le resteront.", nullptr, albums);
+}
+
 void Pret::supprimer()
 {
     const bool rend = m_del->property("tag").toString() == PretEnCours;
-    if (!Messages::Demander(this, texte(rend ? Txt::RetirerCePret : Txt::RetirerCettePersonne)))
+    if (!Messages::Demander(this, rend ? texte(Txt::RetirerCePret) : questionDuRetrait()))
         return;
-    QStandardItemModel &modele = rend ? m_prets : m_personnes;
-    const int rang = (rend ? m_lPret : m_lPers)->currentIndex().row();
-    if (rend)
-        Preter::Rendre(pret());
-    else
+    dire({});
+    if (!rend) {
         Preter::SupprimerEmprunteur(personne());
-    modele.removeRow(rang);
+        return m_lPers->remplir(Prets::LireEmprunteurs());
+    }
+    const int rang = m_lPret->currentIndex().row();
+    Preter::Rendre(pret());
+    m_prets.removeRow(rang);
 }
 
 void Pret::poserCourante(General::Entree entree)
 {
     m_courante = entree;
     const bool album = entree.tri == General::Tri::Albums && entree.id > 0;
+    m_titre = album ? General::LireTexte(entree.tri, entree.id) : QString();
     m_preter->setEnabled(album);
-    const QString titreAlbum = album ? General::LireTexte(entree.tri, entree.id) : QString();
-    const QString coupe
-        = titreAlbum.size() > LongueurDuTitre ? titreAlbum.left(LongueurDuTitre) + QChar(0x2026) : titreAlbum;
-    libeller(m_preter, album ? tr("Prêter « %1 »").arg(coupe) : tr("Prêter"));
-    m_preter->setToolTip(album ? tr("Choisir à qui l'album montré est prêté")
-                               : tr("Montrez d'abord un album dans la fenêtre principale"));
+    nommerPreter();
 }
 
+/// The button says what it lends, and to whom when that is chosen.
+void Pret::nommerPreter()
+{
+    const auto qui = m_lPers->personne();
+    const QString quoi = couper(m_titre);
+    libeller(m_preter,
+        !m_preter->isEnabled() ? tr("Prêter")
+            : qui              ? tr("Prêter « %1 » à %2").arg(quoi, couper(appeler(*qui)))
+                               : tr("Prêter « %1 »").arg(quoi));
+    m_preter->setToolTip(!m_preter->isEnabled() ? tr("Montrez d'abord un album dans la fenêtre principale")
+            : qui                               ? QString()
+                                                : tr("Choisir à qui l'album montré est prêté"));
+}
+
+/// Lends to the person chosen; where nobody is, one is chosen first.
 void Pret::preter()
+{
+    const auto qui = m_lPers->personne();
+    const auto tient = Prets::QuiA(m_courante.id);
+    if (tient && qui && tient->id == qui->id)
+        return dire(tr("« %1 » est déjà prêté à %2.").arg(m_titre, appeler(*qui)));
+    if (tient && !accepterDeReprendre(*tient))
+        return;
+    if (!qui)
+        return choisirAQui();
+    Preter::PreterAlbum(m_courante.id, qui->id);
+    dire(tr("« %1 » est prêté à %2.").arg(m_titre, appeler(*qui)));
+}
+
+/// Asks before an album goes from one to another.
+bool Pret::accepterDeReprendre(const Prets::Emprunteur &tient)
+{
+    const auto qui = m_lPers->personne();
+    const QString deja = tr("« %1 » est déjà prêté à %2.").arg(m_titre, appeler(tient));
+    const QString question = qui ? tr("Le prêter maintenant à %1 ?").arg(appeler(*qui))
+                                 : tr("Le prêter maintenant à quelqu'un d'autre ?");
+    return Messages::Demander(this, deja + u'\n' + question);
+}
+
+void Pret::choisirAQui()
 {
     Edition edition = Ecrire::EditionDe(m_courante, Champs::De(Champs::Feuille::Album, "NPret"));
     edition.place = QRect(m_preter->mapToGlobal(QPoint()), m_preter->size());
@@ -234,15 +283,17 @@ void Pret::Traduire()
 {
     FormeOutil::Traduire();
     poserTitre(texte(Txt::GestionDesPrets));
-    m_titres[0]->setText(texte(Txt::ListeDesPersonnes));
-    m_titres[1]->setText(texte(Txt::ListeDesPrets));
-    m_lPers->setAccessibleName(texte(Txt::ListeDesPersonnes));
+    m_titrePersonnes->setText(texte(Txt::ListeDesPersonnes));
+    m_titrePrets->setText(texte(Txt::ListeDesPrets));
+    m_lPers->Traduire();
     m_lPret->setAccessibleName(texte(Txt::ListeDesPrets));
-    m_personnes.setHorizontalHeaderLabels({texte(Txt::Nom)});
     m_prets.setHorizontalHeaderLabels({texte(Txt::TitreDeLAlbum), tr("Dehors depuis"), texte(Txt::NomPret)});
     m_lPret->header()->setStretchLastSection(false);
-    m_lPret->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_lPret->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_lPret->header()->setSectionResizeMode(Titre, QHeaderView::Stretch);
+    libeller(m_ajouter, texte(Txt::Ajouter));
     libeller(m_tous, tr("Tous les prêts"));
+    dire({});
     poserCible(m_del->property("tag").toString());
     poserCourante(m_courante);
     // The days and the count are words of the language, too.

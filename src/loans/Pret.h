@@ -2,15 +2,12 @@
 
 #include "acts/Ecrire.h"
 #include "core/ui/FormeOutil.h"
-#include "loans/Prets.h"
-
-#include <QStandardItemModel>
+#include "loans/ListePersonnes.h"
 
 class Demandes;
 class QBoxLayout;
 class QLabel;
 class QPushButton;
-class QTreeView;
 
 /// Who has which albums: the borrowers, what the chosen one has (or all that is lent), how to end and begin a
 /// loan.
@@ -32,28 +29,36 @@ protected:
     void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
-    void construireListes(QBoxLayout *page);
+    QBoxLayout *construirePersonnes();
+    QBoxLayout *construirePrets();
+    QLabel *construireTitre();
     void brancher();
-    QTreeView *construireListe(const QString &nom, QStandardItemModel &modele);
-    void remplirPersonnes();
     void remplirPrets();
     void choisirPersonne();
     void choisirPret();
     void poserCible(const QString &cible);
+    void ecrirePersonne(int id, Preter::Donnee donnee, const QString &texte);
+    void ajouterPersonne(const QString &nom);
     void supprimer();
+    QString questionDuRetrait() const;
     void preter();
+    bool accepterDeReprendre(const Prets::Emprunteur &tient);
+    void choisirAQui();
+    void nommerPreter();
     int personne() const;
     int pret() const;
 
     Demandes &m_demandes;
-    QStandardItemModel m_personnes;
     QStandardItemModel m_prets;
-    QLabel *m_titres[2] = {};
+    QLabel *m_titrePersonnes = nullptr;
+    QLabel *m_titrePrets = nullptr;
     QLabel *m_nombre = nullptr;
-    QTreeView *m_lPers = nullptr;
+    ListePersonnes *m_lPers = nullptr;
     QTreeView *m_lPret = nullptr;
     QPushButton *m_tous = nullptr;
+    QPushButton *m_ajouter = nullptr;
     QPushButton *m_preter = nullptr;
     QPushButton *m_del = nullptr;
     General::Entree m_courante;
+    QString m_titre; ///< of the album that can be lent; empty when there is none
 };

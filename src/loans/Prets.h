@@ -1,7 +1,5 @@
 #pragma once
 
-#include "model/Entrees.h"
-
 #include <QString>
 #include <optional>
 #include <vector>
@@ -9,8 +7,20 @@
 /// Who has albums of the collection, and which. All throw Error.
 namespace Prets {
 
+struct Emprunteur
+{
+    int id = 0;
+    QString nom;
+    QString prenom;
+    QString telephone;
+};
 /// The borrowers, by name.
-Entrees LireEmprunteurs();
+std::vector<Emprunteur> LireEmprunteurs();
+/// "name, first name"
+QString NomDe(const Emprunteur &emprunteur);
+
+/// Who has an album; nothing when it is not lent. A borrower who was deleted has no name any more.
+std::optional<Emprunteur> QuiA(int album);
 
 struct Pret
 {

@@ -57,29 +57,13 @@ std::string_view sansBlancs(std::string_view texte)
     return texte.substr(debut, texte.find_last_not_of(' ') - debut + 1);
 }
 
-void ajouterLigne(Entrees &entrees, const Cursor &rs, Libelle forme)
-{
-    const int id = static_cast<int>(rs.Int64(0));
-    const std::string_view second = forme == Libelle::Nom ? std::string_view() : sansBlancs(rs.Utf8(2));
-    if (forme == Libelle::PrenomNom && !second.empty()) {
-        entrees.ajouter(id, second);
-        entrees.prolonger(" , ");
-        return entrees.prolonger(rs.Utf8(1));
-    }
-    entrees.ajouter(id, rs.Utf8(1));
-    if (forme == Libelle::NomNumero || !second.empty()) {
-        entrees.prolonger(forme == Libelle::NomNumero ? " - " : ", ");
-        entrees.prolonger(second);
-    }
-}
-
 Entrees remplir(Cursor rs, Libelle forme, const Avance &avance)
 {
     constexpr int Pas = 1 << 16;
     Entrees entrees;
     const qint64 total = avance ? rs.RecordCount() : 0;
     for (; !rs.AtEnd(); rs.MoveNext()) {
-        ajouterLigne(entrees, rs, forme);
+        AjouterLigne(entrees, rs, forme);
         if (avance && entrees.size() % Pas == 0)
             avance(entrees.size(), total);
     }
@@ -97,6 +81,22 @@ bool garde(const Changement &c)
     return !auteur && c.sorte == Changement::Sorte::Edition && (c.champs & ChampsMontres) == 0;
 }
 
+}
+
+void General::AjouterLigne(Entrees &entrees, const Cursor &rs, Libelle forme)
+{
+    const int id = static_cast<int>(rs.Int64(0));
+    const std::string_view second = forme == Libelle::Nom ? std::string_view() : sansBlancs(rs.Utf8(2));
+    if (forme == Libelle::PrenomNom && !second.empty()) {
+        entrees.ajouter(id, second);
+        entrees.prolonger(" , ");
+        return entrees.prolonger(rs.Utf8(1));
+    }
+    entrees.ajouter(id, rs.Utf8(1));
+    if (forme == Libelle::NomNumero || !second.empty()) {
+        entrees.prolonger(forme == Libelle::NomNumero ? " - " : ", ");
+        entrees.prolonger(second);
+    }
 }
 
 const Liste &General::ListeDe(Tri tri)

@@ -7,6 +7,8 @@
 #include <QString>
 #include <functional>
 
+class Cursor;
+
 /// The lists of the collection.
 namespace General {
 
@@ -62,6 +64,9 @@ Tri TriDe(int numero);
 
 /// Called now and then during a long fill, with lines done and lines in all.
 using Avance = std::function<void(qint64 faites, qint64 total)>;
+
+/// Adds the line of a row that begins with the columns of Especes::Colonnes.
+void AjouterLigne(Entrees &entrees, const Cursor &rs, Especes::Libelle forme);
 
 /// All entries of a kind, in order. Throws Error.
 Entrees LireListe(Tri tri, const Avance &avance = {});

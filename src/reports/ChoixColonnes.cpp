@@ -82,6 +82,9 @@ void ChoixColonnes::proposer(General::Tri tri)
     }
     pile->addStretch(1);
     m_zone->setWidget(zone);
+    // The form's ground shows through.
+    for (QWidget *couche : {zone, m_zone->viewport()})
+        couche->setAutoFillBackground(false);
 }
 
 /// The columns that were ticked last for this kind of sheet; none when it was never asked.

@@ -4,6 +4,7 @@
 #include "core/Images.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
@@ -65,6 +66,7 @@ Impression::Impression(std::function<Selection()> liste)
     : FormeOutil(QStringLiteral("Impression"), TailleDessinee, Mini | Progression)
     , m_liste(std::move(liste))
 {
+    Fond::Tapisser(this);
     for (TitreGroupe *&groupe : m_groupes)
         groupe = new TitreGroupe(this);
     auto *moities = new QHBoxLayout;
@@ -305,18 +307,10 @@ void Impression::ecrire(Sortie sortie)
     if (dossier.isEmpty() || !QFileInfo(dossier).isDir())
         dossier = QDir::homePath();
     const QString propose = QDir(dossier).filePath(Images::NomDeFichier(liste.titre) + u'.' + suffixe);
-    QString chemin = Messages::EnregistrerFichier(this, libelleDeLaSortie(static_cast<int>(rang)), propose,
-        QStringLiteral("%1|*.%2").arg(suffixe.toUpper(), suffixe));
+    const QString chemin = Messages::EnregistrerFichier(this, libelleDeLaSortie(static_cast<int>(rang)),
+        propose, QStringLiteral("%1|*.%2").arg(suffixe.toUpper(), suffixe));
     if (chemin.isEmpty())
         return;
-    if (QFileInfo(chemin).suffix().compare(suffixe, Qt::CaseInsensitive) != 0) {
-        // The dialog asked about the name as it was typed.
-        chemin += u'.' + suffixe;
-        if (QFileInfo::exists(chemin)
-            && !Messages::Demander(
-                this, tr("« %1 » existe déjà. Le remplacer ?").arg(QFileInfo(chemin).fileName())))
-            return;
-    }
     reglages.ecrire(Cle::DossierListes, QFileInfo(chemin).absolutePath());
     const bool entiere
         = travailler([&](const Sorties::Avance &avance) { return Ecritures[rang](chemin, liste, avance); });

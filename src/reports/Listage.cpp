@@ -23,16 +23,16 @@ namespace {
 
 /// The columns of albums that have a name of their own in a list; they come first and are chosen at first.
 constexpr Colonne DAlbums[] = {
-    {&De(Feuille::Album, "TAlbum"), Txt::TitreAlbum, {}, false, true},
-    {&De(Feuille::Album, "NumBD"), Txt::NumeroAlbum, {}, false, true},
-    {&De(Feuille::Album, "Serie"), Txt::TitreSerie, {}, false, true},
-    {&De(Feuille::Album, "Qualite"), Txt::Qualite, {}, false, true},
-    {&De(Feuille::Album, "DateParu"), Txt::DateParution, {}, false, true},
-    {&De(Feuille::Album, "LSerieLim"), Txt::SerieLimiteeAbregee, {}, false, true},
-    {&De(Feuille::Album, "LBrochee"), Txt::Cartonnee, {}, true, true},
-    {&De(Feuille::Album, "LEditionOri"), Txt::Edition, Txt::Originale, false, true},
-    {&De(Feuille::Album, "Format"), Txt::FormatCouverture, {}, false, true},
-    {&De(Feuille::Album, "LCoffret"), Txt::FaitPartieDuCoffret, {}, false, true},
+    {&De(Feuille::Album, "TAlbum"), Txt::TitreAlbum, false, true},
+    {&De(Feuille::Album, "NumBD"), Txt::NumeroAlbum, false, true},
+    {&De(Feuille::Album, "Serie"), Txt::TitreSerie, false, true},
+    {&De(Feuille::Album, "Qualite"), Txt::Qualite, false, true},
+    {&De(Feuille::Album, "DateParu"), Txt::DateParution, false, true},
+    {&De(Feuille::Album, "LSerieLim"), Txt::SerieLimiteeAbregee, false, true},
+    {&De(Feuille::Album, "LBrochee"), Txt::Cartonnee, true, true},
+    {&De(Feuille::Album, "LEditionOri"), Txt::EditionOriginale, false, true},
+    {&De(Feuille::Album, "Format"), Txt::FormatCouverture, false, true},
+    {&De(Feuille::Album, "LCoffret"), Txt::FaitPartieDuCoffret, false, true},
 };
 
 bool estIntitulee(const Champ &champ)
@@ -79,6 +79,16 @@ private:
     std::unordered_map<int, QString> m_connus;
 };
 
+/// A grade by its word, blank for none; whatever else as a sheet shows it.
+QString motDe(const Champ &champ, const QString &affichee)
+{
+    bool nombre = false;
+    const int grade = affichee.toInt(&nombre);
+    if (champ.vue != Vue::Etoiles || !nombre)
+        return affichee;
+    return grade >= 1 ? Fiche::MotDeLaNote(grade) : QString();
+}
+
 /// A column during a walk: where its value stands in the row, and how it becomes text.
 class Lecteur
 {
@@ -97,22 +107,10 @@ public:
         const QVariant valeur = rs.Fields(m_rang);
         if (champ.vue == Vue::Case)
             return texte(valeur.toBool() != m_colonne.contraire ? Txt::Oui : Txt::Non);
-        if (champ.vue == Vue::Etoiles && valeur.isValid())
-            return mot(champ, valeur);
-        return Fiche::Afficher(champ, valeur);
+        return motDe(champ, Fiche::Afficher(champ, valeur));
     }
 
 private:
-    /// A grade by its word; what is no grade as it is.
-    static QString mot(const Champ &champ, const QVariant &valeur)
-    {
-        bool nombre = false;
-        const int grade = valeur.toString().trimmed().toInt(&nombre);
-        return nombre && grade >= 1 ? Fiche::MotDeLaNote(grade)
-            : nombre                ? QString()
-                                    : Fiche::Afficher(champ, valeur);
-    }
-
     Colonne m_colonne;
     int m_rang;
     std::unique_ptr<Noms> m_noms;
@@ -214,11 +212,9 @@ void ajouterChamps(Lignes &lignes, Feuille feuille, const Valeurs &valeurs)
         if (champ.feuille != feuille || champ.vue == Vue::Image)
             continue;
         const auto valeur = valeurs.find(QLatin1String(champ.nom));
-        if (valeur == valeurs.end() || valeur->second.affichee.isEmpty())
-            continue;
-        const QString affichee = valeur->second.affichee;
-        const bool note = champ.vue == Vue::Etoiles && affichee.toInt() >= 1;
-        lignes.push_back({texte(champ.libelle), note ? Fiche::MotDeLaNote(affichee.toInt()) : affichee});
+        const QString mot = valeur == valeurs.end() ? QString() : motDe(champ, valeur->second.affichee);
+        if (!mot.isEmpty())
+            lignes.push_back({texte(champ.libelle), mot});
     }
 }
 
@@ -268,15 +264,14 @@ std::vector<Colonne> Listage::ColonnesDe(Tri tri)
         colonnes.assign(std::begin(DAlbums), std::end(DAlbums));
     for (const Champ &champ : Champs::Tous) {
         if (champ.feuille == feuille && champ.vue != Vue::Image && !(albums && estIntitulee(champ)))
-            colonnes.push_back({&champ, champ.libelle, {}, false, !albums && champ.vue != Vue::Memo});
+            colonnes.push_back({&champ, champ.libelle, false, !albums && champ.vue != Vue::Memo});
     }
     return colonnes;
 }
 
 QString Listage::LibelleDe(const Colonne &colonne)
 {
-    const QString libelle = texte(colonne.libelle);
-    return colonne.suite ? libelle + u' ' + texte(*colonne.suite) : libelle;
+    return texte(colonne.libelle);
 }
 
 Tableau Listage::DesEntrees(

@@ -16,7 +16,6 @@ struct Colonne
 {
     const Champs::Champ *champ = nullptr;
     Txt libelle;
-    std::optional<Txt> suite; ///< second word of the name
     bool contraire = false; ///< "yes" where the flag is not set
     bool dOffice = false; ///< among those that are chosen at first
 };

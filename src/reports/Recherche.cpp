@@ -3,6 +3,7 @@
 #include "acts/Demandes.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
@@ -28,6 +29,7 @@ Recherche::Recherche(Demandes &demandes)
     : FormeOutil(QStringLiteral("Recherche"), TailleDessinee)
     , m_demandes(demandes)
 {
+    Fond::Tapisser(this);
     corps()->addWidget(construireCriteres());
     corps()->addWidget(construireResultat(), 1);
     connect(m_menu, &QPushButton::clicked, this, &Recherche::chercher);
@@ -84,6 +86,7 @@ QWidget *Recherche::construireResultat()
     m_liste->setModel(&m_modele);
     m_liste->setRootIsDecorated(false);
     m_liste->setUniformRowHeights(true);
+    m_liste->setAllColumnsShowFocus(true);
     m_liste->setEditTriggers(QTreeView::NoEditTriggers);
     m_liste->setAlternatingRowColors(true);
     colonne->addWidget(m_liste, 1);
@@ -165,11 +168,13 @@ void Recherche::aller(const QModelIndex &index)
     Q_EMIT m_demandes.entree(entree);
 }
 
-/// Enter in the list shows the hit, anywhere else it searches.
+/// Enter in the list goes to the hit, anywhere else it searches.
 void Recherche::entrer()
 {
-    if (m_liste->hasFocus())
-        return aller(m_liste->currentIndex());
+    if (m_liste->hasFocus() && m_liste->currentIndex().isValid()) {
+        aller(m_liste->currentIndex());
+        return Q_EMIT m_demandes.forme(Nom::Frmmain);
+    }
     chercher();
     if (m_modele.rowCount() > 0) {
         m_liste->setFocus();

@@ -33,9 +33,10 @@ QString requete(General::Tri tri)
 {
     const Especes::Espece &espece = General::EspeceDe(tri);
     const QString dansLaListe = General::ConditionDe(tri);
-    return QStringLiteral("SELECT %1, %2 From %3 where +%1 > 0 %4 order by %2 asc")
-        .arg(QLatin1String(espece.cle), QLatin1String(espece.nom), QLatin1String(espece.table),
-            dansLaListe.isEmpty() ? QString() : QStringLiteral("and ") + dansLaListe);
+    return QStringLiteral("SELECT %1 From %2 where +%3 > 0 %4 order by %5 asc")
+        .arg(Especes::Colonnes(espece), QLatin1String(espece.table), QLatin1String(espece.cle),
+            dansLaListe.isEmpty() ? QString() : QStringLiteral("and ") + dansLaListe,
+            QLatin1String(espece.nom));
 }
 
 }
@@ -46,9 +47,8 @@ Entrees Rechercher::Chercher(General::Tri tri, const QString &texte, Mode mode)
     Comparaison comparaison(texte, mode);
     Entrees trouvees;
     for (auto rs = base.read(requete(tri)); !rs.AtEnd(); rs.MoveNext()) {
-        const std::string_view nom = rs.Utf8(1);
-        if (comparaison.accepte(nom))
-            trouvees.ajouter(static_cast<int>(rs.Int64(0)), nom);
+        if (comparaison.accepte(rs.Utf8(1)))
+            General::AjouterLigne(trouvees, rs, General::EspeceDe(tri).libelle);
     }
     return trouvees;
 }

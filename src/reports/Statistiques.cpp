@@ -94,7 +94,9 @@ QStringList entete()
         QStringLiteral(
             "<table width='100%' border='01' cellpadding='0' cellspacing='0' ><tr bgcolor='#006FCC' "
             "><td><div align='center'><b><font color='#FFFFFF' size='3' face='Arial, Helvetica, "
-            "sans-serif'>    <p>Statistiques ...</p></font></b></div></td></tr></table>"),
+            "sans-serif'>    <p>")
+            + QCoreApplication::translate("Statistiques", "Statistiques ...").toHtmlEscaped()
+            + QStringLiteral("</p></font></b></div></td></tr></table>"),
         QStringLiteral("<table width='100%' border='0'><tr>&nbsp;</tr></table>"),
     };
 }
@@ -206,7 +208,9 @@ QString Statistiques::Calculer(const Avance &avance)
     if (!QDir().mkpath(dossier))
         echec(dossier, {});
     QSaveFile fichier(dossier + QStringLiteral("/Statistiques.htm"));
-    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(page) != page.size() || !fichier.commit())
+    // A commit alone may miss that the last of it did not reach the disk.
+    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(page) != page.size() || !fichier.flush()
+        || !fichier.commit())
         echec(fichier.fileName(), fichier.errorString());
     return fichier.fileName();
 }

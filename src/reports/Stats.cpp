@@ -2,10 +2,13 @@
 
 #include "acts/Demandes.h"
 #include "core/Traduction.h"
+#include "core/ui/Carte.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Suivi.h"
 #include "core/ui/Theme.h"
 #include "core/ui/VueWeb.h"
+#include "model/General.h"
 #include "reports/Graphique.h"
 #include "reports/Statistiques.h"
 
@@ -20,6 +23,9 @@
 namespace {
 
 constexpr QSize TailleDessinee(900, 700);
+constexpr qreal TailleDesTotaux = 2.2;
+/// In the order of the tabs.
+enum Onglet { OngletEnsemble, OngletPage, PremierGraphique };
 
 }
 
@@ -27,8 +33,10 @@ Stats::Stats(Demandes &demandes)
     : FormeOutil(QStringLiteral("Stats"), TailleDessinee, Mini | Progression)
     , m_demandes(demandes)
 {
+    Fond::Tapisser(this);
     m_onglets = nommer(new QTabWidget(this), QStringLiteral("Onglets"));
     m_onglets->setDocumentMode(true);
+    m_onglets->addTab(construireTotaux(), {});
     m_onglets->addTab(construirePage(), {});
     construireGraphiques();
     corps()->addWidget(m_onglets, 1);
@@ -54,32 +62,80 @@ QWidget *Stats::construirePage()
     return zone;
 }
 
-void Stats::construireGraphiques()
+/// What there is, in large figures, over the years in which it appeared.
+QWidget *Stats::construireTotaux()
 {
-    for (std::size_t i = 0; i < m_graphiques.size(); ++i) {
-        auto *defilement = new QScrollArea(m_onglets);
-        defilement->setWidgetResizable(true);
-        defilement->setFrameShape(QFrame::NoFrame);
-        defilement->setFocusPolicy(Qt::NoFocus);
-        m_graphiques[i] = nommer(new Graphique, QStringLiteral("Graphique"), static_cast<int>(i));
-        defilement->setWidget(m_graphiques[i]);
-        m_onglets->addTab(defilement, {});
-        connect(m_graphiques[i], &Graphique::partChoisie, this, [this, i](const Repartition::Part &part) {
-            Q_EMIT m_demandes.selection(
-                m_graphiques[i]->donnees().titre + QStringLiteral(" : ") + part.libelle, part.albums);
-        });
+    auto *zone = new QWidget(m_onglets);
+    auto *page = new QVBoxLayout(zone);
+    page->setContentsMargins(0, Theme::Moyen, 0, 0);
+    auto *ligne = new QHBoxLayout;
+    ligne->setSpacing(Theme::Moyen);
+    for (std::size_t i = 0; i < m_totaux.size(); ++i) {
+        auto *carte = new Carte(zone);
+        auto *colonne = new QVBoxLayout(carte);
+        m_totaux[i] = nommer(new QLabel(carte), QStringLiteral("Total"), static_cast<int>(i));
+        m_totaux[i]->setFont(Theme::Taille(font(), TailleDesTotaux, QFont::Bold));
+        m_totaux[i]->setForegroundRole(QPalette::LinkVisited);
+        m_legendes[i] = new QLabel(carte);
+        m_legendes[i]->setForegroundRole(QPalette::PlaceholderText);
+        colonne->addWidget(m_totaux[i]);
+        colonne->addWidget(m_legendes[i]);
+        ligne->addWidget(carte, 1);
     }
+    page->addLayout(ligne);
+    page->addWidget(construireGraphique(m_ensemble, QStringLiteral("Ensemble")), 1);
+    return zone;
 }
 
-/// Each chart is drawn when it is first looked at.
+void Stats::construireGraphiques()
+{
+    for (std::size_t i = 0; i < m_graphiques.size(); ++i)
+        m_onglets->addTab(construireGraphique(m_graphiques[i], QStringLiteral("Graphique(%1)").arg(i)), {});
+}
+
+QWidget *Stats::construireGraphique(Graphique *&graphique, const QString &nom)
+{
+    auto *defilement = new QScrollArea(m_onglets);
+    defilement->setWidgetResizable(true);
+    defilement->setFrameShape(QFrame::NoFrame);
+    defilement->setFocusPolicy(Qt::NoFocus);
+    graphique = nommer(new Graphique, nom);
+    defilement->setWidget(graphique);
+    // On panels with a texture the chart lies on it, as everything does.
+    defilement->viewport()->setAutoFillBackground(false);
+    graphique->setAutoFillBackground(false);
+    connect(
+        graphique, &Graphique::partChoisie, this, [this, trace = graphique](const Repartition::Part &part) {
+            Q_EMIT m_demandes.selection(
+                trace->donnees().titre + QStringLiteral(" : ") + part.libelle, part.albums);
+        });
+    return defilement;
+}
+
+/// Each tab is filled when it is first looked at.
 void Stats::tracer()
 {
-    const int rang = m_onglets->currentIndex() - 1;
+    const int onglet = m_onglets->currentIndex();
+    if (onglet == OngletEnsemble)
+        return compter();
+    const int rang = onglet - PremierGraphique;
     const auto i = static_cast<std::size_t>(rang);
     if (rang < 0 || m_traces[i])
         return;
     m_traces[i] = true;
     m_graphiques[i]->montrer(Repartition::Lire(static_cast<Repartition::Sujet>(rang)));
+}
+
+void Stats::compter()
+{
+    const QLocale &locale = Traduction::courant().locale();
+    const General::Totaux totaux = General::LireTotaux();
+    const QString figures[] = {locale.toString(totaux.albums), locale.toString(totaux.series),
+        locale.toString(totaux.valeur, 'f', 2) + u' ' + texte(Txt::Euro),
+        locale.toString(General::LirePretes().size())};
+    for (std::size_t i = 0; i < m_totaux.size(); ++i)
+        m_totaux[i]->setText(figures[i]);
+    m_ensemble->montrer(Repartition::Lire(Repartition::Sujet::Decennies));
 }
 
 void Stats::charger()
@@ -113,8 +169,12 @@ void Stats::Traduire()
 {
     FormeOutil::Traduire();
     poserTitre(texte(Txt::Statistiques));
-    const QString onglets[]
-        = {tr("Page"), tr("Genres"), tr("Éditeurs"), tr("Décennies"), tr("Croissance"), tr("Valeur")};
+    const QString legendes[]
+        = {texte(Txt::AlbumsDeBD), texte(Txt::Series), tr("Prix d'achat"), tr("Albums prêtés")};
+    for (std::size_t i = 0; i < m_legendes.size(); ++i)
+        m_legendes[i]->setText(legendes[i]);
+    const QString onglets[] = {tr("Vue d'ensemble"), tr("Page"), tr("Genres"), tr("Éditeurs"),
+        tr("Décennies"), tr("Croissance"), tr("Valeur")};
     for (int i = 0; i < m_onglets->count(); ++i)
         m_onglets->setTabText(i, onglets[i]);
     m_onglets->setAccessibleName(texte(Txt::Statistiques));

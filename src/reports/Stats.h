@@ -12,8 +12,8 @@ class QPushButton;
 class QTabWidget;
 class VueWeb;
 
-/// The statistics page, computed when the form opens and anew on demand; beside it charts, whose bars show their
-/// albums in the main window.
+/// The collection in figures: totals with a chart, the statistics page, computed when the form opens and anew on demand,
+/// and charts, whose bars show their albums in the main window.
 class Stats : public FormeOutil
 {
     Q_OBJECT
@@ -28,13 +28,19 @@ protected:
     void Traduire() override;
 
 private:
+    QWidget *construireTotaux();
     QWidget *construirePage();
     void construireGraphiques();
+    QWidget *construireGraphique(Graphique *&graphique, const QString &nom);
+    void compter();
     void tracer();
     void montrer(const QString &chemin);
 
     Demandes &m_demandes;
     QTabWidget *m_onglets = nullptr;
+    std::array<QLabel *, 4> m_totaux{};
+    std::array<QLabel *, 4> m_legendes{};
+    Graphique *m_ensemble = nullptr;
     std::array<Graphique *, Repartition::NombreDeSujets> m_graphiques{};
     std::array<bool, Repartition::NombreDeSujets> m_traces{}; ///< charts that show the collection as it is
     VueWeb *m_web = nullptr;

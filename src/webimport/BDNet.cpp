@@ -4,6 +4,7 @@
 #include "acts/Saisie.h"
 #include "core/Reglages.h"
 #include "core/Traduction.h"
+#include "core/ui/Fond.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
@@ -32,6 +33,7 @@ BDNet::BDNet(Demandes &demandes)
     : FormeOutil(QStringLiteral("BDNet"), TailleDessinee, Mini | Progression, Serre)
     , m_demandes(demandes)
 {
+    Fond::Tapisser(this);
     construireBarre(corps());
     construireVues(corps());
     construirePied();

@@ -173,6 +173,10 @@ private Q_SLOTS:
                 Supprimer::SupprimerEntree({tri, 1});
             });
         cas("retour", album, [](auto &) { Preter::Rendre(1); });
+        cas("pret", album, [](auto &) { Preter::PreterAlbum(1, 1); });
+        cas("emprunteur ajoute", {}, [](auto &) { Preter::AjouterEmprunteur("Elsa"); });
+        cas("emprunteur renomme", {},
+            [](auto &) { Preter::EcrireEmprunteur(1, Preter::Donnee::Prenom, "Elsa"); });
         cas("emprunteur supprime", {}, [](auto &) { Preter::SupprimerEmprunteur(1); });
         cas("creation", {Tri::Albums, 2}, [](auto &) { Saisie::CreerAlbum(nouveau()); });
         cas("importation", {}, [](auto &bac) {

@@ -58,6 +58,15 @@ private Q_SLOTS:
             [&](auto &r) { QCOMPARE(r.booleen(Cle::Loop), defauts.booleen(Cle::Loop)); });
     }
 
+    /// A comma that stands in the file as somebody wrote it there.
+    void uneVirguleEcriteALaMainEstUneDecimale()
+    {
+        const QTemporaryDir dossier;
+        const QString fichier = dossier.filePath("reglages.ini");
+        Bac::ecrire(fichier, "[Color]\nFontSize=10,5\n");
+        QCOMPARE(Reglages(fichier).nombre(Cle::FontSize), 10.5);
+    }
+
     void unIniNApporteQueLesClesConnues()
     {
         Bac bac;

@@ -66,7 +66,9 @@ private Q_SLOTS:
     {
         auto [gardees, perimees] = essai<QStringList, QStringList>();
         QList<Sauvegardes::Sauvegarde> sauvegardes;
-        for (const QString &date : gardees + perimees)
+        QStringList dates = gardees + perimees;
+        dates.sort(); // as they were made
+        for (const QString &date : std::as_const(dates))
             sauvegardes << Sauvegardes::Sauvegarde{date, instant(date), 1, -1};
         QStringList parties = Sauvegardes::ADetruire(sauvegardes, instant("2026-11-21 18-05-12"));
         parties.sort();
@@ -104,6 +106,32 @@ private Q_SLOTS:
         const Bac vierge; // of an empty collection there is nothing to keep, the first hour
         Bac::agir("INSERT INTO Genre VALUES (1, 'a')");
         QVERIFY(Sauvegardes::Lister().isEmpty());
+    }
+
+    /// A year ahead for one write, then back: nothing is lost, and what was made last is the newest.
+    void uneHorlogeQuiSauteNeCoutePasLesCopies()
+    {
+        Etabli e;
+        constexpr int Jours = 14;
+        for (int jour = 0; jour < Jours; ++jour, e.heure = e.heure.addDays(1))
+            e.ecrire();
+        const QDateTime juste = e.heure;
+        const auto autreSeance = [&](const QDateTime &heure) {
+            e.suivi = {};
+            e.suivi.maintenant = [&e] { return e.heure; };
+            e.heure = heure;
+            e.ecrire();
+        };
+        autreSeance(juste.addYears(1));
+        QCOMPARE(e.copies().size(), Jours - 1); // one made, two gone at most
+        autreSeance(juste);
+        QCOMPARE(e.copies().size(), Jours);
+        const QString derniere = QStringLiteral("bd %1.bd").arg(juste.toString("yyyy-MM-dd HH-mm-ss"));
+        QCOMPARE(QFileInfo(Sauvegardes::DerniereSaine()).fileName(), derniere);
+        QVERIFY(Sauvegardes::Lister()[1].date > e.heure);
+        // The list of what was made is lost: a date to come says nothing.
+        QVERIFY(QFile::remove(e.bac.chemin("sauvegardes/liste.txt")));
+        QCOMPARE(QFileInfo(Sauvegardes::DerniereSaine()).fileName(), derniere);
     }
 
     void laCopieEstLaBaseDAvantLEcriture()

@@ -31,6 +31,16 @@ private:
         fond->render(&image, {}, {}, QWidget::RenderFlags());
         return image;
     }
+    static int nuances(const QImage &image)
+    {
+        int clair = 0;
+        int sombre = 255;
+        for (int x = 0; x < image.width(); ++x) {
+            clair = std::max(clair, image.pixelColor(x, 20).lightness());
+            sombre = std::min(sombre, image.pixelColor(x, 20).lightness());
+        }
+        return clair - sombre;
+    }
     /// Answers the colour dialog that the button opens.
     void choisirCouleur(const QColor &couleur, bool prise)
     {
@@ -71,14 +81,43 @@ private Q_SLOTS:
             QVERIFY2(trouver<QWidget>(nom)->font().italic(), nom);
             QCOMPARE(trouver<QWidget>(nom)->palette().color(QPalette::Text), QColor(10, 20, 200));
         }
-        // Dark windows at once, and the theme's own colour again.
-        trouver<QComboBox>("Theme", "Polices")->setCurrentIndex(2);
+        // The theme's own colour again; then dark windows at once, and nothing of the page behind.
         cliquer("SansCouleur", "Polices");
         cliquer("Valider", "Polices");
-        QVERIFY(Theme::EstSombre(QApplication::palette()));
         QCOMPARE(s.bac.reglages.entier(Cle::Forecolor), 0);
+        prendreTaille("20");
+        Q_EMIT s.demandes().forme(Forme::Nom::Apparence);
+        QVERIFY(!visible("Polices"));
+        trouver<QComboBox>("Theme", "Apparence")->setCurrentIndex(2);
+        cliquer("Valider", "Apparence");
+        QVERIFY(Theme::EstSombre(QApplication::palette()));
+        QCOMPARE(s.bac.reglages.nombre(Cle::FontSize), 16.0);
         s.bac.reglages.ecrire(Cle::Theme, 1);
         Habillage::Relire(); // for those that follow
+        // A size that somebody wrote by hand can be read, and changed back.
+        for (const auto &[ecrite, prise] : {std::pair(QString("300"), 28.0), {"0", 6.0}, {"10,5", 10.5}}) {
+            s.bac.reglages.ecrire(Cle::FontSize, ecrite);
+            QCOMPARE(Theme::PoliceChoisie().pointSizeF(), prise);
+        }
+    }
+
+    void uneTextureVaSousLesFormes()
+    {
+        using enum Forme::Nom;
+        Ouverte s;
+        for (const auto &[nom, forme] :
+            {std::pair(Manuelle, "Manuelle"), {Facile, "Facile"}, {BDNet, "BDNet"}, {Pret, "Pret"},
+                {Recherche, "Recherche"}, {Stats, "Stats"}, {Impression, "Impression"}}) {
+            QImage coins[2];
+            for (const int texture : {0, 1}) {
+                s.bac.reglages.ecrire(Cle::Splash, texture);
+                Q_EMIT s.demandes().forme(nom);
+                QTRY_VERIFY(visible(forme));
+                coins[texture] = fenetre(forme)->grab({0, 0, 12, 12}).toImage();
+                fenetre(forme)->hide();
+            }
+            QVERIFY2(coins[0] != coins[1], forme);
+        }
     }
 
     void uneTextureSeChoisitEtSAjoute()
@@ -95,6 +134,15 @@ private Q_SLOTS:
         cliquer("Valider", "Textures");
         QCOMPARE(s.bac.reglages.texte(Cle::FondScreen), fond + "Lin.jpg");
         QVERIFY(bureau() != nu);
+        s.bac.reglages.ecrire(Cle::Theme, 2); // in the dark it is seen, too
+        Habillage::Relire();
+        QVERIFY2(nuances(bureau()) > 5, qPrintable(QString::number(nuances(bureau()))));
+        s.bac.reglages.ecrire(Cle::Theme, 1);
+        Habillage::Relire();
+        // The folder was moved, and the name written in other letters.
+        s.bac.reglages.ecrire(Cle::FondScreen, QString("/ailleurs/Fond Ecran/LIN.JPG"));
+        s.bac.reglages.ecrire(Cle::RepFondScreen, QString("/ailleurs/Fond Ecran"));
+        QCOMPARE(Fonds::CheminChoisi(), fond + "Lin.jpg");
 
         // One's own, with dots in its name and under one that exists; and a file that is no picture.
         for (const char *nom : {"ma.belle.jpg", "Lin.jpg"})

@@ -61,6 +61,11 @@ private Q_SLOTS:
         QCOMPARE(Bac::toutLire(), avant);
         QCOMPARE(s.boites.textes.last(), texte(Txt::RestaurationEffectuee));
         QTRY_COMPARE(liste->topLevelItemCount(), 3);
+        const QString date = liste->topLevelItem(0)->text(0);
+        Q_EMIT s.demandes().langue("English.lng");
+        QTRY_VERIFY(liste->topLevelItem(0)->text(0) != date);
+        Q_EMIT s.demandes().langue(QString::fromUtf8("Français.lng"));
+        QTRY_COMPARE(liste->topLevelItem(0)->text(0), date);
         QTRY_COMPARE(changes(), 0);
         QVERIFY(!trouver<QWidget>("Defaire")->isEnabled());
 

@@ -100,7 +100,9 @@ private Q_SLOTS:
         auto *liste = trouver<QAbstractItemView>("Liste");
         const int tous = liste->model()->rowCount();
         ouvrir("Menu(3)", "Outils(0)", "Stats");
-        trouver<QTabWidget>("Onglets", "Stats")->setCurrentIndex(1);
+        QTRY_COMPARE(trouver<QLabel>("Total(0)", "Stats")->text(), QString::number(tous));
+        QVERIFY(!trouver<QWidget>("Ensemble", "Stats")->accessibleName().isEmpty());
+        trouver<QTabWidget>("Onglets", "Stats")->setCurrentIndex(2);
         auto *genres = trouver<QWidget>("Graphique(0)", "Stats");
         QTRY_VERIFY(!genres->accessibleName().isEmpty());
         QTest::keyClick(genres, Qt::Key_Down);

@@ -167,14 +167,14 @@ private Q_SLOTS:
                     hors << lui;
                 if (!atteints.contains(w))
                     continue;
-                forme->setFocus();
+                forme->window()->setFocus();
                 const QImage sans = w->grab().toImage();
                 w->setFocus(Qt::TabFocusReason);
                 if (w->hasFocus() && w->grab().toImage() == sans)
                     muets << lui;
             }
             if (nom != "Frmmain")
-                forme->close();
+                forme->window()->close();
         }
         QVERIFY2(anonymes.isEmpty(), qPrintable(anonymes.join(u'\n')));
         QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
@@ -244,7 +244,7 @@ private Q_SLOTS:
                 if (!QTest::qWaitFor([&] { return coupeesDans(forme).isEmpty(); }, 2000))
                     coupees << langue << coupeesDans(forme);
                 if (nom != "Frmmain")
-                    forme->close();
+                    forme->window()->close();
             }
         }
         QVERIFY2(coupees.isEmpty(), qPrintable(coupees.join(u'\n')));

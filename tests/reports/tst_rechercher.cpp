@@ -50,6 +50,15 @@ private Q_SLOTS:
         }
         for (const char *cherche : {"", "cham"})
             cas(3, cherche, "3", "3");
+        // Of one name, they are told apart as in their lists.
+        Bac::executer(
+            "INSERT INTO PresseBD(NPressBD, Nom, NPresseBD) VALUES (2, 'Le Mousse', 7), (3, 'Le Mousse', 8)");
+        for (const auto &[tri, texte] : {std::pair(Tri::Presse, "mousse"), {Tri::Dessinateurs, ""}}) {
+            const Entrees trouvees = Rechercher::Chercher(tri, texte, Rechercher::Mode::Partout);
+            QCOMPARE(trouvees.size(), 2);
+            for (int i = 0; i < trouvees.size(); ++i)
+                QCOMPARE(trouvees.texte(i), LireTexte(tri, trouvees.id(i)));
+        }
     }
 };
 

@@ -22,18 +22,24 @@
 /// What a hand does with the forms, worked by object names.
 struct Gestes
 {
+    /// A form, or the page of one that bears the name.
     static QWidget *fenetre(const char *nom)
     {
+        QWidget *page = nullptr;
         for (QWidget *candidate : QApplication::topLevelWidgets()) {
             if (candidate->objectName() == QLatin1String(nom))
                 return candidate;
+            if (!page)
+                page = candidate->findChild<QWidget *>(QLatin1String(nom));
         }
-        return nullptr;
+        return page;
     }
+    /// A control of a form; of a page also what its form has for all pages.
     template <class T>
     static T *trouver(const char *nom, const char *forme = "Frmmain")
     {
-        return fenetre(forme)->findChild<T *>(QLatin1String(nom));
+        auto *controle = fenetre(forme)->findChild<T *>(QLatin1String(nom));
+        return controle ? controle : fenetre(forme)->window()->findChild<T *>(QLatin1String(nom));
     }
     static bool visible(const char *forme) { return fenetre(forme) && fenetre(forme)->isVisible(); }
     static void cliquer(const char *nom, const char *forme = "Frmmain")

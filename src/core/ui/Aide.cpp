@@ -24,8 +24,6 @@ QString pageDe(const QString &forme)
         {QStringLiteral("Pret"), QStringLiteral("prets.htm")},
         {QStringLiteral("Acquisition"), QStringLiteral("images.htm")},
         {QStringLiteral("Stats"), QStringLiteral("statistiques.htm")},
-        {QStringLiteral("Polices"), QStringLiteral("apparence.htm")},
-        {QStringLiteral("Textures"), QStringLiteral("apparence.htm")},
         {QStringLiteral("Restauration"), QStringLiteral("sauvegardes.htm")},
         {QStringLiteral("Import"), QStringLiteral("anciennes.htm")},
     };

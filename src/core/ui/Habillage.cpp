@@ -3,7 +3,6 @@
 #include "core/Reglages.h"
 #include "core/ui/Clarte.h"
 #include "core/ui/Style.h"
-#include "core/ui/Theme.h"
 
 #include <QApplication>
 
@@ -83,10 +82,14 @@ void Habillage::Appliquer(QApplication &application)
     Relire();
 }
 
-void Habillage::Relire()
+QPalette Habillage::PaletteDe(Theme::Choix choix)
 {
-    const auto choix = static_cast<Theme::Choix>(Reglages::courant().entier(Cle::Theme));
     const bool nuit
         = choix == Theme::Choix::Sombre || (choix != Theme::Choix::Clair && clarte() && clarte()->sombre());
-    QApplication::setPalette(nuit ? sombre() : clair());
+    return nuit ? sombre() : clair();
+}
+
+void Habillage::Relire()
+{
+    QApplication::setPalette(PaletteDe(static_cast<Theme::Choix>(Reglages::courant().entier(Cle::Theme))));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/ui/Theme.h"
+
 class QApplication;
 
 /// The look that the whole program wears: style, font and palette, light or dark.
@@ -9,5 +11,7 @@ namespace Habillage {
 void Appliquer(QApplication &application);
 /// Takes the colours anew, after the setting changed.
 void Relire();
+/// The colours that come with a choice.
+QPalette PaletteDe(Theme::Choix choix);
 
 }

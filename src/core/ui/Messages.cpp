@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -46,6 +47,32 @@ bool choisir(QWidget *parent, QMessageBox::Icon icone, const QString &texte, QMe
 QString prochainFichier()
 {
     return doublure()->fichiers.isEmpty() ? QString() : doublure()->fichiers.dequeue();
+}
+
+/// The suffixes that filters name, "*.bmp;*.png" gives two.
+QStringList suffixesDe(const QString &filtres)
+{
+    const QStringList parties = filtres.split(u'|');
+    QStringList suffixes;
+    for (qsizetype i = 1; i < parties.size(); i += 2) {
+        for (const QString &motif : parties[i].split(u';'))
+            suffixes << motif.section(u'.', -1).trimmed().toLower();
+    }
+    return suffixes;
+}
+
+/// Gives the name the first suffix when it has none; when there is but one, also when it has another, since no filter
+/// would list it again. The dialog asked about the name as it was typed.
+QString completer(QWidget *parent, const QString &chemin, const QString &filtres)
+{
+    const QStringList suffixes = suffixesDe(filtres);
+    const QString sien = QFileInfo(chemin).suffix().toLower();
+    if (chemin.isEmpty() || suffixes.contains(sien) || (suffixes.size() > 1 && !sien.isEmpty()))
+        return chemin;
+    const QString complet = chemin + u'.' + suffixes.value(0);
+    const QString question = QCoreApplication::translate("Impression", "« %1 » existe déjà. Le remplacer ?")
+                                 .arg(QFileInfo(complet).fileName());
+    return QFileInfo::exists(complet) && !Messages::Demander(parent, question) ? QString() : complet;
 }
 
 }
@@ -102,9 +129,10 @@ QString Messages::OuvrirFichier(
 QString Messages::EnregistrerFichier(
     QWidget *parent, const QString &titre, const QString &dossier, const QString &filtres)
 {
-    if (doublure())
-        return prochainFichier();
-    return QFileDialog::getSaveFileName(parent, titre, dossier, Filtres(filtres));
+    return completer(parent,
+        doublure() ? prochainFichier()
+                   : QFileDialog::getSaveFileName(parent, titre, dossier, Filtres(filtres)),
+        filtres);
 }
 
 QString Messages::Filtres(const QString &paires)

@@ -21,7 +21,8 @@ void Signaler(const Error &erreur);
 bool Reessayer(QWidget *parent, const QString &texte);
 
 /// Path chosen for opening or saving; empty when the user gave up. `filtres` is as the language table gives
-/// it: description and pattern in turn, separated by "|".
+/// it: description and pattern in turn, separated by "|". A name for saving without a suffix gets the first of theirs,
+/// and any name the one suffix where there is but one.
 QString OuvrirFichier(QWidget *parent, const QString &titre, const QString &dossier, const QString &filtres);
 QString EnregistrerFichier(
     QWidget *parent, const QString &titre, const QString &dossier, const QString &filtres);

@@ -11,6 +11,10 @@
 namespace {
 
 constexpr qreal Rayon = 5;
+constexpr qreal RayonDuFocus = 3;
+constexpr int TraitDOnglet = 3;
+/// Above and below the text of a row, together.
+constexpr int AirDUneLigne = 6;
 
 void poserCrayon(QPainter &p, const QColor &trait, const QColor &fond)
 {
@@ -108,7 +112,22 @@ void dessinerFocus(const QStyleOption &o, QPainter &p)
     p.save();
     poserCrayon(p, cadre, {});
     p.setPen(QPen(cadre, 1.5));
-    p.drawRoundedRect(interieur(o.rect), Rayon, Rayon);
+    // All of its line lies inside: rows are drawn over each other's edges.
+    p.drawRoundedRect(QRectF(o.rect).adjusted(1, 1, -1, -1), RayonDuFocus, RayonDuFocus);
+    p.restore();
+}
+
+/// The tab in front lies on paper, under a line in colour; the others on nothing.
+void dessinerOnglet(const QStyleOptionTab &o, QPainter &p)
+{
+    const bool devant = o.state.testFlag(QStyle::State_Selected);
+    const bool survol = o.state.testFlag(QStyle::State_MouseOver);
+    const QRect r = o.rect;
+    p.save();
+    poserCrayon(p, {}, devant ? Theme::Carte(o.palette) : survol ? Theme::Survol(o.palette) : QColor());
+    p.drawRect(r);
+    if (devant)
+        p.fillRect(r.left(), r.bottom() - TraitDOnglet + 1, r.width(), TraitDOnglet, Theme::Bleu(o.palette));
     p.restore();
 }
 
@@ -198,6 +217,8 @@ void Style::drawControl(
 {
     if (element == CE_ProgressBar)
         return dessinerProgression(*qstyleoption_cast<const QStyleOptionProgressBar *>(option), *painter);
+    if (element == CE_TabBarTabShape)
+        return dessinerOnglet(*qstyleoption_cast<const QStyleOptionTab *>(option), *painter);
     if (element == CE_PushButtonLabel && estAccentue(widget)) {
         const auto accentue = accentuer(*qstyleoption_cast<const QStyleOptionButton *>(option));
         return QProxyStyle::drawControl(element, &accentue, painter, widget);
@@ -249,6 +270,9 @@ QSize Style::sizeFromContents(
     // A caption never touches the edge of its button.
     if (type == CT_PushButton)
         taille.rwidth() += 2 * Theme::Petit;
+    // Rows are of one height everywhere, with a picture beside the text or without.
+    if (type == CT_ItemViewItem)
+        taille.setHeight(std::max(taille.height(), option->fontMetrics.height() + AirDUneLigne));
     return taille;
 }
 

@@ -3,6 +3,15 @@
 #include "core/Reglages.h"
 
 #include <QPushButton>
+#include <algorithm>
+
+namespace {
+
+/// Beyond these, in points, nothing can be read, or no control is left to change it back.
+constexpr double TailleMoindre = 6;
+constexpr double TailleExtreme = 28;
+
+}
 
 bool Theme::EstSombre(const QPalette &p)
 {
@@ -23,8 +32,7 @@ QFont Theme::PoliceChoisie()
 {
     const Reglages &reglages = Reglages::courant();
     QFont police(reglages.texte(Cle::FontName));
-    const double taille = reglages.nombre(Cle::FontSize);
-    police.setPointSizeF(taille >= 1 ? taille : 10);
+    police.setPointSizeF(std::clamp(reglages.nombre(Cle::FontSize), TailleMoindre, TailleExtreme));
     police.setBold(reglages.booleen(Cle::FontBold));
     police.setItalic(reglages.booleen(Cle::FontItalic));
     return police;

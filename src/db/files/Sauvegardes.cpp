@@ -53,7 +53,7 @@ int compterAlbums(const QString &chemin)
     }
 }
 
-/// The copies that the list names, as far as they stand there as they were made.
+/// The copies that the list names, as far as they stand there as they were made, in the order of their making.
 QList<Sauvegarde> lireListe(const QString &dossier)
 {
     QList<Sauvegarde> miennes;
@@ -98,14 +98,17 @@ QString nommer(const QString &dossier)
     return chemin;
 }
 
-void elaguer(const QDateTime &maintenant)
+/// A clock that is wrong may take many for old: what a run deletes is bounded by what it makes.
+void elaguer(Annonces::SuiviDesSauvegardes &suivi)
 {
     const QString ici = dossier();
-    const QStringList perimees = Sauvegardes::ADetruire(lireListe(ici), maintenant);
+    const QStringList perimees
+        = Sauvegardes::ADetruire(lireListe(ici), suivi.derniere).mid(0, ++suivi.retraits);
     if (perimees.isEmpty())
         return;
     for (const QString &chemin : perimees)
         QFile::remove(chemin);
+    suivi.retraits -= static_cast<int>(perimees.size());
     ecrireListe(ici, lireListe(ici));
 }
 
@@ -128,10 +131,12 @@ bool due(const Annonces::SuiviDesSauvegardes &suivi, const QDateTime &maintenant
         || suivi.derniere.secsTo(maintenant) >= Intervalle;
 }
 
-void plusRecenteDAbord(QList<Sauvegarde> &sauvegardes)
+/// Puts a copy that nobody saw being made among those that were, the newest first.
+void inserer(QList<Sauvegarde> &sauvegardes, const Sauvegarde &trouvee)
 {
-    std::stable_sort(sauvegardes.begin(), sauvegardes.end(),
-        [](const Sauvegarde &a, const Sauvegarde &b) { return a.date > b.date; });
+    const auto place = std::find_if(
+        sauvegardes.begin(), sauvegardes.end(), [&](const Sauvegarde &s) { return s.date < trouvee.date; });
+    sauvegardes.insert(place, trouvee);
 }
 
 }
@@ -145,11 +150,23 @@ QDateTime Sauvegardes::DateDe(const QString &chemin)
 
 QList<Sauvegarde> Sauvegardes::Lister()
 {
-    QList<Sauvegarde> sauvegardes;
+    QList<Sauvegarde> sauvegardes = lireListe(dossier());
+    std::reverse(sauvegardes.begin(), sauvegardes.end());
+    QSet<QString> miennes;
+    for (const Sauvegarde &s : std::as_const(sauvegardes))
+        miennes << s.chemin;
+    const QDateTime maintenant = Annonces::courant().sauvegardes.maintenant();
+    QList<Sauvegarde> aVenir;
     const auto fichiers = QDir(dossier()).entryInfoList({QStringLiteral("*.bd")}, QDir::Files);
-    for (const QFileInfo &f : fichiers)
-        sauvegardes << Sauvegarde{f.filePath(), DateDe(f.filePath()), f.size(), compterAlbums(f.filePath())};
-    plusRecenteDAbord(sauvegardes);
+    for (const QFileInfo &f : fichiers) {
+        const QDateTime date = DateDe(f.filePath());
+        // A date to come says nothing of its age.
+        if (!miennes.contains(f.filePath()))
+            inserer(date > maintenant ? aVenir : sauvegardes, {f.filePath(), date, f.size(), -1});
+    }
+    sauvegardes += aVenir;
+    for (Sauvegarde &s : sauvegardes)
+        s.albums = compterAlbums(s.chemin);
     return sauvegardes;
 }
 
@@ -182,7 +199,7 @@ void Sauvegardes::Garder(SQLite::Database &db)
     auto &suivi = Annonces::courant().sauvegardes;
     suivi.derniere = suivi.maintenant();
     Faire(db);
-    elaguer(suivi.derniere);
+    elaguer(suivi);
 }
 
 void Sauvegardes::AvantEcriture(SQLite::Database &db)
@@ -207,14 +224,15 @@ void Sauvegardes::AvantEcriture(SQLite::Database &db)
 
 QStringList Sauvegardes::ADetruire(const QList<Sauvegarde> &sauvegardes, const QDateTime &maintenant)
 {
-    QList<Sauvegarde> parAge = sauvegardes;
-    plusRecenteDAbord(parAge);
     QSet<QString> gardees;
     QStringList perimees;
-    for (const Sauvegarde &s : std::as_const(parAge)) {
-        const QString sienne = periode(s.date.date(), maintenant.date());
-        if (s.date.date() < maintenant.date() && gardees.contains(sienne))
-            perimees << s.chemin;
+    for (auto s = sauvegardes.rbegin(); s != sauvegardes.rend(); ++s) {
+        // Another clock dated it.
+        if (s->date > maintenant)
+            continue;
+        const QString sienne = periode(s->date.date(), maintenant.date());
+        if (s->date.date() < maintenant.date() && gardees.contains(sienne))
+            perimees.prepend(s->chemin);
         gardees << sienne;
     }
     return perimees;
