@@ -162,6 +162,7 @@ std::vector<Fiche::Option> Fiche::Options(const Champ &champ)
 {
     const Mots mots = motsDe(champ.vue);
     std::vector<Option> options;
+    options.reserve(mots.textes.size());
     for (int i = 0; i < static_cast<int>(mots.textes.size()); ++i)
         options.push_back({mots.premier + i, Afficher(champ, mots.premier + i)});
     return options;

@@ -92,6 +92,7 @@ QModelIndex ListeEntrees::indexDe(int id) const
 std::vector<int> ListeEntrees::visibles() const
 {
     std::vector<int> ids;
+    ids.reserve(static_cast<std::size_t>(lignesLues()));
     for (int i = 0; i < lignesLues(); ++i)
         ids.push_back(m_entrees.id(ligneDe(i)));
     return ids;

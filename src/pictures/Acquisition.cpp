@@ -356,13 +356,12 @@ void Acquisition::occuper(bool occupe)
 
 void Acquisition::keyPressEvent(QKeyEvent *evenement)
 {
-    if (m_occupee)
-        FormeOutil::keyPressEvent(evenement);
-    else if (evenement->matches(QKeySequence::Paste))
+    const bool libre = !m_occupee;
+    if (libre && evenement->matches(QKeySequence::Paste))
         coller();
-    else if (evenement->matches(QKeySequence::Open))
+    else if (libre && evenement->matches(QKeySequence::Open))
         ouvrir();
-    else if (evenement->matches(QKeySequence::Save) && !m_photo->image().isNull())
+    else if (libre && evenement->matches(QKeySequence::Save) && !m_photo->image().isNull())
         enregistrer();
     else
         FormeOutil::keyPressEvent(evenement);

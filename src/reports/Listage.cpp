@@ -173,6 +173,7 @@ bool parcourirEntrees(Tri tri, const std::vector<Colonne> &colonnes, Ordre ordre
     compte = {};
     const Base base;
     std::vector<Lecteur> lecteurs;
+    lecteurs.reserve(colonnes.size());
     for (const Colonne &colonne : colonnes)
         lecteurs.emplace_back(colonne, PremiereColonne + static_cast<int>(lecteurs.size()));
     QStringList cellules(static_cast<qsizetype>(colonnes.size()));

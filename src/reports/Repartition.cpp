@@ -175,6 +175,7 @@ std::vector<Part> repartir(const std::vector<Achat> &achats, int pas,
             part.valeurs[i] += ajoutees[i];
     }
     std::vector<Part> liste;
+    liste.reserve(parts.size() + 1);
     for (auto &[annee, part] : parts)
         liste.push_back(std::move(part));
     if (!sans.albums.empty())

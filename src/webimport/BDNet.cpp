@@ -296,7 +296,7 @@ void BDNet::revenir()
     else
         m_vues->setCurrentWidget(m_acces);
     m_acces->montrer(m_navigateur);
-    Traduire();
+    BDNet::Traduire();
     dire({});
     m_accueil->setEnabled(m_navigateur && !Reglages::courant().texte(Cle::AccueilBDNet).isEmpty());
     poserVue(false);

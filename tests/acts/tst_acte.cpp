@@ -245,7 +245,7 @@ private Q_SLOTS:
         ecoute.annonces();
         const auto annonces = ecoute.annonces().size();
         Etapes etapes(bac.annonces);
-        QVERIFY(refus([&] { geste(bac); }).has_value());
+        QVERIFY(refus([&bac, &agir = geste] { agir(bac); }).has_value());
         QCOMPARE(Bac::toutLire(), avant);
         QVERIFY(etapes.faites.empty());
         QCOMPARE(ecoute.annonces().size(), annonces);

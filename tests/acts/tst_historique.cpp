@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(e.prochaine(refaire), "b");
         const QStringList avant = Bac::toutLire();
         QSignalSpy change(e.histoire.get(), &Historique::change);
-        QCOMPARE(refus([&] { e.aller(refaire); }), Error::Sorte::Perimee);
+        QCOMPARE(refus([&e, refaire = refaire] { e.aller(refaire); }), Error::Sorte::Perimee);
         QCOMPARE(Bac::toutLire(), avant);
         QCOMPARE(e.prochaine(refaire), refaire ? "c" : "a");
         QVERIFY(!change.isEmpty()); // who shows the next step shows another one now

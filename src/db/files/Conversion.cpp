@@ -101,7 +101,7 @@ bool sontDesTextes(const QJsonArray &valeurs)
 QStringList textes(const QJsonArray &valeurs)
 {
     QStringList textes;
-    for (const QJsonValue &valeur : valeurs)
+    for (const auto &valeur : valeurs)
         textes << valeur.toString();
     return textes;
 }

@@ -20,9 +20,9 @@ using Sauvegardes::Sauvegarde;
 
 namespace {
 
-constexpr qint64 Intervalle = 60 * 60; // seconds
+constexpr qint64 Intervalle = 60LL * 60; // seconds
 constexpr qint64 JoursParJour = 14;
-constexpr qint64 JoursParSemaine = JoursParJour + 8 * 7;
+constexpr qint64 JoursParSemaine = JoursParJour + 8LL * 7;
 const QString FormeDeLaDate = QStringLiteral("yyyy-MM-dd HH-mm-ss");
 const QString EnCours = QStringLiteral("/copie en cours.tmp");
 const QString Liste = QStringLiteral("/liste.txt");

@@ -1,8 +1,6 @@
 #include "db/schema/Tables.h"
 
-using Schema::Colonne;
 using Schema::Table;
-using Schema::Type;
 
 namespace {
 
