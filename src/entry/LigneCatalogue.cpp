@@ -26,23 +26,25 @@ void LigneCatalogue::paint(QPainter *p, const QStyleOptionViewItem &option, cons
     style->drawControl(QStyle::CE_ItemViewItem, &o, p, o.widget);
     const bool choisie = o.state.testFlag(QStyle::State_Selected);
     const QRect r = o.rect.adjusted(Theme::Fin, Theme::Fin / 2, -Theme::Fin, -Theme::Fin / 2);
-    const auto ecrire
-        = [&](const QFont &font, const QColor &encre, Qt::Alignment cote, const QString &texte) {
-              p->setFont(font);
-              p->setPen(choisie ? o.palette.color(QPalette::HighlightedText) : encre);
-              p->drawText(r, int(cote) | Qt::TextSingleLine,
-                  QFontMetrics(font).elidedText(texte, Qt::ElideRight, r.width()));
-          };
+    const auto ecrire = [&](const QFont &font, const QColor &encre, Qt::Alignment cote, const QString &texte,
+                            const QString &fin) {
+        const QFontMetrics mesure(font);
+        const int place = r.width() - mesure.horizontalAdvance(fin);
+        p->setFont(font);
+        p->setPen(choisie ? o.palette.color(QPalette::HighlightedText) : encre);
+        p->drawText(r, int(cote) | Qt::TextSingleLine, mesure.elidedText(texte, Qt::ElideRight, place) + fin);
+    };
+    // A long title ends in dots; its number stands behind it all the same.
+    const qsizetype numero = std::max<qsizetype>(0, titre.lastIndexOf(QLatin1String("  (")));
     p->save();
-    ecrire(o.font, o.palette.color(QPalette::Text), Qt::AlignTop, titre);
+    ecrire(o.font, o.palette.color(QPalette::Text), Qt::AlignTop, titre.left(numero), titre.mid(numero));
     ecrire(petite(o.font), Theme::Discret(o.palette), Qt::AlignBottom,
-        index.data(ListeCatalogue::RoleSerie).toString());
+        index.data(ListeCatalogue::RoleSerie).toString(), {});
     p->restore();
 }
 
-QSize LigneCatalogue::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+/// As wide as the list is.
+QSize LigneCatalogue::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
-    const int hauteur
-        = QFontMetrics(option.font).height() + QFontMetrics(petite(option.font)).height() + Theme::Fin;
-    return {QStyledItemDelegate::sizeHint(option, index).width(), hauteur};
+    return {1, QFontMetrics(option.font).height() + QFontMetrics(petite(option.font)).height() + Theme::Fin};
 }

@@ -8,6 +8,7 @@ QVariant ListeCatalogue::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
+    case Qt::ToolTipRole:
         return Catalogue::Libelle(ligne());
     case RoleSerie:
         return Catalogue::PartieDe(ligne(), Catalogue::Partie::Serie);

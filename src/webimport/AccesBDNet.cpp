@@ -52,6 +52,7 @@ AccesBDNet::AccesBDNet(QWidget *parent)
     };
     m_hote = ajouter("Hote", m_libelleHote);
     m_accueil = ajouter("PageAccueil", m_libelleAccueil);
+    setFocusProxy(m_hote);
     m_enregistrer = nommer(new QPushButton(zone), QStringLiteral("Enregistrer"));
     grille->addWidget(m_enregistrer, grille->rowCount(), 1, Qt::AlignRight);
     connect(m_enregistrer, &QPushButton::clicked, this, &AccesBDNet::enregistrer);

@@ -131,7 +131,9 @@ void BDNet::charger()
         revenir();
     if (m_navigateur && m_adresse->text().isEmpty())
         allerAccueil();
-    m_adresse->setFocus();
+    // One begins with what is missing.
+    const bool sansHote = Reglages::courant().texte(Cle::HoteBDNet).isEmpty();
+    (sansHote && m_acces->isVisible() ? static_cast<QWidget *>(m_acces) : m_adresse)->setFocus();
 }
 
 QString BDNet::brouillon() const

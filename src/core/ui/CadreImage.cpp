@@ -68,6 +68,9 @@ void CadreImage::poserRetrait(const QString &libelle)
         m_croix->setFocusPolicy(Qt::NoFocus);
         m_croix->setFixedSize(CoteCroix, CoteCroix);
         m_croix->setCursor(Qt::ArrowCursor);
+        // Its own ground, so that it is seen on a dark picture, too.
+        m_croix->setAutoFillBackground(true);
+        m_croix->setBackgroundRole(QPalette::Base);
         m_croix->setIcon(m_retirer->icon());
         connect(m_croix, &QToolButton::clicked, m_retirer, &QAction::trigger);
     }
