@@ -190,6 +190,17 @@ private Q_SLOTS:
         QVERIFY(
             valeurs.contains(Bac::valeur("SELECT Cotes FROM CotesAlbum WHERE NAlbum = ?", {num}).toString()));
         QVERIFY(rangees(DeLaFiche({Tri::Series, 9999})).empty());
+        // A grade is its word; none is no line.
+        const auto rang = [num](Txt libelle) {
+            const auto lignes = rangees(DeLaFiche({Tri::Albums, num}));
+            const auto ligne = std::find_if(
+                lignes.begin(), lignes.end(), [&](const QStringList &l) { return l[0] == texte(libelle); });
+            return ligne == lignes.end() ? QString() : ligne->at(1);
+        };
+        for (const auto &[note, mot] : {std::pair(4, Fiche::MotDeLaNote(4)), {0, QString()}}) {
+            Bac::executer("UPDATE Album SET EtatBD = ? WHERE Num = ?", {note, num});
+            QCOMPARE(rang(Txt::EtatDeLaBD), mot);
+        }
     }
 
     void lesGraphiques()
