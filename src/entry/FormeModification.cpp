@@ -16,7 +16,7 @@ constexpr int HauteurDuCadre = 34; ///< about what a window's own frame takes ab
 
 }
 
-FormeModification::FormeModification(Demandes &demandes, const QString &nom)
+FormeModification::FormeModification(Demandes &demandes, const QString &nom, int lignes)
     : FormeOutil(nom, {}, Rien, {Serre.cotes, Serre.bords, Serre.ecart, Serre.ecartDuPied, TailleDuTitre})
     , m_demandes(demandes)
 {
@@ -25,7 +25,8 @@ FormeModification::FormeModification(Demandes &demandes, const QString &nom)
     nommer(entete(), QStringLiteral("Champ"));
     QLabel *refus = ajouterMessage(QStringLiteral("Refus"));
     refus->setTextFormat(Qt::PlainText);
-    refus->setWordWrap(false);
+    refus->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    refus->setMinimumHeight(lignes * refus->fontMetrics().lineSpacing());
     refus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_valider = ajouterAuPied(QStringLiteral("Valider"), true);
     connect(m_valider, &QPushButton::clicked, this, [this] { valider(); });

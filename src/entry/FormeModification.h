@@ -17,7 +17,8 @@ public:
     void editer(const Edition &edition);
 
 protected:
-    FormeModification(Demandes &demandes, const QString &nom);
+    /// `lignes` is how many lines the form has room for to say something in.
+    FormeModification(Demandes &demandes, const QString &nom, int lignes = 1);
 
     /// Shows what the field holds and what may be entered.
     virtual void proposer() = 0;
@@ -27,9 +28,9 @@ protected:
     void Traduire() override;
 
     const Edition &edition() const { return m_edition; }
-    /// Says in one line why nothing was written; the form stays.
+    /// Says why nothing was written; the form stays.
     void refuser(const QString &raison);
-    /// Says in the same line what validating will do.
+    /// Says in the same place what validating will do.
     void prevenir(const QString &avis);
 
     Demandes &m_demandes;

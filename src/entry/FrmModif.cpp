@@ -21,11 +21,12 @@
 namespace {
 
 constexpr QSize TailleListe(340, 300);
+constexpr int LignesDIndice = 2;
 
 }
 
 FrmModif::FrmModif(Demandes &demandes)
-    : FormeModification(demandes, QStringLiteral("FrmModif"))
+    : FormeModification(demandes, QStringLiteral("FrmModif"), LignesDIndice)
 {
     auto *ligne = new QHBoxLayout;
     m_saisie = nommer(new LigneCompletee([this](const QString &saisie) { return seulOffert(saisie); }, this),
