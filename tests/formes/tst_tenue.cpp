@@ -1,4 +1,5 @@
 #include "browse/Frmmain.h"
+#include "core/Reglages.h"
 #include "core/ui/Legende.h"
 #include "support/Seance.h"
 
@@ -10,7 +11,10 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -121,6 +125,25 @@ int manque(const QWidget *w)
         - place;
 }
 
+/// What stands beyond the edge of a sheet, and the short values that are cut.
+QStringList debordants(const QWidget &fiche)
+{
+    QStringList noms;
+    for (const QWidget *w : fiche.findChildren<QWidget *>()) {
+        if (!w->isVisible() || w->inherits("QAbstractScrollAreaScrollBarContainer")
+            || w->parentWidget()->inherits("QAbstractItemView"))
+            continue;
+        const int droite = w->mapTo(&fiche, QPoint(w->width(), 0)).x();
+        const auto *valeur = qobject_cast<const Legende *>(w);
+        const int besoin = valeur && !valeur->estVide() && valeur->text().size() <= 15
+            ? valeur->fontMetrics().horizontalAdvance(valeur->text()) + 2 * Legende::MargeLaterale
+            : 0;
+        if (droite > fiche.width() || besoin > w->width())
+            noms << QStringLiteral("%1 %2 %3 px").arg(fiche.objectName(), nomDe(w)).arg(w->width());
+    }
+    return noms;
+}
+
 /// The captions of a form that are cut, by name.
 QStringList coupeesDans(const QWidget *forme)
 {
@@ -177,6 +200,30 @@ private Q_SLOTS:
         QVERIFY2(anonymes.isEmpty(), qPrintable(anonymes.join(u'\n')));
         QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
         QVERIFY2(muets.isEmpty(), qPrintable(muets.join(u'\n')));
+    }
+
+    /// However narrow the window and large the letters, a sheet is as wide as what it stands in, with nothing beside it
+    /// and short values whole.
+    void chaqueFicheTientEnLargeur()
+    {
+        Ouverte s;
+        QStringList hors;
+        for (const auto &[taille, lettres] : {std::pair(QSize(860, 560), 10), {QSize(1280, 800), 10},
+                 {QSize(1280, 800), 18}, {QSize(1920, 1080), 10}}) {
+            s.bac.reglages.ecrire(Cle::FontSize, lettres);
+            Q_EMIT s.demandes().apparence();
+            fenetre("Frmmain")->resize(taille);
+            for (int tri = 0; tri < General::NombreDeTris; ++tri) {
+                cliquer(qPrintable(QStringLiteral("Tris(%1)").arg(tri)));
+                auto *pile = trouver<QStackedWidget>("");
+                auto *cadre = qobject_cast<QScrollArea *>(pile->parentWidget()->parentWidget());
+                QTRY_VERIFY(!cadre->horizontalScrollBar()->isVisible());
+                const auto coupes = [pile] { return debordants(*pile->currentWidget()); };
+                if (!QTest::qWaitFor([&] { return coupes().isEmpty(); }, 2000))
+                    hors << QStringLiteral("%1 %2:").arg(taille.width()).arg(lettres) << coupes();
+            }
+        }
+        QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
     }
 
     void aucuneLegendeNEstCoupee()
