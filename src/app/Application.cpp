@@ -17,6 +17,8 @@ bool Application::notify(QObject *objet, QEvent *evenement)
     try {
         return QApplication::notify(objet, evenement);
     } catch (const Error &erreur) {
+        if (erreur.sorte() == Error::Sorte::Abandonnee)
+            return true;
         // Told from the event loop, not from inside the handler that failed.
         QTimer::singleShot(0, this, [this, erreur] { dire(erreur); });
         return true;

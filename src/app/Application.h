@@ -13,6 +13,7 @@ public:
     Application(int &argc, char **argv);
 
     /// Runs every event; an Error that nobody caught becomes a message box, and the program goes on.
+    /// What the user gave up himself is not told again.
     bool notify(QObject *objet, QEvent *evenement) override;
 
 private:

@@ -11,6 +11,7 @@
 #include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Messages.h"
+#include "core/ui/Placement.h"
 #include "db/files/Reprise.h"
 #include "entry/Facile.h"
 #include "entry/FrmModif.h"
@@ -29,6 +30,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QTimer>
+#include <QWindow>
 
 using Nom = Forme::Nom;
 using General::Entree;
@@ -84,13 +86,15 @@ void Bureau::repondreAuxFiches()
     connect(&m_demandes, &Demandes::edition, this, &Bureau::editer);
     connect(
         &m_demandes, &Demandes::image, this, [this](const Edition &edition) { pop().choisirImage(edition); });
-    connect(&m_demandes, &Demandes::menu, this,
-        [this](const Edition &edition, const QPoint &point) { pop().ouvrir(edition, point); });
+    connect(&m_demandes, &Demandes::menu, this, &Bureau::ouvrirMenu);
     connect(&m_demandes, &Demandes::renommage, this,
         [this](Entree entree) { fenetre().parcours().renommerEntree(entree); });
     connect(&m_demandes, &Demandes::ajout, this,
         [this](General::Tri tri) { fenetre().parcours().ajouterEntree(tri); });
-    connect(&m_demandes, &Demandes::suppression, this, [this](Entree entree) { pop().supprimer(entree); });
+    connect(&m_demandes, &Demandes::suppression, this, [this](Entree entree) {
+        if (fenetre().parcours().estLa(entree))
+            pop().supprimer(entree);
+    });
     connect(&m_demandes, &Demandes::annulation, &m_historique, &Historique::annuler);
     connect(&m_demandes, &Demandes::retablissement, &m_historique, &Historique::refaire);
     connect(&m_demandes, &Demandes::message, this, [this](const QString &ligne) { fenetre().dire(ligne); });
@@ -202,8 +206,21 @@ void Bureau::editer(const Edition &edition)
 {
     const bool choisie = Ecrire::SourceDe(edition) || Choisir::EstUneDate(edition);
     const Nom nom = choisie ? Nom::FrmModif : Nom::FrmModif2;
-    forme<FormeModification>(nom).editer(edition);
+    auto &voulue = forme<FormeModification>(nom);
+    voulue.editer(edition);
+    // It stands by its field; one that no sheet shows has no place.
+    if (edition.place.isEmpty())
+        Placement::Centrer(voulue, fenetre());
     montrer(nom);
+}
+
+/// On an entry that is still there; whoever has found the menu needs its hint no more.
+void Bureau::ouvrirMenu(const Edition &edition, const QPoint &point)
+{
+    if (!fenetre().parcours().estLa(edition.entree))
+        return;
+    pop().ouvrir(edition, point);
+    fenetre().oublierIndice();
 }
 
 Pop &Bureau::pop()
@@ -233,12 +250,26 @@ void Bureau::montrer(Nom nom)
     if (auto *apparence = qobject_cast<Apparence *>(voulue))
         apparence->ouvrirPage(nom);
     // Shown anew, a form starts afresh; brought back from the task bar, it goes on where it was.
-    if (!voulue->isVisible())
+    if (!voulue->isVisible()) {
+        placer(nom, *voulue);
         QTimer::singleShot(0, voulue, [voulue] { voulue->charger(); });
+    }
     voulue->setWindowState(voulue->windowState() & ~Qt::WindowMinimized);
     voulue->show();
     voulue->raise();
     voulue->activateWindow();
+}
+
+/// Over the main window, whatever the desktop does with windows; those that edit a field have found their place.
+void Bureau::placer(Nom nom, Forme &voulue)
+{
+    Frmmain &principale = fenetre();
+    if (nom == Nom::Frmmain || !principale.isVisible())
+        return;
+    voulue.winId(); // a window has a handle once it is made
+    voulue.windowHandle()->setTransientParent(principale.windowHandle());
+    if (nom != Nom::FrmModif && nom != Nom::FrmModif2)
+        Placement::Centrer(voulue, principale);
 }
 
 /// From the launcher to the list that was chosen there.
@@ -344,7 +375,8 @@ void Bureau::appliquerApparence()
         forme->appliquerApparence();
 }
 
-/// The launcher comes by itself when the user wants it, and the first time of all.
+/// The launcher comes by itself when the user wants it, and the first time of all; an empty collection has its own welcome
+/// then.
 void Bureau::premierDemarrage()
 {
     Reglages &reglages = Reglages::courant();
@@ -353,8 +385,9 @@ void Bureau::premierDemarrage()
     if (voulu)
         reglages.ecrire(Cle::SplashAuto, true);
     if (premiere || voulu)
-        QTimer::singleShot(0, this, [this] {
-            montrer(Nom::Splash);
+        QTimer::singleShot(0, this, [this, premiere] {
+            if (!premiere || !fenetre().parcours().estOuvert() || !General::EstVierge())
+                montrer(Nom::Splash);
             Reglages::courant().ecrire(Cle::FirstTime, 1);
         });
     else

@@ -37,6 +37,7 @@ private:
     template <class F>
     std::unique_ptr<Forme> suivre(std::unique_ptr<F> forme);
     void montrer(Forme::Nom nom);
+    void placer(Forme::Nom nom, Forme &voulue);
 
     void repondre();
     void repondreAuxFiches();
@@ -45,6 +46,7 @@ private:
 
     /// Opens the form in which a field's value is entered or chosen.
     void editer(const Edition &edition);
+    void ouvrirMenu(const Edition &edition, const QPoint &point);
     /// The context menu, made when it is first asked for.
     Pop &pop();
     void poserEtapes();

@@ -5,7 +5,8 @@
 #include <QWidget>
 
 /// A series as a strip of its tomes: those owned, the one shown, and the holes. A click on an owned one asks
-/// for it. A long series shows the stretch around the tome shown.
+/// for it. A long series shows the stretch around the tome shown; a sign at an end that is cut says how many there are beyond,
+/// and shows them when it is clicked.
 class BandeSerie : public QWidget
 {
     Q_OBJECT
@@ -30,8 +31,15 @@ protected:
 
 private:
     QRect caseDe(int rang) const;
-    int rangSous(const QPoint &point) const;
-    void cadrer();
+    int caseSous(const QPoint &point) const;
+    int albumDe(int i) const;
+    int cachees(int i) const;
+    int parLigne() const;
+    int rangDuCourant() const;
+    void cadrer(int milieu);
+    void derouler(int sens);
+    void peindrePlace(QPainter &p, const QRectF &cadre, const InfosAlbum::Place &place) const;
+    void peindreCoupe(QPainter &p, int i) const;
 
     std::vector<InfosAlbum::Place> m_bande;
     int m_courant = 0;

@@ -6,6 +6,7 @@
 #include "core/ui/Icones.h"
 #include "core/ui/Langues.h"
 #include "core/ui/Nommer.h"
+#include "core/ui/Raccourcis.h"
 #include "core/ui/Theme.h"
 
 #include <QEvent>
@@ -38,6 +39,8 @@ constexpr std::array<Commande, 7> Commandes{
     Commande{"web", std::nullopt, false, Txt::SiteWeb, Txt::SiteWeb},
     Commande{"apropos", std::nullopt, true, Txt::AProposDe, Txt::APropos},
 };
+/// A narrower row keeps its words for the menu.
+constexpr int LargeurAisee = 1000;
 constexpr int Lanceur = 0;
 constexpr int Aide = 4;
 constexpr int Web = 5;
@@ -50,6 +53,14 @@ QString libelleDe(int rang)
         return Bandeau::tr("Quitter");
     const Commande &commande = Commandes[static_cast<std::size_t>(rang)];
     return commande.titre ? texte(commande.libelle) + u' ' + titre() : texte(commande.libelle);
+}
+
+QKeySequence toucheDe(int rang)
+{
+    if (rang == Quitter)
+        return Qt::CTRL | Qt::Key_Q;
+    const auto &forme = Commandes[static_cast<std::size_t>(rang)].forme;
+    return forme ? Raccourcis::De(*forme) : QKeySequence();
 }
 
 QString motDe(int rang)
@@ -156,6 +167,7 @@ void Bandeau::Traduire()
         QToolButton *bouton = m_menu[static_cast<std::size_t>(i)];
         bouton->setText(motDe(i));
         expliquer(bouton, libelleDe(i));
+        bouton->setToolTip(Raccourcis::Avec(bouton->toolTip(), toucheDe(i)));
     }
     poserEtapes(m_aAnnuler, m_aRefaire);
     libeller(m_loops, tr("Diaporama"));
@@ -196,6 +208,13 @@ bool Bandeau::eventFilter(QObject *objet, QEvent *evenement)
             entre ? titre() + u' ' + libelleDe(static_cast<int>(trouve - m_menu.begin())) : titre());
     }
     return QWidget::eventFilter(objet, evenement);
+}
+
+void Bandeau::resizeEvent(QResizeEvent *evenement)
+{
+    QWidget::resizeEvent(evenement);
+    m_loops->setToolButtonStyle(
+        width() < LargeurAisee ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
 }
 
 void Bandeau::paintEvent(QPaintEvent *)

@@ -33,6 +33,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
+    void resizeEvent(QResizeEvent *evenement) override;
     void paintEvent(QPaintEvent *) override;
 
 private:

@@ -37,7 +37,8 @@ public:
     ControleLegende(const Champ &champ, QWidget *parent)
         : Controle(champ, parent)
     {
-        widget()->poserLien(champ.vue == Vue::Lien);
+        if (champ.vue == Vue::Lien)
+            widget()->poserLien(texte(Txt::CliquerPourSiteInternet));
         connect(widget(), &Legende::actionnee, this, &ControleDeChamp::editionVoulue);
         connect(widget(), &Legende::ouvertureDemandee, this, &Liens::Ouvrir);
     }
@@ -46,7 +47,7 @@ public:
     {
         ControleDeChamp::Traduire();
         if (champ().vue == Vue::Lien)
-            widget()->setToolTip(texte(Txt::CliquerPourSiteInternet));
+            widget()->poserLien(texte(Txt::CliquerPourSiteInternet));
     }
 
 protected:

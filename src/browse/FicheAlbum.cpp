@@ -17,6 +17,10 @@
 
 namespace {
 
+/// A group that has this part of what it needs, in percent, is at ease.
+constexpr int AisanceDUnGroupe = 135;
+constexpr qreal PartDeLaHauteur = 0.5;
+constexpr int Colonnes = 3;
 constexpr int LargeursImage[] = {216, 290, 380};
 constexpr qreal ProportionImage = 4.0 / 3.0;
 constexpr int HauteurMemo = 84;
@@ -58,24 +62,46 @@ QToolButton *lienVoisin(QWidget *parent, const QString &nom, Qt::ToolButtonStyle
 FicheAlbum::FicheAlbum(Demandes &demandes, QWidget *parent)
     : FicheForme(Champs::Feuille::Album, QStringLiteral("FicheAlbum"), demandes, parent)
 {
-    auto *page = new QGridLayout(this);
-    page->setContentsMargins(0, 0, 0, 0);
-    page->setHorizontalSpacing(Theme::Grand);
-    page->setVerticalSpacing(Theme::Petit);
-    page->addWidget(construireEnTete(), 0, 0, 1, 3);
-    page->addWidget(construireCouverture(), 1, 0, 2, 1, Qt::AlignTop);
-    page->addWidget(construireColonneGauche(), 1, 1);
-    page->addWidget(construireColonneDroite(), 1, 2);
-    page->addWidget(construireMemos(), 2, 1, 1, 2);
-    page->setColumnStretch(1, 1);
-    page->setColumnStretch(2, 1);
-    page->setRowStretch(2, 1);
+    m_page = new QGridLayout(this);
+    m_page->setContentsMargins(0, 0, 0, 0);
+    m_page->setHorizontalSpacing(Theme::Grand);
+    m_page->setVerticalSpacing(Theme::Petit);
+    m_entete = construireEnTete();
+    m_couverture = construireCouverture();
+    m_groupes[0] = construireColonneGauche();
+    m_groupes[1] = construireColonneDroite();
+    m_zoneMemos = construireMemos();
 
     m_defilement.setInterval(DefilementMs);
     connect(&m_defilement, &QTimer::timeout, this, [this] { montrerFace(!m_dos); });
     FicheAlbum::Traduire();
     AppliquerPolicesFiche();
+    redisposer();
     agrandir(0);
+}
+
+void FicheAlbum::disposer(Disposition disposition)
+{
+    const bool large = disposition == Disposition::Large;
+    const bool etroite = disposition == Disposition::Etroite;
+    // Beside the cover or below it, the second group beside the first or below it, the texts below all.
+    const int colonne = etroite ? 0 : 1;
+    const int ligne = etroite ? 2 : 1;
+    const int suite = large ? ligne : ligne + 1;
+    const int reste = Colonnes - colonne;
+    m_page->addWidget(m_entete, 0, 0, 1, Colonnes);
+    m_page->addWidget(m_couverture, 1, 0, large ? 2 : etroite ? 1 : 3, etroite ? Colonnes : 1, Qt::AlignTop);
+    m_page->addWidget(m_groupes[0], ligne, colonne, 1, large ? 1 : reste);
+    m_page->addWidget(m_groupes[1], suite, large ? 2 : colonne, 1, large ? 1 : reste);
+    m_page->addWidget(m_zoneMemos, suite + 1, colonne, 1, reste);
+    for (int i = 0; i < Colonnes; ++i)
+        m_page->setColumnStretch(i, i == colonne || (large && i == 2) ? 1 : 0);
+    for (int i = 0; i <= 4; ++i)
+        m_page->setRowStretch(i, i == suite + 1 ? 1 : 0);
+    m_sousTitre->setDirection(large ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_colonneCouverture->setDirection(etroite ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_colonneCouverture->setSpacing(etroite ? Theme::Grand : Theme::Fin);
+    rangerMemos(etroite);
 }
 
 QWidget *FicheAlbum::construireEnTete()
@@ -95,8 +121,11 @@ QWidget *FicheAlbum::construireEnTete()
     m_tomeSur = nommer(new QLabel(zone), QStringLiteral("TomeSur"));
     m_tomeSur->setForegroundRole(QPalette::PlaceholderText);
 
+    m_sousTitre = new QBoxLayout(QBoxLayout::LeftToRight);
+    m_sousTitre->setContentsMargins(Theme::Fin, 0, 0, 0);
+    m_sousTitre->setSpacing(Theme::Fin);
+    lignes->addLayout(m_sousTitre);
     auto *serie = new QHBoxLayout;
-    serie->setContentsMargins(Theme::Fin, 0, 0, 0);
     serie->setSpacing(Theme::Petit);
     auto *numero = new QLabel(zone);
     numero->setObjectName(QStringLiteral("LibelleNumBD"));
@@ -110,9 +139,13 @@ QWidget *FicheAlbum::construireEnTete()
     serie->addWidget(nom);
     serie->addWidget(m_tomeSur);
     serie->addStretch(1);
-    serie->addWidget(m_precedent);
-    serie->addWidget(m_suivant);
-    lignes->addLayout(serie);
+    auto *voisins = new QHBoxLayout;
+    voisins->setSpacing(Theme::Petit);
+    voisins->addWidget(m_precedent);
+    voisins->addWidget(m_suivant);
+    voisins->addStretch(1);
+    m_sousTitre->addLayout(serie, 1);
+    m_sousTitre->addLayout(voisins);
 
     connect(m_precedent, &QToolButton::clicked, this, [this] {
         Q_EMIT m_demandes.entree({General::Tri::Albums, m_fiche.infos.precedent->num});
@@ -126,9 +159,12 @@ QWidget *FicheAlbum::construireEnTete()
 QWidget *FicheAlbum::construireCouverture()
 {
     auto *zone = new QWidget(this);
-    auto *colonne = new QVBoxLayout(zone);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(Theme::Fin);
+    m_colonneCouverture = new QBoxLayout(QBoxLayout::TopToBottom, zone);
+    m_colonneCouverture->setContentsMargins(0, 0, 0, 0);
+    m_colonneCouverture->setSpacing(Theme::Fin);
+    auto *images = new QVBoxLayout;
+    images->setSpacing(Theme::Fin);
+    m_colonneCouverture->addLayout(images);
 
     m_zoneImage = nommer(new QWidget(zone), QStringLiteral("SSResizer3"));
     auto *faces = new QStackedLayout(m_zoneImage);
@@ -137,7 +173,7 @@ QWidget *FicheAlbum::construireCouverture()
         m_faces[rang] = qobject_cast<CadreImage *>(creer(champ));
         faces->addWidget(m_faces[rang++]);
     }
-    colonne->addWidget(m_zoneImage);
+    images->addWidget(m_zoneImage);
 
     m_rectoVerso = bouton(zone, QStringLiteral("RectoVerso"), QStringLiteral("retourner"));
     m_agrandir = bouton(zone, QStringLiteral("Agrandir"), QStringLiteral("agrandir"));
@@ -147,11 +183,20 @@ QWidget *FicheAlbum::construireCouverture()
     for (QToolButton *b : {m_rectoVerso, m_agrandir, m_retrecir})
         boutons->addWidget(b);
     boutons->addStretch(1);
-    colonne->addLayout(boutons);
+    images->addLayout(boutons);
+    images->addStretch(1);
+    m_colonneCouverture->addLayout(construireSerie(), 1);
     connect(m_rectoVerso, &QToolButton::clicked, this, [this] { montrerFace(!m_dos); });
     connect(m_agrandir, &QToolButton::clicked, this, [this] { agrandir(1); });
     connect(m_retrecir, &QToolButton::clicked, this, [this] { agrandir(-1); });
+    return zone;
+}
 
+/// The grades, and the series with its holes.
+QLayout *FicheAlbum::construireSerie()
+{
+    auto *colonne = new QVBoxLayout;
+    colonne->setSpacing(Theme::Fin);
     QGridLayout *notes = ouvrirGroupe(colonne, Txt::Appreciations);
     ajouterLigne(notes, "EtatBD");
     ajouterLigne(notes, "Qualite");
@@ -159,34 +204,18 @@ QWidget *FicheAlbum::construireCouverture()
     m_titreSerie = titreDe(Txt::Serie);
     colonne->addWidget(m_titreSerie);
     colonne->addSpacing(Theme::Fin);
-    m_bande = nommer(new BandeSerie(zone), QStringLiteral("Bande"));
+    m_bande = nommer(new BandeSerie(this), QStringLiteral("Bande"));
+    marquer(m_bande);
     colonne->addWidget(m_bande);
-    m_manquants = nommer(new QLabel(zone), QStringLiteral("Manquants"));
+    m_manquants = nommer(new QLabel(this), QStringLiteral("Manquants"));
     m_manquants->setForegroundRole(QPalette::PlaceholderText);
     m_manquants->setWordWrap(true);
     colonne->addWidget(m_manquants);
+    colonne->addStretch(1);
     connect(m_bande, &BandeSerie::albumDemande, this, [this](int num) {
         Q_EMIT m_demandes.entree({General::Tri::Albums, num});
     });
-    return zone;
-}
-
-TitreGroupe *FicheAlbum::titreDe(Txt texte)
-{
-    auto *titre = new TitreGroupe(this);
-    m_titres.emplace_back(titre, texte);
-    return titre;
-}
-
-QGridLayout *FicheAlbum::ouvrirGroupe(QBoxLayout *colonne, Txt titre)
-{
-    colonne->addWidget(titreDe(titre));
-    auto *grille = new QGridLayout;
-    grille->setContentsMargins(0, Theme::Fin, 0, 0);
-    grille->setHorizontalSpacing(Theme::Petit);
-    grille->setVerticalSpacing(1);
-    colonne->addLayout(grille);
-    return grille;
+    return colonne;
 }
 
 QWidget *FicheAlbum::construireColonneGauche()
@@ -229,17 +258,23 @@ QWidget *FicheAlbum::construireColonneDroite()
 
 void FicheAlbum::construireCases(QBoxLayout *colonne)
 {
-    constexpr int Colonnes = 2;
-    auto *grille = new QGridLayout;
-    grille->setContentsMargins(0, Theme::Fin, 0, 0);
-    grille->setVerticalSpacing(3);
-    int rang = 0;
+    m_grilleDesCases = new QGridLayout;
+    m_grilleDesCases->setContentsMargins(0, Theme::Fin, 0, 0);
+    m_grilleDesCases->setVerticalSpacing(3);
     for (const char *champ :
         {"LEditionOri", "LBrochee", "LIntegral", "LSerieLim", "LHorsSerie", "LCoffret"}) {
-        grille->addWidget(creer(champ), rang / Colonnes, rang % Colonnes);
-        ++rang;
+        m_cases.push_back(creer(champ));
     }
-    colonne->addLayout(grille);
+    rangerCases(2);
+    colonne->addLayout(m_grilleDesCases);
+}
+
+void FicheAlbum::rangerCases(int colonnes)
+{
+    if (std::exchange(m_colonnesDesCases, colonnes) == colonnes)
+        return;
+    for (int i = 0; i < static_cast<int>(m_cases.size()); ++i)
+        m_grilleDesCases->addWidget(m_cases[static_cast<std::size_t>(i)], i / colonnes, i % colonnes);
 }
 
 void FicheAlbum::construireDedicaces(QBoxLayout *colonne)
@@ -306,20 +341,10 @@ Edition FicheAlbum::editionSous(const QWidget *controle) const
 
 QWidget *FicheAlbum::construireMemos()
 {
-    auto *zone = new QWidget(this);
-    auto *grille = new QGridLayout(zone);
-    grille->setContentsMargins(0, 0, 0, 0);
-    grille->setHorizontalSpacing(Theme::Grand);
-    grille->setVerticalSpacing(Theme::Fin);
-    int colonne = 0;
-    for (const auto &[champ, titre] :
-        {std::pair("Hist", Txt::Resume), std::pair("Infos", Txt::Commentaires)}) {
-        grille->addWidget(titreDe(titre), 0, colonne);
-        QWidget *memo = creer(champ);
+    QWidget *zone = creerMemos({{"Hist", Txt::Resume}, {"Infos", Txt::Commentaires}});
+    for (const auto &[titre, memo] : memos()) {
         memo->setMinimumHeight(HauteurMemo);
         memo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-        grille->addWidget(memo, 1, colonne);
-        grille->setColumnStretch(colonne++, 1);
     }
     return zone;
 }
@@ -327,8 +352,6 @@ QWidget *FicheAlbum::construireMemos()
 void FicheAlbum::Traduire()
 {
     FicheForme::Traduire();
-    for (const auto &[titre, numero] : m_titres)
-        titre->setText(texte(numero));
     findChild<QLabel *>(QStringLiteral("LibelleNumBD"))->setText(texte(Txt::NumeroAbrege));
     expliquer(m_rectoVerso, tr("Montrer l'autre face"));
     expliquer(m_agrandir, texte(Txt::AgrandirLaPhoto));
@@ -359,9 +382,9 @@ void FicheAlbum::montrer(const ChargerAlbums::FicheAlbum &fiche)
 void FicheAlbum::montrerInfos(const InfosAlbum &infos)
 {
     const bool serie = infos.possedes > 0;
-    m_tomeSur->setText(serie ? QStringLiteral("%1 / %2").arg(infos.tome).arg(infos.possedes) : QString());
-    m_tomeSur->setToolTip(
-        serie ? tr("tome %1, %n album(s) de la série", nullptr, infos.possedes).arg(infos.tome) : QString());
+    m_tomeSur->setText(serie && infos.tome > 0
+            ? tr("tome %1 · %n possédé(s)", nullptr, infos.possedes).arg(infos.tome)
+            : QString());
     QStringList manquants;
     for (const int tome : infos.manquants)
         manquants << QString::number(tome);
@@ -399,12 +422,38 @@ void FicheAlbum::agrandir(int pas)
 {
     const int derniere = static_cast<int>(std::size(LargeursImage)) - 1;
     m_taille = std::clamp(m_taille + pas, 0, derniere);
-    const int largeur = LargeursImage[m_taille];
+    redisposer();
+    poserCouverture();
+    m_agrandir->setEnabled(m_taille < derniere);
+    m_retrecir->setEnabled(m_taille > 0);
+}
+
+int FicheAlbum::largeurDesImages() const
+{
+    return LargeursImage[m_taille];
+}
+
+/// The cover takes its part of what a wide sheet does not need; in height, it leaves the grades and the series on screen.
+void FicheAlbum::poserCouverture()
+{
+    const int base = largeurDesImages();
+    const int besoin = base + 2 * (Theme::Grand + largeurDUnGroupe() * AisanceDUnGroupe / 100);
+    const int haute = static_cast<int>(window()->height() * PartDeLaHauteur / ProportionImage);
+    const int large = std::min({base + (contentsRect().width() - besoin) / 2, 2 * base, haute});
+    const int largeur = std::max(base, large);
     const QSize taille(largeur, static_cast<int>(largeur * ProportionImage));
     m_zoneImage->setFixedSize(taille);
     // The hidden face gets its size, too: its picture is decoded for it.
     for (CadreImage *face : m_faces)
         face->resize(taille);
-    m_agrandir->setEnabled(m_taille < derniere);
-    m_retrecir->setEnabled(m_taille > 0);
+}
+
+void FicheAlbum::resizeEvent(QResizeEvent *evenement)
+{
+    FicheForme::resizeEvent(evenement);
+    poserCouverture();
+    int plusLarge = 0;
+    for (const QWidget *boite : m_cases)
+        plusLarge = std::max(plusLarge, boite->sizeHint().width());
+    rangerCases(2 * plusLarge + Theme::Petit <= m_groupes[1]->width() ? 2 : 1);
 }

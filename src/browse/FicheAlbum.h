@@ -28,17 +28,20 @@ public:
 
 protected:
     void Traduire() override;
+    void disposer(Disposition disposition) override;
+    int largeurDesImages() const override;
+    void resizeEvent(QResizeEvent *evenement) override;
     Edition editionSous(const QWidget *controle) const override;
 
 private:
     QWidget *construireEnTete();
     QWidget *construireCouverture();
+    QLayout *construireSerie();
     QWidget *construireColonneGauche();
     QWidget *construireColonneDroite();
     QWidget *construireMemos();
-    TitreGroupe *titreDe(Txt texte);
-    QGridLayout *ouvrirGroupe(QBoxLayout *colonne, Txt titre);
     void construireCases(QBoxLayout *colonne);
+    void rangerCases(int colonnes);
     void construireDedicaces(QBoxLayout *colonne);
     void construireGrilles(QBoxLayout *colonne);
     Edition editionDeCellule(const GrilleFiche *grille, const Legende *cellule) const;
@@ -46,9 +49,19 @@ private:
     void montrerInfos(const InfosAlbum &infos);
     void montrerFace(bool dos);
     void agrandir(int pas);
+    void poserCouverture();
 
     ChargerAlbums::FicheAlbum m_fiche;
-    std::vector<std::pair<TitreGroupe *, Txt>> m_titres;
+    QGridLayout *m_page = nullptr;
+    QWidget *m_entete = nullptr;
+    QWidget *m_couverture = nullptr;
+    QWidget *m_groupes[2] = {};
+    QWidget *m_zoneMemos = nullptr;
+    QBoxLayout *m_sousTitre = nullptr;
+    QBoxLayout *m_colonneCouverture = nullptr;
+    QGridLayout *m_grilleDesCases = nullptr;
+    std::vector<QWidget *> m_cases;
+    int m_colonnesDesCases = 0;
     std::vector<QGridLayout *> m_gauche;
     QWidget *m_zoneImage = nullptr;
     QToolButton *m_rectoVerso = nullptr;

@@ -40,6 +40,7 @@ namespace {
 constexpr QSize TailleImage(150, 200);
 constexpr int HauteurMemo = 64;
 constexpr qreal TailleDuTitre = 1.55;
+constexpr int LigneDeLEtagere = 6;
 
 }
 
@@ -78,31 +79,53 @@ FicheEntite::FicheEntite(Feuille feuille, Demandes &demandes, QWidget *parent)
     : FicheForme(feuille, QString::fromLatin1(PlanDe(feuille).nom), demandes, parent)
     , m_plan(PlanDe(feuille))
 {
-    auto *page = new QGridLayout(this);
-    page->setContentsMargins(0, 0, 0, 0);
-    page->setHorizontalSpacing(Theme::Grand);
-    page->setVerticalSpacing(Theme::Petit);
+    m_page = new QGridLayout(this);
+    m_page->setContentsMargins(0, 0, 0, 0);
+    m_page->setHorizontalSpacing(Theme::Grand);
+    m_page->setVerticalSpacing(Theme::Petit);
     m_genre = nommer(new TitreGroupe(this), QStringLiteral("GenreEntree"));
-    page->addWidget(m_genre, 0, 0, 1, 2);
-    page->addWidget(creer(m_plan.titre), 1, 0, 1, 2);
+    m_page->addWidget(m_genre, 0, 0, 1, 2);
+    m_page->addWidget(creer(m_plan.titre), 1, 0, 1, 2);
     agrandirPolice(m_plan.titre, TailleDuTitre);
     if (m_plan.images)
-        page->addWidget(construireImages(), 2, 0, 2, 1, Qt::AlignTop);
-    page->addWidget(construireGroupes(), 2, 1);
-    page->addWidget(construireMemos(), 3, 1);
+        m_images = construireImages();
+    m_groupes = construireGroupes();
+    m_zoneMemos = construireMemos();
     m_nombre = nommer(new TitreGroupe(this), QStringLiteral("NombreAlbums"));
-    page->addWidget(m_nombre, 4, 0, 1, 2);
+    m_page->addWidget(m_nombre, LigneDeLEtagere - 1, 0, 1, 2);
     m_albums = nommer(new Etagere(this), QLatin1String(m_plan.etagere ? m_plan.etagere : "Etagere"));
+    marquer(m_albums);
     constexpr int ToutLeReste = 1000;
-    page->addWidget(m_albums, 5, 0, 1, 2);
-    page->setRowStretch(5, ToutLeReste);
-    page->setRowStretch(6, 1);
-    page->setColumnStretch(1, 1);
+    m_page->addWidget(m_albums, LigneDeLEtagere, 0, 1, 2);
+    m_page->setRowStretch(LigneDeLEtagere, ToutLeReste);
+    m_page->setRowStretch(LigneDeLEtagere + 1, 1);
     connect(m_albums, &Etagere::albumDemande, this, [this](int num) {
         Q_EMIT m_demandes.entree({General::Tri::Albums, num});
     });
     FicheEntite::Traduire();
     AppliquerPolicesFiche();
+    redisposer();
+}
+
+void FicheEntite::disposer(Disposition disposition)
+{
+    const bool etroite = disposition == Disposition::Etroite;
+    const int colonne = etroite || !m_images ? 0 : 1;
+    const int ligne = etroite ? 3 : 2;
+    if (m_images)
+        m_page->addWidget(m_images, 2, 0, etroite ? 1 : 2, 1, Qt::AlignTop | Qt::AlignLeft);
+    m_page->addWidget(m_groupes, ligne, colonne, 1, 2 - colonne);
+    m_page->addWidget(m_zoneMemos, ligne + 1, colonne, 1, 2 - colonne);
+    m_page->setColumnStretch(0, colonne == 0 ? 1 : 0);
+    m_page->setColumnStretch(1, 1);
+    m_colonnes->setDirection(
+        disposition == Disposition::Large ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    rangerMemos(disposition != Disposition::Large);
+}
+
+int FicheEntite::largeurDesImages() const
+{
+    return m_images ? m_images->sizeHint().width() : 0;
 }
 
 QWidget *FicheEntite::construireImages()
@@ -118,32 +141,20 @@ QWidget *FicheEntite::construireImages()
     return zone;
 }
 
-TitreGroupe *FicheEntite::titreDe(Txt texte)
-{
-    auto *titre = new TitreGroupe(this);
-    m_titres.emplace_back(titre, texte);
-    return titre;
-}
-
 QWidget *FicheEntite::construireGroupes()
 {
     auto *zone = new QWidget(this);
-    auto *colonnes = new QHBoxLayout(zone);
-    colonnes->setContentsMargins(0, 0, 0, 0);
-    colonnes->setSpacing(Theme::Grand);
+    m_colonnes = new QBoxLayout(QBoxLayout::LeftToRight, zone);
+    m_colonnes->setContentsMargins(0, 0, 0, 0);
+    m_colonnes->setSpacing(Theme::Grand);
     for (const std::vector<Plan::Groupe> *groupes : {&m_plan.gauche, &m_plan.droite}) {
         auto *colonne = new QVBoxLayout;
         colonne->setSpacing(0);
         for (const Plan::Groupe &groupe : *groupes) {
-            colonne->addWidget(titreDe(groupe.titre));
-            auto *grille = new QGridLayout;
-            grille->setContentsMargins(0, Theme::Fin, 0, 0);
-            grille->setHorizontalSpacing(Theme::Petit);
-            grille->setVerticalSpacing(1);
+            QGridLayout *grille = ouvrirGroupe(colonne, groupe.titre);
             for (const char *champ : groupe.champs)
                 ajouterLigne(grille, champ);
             m_grilles.push_back(grille);
-            colonne->addLayout(grille);
         }
         if (groupes == &m_plan.droite && m_plan.feuille == Feuille::Auteur)
             construireMetiers(colonne);
@@ -152,7 +163,7 @@ QWidget *FicheEntite::construireGroupes()
             colonne->addWidget(creer("TypeExlibris"));
         }
         colonne->addStretch(1);
-        colonnes->addLayout(colonne, 1);
+        m_colonnes->addLayout(colonne, 1);
     }
     return zone;
 }
@@ -172,23 +183,17 @@ void FicheEntite::construireMetiers(QBoxLayout *colonne)
         });
         colonne->addWidget(m_metiers[i]);
     }
+    marquer(m_metiers[0]);
 }
 
 QWidget *FicheEntite::construireMemos()
 {
-    auto *zone = new QWidget(this);
-    auto *grille = new QGridLayout(zone);
-    grille->setContentsMargins(0, 0, 0, 0);
-    grille->setHorizontalSpacing(Theme::Grand);
-    grille->setVerticalSpacing(Theme::Fin);
-    int colonne = 0;
-    for (const Plan::Memo &memo : m_plan.memos) {
-        grille->addWidget(titreDe(memo.titre), 0, colonne);
-        QWidget *champ = creer(memo.champ);
-        champ->setFixedHeight(HauteurMemo);
-        grille->addWidget(champ, 1, colonne);
-        grille->setColumnStretch(colonne++, 1);
-    }
+    std::vector<std::pair<const char *, Txt>> voulus;
+    for (const Plan::Memo &memo : m_plan.memos)
+        voulus.emplace_back(memo.champ, memo.titre);
+    QWidget *zone = creerMemos(voulus);
+    for (const auto &[titre, memo] : memos())
+        memo->setFixedHeight(HauteurMemo);
     return zone;
 }
 
@@ -196,8 +201,6 @@ void FicheEntite::Traduire()
 {
     FicheForme::Traduire();
     m_genre->setText(texte(General::ListeDe(m_tri).bouton));
-    for (const auto &[titre, numero] : m_titres)
-        titre->setText(texte(numero));
     m_albums->setAccessibleName(texte(Txt::ListeDesAlbums));
     alignerLibelles(m_grilles);
 }

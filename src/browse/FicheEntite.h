@@ -27,6 +27,8 @@ public:
 protected:
     void Traduire() override;
     void remontrer() override;
+    void disposer(Disposition disposition) override;
+    int largeurDesImages() const override;
 
 private:
     struct Plan;
@@ -36,10 +38,13 @@ private:
     QWidget *construireGroupes();
     QWidget *construireMemos();
     void construireMetiers(QBoxLayout *colonne);
-    TitreGroupe *titreDe(Txt texte);
 
     const Plan &m_plan;
-    std::vector<std::pair<TitreGroupe *, Txt>> m_titres;
+    QGridLayout *m_page = nullptr;
+    QWidget *m_images = nullptr;
+    QWidget *m_groupes = nullptr;
+    QWidget *m_zoneMemos = nullptr;
+    QBoxLayout *m_colonnes = nullptr;
     std::vector<QGridLayout *> m_grilles;
     QLabel *m_genre = nullptr;
     QLabel *m_nombre = nullptr;

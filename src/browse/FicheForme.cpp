@@ -4,8 +4,10 @@
 #include "acts/Joindre.h"
 #include "browse/ControleDeChamp.h"
 #include "core/Traduction.h"
+#include "core/ui/Legende.h"
 #include "core/ui/Liens.h"
 #include "core/ui/Theme.h"
+#include "core/ui/TitreGroupe.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -16,6 +18,10 @@
 using namespace Champs;
 
 namespace {
+
+/// A group is wide enough where a date stands whole.
+const QString ValeurLongue = QStringLiteral("30 septembre 2025");
+constexpr int LargeurMinimale = 400;
 
 void habiller(QWidget *valeur, const QFont &police)
 {
@@ -52,6 +58,8 @@ QWidget *FicheForme::creerCadre(const char *nom)
 ControleDeChamp *FicheForme::placer(ControleDeChamp *place)
 {
     m_controles.push_back(place);
+    if (std::exchange(m_groupeOuvert, false))
+        marquer(place->controle());
     const auto edition = [this, place] { return editionDe(&place->champ(), place->controle()); };
     connect(place, &ControleDeChamp::saisie, this,
         [this, place](const QString &saisie, int visite) { ecrire(&place->champ(), saisie, visite); });
@@ -166,8 +174,131 @@ void FicheForme::ajouterLigne(QGridLayout *grille, const char *nom)
     grille->setColumnStretch(1, 1);
 }
 
+TitreGroupe *FicheForme::titreDe(Txt texte)
+{
+    auto *titre = new TitreGroupe(this);
+    m_titres.emplace_back(titre, texte);
+    m_groupeOuvert = true;
+    return titre;
+}
+
+void FicheForme::marquer(QWidget *premier)
+{
+    m_premiers.push_back(premier);
+    m_groupeOuvert = false;
+}
+
+QGridLayout *FicheForme::ouvrirGroupe(QBoxLayout *colonne, Txt titre)
+{
+    colonne->addWidget(titreDe(titre));
+    auto *grille = new QGridLayout;
+    grille->setContentsMargins(0, Theme::Fin, 0, 0);
+    grille->setHorizontalSpacing(Theme::Petit);
+    grille->setVerticalSpacing(1);
+    colonne->addLayout(grille);
+    return grille;
+}
+
+QWidget *FicheForme::creerMemos(const std::vector<std::pair<const char *, Txt>> &memos)
+{
+    auto *zone = new QWidget(this);
+    m_grilleDesMemos = new QGridLayout(zone);
+    m_grilleDesMemos->setContentsMargins(0, 0, 0, 0);
+    m_grilleDesMemos->setHorizontalSpacing(Theme::Grand);
+    m_grilleDesMemos->setVerticalSpacing(Theme::Fin);
+    for (const auto &[champ, titre] : memos) {
+        TitreGroupe *ligne = titreDe(titre);
+        m_memos.emplace_back(ligne, creer(champ));
+    }
+    rangerMemos(false);
+    return zone;
+}
+
+void FicheForme::rangerMemos(bool enColonne)
+{
+    for (int i = 0; i < static_cast<int>(m_memos.size()); ++i) {
+        const auto [titre, memo] = m_memos[static_cast<std::size_t>(i)];
+        m_grilleDesMemos->addWidget(titre, enColonne ? 2 * i : 0, enColonne ? 0 : i);
+        m_grilleDesMemos->addWidget(memo, enColonne ? 2 * i + 1 : 1, enColonne ? 0 : i);
+        m_grilleDesMemos->setColumnStretch(i, i == 0 || !enColonne ? 1 : 0);
+    }
+}
+
+int FicheForme::largeurDUnGroupe() const
+{
+    int libelle = 0;
+    for (const auto &[controle, etiquette] : m_libelles)
+        libelle = std::max(libelle, etiquette->sizeHint().width());
+    return libelle + Theme::Petit + 2 * Legende::MargeLaterale
+        + QFontMetrics(Theme::PoliceChoisie()).horizontalAdvance(ValeurLongue);
+}
+
+void FicheForme::redisposer()
+{
+    const int place = contentsRect().width();
+    const int groupe = Theme::Grand + largeurDUnGroupe();
+    const auto voulue = place >= largeurDesImages() + 2 * groupe ? Disposition::Large
+        : place >= largeurDesImages() + groupe                   ? Disposition::Moyenne
+                                                                 : Disposition::Etroite;
+    if (m_disposition == voulue)
+        return;
+    m_disposition = voulue;
+    disposer(voulue);
+}
+
+void FicheForme::resizeEvent(QResizeEvent *evenement)
+{
+    Carte::resizeEvent(evenement);
+    redisposer();
+}
+
+QSize FicheForme::minimumSizeHint() const
+{
+    return {LargeurMinimale, Carte::minimumSizeHint().height()};
+}
+
+/// What the keyboard can come to, in its order.
+std::vector<QWidget *> FicheForme::auClavier() const
+{
+    std::vector<QWidget *> tous;
+    for (QWidget *suivant = nextInFocusChain(); suivant != this; suivant = suivant->nextInFocusChain()) {
+        const bool accessible = suivant->isVisible() && suivant->isEnabled();
+        if (isAncestorOf(suivant) && accessible && suivant->focusPolicy() & Qt::TabFocus)
+            tous.push_back(suivant);
+    }
+    return tous;
+}
+
+void FicheForme::allerAuGroupe(int pas)
+{
+    const std::vector<QWidget *> tous = auClavier();
+    const auto rangDe = [&tous](const QWidget *cherche) {
+        return std::find_if(tous.begin(), tous.end(),
+            [cherche](const QWidget *w) { return w == cherche || (cherche && cherche->isAncestorOf(w)); });
+    };
+    std::vector<std::vector<QWidget *>::const_iterator> debuts;
+    for (const QWidget *premier : m_premiers)
+        debuts.push_back(rangDe(premier));
+    std::erase(debuts, tous.end());
+    if (debuts.empty())
+        return;
+    std::sort(debuts.begin(), debuts.end());
+    const QWidget *la = QApplication::focusWidget();
+    const auto ici = la && isAncestorOf(la) ? rangDe(la) : tous.end();
+    const auto avant = std::lower_bound(debuts.begin(), debuts.end(), ici);
+    const auto apres = std::upper_bound(debuts.begin(), debuts.end(), ici);
+    const auto voulu = pas < 0  ? (avant == debuts.begin() ? debuts.end() : avant) - 1
+        : apres == debuts.end() ? debuts.begin()
+                                : apres;
+    (**voulu)->setFocus(Qt::TabFocusReason);
+}
+
 void FicheForme::Traduire()
 {
+    for (const auto &[titre, numero] : m_titres) {
+        titre->setText(texte(numero));
+        titre->setToolTip(tr("Groupe suivant : F6, précédent : Maj+F6"));
+    }
     for (ControleDeChamp *controle : m_controles)
         controle->Traduire();
     for (const auto &[controle, libelle] : m_libelles)
@@ -206,6 +337,8 @@ void FicheForme::AppliquerPolicesFiche()
     }
     for (QWidget *valeur : m_inscrites)
         habiller(valeur, Theme::PoliceChoisie());
+    if (m_disposition)
+        redisposer();
 }
 
 void FicheForme::agrandirPolice(const char *nom, qreal facteur)
@@ -216,6 +349,8 @@ void FicheForme::agrandirPolice(const char *nom, qreal facteur)
 void FicheForme::inscrire(QWidget *valeur)
 {
     m_inscrites.push_back(valeur);
+    if (m_groupeOuvert)
+        marquer(valeur);
     habiller(valeur, Theme::PoliceChoisie());
 }
 

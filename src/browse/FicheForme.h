@@ -5,13 +5,17 @@
 
 #include <QLabel>
 #include <map>
+#include <optional>
 #include <vector>
 
 class ControleDeChamp;
 class Demandes;
+class QBoxLayout;
 class QGridLayout;
+class TitreGroupe;
 
-/// What all sheets share: a control for each field of the table, made, captioned and filled by it.
+/// What all sheets share: a control for each field of the table, made, captioned and filled by it; groups that lie side
+/// by side or below each other, as the width allows, and that the keyboard goes through.
 class FicheForme : public Carte
 {
     Q_OBJECT
@@ -28,7 +32,23 @@ public:
     /// Gives up what waits.
     void oublierMemos();
 
+    /// Brings the keyboard to the beginning of the next group, or of the one before, around the sheet.
+    void allerAuGroupe(int pas);
+    /// Whatever lies where, a sheet does with this width.
+    QSize minimumSizeHint() const override;
+
 protected:
+    /// How the groups lie: in two columns beside the pictures, in one beside them, or in one below them.
+    enum class Disposition { Large, Moyenne, Etroite };
+    virtual void disposer(Disposition disposition) = 0;
+    /// Width of what stands beside the groups, at its smallest.
+    virtual int largeurDesImages() const = 0;
+    /// Chooses how the groups lie, by the room and the user's font; it is called when the sheet is whole.
+    void redisposer();
+    /// The width in which a group shows captions and short values whole.
+    int largeurDUnGroupe() const;
+    void resizeEvent(QResizeEvent *evenement) override;
+
     /// Takes all captions from the texts in force.
     virtual void Traduire();
     void changeEvent(QEvent *evenement) override;
@@ -44,6 +64,17 @@ protected:
     void agrandirPolice(const char *champ, qreal facteur);
     /// A value that is no field of the table takes part in the user's font and colour.
     void inscrire(QWidget *valeur);
+    /// The title of a group; the keyboard goes to what is made next.
+    TitreGroupe *titreDe(Txt texte);
+    /// The keyboard goes to this control of a group.
+    void marquer(QWidget *premier);
+    /// A group with its title: its grid, for captions and controls.
+    QGridLayout *ouvrirGroupe(QBoxLayout *colonne, Txt titre);
+    /// Texts of several lines with their titles; side by side, or below each other.
+    QWidget *creerMemos(const std::vector<std::pair<const char *, Txt>> &memos);
+    void rangerMemos(bool enColonne);
+    using MemoTitre = std::pair<TitreGroupe *, QWidget *>;
+    const std::vector<MemoTitre> &memos() const { return m_memos; }
     /// Caption and control of a field as the next row of a grid of two columns.
     void ajouterLigne(QGridLayout *grille, const char *champ);
     /// Gives the captions of several grids one width, so that their values stand in one line.
@@ -66,6 +97,7 @@ protected:
 private:
     ControleDeChamp *placer(ControleDeChamp *place);
     ControleDeChamp *controleDe(const char *champ) const;
+    std::vector<QWidget *> auClavier() const;
 
     Champs::Feuille m_feuille;
     General::Entree m_entree;
@@ -74,4 +106,10 @@ private:
     std::map<const ControleDeChamp *, QLabel *> m_libelles;
     std::map<const ControleDeChamp *, qreal> m_facteurs;
     std::vector<QWidget *> m_inscrites;
+    std::vector<std::pair<TitreGroupe *, Txt>> m_titres;
+    std::vector<QWidget *> m_premiers; ///< of each group, what the keyboard comes to
+    bool m_groupeOuvert = true; ///< the next control is the first of its group
+    QGridLayout *m_grilleDesMemos = nullptr;
+    std::vector<MemoTitre> m_memos;
+    std::optional<Disposition> m_disposition;
 };

@@ -18,6 +18,7 @@
 #include "core/ui/Liens.h"
 #include "core/ui/Messages.h"
 #include "core/ui/Nommer.h"
+#include "core/ui/Raccourcis.h"
 #include "core/ui/Theme.h"
 
 #include <QAction>
@@ -123,11 +124,15 @@ void Frmmain::raccourcis()
     if (!refaire.contains(ctrlY))
         refaire << ctrlY;
     ajouter({Qt::CTRL | Qt::Key_Q}, [this] { close(); });
-    ajouter({QKeySequence::New}, [this] { Q_EMIT m_demandes.forme(Nom::Manuelle); });
+    Raccourcis::Poser(*this, [this](Nom forme) { Q_EMIT m_demandes.forme(forme); });
     ajouter({QKeySequence::Find}, [this] { m_volet->filtrer(); });
     ajouter({QKeySequence::Undo}, [this] { annuler(); });
     ajouter(refaire, [this] { retablir(); });
-    ajouter({QKeySequence::Print}, [this] { Q_EMIT m_demandes.forme(Nom::Impression); });
+    // Through the groups of the sheet, and through the entries of the list under the same field.
+    ajouter({Qt::Key_F6}, [this] { allerAuGroupe(1); });
+    ajouter({Qt::SHIFT | Qt::Key_F6}, [this] { allerAuGroupe(-1); });
+    ajouter({Qt::CTRL | Qt::Key_PageUp}, [this] { m_parcours->avancer(-1); });
+    ajouter({Qt::CTRL | Qt::Key_PageDown}, [this] { m_parcours->avancer(1); });
     for (int i = 0; i < NombreDeTris; ++i)
         ajouter({Qt::CTRL | Qt::Key(Qt::Key_1 + i)}, [this, i] { m_parcours->montrerTri(TriDe(i)); });
 }
@@ -172,6 +177,12 @@ void Frmmain::memoriserTaille()
         QString::fromLatin1(m_partage->saveState().toBase64() + '|' + m_volet->etat().toBase64()));
 }
 
+void Frmmain::allerAuGroupe(int pas)
+{
+    if (m_fiches->allerAuGroupe(pas) && focusWidget())
+        m_defilement->ensureWidgetVisible(focusWidget(), 0, Theme::Grand);
+}
+
 void Frmmain::annuler()
 {
     m_fiches->ecrireMemos();
@@ -199,6 +210,11 @@ void Frmmain::appliquerApparence()
 void Frmmain::dire(const QString &message)
 {
     m_pied->dire(message);
+}
+
+void Frmmain::oublierIndice()
+{
+    m_pied->oublierIndice();
 }
 
 void Frmmain::poserEtapes(const QString &aAnnuler, const QString &aRefaire)

@@ -29,6 +29,8 @@ public:
 
     void appliquerApparence() override;
     void dire(const QString &message);
+    /// The user knows of the context menu from now on.
+    void oublierIndice();
     /// Titles of the steps that undo and redo would take next; empty where there is none.
     void poserEtapes(const QString &aAnnuler, const QString &aRefaire);
 
@@ -45,6 +47,7 @@ private:
     void restaurerTaille();
     void memoriserTaille();
 
+    void allerAuGroupe(int pas);
     void annuler();
     void retablir();
     void ecrirePuisFermer();

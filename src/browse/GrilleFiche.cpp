@@ -41,6 +41,13 @@ void GrilleFiche::montrer(const std::vector<std::pair<QString, QString>> &lignes
     const std::size_t voulues = lignes.size() + 1;
     while (m_cellules[0].size() < voulues)
         ajouterLigne();
+    // A line that goes leaves the keyboard to the last one.
+    for (const auto &colonne : m_cellules) {
+        for (std::size_t i = voulues; i < colonne.size(); ++i) {
+            if (colonne[i]->hasFocus())
+                colonne[voulues - 1]->setFocus();
+        }
+    }
     for (std::size_t i = 0; i < m_cellules[0].size(); ++i) {
         m_cellules[0][i]->montrer(i < lignes.size() ? lignes[i].first : QString());
         m_cellules[1][i]->montrer(i < lignes.size() ? lignes[i].second : QString());

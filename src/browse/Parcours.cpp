@@ -45,8 +45,10 @@ void Parcours::ouvrir()
 
 void Parcours::montrerTri(Tri tri)
 {
-    quitterFiche();
-    m_volet.montrer(tri);
+    enAccord([&] {
+        m_fiches.ecrireMemos();
+        m_volet.montrer(tri);
+    });
     m_ouverte = true;
     retenirTri(tri);
     m_courante = {};
@@ -109,45 +111,65 @@ void Parcours::montrerEntree(Entree entree)
         m_volet.montrer(entree.tri);
         retenirTri(entree.tri);
     }
-    if (entree.tri == m_volet.tri()) {
+    if (entree.tri == m_volet.tri())
         m_volet.montrerLigne(entree.id);
-        choisir(entree);
-        return;
-    }
-    m_volet.albums()->choisir(entree.id);
-    montrerFiche(entree);
+    choisir(entree);
 }
 
 /// An entry was chosen in a list: its sheet, and what is linked to it when the main list shows it.
 void Parcours::choisir(Entree entree)
 {
-    if (entree.tri == m_volet.tri())
-        m_volet.montrerLies(entree);
-    montrerFiche(entree);
+    enAccord([&] {
+        if (entree.tri != m_volet.tri())
+            return montrerFiche(entree);
+        VoletListes::Lies lies = VoletListes::lireLies(entree);
+        montrerFiche(entree);
+        m_volet.montrerLies(std::move(lies));
+    });
+    m_volet.accorder(m_courante);
+    if (m_courante.id == 0 && !EstDansLaListe(entree.tri, entree.id))
+        relire();
 }
 
 void Parcours::montrerFiche(Entree entree)
 {
     if (entree != m_courante)
-        quitterFiche();
+        m_fiches.ecrireMemos();
+    if (!m_fiches.montrer(entree))
+        return oublier();
     m_courante = entree;
-    if (m_fiches.montrer(entree))
-        Q_EMIT entreeMontree(entree);
-    else
-        oublier();
+    Q_EMIT entreeMontree(entree);
 }
 
-/// What was typed into the sheet's texts is written before another sheet stands in its place.
-void Parcours::quitterFiche()
+/// Where a sheet cannot be read, or a text not be written, the sheet stays, and the lists stand by it.
+void Parcours::enAccord(const std::function<void()> &geste)
 {
     try {
-        m_fiches.ecrireMemos();
+        geste();
     } catch (...) {
-        // The text stays, and the list stands by it.
-        if (m_courante.tri == m_volet.tri())
-            m_volet.liste()->choisir(m_courante.id);
+        m_volet.accorder(m_courante);
         throw;
     }
+}
+
+/// Nobody told of it, but the entry is gone: so may others be.
+void Parcours::relire()
+{
+    m_pied.dire(tr("Cette fiche n'est plus là : les listes ont été relues."));
+    actualiser({Changement()});
+}
+
+bool Parcours::estLa(Entree entree)
+{
+    if (entree.id == 0 || EstDansLaListe(entree.tri, entree.id))
+        return true;
+    relire();
+    return false;
+}
+
+bool Parcours::avancer(int pas)
+{
+    return m_volet.listeDe(m_courante)->avancer(pas);
 }
 
 /// The entry shown is gone.
@@ -191,16 +213,13 @@ void Parcours::renommer(Tri tri, int id, const QString &libelle)
 
 void Parcours::actualiser(const Changements &changements)
 {
+    const Entree parent = m_volet.lies();
     m_volet.actualiser(changements);
-    const Entree avant = m_courante;
     // Who is no longer in the list of his kind is gone from here, though his row may stay.
-    const bool parti = avant.tri == m_volet.tri() && m_volet.liste()->modele().entrees().rang(avant.id) < 0;
-    if (parti)
-        oublier();
+    if (parent.id > 0 && m_volet.lies().id == 0)
+        montrerRemplacante(m_volet.tri(), m_volet.liste()->remplacante());
     else if (m_courante.id > 0)
-        montrerFiche(m_courante);
-    if (m_courante.id == 0 && avant.id > 0 && avant.tri != m_volet.tri())
-        montrerVoisin(avant.tri);
+        remontrer();
     if (m_courante.id == 0)
         choisirCourante();
     // The first entries of a collection that was empty.
@@ -209,12 +228,22 @@ void Parcours::actualiser(const Changements &changements)
     m_pied.poserTotaux();
 }
 
-/// An entry of the lower lists is gone: the one that stands in its place is shown.
-void Parcours::montrerVoisin(Tri tri)
+/// The sheet as it is now; when its entry is gone, that of the one in its place.
+void Parcours::remontrer()
 {
-    VueListe *liste = tri == Tri::Albums ? m_volet.albums() : m_volet.presse();
-    if (const int voisin = liste->choisie())
-        montrerFiche({tri, voisin});
+    const Entree avant = m_courante;
+    const int voisine = m_volet.listeDe(avant)->remplacante();
+    montrerFiche(avant);
+    m_volet.accorder(m_courante);
+    if (m_courante.id == 0 && avant.tri != m_volet.tri())
+        montrerRemplacante(avant.tri, voisine);
+}
+
+void Parcours::montrerRemplacante(Tri tri, int id)
+{
+    oublier();
+    if (id > 0)
+        choisir({tri, id});
 }
 
 /// Shows the sheet of the entry that the main list stands on, if it stands on one.

@@ -3,6 +3,7 @@
 #include "model/General.h"
 
 #include <QObject>
+#include <functional>
 
 class Pied;
 class PileFiches;
@@ -32,6 +33,10 @@ public:
     /// Edits an entry's label in its list, or opens an empty line there for a new entry. Both throw Error.
     void renommerEntree(General::Entree entree);
     void ajouterEntree(General::Tri tri);
+    /// True when the collection still has the entry; when not, that is said and the lists are read again. Throws Error.
+    bool estLa(General::Entree entree);
+    /// Goes to a neighbour of the entry shown, in the list where it stands; the keyboard stays where it is.
+    bool avancer(int pas);
     /// Shows the collection as it is after these changes. Throws Error.
     void actualiser(const Changements &changements);
 
@@ -55,8 +60,10 @@ private:
     void ajouter(General::Tri tri, const QString &libelle);
     void choisirCourante();
     void choisirPremiere();
-    void montrerVoisin(General::Tri tri);
-    void quitterFiche();
+    void remontrer();
+    void montrerRemplacante(General::Tri tri, int id);
+    void enAccord(const std::function<void()> &geste);
+    void relire();
 
     VoletListes &m_volet;
     PileFiches &m_fiches;

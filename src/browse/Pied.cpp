@@ -1,5 +1,6 @@
 #include "browse/Pied.h"
 
+#include "core/Reglages.h"
 #include "core/Traduction.h"
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
@@ -31,6 +32,7 @@ Pied::Pied(QWidget *parent)
     m_timer.setObjectName(QStringLiteral("Timer1"));
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &Pied::changerCouleur);
+    m_anim->setVisible(!Reglages::courant().booleen(Cle::MenuVu));
 }
 
 void Pied::dire(const QString &message)
@@ -49,9 +51,17 @@ void Pied::poserTotaux()
     m_totaux->setText(parties.join(QStringLiteral(" · ")));
 }
 
+void Pied::oublierIndice()
+{
+    if (!Reglages::courant().booleen(Cle::MenuVu))
+        Reglages::courant().ecrire(Cle::MenuVu, true);
+    animer(false);
+    m_anim->hide();
+}
+
 void Pied::animer(bool actif)
 {
-    if (actif)
+    if (actif && !Reglages::courant().booleen(Cle::MenuVu))
         m_timer.start();
     else
         m_timer.stop();

@@ -19,6 +19,8 @@ public:
     void poserTotaux();
     /// Lets the hint change colour once a second, or stops it.
     void animer(bool actif);
+    /// The user has found what it tells of: it does not come again.
+    void oublierIndice();
     void Traduire();
 
 private:

@@ -5,12 +5,38 @@
 #include "browse/FicheEntite.h"
 #include "model/ChargerAlbums.h"
 
+#include <QLayout>
+
 PileFiches::PileFiches(Demandes &demandes, QWidget *parent)
     : QStackedWidget(parent)
     , m_demandes(demandes)
 {
     m_accueil = new Accueil(m_demandes, this);
     addWidget(m_accueil);
+    connect(this, &QStackedWidget::currentChanged, this, [this] { layout()->update(); });
+}
+
+QSize PileFiches::minimumSizeHint() const
+{
+    return currentWidget()->minimumSizeHint();
+}
+
+QSize PileFiches::sizeHint() const
+{
+    return currentWidget()->sizeHint();
+}
+
+int PileFiches::heightForWidth(int largeur) const
+{
+    return currentWidget()->heightForWidth(largeur);
+}
+
+bool PileFiches::allerAuGroupe(int pas)
+{
+    FicheForme *fiche = montree();
+    if (fiche)
+        fiche->allerAuGroupe(pas);
+    return fiche;
 }
 
 bool PileFiches::montrer(General::Entree entree)

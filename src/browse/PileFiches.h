@@ -31,6 +31,13 @@ public:
     void poserDefilement(bool defile);
     void appliquerPolices();
     void Traduire();
+    /// Goes through the groups of the sheet shown; false when there is none.
+    bool allerAuGroupe(int pas);
+
+    /// The room of what is shown, not of the largest.
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+    int heightForWidth(int largeur) const override;
 
 private:
     bool montrerAlbum(int num);

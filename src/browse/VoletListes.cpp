@@ -6,6 +6,7 @@
 #include "core/Traduction.h"
 #include "core/ui/Icones.h"
 #include "core/ui/Nommer.h"
+#include "core/ui/Raccourcis.h"
 #include "core/ui/Theme.h"
 
 #include <QButtonGroup>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
@@ -49,14 +51,7 @@ VoletListes::VoletListes(Demandes &demandes, QWidget *parent)
     colonne->addWidget(construireTitre());
 
     m_liste = new VueListe(QStringLiteral("Liste"), this);
-    m_vide = new QLabel(m_liste);
-    m_vide->setWordWrap(true);
-    m_vide->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_vide->setForegroundRole(QPalette::PlaceholderText);
-    m_vide->setContentsMargins(Theme::Moyen, Theme::Grand, Theme::Moyen, 0);
-    auto *surListe = new QVBoxLayout(m_liste);
-    surListe->addWidget(m_vide);
-    surListe->addStretch(1);
+    construireVide();
 
     m_partage = new QSplitter(Qt::Vertical, this);
     m_partage->addWidget(m_liste);
@@ -122,6 +117,48 @@ QWidget *VoletListes::construireTitre()
     m_selection->hide();
     colonne->addWidget(m_selection);
     return zone;
+}
+
+/// What stands in the place of the lines; a click beside its button is one into the list.
+void VoletListes::construireVide()
+{
+    m_vide = new QWidget(m_liste->viewport());
+    auto *colonne = new QVBoxLayout(m_vide);
+    colonne->setContentsMargins(Theme::Moyen, Theme::Grand, Theme::Moyen, 0);
+    colonne->setSpacing(Theme::Moyen);
+    m_raison = new QLabel(m_vide);
+    m_raison->setWordWrap(true);
+    m_raison->setTextFormat(Qt::PlainText);
+    m_raison->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_raison->setForegroundRole(QPalette::PlaceholderText);
+    colonne->addWidget(m_raison);
+    m_ajouter = nommer(new QPushButton(m_vide), QStringLiteral("Ajouter"));
+    m_ajouter->setIcon(Icones::Charger(QStringLiteral("ajouter")));
+    colonne->addWidget(m_ajouter, 0, Qt::AlignHCenter);
+    connect(m_ajouter, &QPushButton::clicked, this, [this] {
+        if (m_tri == Tri::Albums)
+            Q_EMIT m_demandes.forme(Formes::Nom::Manuelle);
+        else
+            Q_EMIT m_demandes.ajout(m_tri);
+    });
+    auto *surListe = new QVBoxLayout(m_liste->viewport());
+    surListe->setContentsMargins(0, 0, 0, 0);
+    surListe->addWidget(m_vide);
+    surListe->addStretch(1);
+}
+
+/// Why no line shows.
+QString VoletListes::raisonDuVide() const
+{
+    if (m_liste->modele().entrees().size() > 0)
+        return m_filtre->text().isEmpty() ? tr("Ces albums ne sont plus là.")
+                                          : tr("Rien ne correspond à « %1 ».").arg(m_filtre->text());
+    if (m_tri == Tri::Albums)
+        return tr("Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.");
+    // Nothing of an album makes these.
+    if (m_tri == Tri::ExLibris || m_tri == Tri::Presse)
+        return tr("Rien ici pour l'instant. Cette liste se remplit à la main, ligne par ligne.");
+    return tr("Rien ici pour l'instant. Cette liste se remplit avec les albums que vous créez.");
 }
 
 QWidget *VoletListes::construireLies()
@@ -287,28 +324,49 @@ void VoletListes::poserNombre()
     m_liste->setAccessibleName(texte(decrite.titre));
     // A collection that could not be read must not look like an empty one.
     m_vide->setVisible(m_remplie && nombre == 0);
-    m_vide->setText(entier > 0 && m_filtre->text().isEmpty() ? tr("Ces albums ne sont plus là.")
-            : entier > 0 ? tr("Rien ne correspond à « %1 ».").arg(m_filtre->text())
-            : m_tri == Tri::Albums
-            ? tr("Votre collection est encore vide. Créez un premier album, ou ouvrez le menu principal.")
-            : tr("Rien ici pour l'instant. Cette liste se remplit avec les albums que vous créez."));
+    m_raison->setText(raisonDuVide());
+    m_ajouter->setVisible(entier == 0);
+    libeller(m_ajouter, m_tri == Tri::Albums ? tr("Créer un album") : texte(Txt::Ajouter));
 }
 
 void VoletListes::viderLies()
 {
-    m_lies = {};
-    m_albums->modele().vider();
-    m_presse->modele().vider();
+    montrerLies({});
+}
+
+VoletListes::Lies VoletListes::lireLies(Entree entree)
+{
+    return {entree, LireTexte(entree.tri, entree.id), LireAlbums(entree.tri, entree.id),
+        entree.tri == Tri::Editeurs ? LirePresse(entree.id) : Entrees()};
+}
+
+void VoletListes::montrerLies(Lies lies)
+{
+    m_lies = lies.entree;
+    m_albums->remplir(Tri::Albums, std::move(lies.albums));
+    m_presse->remplir(Tri::Presse, std::move(lies.presse));
+    m_titreLies->setText(lies.titre);
     replier();
 }
 
-void VoletListes::montrerLies(Entree entree)
+/// The main list stands on the entry shown, or on the one to which what is shown belongs. One where the user has just chosen
+/// goes its way: what he chose is about to be shown.
+void VoletListes::accorder(Entree montree)
 {
-    m_lies = entree;
-    m_albums->remplir(Tri::Albums, LireAlbums(entree.tri, entree.id));
-    m_presse->remplir(Tri::Presse, entree.tri == Tri::Editeurs ? LirePresse(entree.id) : Entrees());
-    m_titreLies->setText(LireTexte(entree.tri, entree.id));
-    replier();
+    const auto poser = [](VueListe *liste, int id) {
+        if (!liste->vaAnnoncer() && liste->choisie() != id)
+            liste->choisir(id);
+    };
+    poser(m_liste, montree.tri == m_tri && montree.id > 0 ? montree.id : m_lies.id);
+    for (VueListe *liste : {m_albums, m_presse})
+        poser(liste, liste->modele().tri() == montree.tri && m_tri != montree.tri ? montree.id : 0);
+}
+
+VueListe *VoletListes::listeDe(Entree montree) const
+{
+    if (montree.tri == m_tri)
+        return m_liste;
+    return montree.tri == Tri::Albums ? m_albums : m_presse;
 }
 
 /// Shows the pane only when one of its lists holds something, and tabs only when both do.
@@ -333,13 +391,17 @@ void VoletListes::actualiser(const Changements &changements)
     if (m_lies.id > 0 && m_liste->modele().entrees().rang(m_lies.id) < 0)
         viderLies();
     else if (m_lies.id > 0)
-        montrerLies(m_lies);
+        montrerLies(lireLies(m_lies));
 }
 
 void VoletListes::Traduire()
 {
-    for (int i = 0; i < NombreDeTris; ++i)
-        expliquer(m_tris[static_cast<std::size_t>(i)], texte(ListeDe(TriDe(i)).bouton));
+    for (int i = 0; i < NombreDeTris; ++i) {
+        QToolButton *bouton = m_tris[static_cast<std::size_t>(i)];
+        expliquer(bouton, texte(ListeDe(TriDe(i)).bouton));
+        bouton->setToolTip(Raccourcis::Avec(bouton->toolTip(), Qt::CTRL | Qt::Key(Qt::Key_1 + i)));
+    }
+    m_titre->setToolTip(tr("Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv."));
     m_onglets->setTabText(0, texte(Txt::AlbumsDeBD));
     m_onglets->setTabText(1, texte(Txt::PressesBD));
     m_albums->setAccessibleName(texte(Txt::ListeDesAlbums));

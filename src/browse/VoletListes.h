@@ -9,6 +9,7 @@ class Demandes;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
+class QPushButton;
 class QSplitter;
 class QTabWidget;
 class QToolButton;
@@ -25,9 +26,25 @@ public:
 
     /// Fills the main list with a kind. Throws Error.
     void montrer(General::Tri tri);
-    /// Fills the lower lists with what is linked to an entry of the main list. Throws Error.
-    void montrerLies(General::Entree entree);
+    /// What is linked to an entry of the main list, as the lower lists show it.
+    struct Lies
+    {
+        General::Entree entree;
+        QString titre;
+        Entrees albums;
+        Entrees presse;
+    };
+    /// Reads it; no list moves yet. Throws Error.
+    static Lies lireLies(General::Entree entree);
+    void montrerLies(Lies lies);
     void viderLies();
+    /// The entry of the main list to which the lower lists belong; its number is 0 when there is none.
+    General::Entree lies() const { return m_lies; }
+    /// Lets each list stand on the entry whose sheet is shown, and on no other: a list that has it not has no current
+    /// line.
+    void accorder(General::Entree montree);
+    /// The list in which an entry that is shown stands, or would.
+    VueListe *listeDe(General::Entree montree) const;
     /// Reads the lists again after changes. Throws Error.
     void actualiser(const Changements &changements);
 
@@ -66,6 +83,8 @@ private:
     QWidget *construireTris();
     QWidget *construireTitre();
     QWidget *construireLies();
+    void construireVide();
+    QString raisonDuVide() const;
     void brancher();
     void remplir(General::Tri tri);
     void oterSelection();
@@ -91,5 +110,7 @@ private:
     QLabel *m_titreLies = nullptr;
     QLabel *m_nombreLies = nullptr;
     QTabWidget *m_onglets = nullptr;
-    QLabel *m_vide = nullptr;
+    QWidget *m_vide = nullptr; ///< on the main list, while it shows no line
+    QLabel *m_raison = nullptr;
+    QPushButton *m_ajouter = nullptr;
 };

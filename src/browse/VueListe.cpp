@@ -1,9 +1,11 @@
 #include "browse/VueListe.h"
 
 #include "core/ui/Icones.h"
+#include "core/ui/Legende.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 VueListe::VueListe(const QString &nom, QWidget *parent)
@@ -32,23 +34,43 @@ VueListe::VueListe(const QString &nom, QWidget *parent)
 void VueListe::remplir(General::Tri tri, Entrees entrees)
 {
     const bool memeListe = tri == m_modele.tri();
-    const int courante = memeListe ? choisie() : 0;
-    const int rang = memeListe ? currentIndex().row() : -1;
     const int hauteur = memeListe ? verticalScrollBar()->value() : 0;
+    const bool enVue = memeListe && estEnVue();
+    m_rang = memeListe ? currentIndex().row() : -1;
+    if (!memeListe)
+        m_retenue = 0;
     m_muette = true;
     const QString icone = QString::fromLatin1(General::ListeDe(tri).icone);
     m_modele.poserIcones(Icones::Charger(icone), Icones::AvecMarque(icone, QStringLiteral("pret")));
     m_modele.remplir(tri, std::move(entrees));
-    if (courante > 0) {
-        // Where the entry was, its successor stands now; one that a filter hides is still the one.
-        const bool partie = m_modele.entrees().rang(courante) < 0;
-        const int dernier = m_modele.rowCount() - 1;
-        setCurrentIndex(partie ? m_modele.index(std::min(rang, dernier)) : m_modele.indexDe(courante));
-        m_retenue = partie ? choisie() : courante;
-    }
+    // One that a filter hides is still the one; one that is not here any more leaves its place to nobody.
+    const QModelIndex courante = m_modele.indexDe(m_retenue);
+    setCurrentIndex(courante);
     if (memeListe)
         verticalScrollBar()->setValue(hauteur);
+    if (enVue && courante.isValid())
+        scrollTo(courante);
     m_muette = false;
+}
+
+bool VueListe::estEnVue() const
+{
+    const QModelIndex courante = currentIndex();
+    return courante.isValid() && viewport()->rect().intersects(visualRect(courante));
+}
+
+int VueListe::remplacante() const
+{
+    return m_modele.id(m_modele.index(std::min(m_rang, m_modele.rowCount() - 1)));
+}
+
+bool VueListe::avancer(int pas)
+{
+    const QModelIndex voisine = m_modele.index(currentIndex().row() + pas);
+    if (!currentIndex().isValid() || !voisine.isValid())
+        return false;
+    setCurrentIndex(voisine);
+    return true;
 }
 
 void VueListe::choisir(int id)
@@ -139,6 +161,16 @@ void VueListe::contextMenuEvent(QContextMenuEvent *evenement)
     const QPoint point
         = souris ? evenement->globalPos() : viewport()->mapToGlobal(visualRect(index).bottomLeft());
     Q_EMIT menuDemande({m_modele.tri(), m_modele.id(index)}, point);
+}
+
+/// With no line to show it, the list itself shows that the keyboard is here.
+void VueListe::paintEvent(QPaintEvent *evenement)
+{
+    QListView::paintEvent(evenement);
+    if (!hasFocus() || currentIndex().isValid())
+        return;
+    QPainter p(viewport());
+    Legende::DessinerFocus(p, *viewport());
 }
 
 void VueListe::keyPressEvent(QKeyEvent *evenement)

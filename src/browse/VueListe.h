@@ -15,11 +15,18 @@ public:
     explicit VueListe(const QString &nom, QWidget *parent = nullptr);
 
     ListeEntrees &modele() { return m_modele; }
-    /// Refills the list; the current entry and the place of the view are kept when they can be.
+    /// Refills the list; the current entry and the place of the view are kept when they can be. An entry that is not
+    /// in the list any more leaves it without a current line.
     void remplir(General::Tri tri, Entrees entrees);
     /// Makes an entry the current one and shows it, without announcing it.
     void choisir(int id);
     int choisie() const { return m_modele.id(currentIndex()); }
+    /// An entry was chosen here, and is about to be announced.
+    bool vaAnnoncer() const { return m_annonce.isActive(); }
+    /// The entry that the last filling left in the place of the one that was current; 0 when there is none.
+    int remplacante() const;
+    /// Goes to a neighbour of the current entry, as an arrow key does; false where there is none.
+    bool avancer(int pas);
     /// Shows only the lines that hold this text; the current entry comes back when its line does.
     void filtrer(const QString &texte);
     /// Shows only the lines of these entries, likewise; all of them without any.
@@ -38,14 +45,17 @@ Q_SIGNALS:
 protected:
     void contextMenuEvent(QContextMenuEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
+    void paintEvent(QPaintEvent *evenement) override;
     void currentChanged(const QModelIndex &courant, const QModelIndex &precedent) override;
     void closeEditor(QWidget *editeur, QAbstractItemDelegate::EndEditHint suite) override;
 
 private:
     void retrouver();
+    bool estEnVue() const;
 
     ListeEntrees m_modele;
     QTimer m_annonce;
     bool m_muette = false;
     int m_retenue = 0; ///< the entry that was current last, shown or not
+    int m_rang = -1; ///< where it stood before the last filling
 };

@@ -17,7 +17,8 @@ public:
         EnUsage,
         Ancienne,
         PlusRecente,
-        Perimee
+        Perimee,
+        Abandonnee ///< given up by the user, who was asked and need not be told
     };
 
     Error(Sorte sorte, const QString &quoi, const QString &surQuoi, const QString &details = {});

@@ -30,6 +30,7 @@ constexpr std::array Table{
     Reglage{Cle::Tris, "Settings", "Tris", Type::Entier, "0"},
     Reglage{Cle::FirstTime, "Settings", "FirstTime", Type::Nombre, "0"},
     Reglage{Cle::Loop, "Settings", "Loop", Type::Booleen, "Faux"},
+    Reglage{Cle::MenuVu, "Settings", "MenuVu", Type::Booleen, "Faux"},
     Reglage{Cle::FondScreen, "Settings", "FondScreen", Type::Texte, ""},
     Reglage{Cle::RepFondScreen, "Settings", "RepFondScreen", Type::Texte, ""},
     Reglage{Cle::Defilement, "Settings", "Defilement", Type::Booleen, "Faux"},

@@ -14,6 +14,7 @@ enum class Cle {
     Tris,
     FirstTime,
     Loop,
+    MenuVu,
     FondScreen,
     RepFondScreen,
     Defilement,

@@ -73,8 +73,10 @@ std::shared_ptr<Connexion> Connexion::ouvrir(const QString &chemin, Entete::Natu
             return connexion;
         } catch (const Error &e) {
             const bool enUsage = e.sorte() == Error::Sorte::EnUsage;
-            if (!enUsage || !Annonces::courant().reessayer || !Annonces::courant().reessayer(e))
+            if (!enUsage || !Annonces::courant().reessayer)
                 throw;
+            if (!Annonces::courant().reessayer(e))
+                throw Error(Error::Sorte::Abandonnee, e.message(), {});
         }
     }
 }

@@ -3,6 +3,7 @@
 #include "acts/Choisir.h"
 #include "acts/Demandes.h"
 #include "acts/Joindre.h"
+#include "acts/Preter.h"
 #include "acts/Supprimer.h"
 #include "core/Images.h"
 #include "core/Texte.h"
@@ -39,6 +40,8 @@ QString icone(const QString &commande)
         {QStringLiteral("modifimageDedi"), QStringLiteral("image-ajouter")},
         {QStringLiteral("Supphoto"), QStringLiteral("image-supprimer")},
         {QStringLiteral("suppimagededi"), QStringLiteral("image-supprimer")},
+        {QStringLiteral("preter"), QStringLiteral("prets")},
+        {QStringLiteral("rendre"), QStringLiteral("retourner")},
         {QStringLiteral("quitter"), QStringLiteral("quitter")},
     };
     return icones.value(commande);
@@ -106,8 +109,6 @@ void Pop::remplir()
         const QString liste = texte(General::ListeDe(entree.tri).bouton);
         commande("ajouter", texte(Txt::Ajouter) + QStringLiteral(": ") + liste,
             [this, entree] { Q_EMIT m_demandes.ajout(entree.tri); });
-    } else {
-        commande("ajouter", texte(Txt::Ajouter), [this] { Q_EMIT m_demandes.forme(Formes::Nom::Manuelle); });
     }
     commande("crea", texte(Txt::CreationManuelleDUnAlbum) + QStringLiteral("\tCtrl+N"),
         [this] { Q_EMIT m_demandes.forme(Formes::Nom::Manuelle); });
@@ -121,10 +122,31 @@ void Pop::remplir()
 void Pop::remplirEntree()
 {
     const General::Entree entree = m_edition.entree;
-    commande("modifie", texte(Txt::Modifier) + QStringLiteral("\tF2"),
+    commande("modifie", tr("Renommer") + QStringLiteral("\tF2"),
         [this, entree] { Q_EMIT m_demandes.renommage(entree); });
+    if (entree.tri == Tri::Albums)
+        remplirPret(entree);
+    remplirCopie(General::LireTexte(entree.tri, entree.id));
     commande("supprime", texte(Txt::Supprimer) + QLatin1Char('\t') + tr("Suppr"),
-        [this, entree] { supprimer(entree); });
+        [this, entree] { Q_EMIT m_demandes.suppression(entree); });
+}
+
+/// An album is lent, or comes back.
+void Pop::remplirPret(General::Entree album)
+{
+    const std::vector<int> pretes = General::LirePretes();
+    if (std::binary_search(pretes.begin(), pretes.end(), album.id))
+        commande("rendre", tr("Rendre"), [album] { Preter::Rendre(album.id); });
+    else
+        commande("preter", tr("Prêter…"), [this, album] {
+            Q_EMIT m_demandes.edition(Ecrire::EditionDe(album, Champs::De(Champs::Feuille::Album, "NPret")));
+        });
+}
+
+void Pop::remplirCopie(const QString &texte)
+{
+    if (!Texte::EstVide(texte))
+        commande("copier", tr("Copier"), [texte] { QApplication::clipboard()->setText(texte); });
 }
 
 void Pop::remplirValeur()
@@ -143,6 +165,8 @@ void Pop::remplirValeur()
     if (legende && !dediImage)
         commande(
             "modifier", texte(Txt::Modifier) + libelle, [this] { Q_EMIT m_demandes.edition(m_edition); });
+    if (legende && !dediImage)
+        remplirCopie(m_edition.affichee);
     if (Choisir::PeutVider(m_edition) && !dediImage)
         commande("supprimer", texte(Txt::Supprimer) + libelle, [this] { Choisir::Vider(m_edition); });
 }

@@ -28,6 +28,8 @@ private:
     QAction *commande(const char *nom, const QString &libelle, Geste geste);
     void remplir();
     void remplirEntree();
+    void remplirPret(General::Entree album);
+    void remplirCopie(const QString &texte);
     void remplirValeur();
     void remplirImage();
 

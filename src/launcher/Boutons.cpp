@@ -11,6 +11,8 @@ BoutonGroupe::BoutonGroupe(QWidget *parent)
     setCheckable(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setMinimumHeight(44);
+    // It is drawn anew when the mouse comes and goes.
+    setAttribute(Qt::WA_Hover);
 }
 
 void BoutonGroupe::paintEvent(QPaintEvent *)
@@ -19,10 +21,19 @@ void BoutonGroupe::paintEvent(QPaintEvent *)
     p.setRenderHint(QPainter::Antialiasing);
     const QColor bleu = palette().color(QPalette::Highlight);
     const QColor papier = palette().color(QPalette::HighlightedText);
-    p.setPen(hasFocus() ? QPen(papier, 1.5) : QPen(Qt::NoPen));
-    p.setBrush(isChecked() ? papier : bleu.lighter(underMouse() ? 150 : 125));
-    p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
-    p.setPen(isChecked() ? bleu : papier);
+    const bool surPapier = isChecked() || underMouse() || hasFocus();
+    p.setPen(Qt::NoPen);
+    p.setBrush(surPapier ? papier : bleu.lighter(125));
+    const QRectF r = QRectF(rect()).adjusted(1, 1, -1, -1);
+    p.drawRoundedRect(r, 6, 6);
+    if (hasFocus()) {
+        p.setPen(QPen(bleu, 1.5, Qt::DotLine));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(r.adjusted(3, 3, -3, -3), 4, 4);
+    }
+    // On paper a colour that the launcher gave shows, else the ground's own.
+    const bool donnee = testAttribute(Qt::WA_SetPalette);
+    p.setPen(surPapier && !donnee ? bleu : palette().color(QPalette::ButtonText));
     p.setFont(Theme::Taille(font(), 1, isChecked() ? QFont::Bold : QFont::Normal));
     p.drawText(rect().adjusted(Theme::Moyen, 0, -Theme::Petit, 0), Qt::AlignVCenter, text());
 }

@@ -8,6 +8,7 @@
 #include "core/ui/Icones.h"
 #include "core/ui/Liens.h"
 #include "core/ui/Nommer.h"
+#include "core/ui/Raccourcis.h"
 #include "core/ui/Theme.h"
 #include "launcher/Boutons.h"
 
@@ -15,6 +16,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -105,6 +107,7 @@ Splash::Splash(Demandes &demandes)
     , m_demandes(demandes)
 {
     setWindowIcon(Icones::Programme());
+    Raccourcis::Poser(*this, [this](Nom forme) { Q_EMIT m_demandes.forme(forme); });
     const QSize ecran = screen()->availableSize();
     setMinimumSize(TailleMinimale.boundedTo(ecran));
     resize(TailleDessinee.boundedTo(ecran));
@@ -154,6 +157,11 @@ QWidget *Splash::construireMenu()
     colonne->addStretch(1);
 
     m_auto = nommer(new QCheckBox(zone), QStringLiteral("SphashAuto"));
+    // Its box is paper with a blue tick: blue with a white one would be lost on this ground.
+    QPalette boite = claire;
+    boite.setColor(QPalette::Highlight, claire.color(QPalette::HighlightedText));
+    boite.setColor(QPalette::HighlightedText, claire.color(QPalette::Highlight));
+    m_auto->setPalette(boite);
     colonne->addWidget(m_auto);
     connect(m_auto, &QCheckBox::clicked, this,
         [](bool coche) { Reglages::courant().ecrire(Cle::SplashAuto, coche); });
@@ -247,7 +255,8 @@ void Splash::construireOutils(QGridLayout *page, const QString &nom, std::span<c
     for (const Outil &outil : outils) {
         auto *bouton = ajouter(page, nom, rang++, QString::fromLatin1(outil.icone),
             {nullptr, [&outil] { return texte(outil.legende); },
-                [&outil] { return texte(outil.commentaire); }});
+                [&outil] { return texte(outil.commentaire); },
+                outil.forme ? Raccourcis::De(*outil.forme) : QKeySequence()});
         if (const auto forme = outil.forme)
             connect(bouton, &QToolButton::clicked, this, [this, forme] { Q_EMIT m_demandes.forme(*forme); });
         else
@@ -260,7 +269,7 @@ void Splash::construireImport(QGridLayout *page)
     auto *bouton = ajouter(page, QStringLiteral("Creation"), static_cast<int>(Creations.size()),
         QStringLiteral("ouvrir"),
         {nullptr, [] { return tr("Importer des albums"); },
-            [] { return tr("Créer beaucoup d'albums d'un coup, à partir d'un fichier CSV"); }});
+            [] { return tr("Créer beaucoup d'albums d'un coup, à partir d'un fichier CSV"); }, {}});
     connect(bouton, &QToolButton::clicked, this, [this] { Q_EMIT m_demandes.forme(Nom::Import); });
 }
 
@@ -271,7 +280,7 @@ void Splash::construireTris(QGridLayout *page)
         const General::Liste &liste = General::ListeDe(General::TriDe(rang));
         auto *bouton = ajouter(page, QStringLiteral("Tris"), rang, QString::fromLatin1(liste.icone),
             {nullptr, [&liste] { return texte(liste.bouton); },
-                [&liste] { return tr(" Sélectionner la liste des ") + texte(liste.bouton); }});
+                [&liste] { return tr(" Sélectionner la liste des ") + texte(liste.bouton); }, {}});
         bouton->setCheckable(true);
         m_tris->addButton(bouton, rang);
     }
@@ -282,7 +291,7 @@ void Splash::construireTris(QGridLayout *page)
 void Splash::construireLiens(QGridLayout *page)
 {
     auto *bouton = ajouter(page, QStringLiteral("Liens"), 0, QStringLiteral("liens"),
-        {nullptr, [] { return texte(Txt::SiteWeb); }, [] { return texte(Txt::VisitezLeSiteDeLAuteur); }});
+        {nullptr, [] { return texte(Txt::SiteWeb); }, [] { return texte(Txt::VisitezLeSiteDeLAuteur); }, {}});
     bouton->setObjectName(QStringLiteral("Liens"));
     connect(bouton, &QToolButton::clicked, this, [] { Liens::Ouvrir(Reglages::courant().texte(Cle::Site)); });
 }
@@ -290,6 +299,9 @@ void Splash::construireLiens(QGridLayout *page)
 void Splash::ouvrirGroupe(int groupe)
 {
     m_menu->button(groupe)->setChecked(true);
+    // The keyboard goes on from the group that is shown.
+    if (isVisible())
+        m_menu->button(groupe)->setFocus();
     m_pages->setCurrentIndex(groupe);
     m_titreGroupe->setText(texte(Groupes[static_cast<std::size_t>(groupe)].titre));
 }
@@ -308,9 +320,14 @@ void Splash::Traduire()
     m_sousTitre->setText(texte(Txt::LeGestionnaireDeBDTheque));
     for (std::size_t i = 0; i < Groupes.size(); ++i)
         libeller(m_menu->button(static_cast<int>(i)), texte(Groupes[i].titre));
-    for (const Bouton &bouton : m_boutons)
-        libeller(bouton.controle, bouton.legende().simplified());
+    for (const Bouton &bouton : m_boutons) {
+        const QString legende = bouton.legende().simplified();
+        libeller(bouton.controle, legende);
+        bouton.controle->setToolTip(
+            bouton.touche.isEmpty() ? QString() : Raccourcis::Avec(legende, bouton.touche));
+    }
     libeller(m_mini, texte(Txt::Fermer));
+    libeller(m_quit, tr("Voir la liste"));
     expliquer(m_quit, texte(Txt::AccederAuMenuPrincipal) + u' ' + titre());
     const int place = LargeurMenu - 36 - style()->pixelMetric(QStyle::PM_IndicatorWidth) - Theme::Petit;
     m_auto->setText(enDeuxLignes(texte(Txt::AfficherCetEcranAuDemarrage), m_auto->fontMetrics(), place));
@@ -328,20 +345,43 @@ bool Splash::eventFilter(QObject *objet, QEvent *evenement)
     const bool entre = evenement->type() == QEvent::Enter || evenement->type() == QEvent::FocusIn;
     const bool sort = evenement->type() == QEvent::Leave || evenement->type() == QEvent::FocusOut;
     auto *bouton = qobject_cast<QAbstractButton *>(objet);
+    if (bouton && evenement->type() == QEvent::KeyPress
+        && marcher(*bouton, *static_cast<QKeyEvent *>(evenement)))
+        return true;
     if (bouton && (entre || sort))
         survoler(*bouton, entre);
     return Forme::eventFilter(objet, evenement);
 }
 
+/// Up and down among the groups: the page goes along.
+bool Splash::marcher(QAbstractButton &bouton, const QKeyEvent &touche)
+{
+    const int pas = touche.key() == Qt::Key_Down ? 1 : touche.key() == Qt::Key_Up ? -1 : 0;
+    const int groupe = m_menu->id(&bouton);
+    if (pas == 0 || groupe < 0)
+        return false;
+    const QAbstractButton *voisin = m_menu->button(groupe + pas);
+    if (voisin && !voisin->isHidden())
+        ouvrirGroupe(groupe + pas);
+    return true;
+}
+
+void Splash::showEvent(QShowEvent *evenement)
+{
+    Forme::showEvent(evenement);
+    m_menu->checkedButton()->setFocus();
+}
+
 void Splash::survoler(QAbstractButton &bouton, bool entre)
 {
     m_commentaire->setText(entre ? commentaireDuBouton(bouton) : QString());
-    if (bouton.objectName().startsWith(QLatin1String("Menu")) || &bouton == m_quit)
-        return; // they stand on colours of their own
+    if (&bouton == m_quit)
+        return; // it stands on red
+    // The groups turn to paper, in the dark, too.
+    const bool sombre = Theme::EstSombre(this->palette()) && m_menu->id(&bouton) < 0;
     QPalette palette;
     if (entre && bouton.isEnabled())
-        palette.setColor(QPalette::ButtonText,
-            Theme::EstSombre(this->palette()) ? Theme::Bleu(this->palette()) : BleuDuSurvol);
+        palette.setColor(QPalette::ButtonText, sombre ? Theme::Bleu(this->palette()) : BleuDuSurvol);
     bouton.setPalette(palette);
 }
 

@@ -4,6 +4,7 @@
 #include "core/ui/Forme.h"
 
 #include <QAbstractButton>
+#include <QKeySequence>
 #include <functional>
 #include <optional>
 #include <span>
@@ -43,6 +44,7 @@ public:
 protected:
     void Traduire() override;
     bool eventFilter(QObject *objet, QEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
 
 private:
     struct Bouton
@@ -50,6 +52,7 @@ private:
         QToolButton *controle = nullptr;
         std::function<QString()> legende;
         std::function<QString()> commentaire;
+        QKeySequence touche;
     };
 
     QWidget *construireMenu();
@@ -63,6 +66,7 @@ private:
     QToolButton *ajouter(
         QGridLayout *page, const QString &nom, int rang, const QString &icone, const Bouton &bouton);
     void ouvrirGroupe(int groupe);
+    bool marcher(QAbstractButton &bouton, const QKeyEvent &touche);
     void survoler(QAbstractButton &bouton, bool entre);
     QString commentaireDuBouton(QAbstractButton &bouton) const;
 

@@ -82,17 +82,40 @@ private Q_SLOTS:
         QCOMPARE(annoncees(), QList<int>());
     }
 
-    void laSuivanteRemplaceCelleQuiEstPartie()
+    /// Nobody takes the place of one that is gone, unless he is shown, too.
+    void celleQuiEstPartieLaisseSaPlace()
     {
+        QSignalSpy suppressions(m_vue.get(), &VueListe::suppressionDemandee);
         m_vue->choisir(2);
         m_vue->remplir(Tri::Series, desEntrees({"un", "", "trois", "quatre"}));
-        QCOMPARE(m_vue->choisie(), 3);
+        QVERIFY(m_vue->choisie() == 0 && m_vue->remplacante() == 3);
+        QTest::keyClick(m_vue.get(), Qt::Key_F2);
+        QTest::keyClick(m_vue.get(), Qt::Key_Delete);
+        QVERIFY(!saisie() && suppressions.isEmpty());
+        m_vue->remplir(Tri::Series, desEntrees({"un", "deux", "trois", "quatre"}));
+        QCOMPARE(m_vue->choisie(), 2);
         m_vue->choisir(4);
         m_vue->remplir(Tri::Series, desEntrees({"un", "", "trois"}));
-        QCOMPARE(m_vue->choisie(), 3);
-        m_vue->remplir(Tri::Editeurs, desEntrees({"un", "deux", "trois"}));
-        QCOMPARE(m_vue->choisie(), 0);
+        QVERIFY(m_vue->choisie() == 0 && m_vue->remplacante() == 3);
+        m_vue->remplir(Tri::Editeurs, desEntrees({"un", "deux", "trois", "quatre"}));
+        QVERIFY(m_vue->choisie() == 0 && m_vue->remplacante() == 0);
         QCOMPARE(annoncees(), QList<int>());
+    }
+
+    void celleQuiChangeDePlaceResteEnVue()
+    {
+        QStringList noms;
+        for (int i = 0; i < 200; ++i)
+            noms << "nom";
+        m_vue->remplir(Tri::Series, desEntrees(QStringList{"un"} + noms));
+        m_vue->choisir(1);
+        Entrees entrees;
+        for (int i = 2; i <= 201; ++i)
+            entrees.ajouter(i, "nom");
+        entrees.ajouter(1, "zut");
+        m_vue->remplir(Tri::Series, std::move(entrees));
+        QCOMPARE(m_vue->choisie(), 1);
+        QVERIFY(m_vue->viewport()->rect().contains(m_vue->visualRect(m_vue->currentIndex())));
     }
 
     void unNomSeDonneSurPlace()

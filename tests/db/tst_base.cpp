@@ -97,7 +97,7 @@ private Q_SLOTS:
 
         int questions = 0;
         bac.annonces.reessayer = [&](const Error &) { return ++questions < 2; };
-        QVERIFY(refus([] { Base(); }) == Error::Sorte::EnUsage);
+        QVERIFY(refus([] { Base(); }) == Error::Sorte::Abandonnee);
         QCOMPARE(questions, 2);
 
         bac.annonces.reessayer = [&](const Error &) {

@@ -1,8 +1,10 @@
 #include "core/Dates.h"
 #include "model/General.h"
+#include "support/Autre.h"
 #include "support/Colonnes.h"
 #include "support/Seance.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QFileInfo>
@@ -10,6 +12,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QTreeView>
@@ -31,7 +34,11 @@ struct Menus : Seance
     {
         return trouver<QWidget>(fiche)->findChild<QWidget *>(QLatin1String(champ));
     }
-    static void trier(int tri) { cliquer(qPrintable(QStringLiteral("Tris(%1)").arg(tri))); }
+    static void trier(int tri)
+    {
+        cliquer(qPrintable(QStringLiteral("Tris(%1)").arg(tri)));
+        QCoreApplication::processEvents(); // the list takes the height that the pane below it leaves
+    }
     /// The commands of the menu that opens there, in their order.
     static QString commandes(
         QWidget *cible, QPoint la, QContextMenuEvent::Reason raison = QContextMenuEvent::Mouse)
@@ -117,24 +124,26 @@ private Q_SLOTS:
         m.trier(1);
         m.montrer("Gédéon");
         const QString toujours = "ajouter crea Payss quitter";
-        const QString entree = "LL modifie supprime " + toujours;
+        const QString entree = "LL modifie copier supprime " + toujours;
         QCOMPARE(m.touche(), entree);
         QCOMPARE(m.pop()->actions().first()->text(), m.courante());
         m.trier(8);
         auto *vue = m.liste()->viewport();
         QCOMPARE(m.commandes(vue, vue->rect().bottomLeft() - QPoint(0, 2)), toujours);
 
-        for (const auto &[tri, champ, propres] : {std::tuple(1, "SiteWeb(0)", "Visu modifier supprimer "),
-                 {1, "SiteWeb(1)", "modifier "}, {0, "Photo1", "visu2 modifphoto Supphoto "},
-                 {0, "Dedi(0)", "modifimageDedi modifier supprimer "},
-                 {0, "Dedi(1)", "visu2 modifimageDedi suppimagededi "},
-                 {0, "PhotoD(1)", "visu2 modifimageDedi suppimagededi "}, {0, "TAlbum", "modifier "},
-                 {0, "Serie", "modifier supprimer "}, {0, "DPret", "modifier "}, {0, "Qualite", ""},
-                 {0, "Mois(0)", "modifier supprimer "}, {0, "NomI(0)", "modifier "}}) {
+        for (const auto &[tri, champ, propres] :
+            {std::tuple(1, "SiteWeb(0)", "Visu modifier copier supprimer "), {1, "SiteWeb(1)", "modifier "},
+                {0, "Photo1", "visu2 modifphoto Supphoto "},
+                {0, "Dedi(0)", "modifimageDedi modifier copier supprimer "},
+                {0, "Dedi(1)", "visu2 modifimageDedi suppimagededi "},
+                {0, "PhotoD(1)", "visu2 modifimageDedi suppimagededi "}, {0, "TAlbum", "modifier copier "},
+                {0, "Serie", "modifier copier supprimer "}, {0, "DPret", "modifier "}, {0, "Qualite", ""},
+                {0, "Mois(0)", "modifier copier supprimer "}, {0, "NomI(0)", "modifier "}}) {
             m.trier(tri);
             m.montrer("Gédéon");
             auto *controle = m.sur(tri == 1 ? "FicheSerie" : "FicheAlbum", champ);
-            QVERIFY2(m.commandes(controle) == QString("LL ") + propres + toujours, champ);
+            const QString voulues = QString("LL ") + propres + (tri == 0 ? "crea Payss quitter" : toujours);
+            QVERIFY2(m.commandes(controle) == voulues, champ);
             m.pop()->hide();
         }
         QCOMPARE(m.pop()->findChildren<QMenu *>().size(), 1); // that of the languages
@@ -180,6 +189,104 @@ private Q_SLOTS:
         QTRY_COMPARE(m.courante(nomListe), nom);
         QTRY_COMPARE(m.fiche(), nom);
         QCOMPARE(Bac::toutLire(), avant);
+    }
+
+    /// The sheet keeps an album that leaves the lower list. The list stands on nobody then, and its keys do nothing.
+    void laListeNeQuittePasLaFiche()
+    {
+        Menus m;
+        m.trier(1);
+        m.montrer("Bécassine");
+        auto *bas = m.liste("LFilms");
+        m.cliquerLigne(bas, 3);
+        const QString nom = bas->model()->index(3, 0).data().toString();
+        QTRY_COMPARE(m.fiche(), nom);
+        const int nombre = bas->model()->rowCount();
+        QTest::mouseClick(m.sur("FicheAlbum", "Serie"), Qt::LeftButton, {}, {10, 8});
+        auto *saisie = m.trouver<QLineEdit>("Saisie", "FrmModif");
+        saisie->selectAll();
+        m.taper(saisie, "Gédéon");
+        m.cliquer("Valider", "FrmModif");
+        QTRY_COMPARE(bas->model()->rowCount(), nombre - 1);
+        QVERIFY(m.fiche() == nom && m.courante("LFilms").isEmpty() && m.courante() == "Bécassine");
+        QTest::keyClick(bas, Qt::Key_Delete);
+        QTest::keyClick(bas, Qt::Key_F2);
+        QVERIFY(m.boites.textes.isEmpty() && !bas->findChild<QLineEdit *>());
+        m.commander(Qt::Key_Z);
+        QTRY_COMPARE(bas->model()->rowCount(), nombre);
+        QTRY_COMPARE(m.courante("LFilms"), nom);
+        QCOMPARE(m.fiche(), nom);
+        // Another series shows, and none of its albums.
+        m.montrer("Gédéon");
+        QVERIFY(m.courante("LFilms").isEmpty());
+    }
+
+    /// One box, one "Annuler": the list goes back to the sheet that stayed.
+    void uneBaseTenueLaisseLaListeSurLaFiche()
+    {
+        Menus m;
+        m.trier(1);
+        m.montrer("Bécassine");
+        const Autre autre(m.bac.collection());
+        QCOMPARE(sqlite3_exec(autre.db(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+        for (auto *liste : {m.liste(), m.liste("LFilms")}) {
+            m.cliquerLigne(liste, 5);
+            QTRY_COMPARE(m.boites.textes.size(), 1);
+            QCoreApplication::processEvents();
+            QCOMPARE(m.boites.textes.takeFirst().section('\n', 0, 0),
+                "La base est utilisée par un autre programme.");
+            QVERIFY(
+                m.boites.textes.isEmpty() && m.courante() == "Bécassine" && m.courante("LFilms").isEmpty());
+        }
+    }
+
+    void uneFicheQuiNEstPlusLaEstDite()
+    {
+        Menus m;
+        for (const char *geste : {"touche", "clic"}) {
+            const int num = qstrcmp(geste, "touche") == 0 ? 101 : 1;
+            const QString nom
+                = Bac::valeur(QStringLiteral("SELECT TAlbum FROM LAlbums WHERE NAlbum = %1").arg(num))
+                      .toString();
+            if (num == 101)
+                m.montrer(nom);
+            Autre(m.bac.collection())
+                .executer(
+                    QStringLiteral("DELETE FROM LAlbums WHERE NAlbum = %1; DELETE FROM Album WHERE Num = %1")
+                        .arg(num));
+            if (num == 101)
+                QTest::keyClick(m.liste(), Qt::Key_Delete);
+            else
+                m.choisir(nom);
+            auto *lignes = m.liste()->model();
+            QTRY_VERIFY(
+                lignes->match(lignes->index(0, 0), Qt::DisplayRole, nom, 1, Qt::MatchExactly).isEmpty());
+            QVERIFY(m.boites.textes.isEmpty() && m.texteDe("Message").contains("n'est plus là"));
+            QCOMPARE(m.texteDe("TAlbum"), m.courante());
+        }
+    }
+
+    void uneLongueSerieDitCeQuElleCache()
+    {
+        Menus m;
+        m.montrer(Bac::valeur("SELECT TAlbum FROM LAlbums JOIN Album ON Num = LAlbums.NAlbum WHERE NumSerie "
+                              "= 19 AND Album.NAlbum = 25")
+                      .toString());
+        QVERIFY2(m.texteDe("TomeSur").startsWith("tome 25 · 24 possédé"), qPrintable(m.texteDe("TomeSur")));
+        m.fenetre("Frmmain")->resize(1280, 800);
+        auto *bande = m.sur("FicheAlbum", "Bande");
+        constexpr int Places = 27;
+        const auto montrees = [bande] { return 3 * ((bande->width() + 4) / 28); };
+        QTRY_VERIFY(montrees() < Places);
+        const QPointF la(12, 8);
+        QMouseEvent passe(
+            QEvent::MouseMove, la, bande->mapToGlobal(la), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(bande, &passe);
+        QVERIFY(bande->toolTip().startsWith(QString::number(Places - montrees() + 1)));
+        QTest::mouseClick(bande, Qt::LeftButton, {}, {12, 8});
+        // Behind two albums without a tome.
+        QTest::mouseClick(bande, Qt::LeftButton, {}, {2 * 28 + 12, 8});
+        QTRY_COMPARE(m.texteDe("NumBD"), "1");
     }
 
     void laDerniereLaisseUneFicheVide()
@@ -355,6 +462,20 @@ private Q_SLOTS:
         QVERIFY2(m.boites.textes[0].contains("Petitjean"), qPrintable(m.boites.textes[0]));
         m.trier(1);
         QVERIFY(!m.trouver<QAbstractButton>("Preter", "Pret")->isEnabled());
+
+        // The menu of an album does the same.
+        m.trier(0);
+        m.montrer("Gédéon");
+        const QString autres = " copier supprime crea Payss quitter";
+        QCOMPARE(m.touche(), "LL modifie rendre" + autres);
+        m.prendre("copier");
+        QCOMPARE(QApplication::clipboard()->text(), "Gédéon");
+        m.touche();
+        m.prendre("rendre");
+        QCOMPARE(Bac::valeur("SELECT NPret FROM Album WHERE Num = 101"), 0);
+        QTRY_COMPARE(m.touche(), "LL modifie preter" + autres);
+        m.prendre("preter");
+        QTRY_VERIFY(m.visible("FrmModif"));
     }
 
     void lesEmprunteursSeTiennentAJour()

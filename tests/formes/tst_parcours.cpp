@@ -192,12 +192,16 @@ private Q_SLOTS:
         // Only web and mail addresses open, and a refusal is told.
         const Adresses ouvertes;
         auto *lien = trouver<QWidget>("FicheAuteur")->findChild<QLabel *>(QStringLiteral("Liens(0)"));
-        for (const char *adresse : {"a.fr:8080/x", "javascript:alert(1)", "file:///etc/passwd"}) {
+        for (const char *adresse : {"a.fr:8080/x", "mailto:a@b.fr?attach=/etc/passwd", "javascript:alert(1)",
+                 "file:///etc/passwd", "https://a.fr"}) {
             lien->setText(QLatin1String(adresse));
             QTest::keyClick(lien, Qt::Key_Return, Qt::ControlModifier);
         }
-        QCOMPARE(ouvertes.prises, QStringList(QStringLiteral("http://a.fr:8080/x")));
-        QTRY_COMPARE(s.boites.textes.size(), 2);
+        QCOMPARE(ouvertes.prises, QStringList({"http://a.fr:8080/x", "mailto:a@b.fr"}));
+        // Nothing here opens the last one: it is said what would.
+        QTRY_COMPARE(s.boites.textes.size(), 3);
+        QVERIFY(
+            s.boites.textes[2].startsWith("Aucun navigateur") && s.boites.textes[2].contains("https://a.fr"));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "browse/Frmmain.h"
+#include "core/Reglages.h"
 #include "core/ui/Legende.h"
 #include "support/Autre.h"
 #include "support/Seance.h"
@@ -11,7 +12,10 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QToolButton>
 #include <QToolTip>
@@ -123,6 +127,25 @@ int manque(const QWidget *w)
         - place;
 }
 
+/// What stands beyond the edge of a sheet, and the short values that are cut.
+QStringList debordants(const QWidget &fiche)
+{
+    QStringList noms;
+    for (const QWidget *w : fiche.findChildren<QWidget *>()) {
+        if (!w->isVisible() || w->inherits("QAbstractScrollAreaScrollBarContainer")
+            || w->parentWidget()->inherits("QAbstractItemView"))
+            continue;
+        const int droite = w->mapTo(&fiche, QPoint(w->width(), 0)).x();
+        const auto *valeur = qobject_cast<const Legende *>(w);
+        const int besoin = valeur && !valeur->estVide() && valeur->text().size() <= 15
+            ? valeur->fontMetrics().horizontalAdvance(valeur->text()) + 2 * Legende::MargeLaterale
+            : 0;
+        if (droite > fiche.width() || besoin > w->width())
+            noms << QStringLiteral("%1 %2 %3 px").arg(fiche.objectName(), nomDe(w)).arg(w->width());
+    }
+    return noms;
+}
+
 /// The captions of a form that are cut, by name.
 QStringList coupeesDans(const QWidget *forme)
 {
@@ -229,6 +252,30 @@ private Q_SLOTS:
         QCOMPARE(bulle()->text(), "<b>gras</b>");
         QCOMPARE(bulle()->textFormat(), Qt::PlainText);
         QToolTip::hideText();
+    }
+
+    /// However narrow the window and large the letters, a sheet is as wide as what it stands in, with nothing beside it
+    /// and short values whole.
+    void chaqueFicheTientEnLargeur()
+    {
+        Ouverte s;
+        QStringList hors;
+        for (const auto &[taille, lettres] : {std::pair(QSize(860, 560), 10), {QSize(1280, 800), 10},
+                 {QSize(1280, 800), 18}, {QSize(1920, 1080), 10}}) {
+            s.bac.reglages.ecrire(Cle::FontSize, lettres);
+            Q_EMIT s.demandes().apparence();
+            fenetre("Frmmain")->resize(taille);
+            for (int tri = 0; tri < General::NombreDeTris; ++tri) {
+                cliquer(qPrintable(QStringLiteral("Tris(%1)").arg(tri)));
+                auto *pile = trouver<QStackedWidget>("");
+                auto *cadre = qobject_cast<QScrollArea *>(pile->parentWidget()->parentWidget());
+                QTRY_VERIFY(!cadre->horizontalScrollBar()->isVisible());
+                const auto coupes = [pile] { return debordants(*pile->currentWidget()); };
+                if (!QTest::qWaitFor([&] { return coupes().isEmpty(); }, 2000))
+                    hors << QStringLiteral("%1 %2:").arg(taille.width()).arg(lettres) << coupes();
+            }
+        }
+        QVERIFY2(hors.isEmpty(), qPrintable(hors.join(u'\n')));
     }
 
     void aucuneLegendeNEstCoupee()

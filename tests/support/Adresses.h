@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QUrl>
 
-/// Takes the addresses of web pages and files in the desktop's place, as long as it lives.
+/// Takes the addresses of web pages, mail and files in the desktop's place, as long as it lives.
 class Adresses : public QObject
 {
     Q_OBJECT
@@ -13,12 +13,12 @@ class Adresses : public QObject
 public:
     Adresses()
     {
-        for (const char *sorte : {"http", "file"})
+        for (const char *sorte : {"http", "mailto", "file"})
             QDesktopServices::setUrlHandler(sorte, this, "prendre");
     }
     ~Adresses() override
     {
-        for (const char *sorte : {"http", "file"})
+        for (const char *sorte : {"http", "mailto", "file"})
             QDesktopServices::unsetUrlHandler(sorte);
     }
     Adresses(const Adresses &) = delete;

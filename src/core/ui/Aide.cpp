@@ -3,12 +3,11 @@
 #include "core/Dossier.h"
 #include "core/Error.h"
 #include "core/Traduction.h"
+#include "core/ui/Liens.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QMap>
-#include <QUrl>
 
 namespace {
 
@@ -50,6 +49,7 @@ QString Aide::Page(const QString &forme)
 void Aide::Ouvrir(const QString &forme)
 {
     const QString chemin = Page(forme);
-    if (chemin.isEmpty() || !QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)))
+    if (chemin.isEmpty())
         throw Error(QCoreApplication::translate("Aide", "L'aide ne peut pas être ouverte."), chemin);
+    Liens::OuvrirPage(chemin);
 }

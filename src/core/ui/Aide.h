@@ -9,7 +9,7 @@ namespace Aide {
 /// there is none.
 QString Page(const QString &forme);
 
-/// Opens a form's page in the desktop's browser. Throws Error.
+/// Opens a form's page in the desktop's browser. Throws Error when there is none.
 void Ouvrir(const QString &forme);
 
 }

@@ -1,11 +1,20 @@
 #include "core/ui/Forme.h"
 
 #include "core/ui/Aide.h"
+#include "core/ui/Placement.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QTimer>
+
+namespace {
+
+/// How many of the events behind its showing a form waits for its frame.
+constexpr int Patience = 20;
+
+}
 
 Forme::Forme(const QString &nom, QWidget *parent)
     : QWidget(parent, Qt::Window)
@@ -26,6 +35,29 @@ QStringList Forme::Brouillons()
     }
     lignes.sort();
     return lignes;
+}
+
+bool Forme::event(QEvent *evenement)
+{
+    const auto sorte = evenement->type();
+    if (sorte == QEvent::Show && !evenement->spontaneous())
+        m_patience = Patience;
+    const bool sePose = sorte == QEvent::Show || sorte == QEvent::Move || sorte == QEvent::Resize
+        || sorte == QEvent::Paint || sorte == QEvent::WindowActivate;
+    if (m_patience > 0 && sePose)
+        QTimer::singleShot(0, this, &Forme::cadrer);
+    return QWidget::event(evenement);
+}
+
+/// The frame is the window manager's: it is known only some time after the form has been shown.
+void Forme::cadrer()
+{
+    if (m_patience == 0 || !isVisible())
+        return;
+    --m_patience;
+    const bool libre = !(windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen));
+    if (libre && Placement::Rentrer(*this))
+        m_patience = 0;
 }
 
 void Forme::changeEvent(QEvent *evenement)

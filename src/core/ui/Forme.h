@@ -6,7 +6,7 @@
 #include <QWidget>
 
 /// Base of every form: it puts its captions in when it is first shown and at each change of language, and
-/// Escape closes it, F1 opens its page of the help. A form shows values and tells its wishes; Bureau answers them.
+/// Escape closes it, F1 opens its page of the help. It stands within the screen with its frame. A form shows values and tells its wishes; Bureau answers them.
 class Forme : public QWidget
 {
     Q_OBJECT
@@ -31,6 +31,12 @@ protected:
     /// Takes all captions and tool tips from the texts in force.
     virtual void Traduire() = 0;
 
+    bool event(QEvent *evenement) override;
     void changeEvent(QEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
+
+private:
+    void cadrer();
+
+    int m_patience = 0;
 };

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int MinimumDeLettres = 6;
 constexpr int CoteFleche = 14;
+/// No caption is wide enough for more, and a text of a whole book is not to be measured at each drawing.
+constexpr int LettresMontrees = 600;
 
 }
 
@@ -27,17 +29,17 @@ Legende::Legende(QWidget *parent)
 void Legende::montrer(const QString &valeur)
 {
     const QString montree = Texte::EstVide(valeur) ? Texte::Pointilles() : valeur;
-    if (!m_lien)
-        setToolTip({});
     if (montree == text())
         return;
     setText(montree);
     updateGeometry();
 }
 
-void Legende::poserLien(bool lien)
+void Legende::poserLien(const QString &explication)
 {
-    m_lien = lien;
+    m_lien = true;
+    m_explication = explication;
+    setToolTip(explication);
 }
 
 bool Legende::estVide() const
@@ -49,7 +51,7 @@ QSize Legende::sizeHint() const
 {
     const int hauteur = fontMetrics().height() + 2 * MargeVerticale;
     const int largeur = estVide() ? MinimumDeLettres * fontMetrics().averageCharWidth()
-                                  : fontMetrics().horizontalAdvance(text());
+                                  : fontMetrics().horizontalAdvance(ligne());
     return {largeur + 2 * MargeLaterale, hauteur};
 }
 
@@ -64,14 +66,13 @@ void Legende::paintEvent(QPaintEvent *)
     QPainter p(this);
     if (underMouse() && focusPolicy() != Qt::NoFocus)
         p.fillRect(rect(), Theme::Survol(palette()));
-    const QRect r = rect().adjusted(MargeLaterale, 0, mene() ? -fleche().width() : -MargeLaterale, 0);
+    const QRect r = placeDuTexte();
     if (estVide()) {
         p.setPen(Theme::Trait(palette()));
         p.drawText(r, int(Qt::AlignVCenter) | Qt::TextSingleLine, text().left(r.width()));
     } else {
-        const QString ligne = text().simplified();
-        const bool tient = fontMetrics().horizontalAdvance(ligne) <= r.width();
-        const QString montre = tient ? ligne : fontMetrics().elidedText(ligne, Qt::ElideRight, r.width());
+        const QString montre
+            = estCoupee() ? fontMetrics().elidedText(ligne(), Qt::ElideRight, r.width()) : ligne();
         p.setPen(m_lien ? Theme::Bleu(palette()) : palette().color(foregroundRole()));
         p.drawText(
             r, int(alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextSingleLine, montre);
@@ -120,11 +121,26 @@ void Legende::keyPressEvent(QKeyEvent *evenement)
         QLabel::keyPressEvent(evenement);
 }
 
+QString Legende::ligne() const
+{
+    return text().left(LettresMontrees).simplified();
+}
+
+QRect Legende::placeDuTexte() const
+{
+    return rect().adjusted(MargeLaterale, 0, -MargeLaterale - (mene() ? fleche().width() : 0), 0);
+}
+
+bool Legende::estCoupee() const
+{
+    return !estVide() && fontMetrics().horizontalAdvance(ligne()) > placeDuTexte().width();
+}
+
 void Legende::enterEvent(QEnterEvent *evenement)
 {
-    const bool coupe = !estVide() && fontMetrics().horizontalAdvance(text()) > width() - 2 * MargeLaterale;
-    if (toolTip().isEmpty() && coupe)
-        setToolTip(text());
+    QStringList lignes{estCoupee() ? ligne() : QString(), m_explication};
+    lignes.removeAll(QString());
+    setToolTip(lignes.join(u'\n'));
     update();
     QLabel::enterEvent(evenement);
 }

@@ -19,8 +19,8 @@ public:
 
     /// Shows a value, or the dots for a blank one. The text of the label is what is shown.
     void montrer(const QString &valeur);
-    /// The value leads elsewhere: it is drawn so, and has an arrow at its end.
-    void poserLien(bool lien);
+    /// The value leads elsewhere: it is drawn so, and has an arrow at its end; the tool tip says how to go there.
+    void poserLien(const QString &explication);
     /// True while the dots are shown.
     bool estVide() const;
 
@@ -43,7 +43,11 @@ protected:
 private:
     bool mene() const { return m_lien && !estVide(); }
     QRect fleche() const;
+    QRect placeDuTexte() const;
+    QString ligne() const;
+    bool estCoupee() const;
     void agir(bool ouvrir);
 
     bool m_lien = false;
+    QString m_explication;
 };

@@ -4,11 +4,26 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScopedValueRollback>
+#include <QTextBlock>
 
 namespace {
 
 constexpr int PauseMs = 300;
+/// The time to break a word into lines grows with the square of its length: one of 400,000 signs takes half a minute.
+constexpr int MotLePlusLong = 5000;
+
+bool aUnMotSansFin(const QString &texte)
+{
+    int suite = 0;
+    for (const QChar c : texte) {
+        suite = c.isSpace() ? 0 : suite + 1;
+        if (suite > MotLePlusLong)
+            return true;
+    }
+    return false;
+}
 
 }
 
@@ -52,12 +67,30 @@ void Memo::montrer(const QString &valeur)
         return;
     const QScopedValueRollback montre(m_montre, true);
     const int place = textCursor().position();
-    setPlainText(montree);
+    poser(montree);
     if (hasFocus()) {
         QTextCursor curseur = textCursor();
         curseur.setPosition(std::min(place, static_cast<int>(montree.size())));
         setTextCursor(curseur);
     }
+}
+
+/// The long word is never broken, neither while it comes nor while it goes.
+void Memo::poser(const QString &texte)
+{
+    const bool sansFin = aUnMotSansFin(texte);
+    if (sansFin)
+        setLineWrapMode(NoWrap);
+    setPlainText(texte);
+    if (!sansFin)
+        setLineWrapMode(WidgetWidth);
+}
+
+void Memo::insertFromMimeData(const QMimeData *donnees)
+{
+    if (aUnMotSansFin(textCursor().block().text() + donnees->text()))
+        setLineWrapMode(NoWrap);
+    QPlainTextEdit::insertFromMimeData(donnees);
 }
 
 void Memo::annoncer()

@@ -4,7 +4,8 @@
 #include <QTimer>
 
 /// A text of several lines that is written as one types: a short pause after the last key announces it, and
-/// so does leaving. What was announced in vain stays waiting.
+/// so does leaving. What was announced in vain stays waiting. Its lines are broken to fit, unless a word is so long that
+/// this would take its time.
 class Memo : public QPlainTextEdit
 {
     Q_OBJECT
@@ -26,11 +27,13 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *evenement) override;
+    void insertFromMimeData(const QMimeData *donnees) override;
     void focusInEvent(QFocusEvent *evenement) override;
     void focusOutEvent(QFocusEvent *evenement) override;
 
 private:
     QString texte() const;
+    void poser(const QString &texte);
 
     QTimer m_pause;
     int m_visite = 1;
