@@ -224,6 +224,11 @@ bool General::EstVierge()
     });
 }
 
+bool General::EstEnLectureSeule()
+{
+    return Base().connexion().lectureSeule();
+}
+
 bool General::Concerne(const Changements &changements, Tri tri)
 {
     const QLatin1String table(EspeceDe(tri).table);

@@ -110,6 +110,9 @@ Totaux LireTotaux();
 /// True when no list holds anything. Throws Error.
 bool EstVierge();
 
+/// True when the collection can only be read. Throws Error.
+bool EstEnLectureSeule();
+
 /// True when changes may show in this list.
 bool Concerne(const Changements &changements, Tri tri);
 

@@ -6,11 +6,12 @@
 #include "core/Fonds.h"
 #include "core/Traduction.h"
 #include "db/Base.h"
-#include "model/Especes.h"
+#include "model/General.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QUrl>
 #include <unordered_map>
 
@@ -158,12 +159,20 @@ bool aDesLiensPerdus()
     });
 }
 
+/// The page of a collection that is only to be read stands where what can be made again does.
+QString dossierDeLaPage()
+{
+    return General::EstEnLectureSeule()
+        ? QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/Stats")
+        : Dossier::courant().chemin(QStringLiteral("Stats"));
+}
+
 }
 
 int Statistiques::Nettoyer()
 {
     // Looking alone is no act: it makes no backup and leaves what can be made again.
-    if (!aDesLiensPerdus())
+    if (General::EstEnLectureSeule() || !aDesLiensPerdus())
         return 0;
     Acte acte({});
     int otes = 0;
@@ -204,7 +213,7 @@ QString Statistiques::Calculer(const Avance &avance)
     const QByteArray page = Page(avance);
     if (page.isEmpty())
         return {};
-    const QString dossier = Dossier::courant().chemin(QStringLiteral("Stats"));
+    const QString dossier = dossierDeLaPage();
     if (!QDir().mkpath(dossier))
         echec(dossier, {});
     QSaveFile fichier(dossier + QStringLiteral("/Statistiques.htm"));
