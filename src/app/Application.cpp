@@ -35,6 +35,10 @@ void Application::dire(const Error &erreur)
     if (m_dit)
         return;
     m_dit = true;
-    Messages::Arreter(activeWindow(), texte(Txt::UneErreurEstSurvenue) + u'\n' + erreur.message());
+    // What a file does not permit is no error of the program.
+    if (erreur.sorte() == Error::Sorte::LectureSeule)
+        Messages::Informer(activeWindow(), erreur.message());
+    else
+        Messages::Arreter(activeWindow(), texte(Txt::UneErreurEstSurvenue) + u'\n' + erreur.message());
     m_dit = false;
 }

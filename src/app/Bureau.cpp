@@ -29,6 +29,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QSet>
 #include <QTimer>
 #include <QWindow>
 
@@ -84,15 +85,21 @@ void Bureau::repondre()
 void Bureau::repondreAuxFiches()
 {
     connect(&m_demandes, &Demandes::edition, this, &Bureau::editer);
-    connect(
-        &m_demandes, &Demandes::image, this, [this](const Edition &edition) { pop().choisirImage(edition); });
+    connect(&m_demandes, &Demandes::image, this, [this](const Edition &edition) {
+        if (!seLitSeulement())
+            pop().choisirImage(edition);
+    });
     connect(&m_demandes, &Demandes::menu, this, &Bureau::ouvrirMenu);
-    connect(&m_demandes, &Demandes::renommage, this,
-        [this](Entree entree) { fenetre().parcours().renommerEntree(entree); });
-    connect(&m_demandes, &Demandes::ajout, this,
-        [this](General::Tri tri) { fenetre().parcours().ajouterEntree(tri); });
+    connect(&m_demandes, &Demandes::renommage, this, [this](Entree entree) {
+        if (!seLitSeulement())
+            fenetre().parcours().renommerEntree(entree);
+    });
+    connect(&m_demandes, &Demandes::ajout, this, [this](General::Tri tri) {
+        if (!seLitSeulement())
+            fenetre().parcours().ajouterEntree(tri);
+    });
     connect(&m_demandes, &Demandes::suppression, this, [this](Entree entree) {
-        if (fenetre().parcours().estLa(entree))
+        if (!seLitSeulement() && fenetre().parcours().estLa(entree))
             pop().supprimer(entree);
     });
     connect(&m_demandes, &Demandes::annulation, &m_historique, &Historique::annuler);
@@ -204,6 +211,8 @@ void Bureau::brancherHistorique()
 /// The two ways to enter a value in a form of its own: chosen among entries or days, or typed in one line.
 void Bureau::editer(const Edition &edition)
 {
+    if (seLitSeulement())
+        return;
     const bool choisie = Ecrire::SourceDe(edition) || Choisir::EstUneDate(edition);
     const Nom nom = choisie ? Nom::FrmModif : Nom::FrmModif2;
     auto &voulue = forme<FormeModification>(nom);
@@ -230,6 +239,14 @@ Pop &Bureau::pop()
     return *m_pop;
 }
 
+bool Bureau::seLitSeulement()
+{
+    const bool seulement = General::EstEnLectureSeule();
+    if (seulement)
+        fenetre().dire(tr("La base est en lecture seule : rien ne peut y être modifié."));
+    return seulement;
+}
+
 void Bureau::poserEtapes()
 {
     fenetre().poserEtapes(m_historique.aAnnuler(), m_historique.aRefaire());
@@ -246,6 +263,9 @@ void Bureau::montrerEtape(const Etape &etape, const QString &message)
 
 void Bureau::montrer(Nom nom)
 {
+    static const QSet<Nom> entrees{Nom::Manuelle, Nom::Facile, Nom::BDNet, Nom::Import};
+    if (entrees.contains(nom) && seLitSeulement())
+        return;
     Forme *voulue = ouvrir(nom);
     if (auto *apparence = qobject_cast<Apparence *>(voulue))
         apparence->ouvrirPage(nom);

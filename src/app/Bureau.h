@@ -49,6 +49,8 @@ private:
     void ouvrirMenu(const Edition &edition, const QPoint &point);
     /// The context menu, made when it is first asked for.
     Pop &pop();
+    /// True of a collection that can only be read, which is said.
+    bool seLitSeulement();
     void poserEtapes();
     void montrerEtape(const Etape &etape, const QString &message);
     void retourner();

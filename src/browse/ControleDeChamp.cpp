@@ -67,6 +67,8 @@ public:
     void oublier() override { widget()->oublier(); }
     bool enAttente() const override { return widget()->enAttente(); }
 
+    void permettre(bool permis) override { widget()->setReadOnly(!permis); }
+
 protected:
     void afficher(const ValeurDeChamp &valeur) override { widget()->montrer(valeur.affichee); }
 };
@@ -80,6 +82,8 @@ public:
         connect(
             widget(), &Etoiles::choisie, this, [this](int note) { Q_EMIT saisie(QString::number(note), 0); });
     }
+
+    void permettre(bool permis) override { widget()->setEnabled(permis); }
 
 protected:
     /// A grade outside 1 to 5 counts as the lowest; only a text field can have none, or hold something else.
@@ -112,6 +116,8 @@ public:
     void Traduire() override { libeller(widget(), texte(champ().libelle)); }
     bool seNomme() const override { return true; }
 
+    void permettre(bool permis) override { widget()->setEnabled(permis); }
+
 protected:
     void afficher(const ValeurDeChamp &valeur) override { widget()->setChecked(valeur.stockee.toBool()); }
 };
@@ -138,6 +144,8 @@ public:
             widget()->addItem(option.mot, option.valeur);
         widget()->setCurrentIndex(widget()->findData(courante));
     }
+
+    void permettre(bool permis) override { widget()->setEnabled(permis); }
 
 protected:
     void afficher(const ValeurDeChamp &valeur) override
@@ -176,6 +184,8 @@ public:
             libeller(m_boutons[i], options[i].mot);
     }
     bool aUnMenu() const override { return false; }
+
+    void permettre(bool permis) override { widget()->setEnabled(permis); }
 
 protected:
     /// No button is down for a value of no known kind.

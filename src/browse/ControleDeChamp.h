@@ -26,6 +26,9 @@ public:
     /// Takes caption and words from the texts in force.
     virtual void Traduire();
 
+    /// Whether the value can be changed on the control itself. What opens a form, the form refuses.
+    virtual void permettre(bool) { }
+
     /// The control says itself what it is, and has no caption beside it.
     virtual bool seNomme() const { return false; }
     /// It takes part in the user's font and colour.

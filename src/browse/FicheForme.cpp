@@ -153,6 +153,12 @@ void FicheForme::oublierMemos()
         controle->oublier();
 }
 
+void FicheForme::permettre(bool permis)
+{
+    for (ControleDeChamp *controle : m_controles)
+        controle->permettre(permis);
+}
+
 bool FicheForme::memosEnAttente() const
 {
     return std::any_of(m_controles.begin(), m_controles.end(),

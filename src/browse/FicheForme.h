@@ -32,6 +32,9 @@ public:
     /// Gives up what waits.
     void oublierMemos();
 
+    /// Whether values can be changed on the sheet itself.
+    void permettre(bool permis);
+
     /// Brings the keyboard to the beginning of the next group, or of the one before, around the sheet.
     void allerAuGroupe(int pas);
     /// Whatever lies where, a sheet does with this width.

@@ -5,6 +5,7 @@
 #include "core/ui/Nommer.h"
 #include "core/ui/Theme.h"
 #include "model/General.h"
+#include "model/Montant.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -43,11 +44,12 @@ void Pied::dire(const QString &message)
 void Pied::poserTotaux()
 {
     const General::Totaux totaux = General::LireTotaux();
-    const QLocale &locale = Traduction::courant().locale();
     QStringList parties{tr("%n album(s)", nullptr, static_cast<int>(totaux.albums)),
         tr("%n série(s)", nullptr, static_cast<int>(totaux.series))};
     if (totaux.valeur > 0)
-        parties << tr("valeur %1").arg(locale.toString(totaux.valeur, 'f', 2) + u' ' + texte(Txt::Euro));
+        parties << tr("valeur %1").arg(Montant::Montrer(totaux.valeur) + u' ' + texte(Txt::Euro));
+    if (General::EstEnLectureSeule())
+        parties.prepend(tr("lecture seule"));
     m_totaux->setText(parties.join(QStringLiteral(" · ")));
 }
 

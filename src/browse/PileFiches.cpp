@@ -41,8 +41,14 @@ bool PileFiches::allerAuGroupe(int pas)
 
 bool PileFiches::montrer(General::Entree entree)
 {
-    if (entree.tri == General::Tri::Albums)
-        return montrerAlbum(entree.id);
+    const bool la = entree.tri == General::Tri::Albums ? montrerAlbum(entree.id) : montrerEntite(entree);
+    if (la)
+        montree()->permettre(!General::EstEnLectureSeule());
+    return la;
+}
+
+bool PileFiches::montrerEntite(General::Entree entree)
+{
     const Champs::Feuille feuille = General::ListeDe(entree.tri).feuille;
     const auto valeurs = Fiche::Lire(feuille, entree.id);
     if (!valeurs)

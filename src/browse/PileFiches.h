@@ -41,6 +41,7 @@ public:
 
 private:
     bool montrerAlbum(int num);
+    bool montrerEntite(General::Entree entree);
     FicheForme *montree() const;
 
     Demandes &m_demandes;
