@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="fr_FR">
 <context>
+    <name>AccesBDNet</name>
+    <message>
+        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
+        <translation type="unfinished">De browser is niet geïnstalleerd (pakket libqt6webenginewidgets6). Om een albumpagina te analyseren, volstaat het om hierboven het adres ervan in te voeren.</translation>
+    </message>
+    <message>
+        <source>Donnez l&apos;adresse du catalogue, d&apos;où viennent les couvertures, et la page par laquelle sa visite commence.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adresse du catalogue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page d&apos;accueil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enregistrer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>« %1 » n&apos;est pas une adresse du web.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
@@ -115,6 +142,13 @@
     </message>
 </context>
 <context>
+    <name>Acte</name>
+    <message>
+        <source>La modification est enregistrée, mais le disque a signalé une erreur.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Aide</name>
     <message>
         <source>L&apos;aide ne peut pas être ouverte.</source>
@@ -138,6 +172,13 @@
     <message>
         <source>Une balise n&apos;y est jamais fermée.</source>
         <translation>Een tag erin wordt nooit gesloten.</translation>
+    </message>
+</context>
+<context>
+    <name>Apparence</name>
+    <message>
+        <source>Apparence</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -170,12 +211,34 @@
         <translation>De pagina kon niet tot het einde worden gelezen: vul de velden aan.</translation>
     </message>
     <message>
-        <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
-        <translation>De browser is niet geïnstalleerd (pakket libqt6webenginewidgets6). Om een albumpagina te analyseren, volstaat het om hierboven het adres ervan in te voeren.</translation>
+        <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Réglez la page d&apos;accueil du catalogue (« Accueil ») et son adresse (« Hote »), section « BDNet » des réglages : %1</source>
-        <translation>Stel de startpagina van de catalogus (“Accueil”) en het adres ervan (“Hote”) in onder “BDNet” in de instellingen: %1</translation>
+        <source>La couverture n&apos;a pas pu être gardée : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cet album n&apos;est pas encore créé. Perdre ce qui est saisi ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BandeSerie</name>
+    <message numerus="yes">
+        <source>%n tome(s) de plus</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -275,6 +338,26 @@
         <source>La copie n&apos;a pas pu être faite.</source>
         <translation>De kopie kon niet worden gemaakt.</translation>
     </message>
+    <message>
+        <source>Une longue lecture de la base est en cours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La base est en lecture seule : rien ne peut y être modifié.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pour lire cette base, il en faut une copie, qui ne peut pas être faite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ce fichier contient des vues ou des règles qui ne viennent pas de Bulleo : il n&apos;est pas ouvert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La lecture a été arrêtée.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Bureau</name>
@@ -289,6 +372,18 @@
     <message>
         <source>Rétabli : %1</source>
         <translation>Opnieuw uitgevoerd: %1</translation>
+    </message>
+    <message>
+        <source>La base est en lecture seule : rien ne peut y être modifié.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La lecture de la base dure plus longtemps que prévu. Attendre encore ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La copie contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -351,6 +446,17 @@
     <message>
         <source>Ligne %1</source>
         <translation>Regel %1</translation>
+    </message>
+    <message>
+        <source>Ce n&apos;est pas un fichier de valeurs séparées (CSV).</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Demarrage</name>
+    <message>
+        <source>La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes d&apos;albums supprimés. Les ôter ? Ctrl+Z les remet.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -427,6 +533,10 @@
         <source>Ce catalogue vient d&apos;un ancien programme : ses textes sont codés, et personne n&apos;en a la clé.</source>
         <translation>Deze catalogus komt uit een ouder programma: de teksten zijn gecodeerd en niemand heeft de sleutel.</translation>
     </message>
+    <message>
+        <source>Titre, série, auteur ou éditeur</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Fiche</name>
@@ -446,6 +556,14 @@
         <source>Il faut ici un nombre entier.</source>
         <translation>Hier is een geheel getal nodig.</translation>
     </message>
+    <message>
+        <source>Il manque un nom.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>« %1 » peut se lire %2 ou %3 : écrivez l&apos;un des deux.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FicheAlbum</name>
@@ -453,16 +571,23 @@
         <source>Montrer l&apos;autre face</source>
         <translation>Andere kant tonen</translation>
     </message>
-    <message numerus="yes">
-        <source>tome %1, %n album(s) de la série</source>
-        <translation>
-            <numerusform>deel %1, %n album van de reeks</numerusform>
-            <numerusform>deel %1, %n albums van de reeks</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Manquants : %1</source>
         <translation>Ontbrekend: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>tome %1 · %n possédé(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FicheForme</name>
+    <message>
+        <source>Groupe suivant : F6, précédent : Maj+F6</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -470,6 +595,30 @@
     <message>
         <source>Ctrl+Entrée</source>
         <translation>Ctrl+Enter</translation>
+    </message>
+    <message>
+        <source>Effacer tout ce qui est saisi ici ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Effacer tous les champs</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -515,6 +664,14 @@
     <message>
         <source>La donnée existe déjà !</source>
         <translation>Dit gegeven bestaat al!</translation>
+    </message>
+    <message>
+        <source>« %1 » est connu dans un autre métier : il sera choisi.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>« %1 » sera choisi.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -752,20 +909,28 @@
 <context>
     <name>Liens</name>
     <message>
-        <source>Cette adresse ne peut pas être ouverte.</source>
-        <translation>Dit adres kan niet worden geopend.</translation>
-    </message>
-    <message>
-        <source>Aucun programme n&apos;ouvre cette adresse.</source>
-        <translation>Geen enkel programma opent dit adres.</translation>
-    </message>
-    <message>
         <source>Cette image n&apos;existe plus.</source>
         <translation>Deze afbeelding bestaat niet meer.</translation>
     </message>
     <message>
-        <source>Aucun programme n&apos;ouvre cette image.</source>
-        <translation>Geen enkel programma opent deze afbeelding.</translation>
+        <source>Cette adresse ne s&apos;ouvre pas d&apos;ici : seuls les pages web et le courrier s&apos;ouvrent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aucun programme de courrier n&apos;est installé : copiez l&apos;adresse dans le vôtre.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aucun navigateur n&apos;est installé : installez-en un, ou ouvrez cette adresse ailleurs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;est installé pour voir cette image : installez une visionneuse.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aucun navigateur n&apos;est installé pour lire l&apos;aide : installez-en un, ou ouvrez ce fichier ailleurs.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -803,6 +968,10 @@
         <source>« %1 » n&apos;existe plus.</source>
         <translation>“%1” bestaat niet meer.</translation>
     </message>
+    <message>
+        <source>Il manque un nom.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Moteur</name>
@@ -827,6 +996,33 @@
     </message>
 </context>
 <context>
+    <name>PageTheme</name>
+    <message>
+        <source>Thème</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fenêtres :</source>
+        <translation type="unfinished">Vensters:</translation>
+    </message>
+    <message>
+        <source>Fenêtres claires ou sombres</source>
+        <translation type="unfinished">Lichte of donkere vensters</translation>
+    </message>
+    <message>
+        <source>comme le bureau</source>
+        <translation type="unfinished">als het bureaublad</translation>
+    </message>
+    <message>
+        <source>claires</source>
+        <translation type="unfinished">licht</translation>
+    </message>
+    <message>
+        <source>sombres</source>
+        <translation type="unfinished">donker</translation>
+    </message>
+</context>
+<context>
     <name>Parcours</name>
     <message>
         <source>La donnée existe déjà !</source>
@@ -835,6 +1031,10 @@
     <message>
         <source>Le titre a été coupé à 50 caractères.</source>
         <translation>De titel is afgekapt op 50 tekens.</translation>
+    </message>
+    <message>
+        <source>Cette fiche n&apos;est plus là : les listes ont été relues.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -868,6 +1068,10 @@
         <source>valeur %1</source>
         <translation>waarde %1</translation>
     </message>
+    <message>
+        <source>lecture seule</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Polices</name>
@@ -879,26 +1083,6 @@
         <source>Couleur du thème</source>
         <translation>Themakleur</translation>
     </message>
-    <message>
-        <source>Fenêtres :</source>
-        <translation>Vensters:</translation>
-    </message>
-    <message>
-        <source>Fenêtres claires ou sombres</source>
-        <translation>Lichte of donkere vensters</translation>
-    </message>
-    <message>
-        <source>comme le bureau</source>
-        <translation>als het bureaublad</translation>
-    </message>
-    <message>
-        <source>claires</source>
-        <translation>licht</translation>
-    </message>
-    <message>
-        <source>sombres</source>
-        <translation>donker</translation>
-    </message>
 </context>
 <context>
     <name>Pop</name>
@@ -909,6 +1093,22 @@
     <message>
         <source>Suppr</source>
         <translation>Del</translation>
+    </message>
+    <message>
+        <source>Renommer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rendre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prêter…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copier</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -952,12 +1152,51 @@
         <source>Tous les prêts</source>
         <translation>Alle uitleningen</translation>
     </message>
+    <message>
+        <source>quelqu&apos;un qui n&apos;est plus dans la liste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Une personne a un nom.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n album(s) lui restent prêtés et le resteront.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Prêter « %1 » à %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>« %1 » est déjà prêté à %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>« %1 » est prêté à %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Le prêter maintenant à %1 ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Le prêter maintenant à quelqu&apos;un d&apos;autre ?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Prets</name>
     <message>
         <source>Retour</source>
         <translation>Teruggave</translation>
+    </message>
+    <message>
+        <source>Prêt</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1084,10 +1323,6 @@
         <translation>De huidige database wordt bij de reservekopieën bewaard.</translation>
     </message>
     <message>
-        <source>Remplacer la base en service par celle du %1, avec %2 album(s) ?</source>
-        <translation>De huidige database vervangen door die van %1, met %2 album(s)?</translation>
-    </message>
-    <message>
         <source>Convertir cette ancienne base et la mettre en service ? Son fichier est gardé.</source>
         <translation>Deze oude database converteren en in gebruik nemen? Het bestand ervan blijft bewaard.</translation>
     </message>
@@ -1139,10 +1374,6 @@
         <translation>Er ontbreekt een tabel:</translation>
     </message>
     <message>
-        <source>Une écriture y est restée inachevée : ouvrez-la d&apos;abord à sa place.</source>
-        <translation>Een schrijfbewerking erin is onvoltooid gebleven: open ze eerst op haar eigen plaats.</translation>
-    </message>
-    <message>
         <source>C&apos;est la base en service.</source>
         <translation>Dit is de huidige database.</translation>
     </message>
@@ -1166,6 +1397,24 @@
         <source>Cette base vient d&apos;une version plus récente de Bulleo : il faut celle-là pour l&apos;ouvrir.</source>
         <translation>Deze database komt van een nieuwere versie van Bulleo: alleen daarmee kan ze worden geopend.</translation>
     </message>
+    <message numerus="yes">
+        <source>Remplacer la base en service par celle du %1, avec %n album(s) ?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Restes</name>
+    <message>
+        <source>Restes ôtés : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Saisie</name>
@@ -1176,6 +1425,10 @@
     <message>
         <source>Ce fichier n&apos;est pas une image lisible.</source>
         <translation>Dit bestand is geen leesbare afbeelding.</translation>
+    </message>
+    <message>
+        <source>Il manque un nom.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1232,6 +1485,10 @@
         <source>Créer beaucoup d&apos;albums d&apos;un coup, à partir d&apos;un fichier CSV</source>
         <translation>Veel albums in één keer aanmaken, uit een CSV-bestand</translation>
     </message>
+    <message>
+        <source>Voir la liste</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Statistiques</name>
@@ -1242,6 +1499,10 @@
     <message>
         <source>Liens sans fiche ôtés : %1</source>
         <translation>Koppelingen zonder fiche verwijderd: %1</translation>
+    </message>
+    <message>
+        <source>Statistiques ...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1281,6 +1542,53 @@
     <message>
         <source>Valeur</source>
         <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Prix d&apos;achat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Albums prêtés</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vue d&apos;ensemble</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Supprimer</name>
+    <message numerus="yes">
+        <source>%n album(s) restent, sans série.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n album(s) restent, sans éditeur.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n album(s) restent, sans cette collection.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n album(s) restent, sans cet auteur.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cet album est prêté à %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1357,6 +1665,18 @@
     <message>
         <source>Ces albums ne sont plus là.</source>
         <translation>Deze albums zijn er niet meer.</translation>
+    </message>
+    <message>
+        <source>Rien ici pour l&apos;instant. Cette liste se remplit à la main, ligne par ligne.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Créer un album</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
