@@ -2,6 +2,7 @@
 
 #include "acts/Demandes.h"
 #include "core/Reglages.h"
+#include "core/Texte.h"
 #include "core/Traduction.h"
 #include "core/ui/Depot.h"
 #include "core/ui/Messages.h"
@@ -29,6 +30,7 @@ constexpr QSize TailleDessinee(1040, 700);
 constexpr int LargeurColonnes = 340;
 constexpr int HauteurLigne = 24;
 constexpr int HauteurRapport = 110;
+constexpr qsizetype LettresMontrees = 400;
 
 QString libelleDe(Rubrique rubrique)
 {
@@ -42,12 +44,14 @@ QString montree(Rubrique rubrique, const QString &lu)
     const ChampsDeCreation::ChampDeCreation &champ = ChampsDeCreation::De(rubrique);
     if (champ.maniere == ChampsDeCreation::Case)
         return texte(lu == QLatin1String(ChampsDeCreation::TexteDeCase(champ, true)) ? Txt::Oui : Txt::Non);
-    const double nombre = Montant::Lire(lu).value_or(0);
+    // A cell shows the beginning of a long text.
+    const QString debut = Texte::Couper(lu, LettresMontrees);
+    const double nombre = Montant::Lire(debut).value_or(0);
     if (champ.champ->regle == Champs::Regle::Tome)
         return nombre > 0 ? QString::number(nombre) : QString();
     if (champ.champ->regle == Champs::Regle::Prix)
         return nombre > 0 ? Montant::Montrer(nombre) : QString();
-    return lu.simplified();
+    return debut.simplified();
 }
 
 std::size_t rang(Rubrique rubrique)

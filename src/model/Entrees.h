@@ -19,6 +19,16 @@ public:
         const std::string_view octets = utf8(rang);
         return QString::fromUtf8(octets.data(), static_cast<qsizetype>(octets.size()));
     }
+    /// The beginning of a text, of so many letters at most.
+    QString debut(int rang, qsizetype lettres) const
+    {
+        constexpr std::size_t OctetsParLettre = 4;
+        const std::string_view octets = utf8(rang);
+        if (octets.size() <= static_cast<std::size_t>(lettres))
+            return texte(rang);
+        const std::string_view debut = octets.substr(0, OctetsParLettre * static_cast<std::size_t>(lettres));
+        return QString::fromUtf8(debut.data(), static_cast<qsizetype>(debut.size())).left(lettres);
+    }
     std::string_view utf8(int rang) const
     {
         const Ligne &ligne = m_lignes[static_cast<std::size_t>(rang)];

@@ -2,6 +2,12 @@
 
 #include "core/Texte.h"
 
+namespace {
+
+constexpr qsizetype LettresMontrees = 400;
+
+}
+
 void ListeEntrees::remplir(General::Tri tri, Entrees entrees)
 {
     beginResetModel();
@@ -141,6 +147,8 @@ QVariant ListeEntrees::data(const QModelIndex &index, int role) const
     const int ligne = ligneDe(index.row());
     switch (role) {
     case Qt::DisplayRole:
+        // No line is so wide, and measuring all of a book would take its time at each painting.
+        return m_entrees.debut(ligne, LettresMontrees);
     case Qt::EditRole:
         return m_entrees.texte(ligne);
     case Qt::UserRole:
