@@ -21,7 +21,6 @@ namespace {
 constexpr int AisanceDUnGroupe = 135;
 constexpr qreal PartDeLaHauteur = 0.5;
 constexpr int Colonnes = 3;
-constexpr int LargeursImage[] = {216, 290, 380};
 constexpr qreal ProportionImage = 4.0 / 3.0;
 constexpr int HauteurMemo = 84;
 constexpr int HauteurDedicace = 110;
@@ -62,10 +61,7 @@ QToolButton *lienVoisin(QWidget *parent, const QString &nom, Qt::ToolButtonStyle
 FicheAlbum::FicheAlbum(Demandes &demandes, QWidget *parent)
     : FicheForme(Champs::Feuille::Album, QStringLiteral("FicheAlbum"), demandes, parent)
 {
-    m_page = new QGridLayout(this);
-    m_page->setContentsMargins(0, 0, 0, 0);
-    m_page->setHorizontalSpacing(Theme::Grand);
-    m_page->setVerticalSpacing(Theme::Petit);
+    m_page = ouvrirPage();
     m_entete = construireEnTete();
     m_couverture = construireCouverture();
     m_groupes[0] = construireColonneGauche();
@@ -147,12 +143,11 @@ QWidget *FicheAlbum::construireEnTete()
     m_sousTitre->addLayout(serie, 1);
     m_sousTitre->addLayout(voisins);
 
-    connect(m_precedent, &QToolButton::clicked, this, [this] {
-        Q_EMIT m_demandes.entree({General::Tri::Albums, m_fiche.infos.precedent->num});
-    });
-    connect(m_suivant, &QToolButton::clicked, this, [this] {
-        Q_EMIT m_demandes.entree({General::Tri::Albums, m_fiche.infos.suivant->num});
-    });
+    for (const auto &[lien, voisin] :
+        {std::pair(m_precedent, &InfosAlbum::precedent), std::pair(m_suivant, &InfosAlbum::suivant)})
+        connect(lien, &QToolButton::clicked, this, [this, voisin = voisin] {
+            Q_EMIT m_demandes.entree({General::Tri::Albums, (m_fiche.infos.*voisin)->num});
+        });
     return zone;
 }
 
@@ -261,10 +256,8 @@ void FicheAlbum::construireCases(QBoxLayout *colonne)
     m_grilleDesCases = new QGridLayout;
     m_grilleDesCases->setContentsMargins(0, Theme::Fin, 0, 0);
     m_grilleDesCases->setVerticalSpacing(3);
-    for (const char *champ :
-        {"LEditionOri", "LBrochee", "LIntegral", "LSerieLim", "LHorsSerie", "LCoffret"}) {
+    for (const char *champ : {"LEditionOri", "LBrochee", "LIntegral", "LSerieLim", "LHorsSerie", "LCoffret"})
         m_cases.push_back(creer(champ));
-    }
     rangerCases(2);
     colonne->addLayout(m_grilleDesCases);
 }
@@ -420,17 +413,12 @@ void FicheAlbum::poserDefilement(bool defile)
 
 void FicheAlbum::agrandir(int pas)
 {
-    const int derniere = static_cast<int>(std::size(LargeursImage)) - 1;
+    const int derniere = static_cast<int>(std::size(Largeurs)) - 1;
     m_taille = std::clamp(m_taille + pas, 0, derniere);
     redisposer();
     poserCouverture();
     m_agrandir->setEnabled(m_taille < derniere);
     m_retrecir->setEnabled(m_taille > 0);
-}
-
-int FicheAlbum::largeurDesImages() const
-{
-    return LargeursImage[m_taille];
 }
 
 /// The cover takes its part of what a wide sheet does not need; in height, it leaves the grades and the series on screen.
@@ -452,8 +440,8 @@ void FicheAlbum::resizeEvent(QResizeEvent *evenement)
 {
     FicheForme::resizeEvent(evenement);
     poserCouverture();
-    int plusLarge = 0;
-    for (const QWidget *boite : m_cases)
-        plusLarge = std::max(plusLarge, boite->sizeHint().width());
-    rangerCases(2 * plusLarge + Theme::Petit <= m_groupes[1]->width() ? 2 : 1);
+    const bool deux = std::all_of(m_cases.begin(), m_cases.end(), [this](const QWidget *boite) {
+        return 2 * boite->sizeHint().width() + Theme::Petit <= m_groupes[1]->width();
+    });
+    rangerCases(deux ? 2 : 1);
 }

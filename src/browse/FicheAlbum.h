@@ -29,11 +29,13 @@ public:
 protected:
     void Traduire() override;
     void disposer(Disposition disposition) override;
-    int largeurDesImages() const override;
+    int largeurDesImages() const override { return Largeurs[m_taille]; }
     void resizeEvent(QResizeEvent *evenement) override;
     Edition editionSous(const QWidget *controle) const override;
 
 private:
+    static constexpr int Largeurs[] = {216, 290, 380}; ///< of the cover, at its smallest
+
     QWidget *construireEnTete();
     QWidget *construireCouverture();
     QLayout *construireSerie();

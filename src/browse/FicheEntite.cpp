@@ -79,10 +79,7 @@ FicheEntite::FicheEntite(Feuille feuille, Demandes &demandes, QWidget *parent)
     : FicheForme(feuille, QString::fromLatin1(PlanDe(feuille).nom), demandes, parent)
     , m_plan(PlanDe(feuille))
 {
-    m_page = new QGridLayout(this);
-    m_page->setContentsMargins(0, 0, 0, 0);
-    m_page->setHorizontalSpacing(Theme::Grand);
-    m_page->setVerticalSpacing(Theme::Petit);
+    m_page = ouvrirPage();
     m_genre = nommer(new TitreGroupe(this), QStringLiteral("GenreEntree"));
     m_page->addWidget(m_genre, 0, 0, 1, 2);
     m_page->addWidget(creer(m_plan.titre), 1, 0, 1, 2);

@@ -180,6 +180,15 @@ void FicheForme::ajouterLigne(QGridLayout *grille, const char *nom)
     grille->setColumnStretch(1, 1);
 }
 
+QGridLayout *FicheForme::ouvrirPage()
+{
+    auto *page = new QGridLayout(this);
+    page->setContentsMargins(0, 0, 0, 0);
+    page->setHorizontalSpacing(Theme::Grand);
+    page->setVerticalSpacing(Theme::Petit);
+    return page;
+}
+
 TitreGroupe *FicheForme::titreDe(Txt texte)
 {
     auto *titre = new TitreGroupe(this);

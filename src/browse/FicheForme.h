@@ -67,6 +67,8 @@ protected:
     void agrandirPolice(const char *champ, qreal facteur);
     /// A value that is no field of the table takes part in the user's font and colour.
     void inscrire(QWidget *valeur);
+    /// The grid of the whole sheet.
+    QGridLayout *ouvrirPage();
     /// The title of a group; the keyboard goes to what is made next.
     TitreGroupe *titreDe(Txt texte);
     /// The keyboard goes to this control of a group.
