@@ -22,8 +22,8 @@ Q_SIGNALS:
     void entree(General::Entree entree);
     /// A kind of list is to be shown.
     void liste(General::Tri tri);
-    /// The list of albums is to be narrowed to some of them, under a name.
-    void selection(const QString &libelle, const std::vector<int> &albums);
+    /// The list of albums is to be narrowed to some of them, under a name, which is asked for again in another language.
+    void selection(const std::function<QString()> &libelle, const std::vector<int> &albums);
     /// The main window is to be in front, with its list.
     void retour();
 

@@ -66,7 +66,7 @@ void Bureau::repondre()
     connect(&m_demandes, &Demandes::liste, this,
         [this](General::Tri tri) { fenetre().parcours().montrerTri(tri); });
     connect(&m_demandes, &Demandes::selection, this,
-        [this](const QString &libelle, const std::vector<int> &albums) {
+        [this](const std::function<QString()> &libelle, const std::vector<int> &albums) {
             fenetre().parcours().montrerSelection(libelle, albums);
             montrer(Nom::Frmmain);
         });

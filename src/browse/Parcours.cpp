@@ -65,7 +65,7 @@ void Parcours::retenirTri(Tri tri)
     Q_EMIT triChange(static_cast<int>(tri));
 }
 
-void Parcours::montrerSelection(const QString &libelle, const std::vector<int> &albums)
+void Parcours::montrerSelection(const std::function<QString()> &libelle, const std::vector<int> &albums)
 {
     montrerTri(Tri::Albums);
     m_volet.montrerSelection(libelle, albums);

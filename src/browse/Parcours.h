@@ -27,7 +27,7 @@ public:
     /// Shows an entry's sheet, with its list when it is another one. Throws Error.
     void montrerEntree(General::Entree entree);
     /// Shows the list of albums narrowed to some of them, under a name. Throws Error.
-    void montrerSelection(const QString &libelle, const std::vector<int> &albums);
+    void montrerSelection(const std::function<QString()> &libelle, const std::vector<int> &albums);
     /// Shows the list's first entry, when nothing is shown yet. Throws Error.
     void montrerPremiere();
     /// Edits an entry's label in its list, or opens an empty line there for a new entry. Both throw Error.

@@ -216,14 +216,21 @@ Selection VoletListes::montree() const
     return {m_tri, m_liste->modele().visibles()};
 }
 
-void VoletListes::montrerSelection(const QString &libelle, const std::vector<int> &albums)
+void VoletListes::montrerSelection(const std::function<QString()> &libelle, const std::vector<int> &albums)
 {
     m_filtre->clear();
     m_liste->restreindre(albums);
-    m_selection->setText(libelle);
-    expliquer(m_selection, tr("%1 — montrer toute la liste").arg(libelle));
+    m_libelleSelection = libelle;
+    nommerSelection();
     m_selection->show();
     poserNombre();
+}
+
+void VoletListes::nommerSelection()
+{
+    const QString libelle = m_libelleSelection ? m_libelleSelection() : QString();
+    m_selection->setText(libelle);
+    expliquer(m_selection, tr("%1 — montrer toute la liste").arg(libelle));
 }
 
 void VoletListes::oterSelection()
@@ -396,6 +403,7 @@ void VoletListes::actualiser(const Changements &changements)
 
 void VoletListes::Traduire()
 {
+    nommerSelection();
     for (int i = 0; i < NombreDeTris; ++i) {
         QToolButton *bouton = m_tris[static_cast<std::size_t>(i)];
         expliquer(bouton, texte(ListeDe(TriDe(i)).bouton));

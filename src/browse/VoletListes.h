@@ -52,7 +52,7 @@ public:
     /// What the main list shows, filters regarded.
     General::Selection montree() const;
     /// Narrows the main list, of albums, to some of them, under a name that a click takes away again.
-    void montrerSelection(const QString &libelle, const std::vector<int> &albums);
+    void montrerSelection(const std::function<QString()> &libelle, const std::vector<int> &albums);
     /// Makes an entry of the main list the current one, taking away the filter that would hide it.
     void montrerLigne(int id);
     /// Puts the cursor into the line that narrows the main list.
@@ -87,6 +87,7 @@ private:
     QString raisonDuVide() const;
     void brancher();
     void remplir(General::Tri tri);
+    void nommerSelection();
     void oterSelection();
     void poserPretes();
     void poserNombre();
@@ -101,6 +102,7 @@ private:
     QLabel *m_nombre = nullptr;
     QProgressBar *m_progression = nullptr;
     QLineEdit *m_filtre = nullptr;
+    std::function<QString()> m_libelleSelection;
     QToolButton *m_selection = nullptr; ///< names what the list is narrowed to
     QSplitter *m_partage = nullptr;
     VueListe *m_liste = nullptr;

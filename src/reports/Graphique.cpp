@@ -48,8 +48,8 @@ void Graphique::montrer(const Repartition::Graphique &donnees)
         chart()->removeAxis(axe);
         delete axe;
     }
-    chart()->setTitle(donnees.titre);
-    setAccessibleName(donnees.titre);
+    chart()->setTitle(Repartition::Titre(donnees.sujet));
+    setAccessibleName(Repartition::Titre(donnees.sujet));
     const int barres = static_cast<int>(donnees.parts.size());
     setMinimumHeight(
         donnees.periodes ? HauteurMoindre : std::max(HauteurMoindre, HauteurAutour + HauteurBarre * barres));

@@ -208,10 +208,27 @@ Graphique lireValeurs()
         const auto cote = cotes.find(achat.album);
         return {achat.prix, cote == cotes.end() ? 0 : cote->second};
     };
-    return {Tr::tr("Valeur par année d'achat"), true, true, {{Tr::tr("Payé")}, {Tr::tr("Coté")}},
+    return {Sujet::Valeurs, true, true, {{Tr::tr("Payé")}, {Tr::tr("Coté")}},
         repartir(lireAnnees("DA"), 1, valeurs)};
 }
 
+}
+
+QString Repartition::Titre(Sujet sujet)
+{
+    switch (sujet) {
+    case Sujet::Genres:
+        return Tr::tr("Albums par genre");
+    case Sujet::Editeurs:
+        return Tr::tr("Albums par éditeur");
+    case Sujet::Decennies:
+        return Tr::tr("Albums par décennie de parution");
+    case Sujet::Croissance:
+        return Tr::tr("Croissance de la collection, par date d'achat");
+    case Sujet::Valeurs:
+        return Tr::tr("Valeur par année d'achat");
+    }
+    Q_UNREACHABLE();
 }
 
 Graphique Repartition::Lire(Sujet sujet)
@@ -220,13 +237,13 @@ Graphique Repartition::Lire(Sujet sujet)
     Graphique g;
     switch (sujet) {
     case Sujet::Genres:
-        g = {Tr::tr("Albums par genre"), false, false, {albums},
+        g = {Sujet::Genres, false, false, {albums},
             lireLiens("SELECT g.Nom, a.Num From Album a left join GenreAlbums l on l.NAlbum = a.Num"
                       " left join Genre g on g.NGenre = l.NGenre where a.Num > 0")};
         compterAlbums(g);
         break;
     case Sujet::Editeurs:
-        g = {Tr::tr("Albums par éditeur"), false, false, {albums},
+        g = {Sujet::Editeurs, false, false, {albums},
             lireLiens("SELECT e.Nom, a.Num From Album a left join EditeurAlbums l on l.NAlbum = a.Num"
                       " left join Editeur e on e.NEdit = l.NEdit where a.Num > 0")};
         regrouper(g.parts);
@@ -234,13 +251,12 @@ Graphique Repartition::Lire(Sujet sujet)
         break;
     case Sujet::Decennies: {
         constexpr int Decennie = 10;
-        g = {Tr::tr("Albums par décennie de parution"), true, false, {albums},
-            repartir(lireAnnees("Dateparu"), Decennie, un)};
+        g = {Sujet::Decennies, true, false, {albums}, repartir(lireAnnees("Dateparu"), Decennie, un)};
         break;
     }
     case Sujet::Croissance:
-        g = {Tr::tr("Croissance de la collection, par date d'achat"), true, false,
-            {{Tr::tr("Achetés dans l'année")}, {Tr::tr("En tout"), true}}, repartir(lireAnnees("DA"), 1, un)};
+        g = {Sujet::Croissance, true, false, {{Tr::tr("Achetés dans l'année")}, {Tr::tr("En tout"), true}},
+            repartir(lireAnnees("DA"), 1, un)};
         cumuler(g.parts);
         break;
     case Sujet::Valeurs:

@@ -28,12 +28,15 @@ struct Part
 
 struct Graphique
 {
-    QString titre;
+    Sujet sujet = Sujet::Genres;
     bool periodes = false; ///< the parts follow each other in time
     bool montants = false; ///< figures are amounts in euros, else numbers of albums
     std::vector<Serie> series;
     std::vector<Part> parts;
 };
+
+/// What a chart is called, in the language in force.
+QString Titre(Sujet sujet);
 
 /// Genres by their number of albums, an album counting in each of its own; the fifteen largest publishers and
 /// the rest; publication by decades; purchases by years, with the size of the collection; what the albums of a

@@ -106,8 +106,10 @@ QWidget *Stats::construireGraphique(Graphique *&graphique, const QString &nom)
     graphique->setAutoFillBackground(false);
     connect(
         graphique, &Graphique::partChoisie, this, [this, trace = graphique](const Repartition::Part &part) {
-            Q_EMIT m_demandes.selection(
-                trace->donnees().titre + QStringLiteral(" : ") + part.libelle, part.albums);
+            const auto libelle = [sujet = trace->donnees().sujet, nom = part.libelle] {
+                return Repartition::Titre(sujet) + QStringLiteral(" : ") + nom;
+            };
+            Q_EMIT m_demandes.selection(libelle, part.albums);
         });
     return defilement;
 }

@@ -113,6 +113,9 @@ private Q_SLOTS:
         QCOMPARE(liste->model()->rowCount(), albums);
         auto *selection = trouver<QAbstractButton>("Selection");
         QVERIFY(selection->isVisible());
+        const QString nomme = selection->text();
+        Q_EMIT s.demandes().langue("English.lng");
+        QTRY_VERIFY(selection->text() != nomme);
         // The narrowing holds while the list is refilled, and goes with a click, or for an entry that it hides.
         QSignalSpy remplie(liste->model(), &QAbstractItemModel::modelReset);
         Bac::agir("UPDATE LAlbums SET TAlbum = 'Ailleurs' WHERE NAlbum = 1");
