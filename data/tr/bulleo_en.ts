@@ -32,7 +32,7 @@
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation>This dedication is a note: “%1”. The picture will replace it. Continue?</translation>
+        <translation>This signed sketch is a note: “%1”. The picture will replace it. Continue?</translation>
     </message>
 </context>
 <context>
@@ -90,11 +90,11 @@
     </message>
     <message>
         <source>Utiliser comme dédicace 1</source>
-        <translation>Use as dedication 1</translation>
+        <translation>Use as signed sketch 1</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 2</source>
-        <translation>Use as dedication 2</translation>
+        <translation>Use as signed sketch 2</translation>
     </message>
     <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
