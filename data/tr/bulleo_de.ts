@@ -5,27 +5,27 @@
     <name>AccesBDNet</name>
     <message>
         <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
-        <translation type="unfinished">Der Browser ist nicht installiert (Paket libqt6webenginewidgets6). Um eine Albumseite zu analysieren, genügt es, oben ihre Adresse einzugeben.</translation>
+        <translation>Der Browser ist nicht installiert (Paket libqt6webenginewidgets6). Um eine Albumseite zu analysieren, genügt es, oben ihre Adresse einzugeben.</translation>
     </message>
     <message>
         <source>Donnez l&apos;adresse du catalogue, d&apos;où viennent les couvertures, et la page par laquelle sa visite commence.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Adresse des Katalogs an, von dem die Titelbilder kommen, und die Seite, auf der sein Besuch beginnt.</translation>
     </message>
     <message>
         <source>Adresse du catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse des Katalogs</translation>
     </message>
     <message>
         <source>Page d&apos;accueil</source>
-        <translation type="unfinished"></translation>
+        <translation>Startseite</translation>
     </message>
     <message>
         <source>Enregistrer</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>« %1 » n&apos;est pas une adresse du web.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Webadresse.</translation>
     </message>
 </context>
 <context>
@@ -145,7 +145,7 @@
     <name>Acte</name>
     <message>
         <source>La modification est enregistrée, mais le disque a signalé une erreur.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderung ist gespeichert, aber der Datenträger hat einen Fehler gemeldet.</translation>
     </message>
 </context>
 <context>
@@ -178,7 +178,7 @@
     <name>Apparence</name>
     <message>
         <source>Apparence</source>
-        <translation type="unfinished"></translation>
+        <translation>Erscheinungsbild</translation>
     </message>
 </context>
 <context>
@@ -212,32 +212,32 @@
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: Ein begonnenes Album ist noch nicht angelegt, es geht verloren.</translation>
     </message>
     <message>
         <source>La couverture n&apos;a pas pu être gardée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Titelbild konnte nicht aufbewahrt werden: %1</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Perdre ce qui est saisi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Album ist noch nicht angelegt. Eingaben verwerfen?</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Album ist noch nicht angelegt. Trotzdem schließen?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Eingaben sind beim nächsten Öffnen wieder da, solange das Programm nicht beendet wird.</translation>
     </message>
 </context>
 <context>
     <name>BandeSerie</name>
     <message numerus="yes">
         <source>%n tome(s) de plus</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n weiterer Band</numerusform>
+            <numerusform>%n weitere Bände</numerusform>
         </translation>
     </message>
 </context>
@@ -340,23 +340,23 @@
     </message>
     <message>
         <source>Une longue lecture de la base est en cours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank wird gerade gelesen, und das dauert länger.</translation>
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank ist schreibgeschützt: Nichts darin kann geändert werden.</translation>
     </message>
     <message>
         <source>Pour lire cette base, il en faut une copie, qui ne peut pas être faite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um diese Datenbank zu lesen, ist eine Kopie nötig, die nicht erstellt werden kann.</translation>
     </message>
     <message>
         <source>Ce fichier contient des vues ou des règles qui ne viennent pas de Bulleo : il n&apos;est pas ouvert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei enthält Sichten oder Regeln, die nicht von Bulleo stammen: Sie wird nicht geöffnet.</translation>
     </message>
     <message>
         <source>La lecture a été arrêtée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -375,15 +375,15 @@
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank ist schreibgeschützt: Nichts darin kann geändert werden.</translation>
     </message>
     <message>
         <source>La lecture de la base dure plus longtemps que prévu. Attendre encore ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen der Datenbank dauert länger als erwartet. Weiter warten?</translation>
     </message>
     <message>
         <source>La copie contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie enthält die Daten, nicht die Bilder: Ihre Ordner, images und image, werden getrennt kopiert.</translation>
     </message>
 </context>
 <context>
@@ -449,14 +449,14 @@
     </message>
     <message>
         <source>Ce n&apos;est pas un fichier de valeurs séparées (CSV).</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Datei mit getrennten Werten (CSV).</translation>
     </message>
 </context>
 <context>
     <name>Demarrage</name>
     <message>
         <source>La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes d&apos;albums supprimés. Les ôter ? Ctrl+Z les remet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank enthält Reste, die nirgends zu sehen sind: unterbrochene Eingaben, doppelte Verknüpfungen, Zeilen gelöschter Alben. Entfernen? Strg+Z holt sie zurück.</translation>
     </message>
 </context>
 <context>
@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>Titre, série, auteur ou éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel, Serie, Autor oder Verlag</translation>
     </message>
 </context>
 <context>
@@ -558,11 +558,11 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt ein Name.</translation>
     </message>
     <message>
         <source>« %1 » peut se lire %2 ou %3 : écrivez l&apos;un des deux.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich als %2 oder %3 lesen: Schreiben Sie eines von beiden.</translation>
     </message>
 </context>
 <context>
@@ -577,9 +577,9 @@
     </message>
     <message numerus="yes">
         <source>tome %1 · %n possédé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Band %1 · %n vorhanden</numerusform>
+            <numerusform>Band %1 · %n vorhanden</numerusform>
         </translation>
     </message>
 </context>
@@ -587,7 +587,7 @@
     <name>FicheForme</name>
     <message>
         <source>Groupe suivant : F6, précédent : Maj+F6</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Gruppe: F6, vorherige: Umschalt+F6</translation>
     </message>
 </context>
 <context>
@@ -598,27 +598,27 @@
     </message>
     <message>
         <source>Effacer tout ce qui est saisi ici ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Eingaben hier löschen?</translation>
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: Ein begonnenes Album ist noch nicht angelegt, es geht verloren.</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Album ist noch nicht angelegt. Trotzdem schließen?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Eingaben sind beim nächsten Öffnen wieder da, solange das Programm nicht beendet wird.</translation>
     </message>
     <message>
         <source>Vider</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Effacer tous les champs</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Felder leeren</translation>
     </message>
 </context>
 <context>
@@ -667,11 +667,11 @@
     </message>
     <message>
         <source>« %1 » est connu dans un autre métier : il sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist unter einer anderen Tätigkeit bekannt: Die Wahl fällt auf diesen Eintrag.</translation>
     </message>
     <message>
         <source>« %1 » sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird ausgewählt.</translation>
     </message>
 </context>
 <context>
@@ -914,23 +914,23 @@
     </message>
     <message>
         <source>Cette adresse ne s&apos;ouvre pas d&apos;ici : seuls les pages web et le courrier s&apos;ouvrent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Adresse lässt sich von hier nicht öffnen: Nur Webseiten und E-Mail öffnen sich.</translation>
     </message>
     <message>
         <source>Aucun programme de courrier n&apos;est installé : copiez l&apos;adresse dans le vôtre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein E-Mail-Programm installiert: Kopieren Sie die Adresse in Ihres.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé : installez-en un, ou ouvrez cette adresse ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Browser installiert: Installieren Sie einen oder öffnen Sie diese Adresse anderswo.</translation>
     </message>
     <message>
         <source>Aucun programme n&apos;est installé pour voir cette image : installez une visionneuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Programm installiert, das dieses Bild zeigt: Installieren Sie einen Bildbetrachter.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé pour lire l&apos;aide : installez-en un, ou ouvrez ce fichier ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Browser installiert, um die Hilfe zu lesen: Installieren Sie einen oder öffnen Sie diese Datei anderswo.</translation>
     </message>
 </context>
 <context>
@@ -970,7 +970,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt ein Name.</translation>
     </message>
 </context>
 <context>
@@ -999,27 +999,27 @@
     <name>PageTheme</name>
     <message>
         <source>Thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Thema</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished">Fenster:</translation>
+        <translation>Fenster:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished">Helle oder dunkle Fenster</translation>
+        <translation>Helle oder dunkle Fenster</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished">wie der Desktop</translation>
+        <translation>wie der Desktop</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished">hell</translation>
+        <translation>hell</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished">dunkel</translation>
+        <translation>dunkel</translation>
     </message>
 </context>
 <context>
@@ -1034,7 +1034,7 @@
     </message>
     <message>
         <source>Cette fiche n&apos;est plus là : les listes ont été relues.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Karte ist nicht mehr da: Die Listen wurden neu gelesen.</translation>
     </message>
 </context>
 <context>
@@ -1070,7 +1070,7 @@
     </message>
     <message>
         <source>lecture seule</source>
-        <translation type="unfinished"></translation>
+        <translation>schreibgeschützt</translation>
     </message>
 </context>
 <context>
@@ -1096,19 +1096,19 @@
     </message>
     <message>
         <source>Renommer</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>Rendre</source>
-        <translation type="unfinished"></translation>
+        <translation>Als zurückgegeben markieren</translation>
     </message>
     <message>
         <source>Prêter…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verleihen…</translation>
     </message>
     <message>
         <source>Copier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
 </context>
 <context>
@@ -1154,38 +1154,38 @@
     </message>
     <message>
         <source>quelqu&apos;un qui n&apos;est plus dans la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>jemanden, der nicht mehr in der Liste steht</translation>
     </message>
     <message>
         <source>Une personne a un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Person braucht einen Namen.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) lui restent prêtés et le resteront.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Album ist noch an diese Person verliehen und bleibt es.</numerusform>
+            <numerusform>%n Alben sind noch an diese Person verliehen und bleiben es.</numerusform>
         </translation>
     </message>
     <message>
         <source>Prêter « %1 » à %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ an %2 verleihen</translation>
     </message>
     <message>
         <source>« %1 » est déjà prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist schon an %2 verliehen.</translation>
     </message>
     <message>
         <source>« %1 » est prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist an %2 verliehen.</translation>
     </message>
     <message>
         <source>Le prêter maintenant à %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt an %1 verleihen?</translation>
     </message>
     <message>
         <source>Le prêter maintenant à quelqu&apos;un d&apos;autre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt an jemand anderen verleihen?</translation>
     </message>
 </context>
 <context>
@@ -1196,7 +1196,7 @@
     </message>
     <message>
         <source>Prêt</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausleihe</translation>
     </message>
 </context>
 <context>
@@ -1399,21 +1399,21 @@
     </message>
     <message numerus="yes">
         <source>Remplacer la base en service par celle du %1, avec %n album(s) ?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die aktuelle Datenbank durch die vom %1 mit %n Album ersetzen?</numerusform>
+            <numerusform>Die aktuelle Datenbank durch die vom %1 mit %n Alben ersetzen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sicherung enthält die Daten, nicht die Bilder: Ihre Ordner, images und image, werden getrennt kopiert.</translation>
     </message>
 </context>
 <context>
     <name>Restes</name>
     <message>
         <source>Restes ôtés : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernte Reste: %1</translation>
     </message>
 </context>
 <context>
@@ -1428,7 +1428,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt ein Name.</translation>
     </message>
 </context>
 <context>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>Voir la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste ansehen</translation>
     </message>
 </context>
 <context>
@@ -1502,7 +1502,7 @@
     </message>
     <message>
         <source>Statistiques ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik ...</translation>
     </message>
 </context>
 <context>
@@ -1545,50 +1545,50 @@
     </message>
     <message>
         <source>Prix d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaufpreis</translation>
     </message>
     <message>
         <source>Albums prêtés</source>
-        <translation type="unfinished"></translation>
+        <translation>Verliehene Alben</translation>
     </message>
     <message>
         <source>Vue d&apos;ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation>Überblick</translation>
     </message>
 </context>
 <context>
     <name>Supprimer</name>
     <message numerus="yes">
         <source>%n album(s) restent, sans série.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Album bleibt, ohne Serie.</numerusform>
+            <numerusform>%n Alben bleiben, ohne Serie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans éditeur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Album bleibt, ohne Verlag.</numerusform>
+            <numerusform>%n Alben bleiben, ohne Verlag.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cette collection.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Album bleibt, ohne diese Verlagsreihe.</numerusform>
+            <numerusform>%n Alben bleiben, ohne diese Verlagsreihe.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cet auteur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Album bleibt, ohne diesen Autor.</numerusform>
+            <numerusform>%n Alben bleiben, ohne diesen Autor.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cet album est prêté à %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Album ist an %1 verliehen.</translation>
     </message>
 </context>
 <context>
@@ -1668,15 +1668,15 @@
     </message>
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit à la main, ligne par ligne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier ist noch nichts. Diese Liste wird von Hand gefüllt, Zeile für Zeile.</translation>
     </message>
     <message>
         <source>Créer un album</source>
-        <translation type="unfinished"></translation>
+        <translation>Album anlegen</translation>
     </message>
     <message>
         <source>Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriger oder nächster Eintrag: Strg+Bild auf, Strg+Bild ab</translation>
     </message>
 </context>
 </TS>

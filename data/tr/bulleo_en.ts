@@ -5,34 +5,34 @@
     <name>AccesBDNet</name>
     <message>
         <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
-        <translation type="unfinished">The browser is not installed (package libqt6webenginewidgets6). To analyse an album page, just type its address above.</translation>
+        <translation>The browser is not installed (package libqt6webenginewidgets6). To analyse an album page, just type its address above.</translation>
     </message>
     <message>
         <source>Donnez l&apos;adresse du catalogue, d&apos;où viennent les couvertures, et la page par laquelle sa visite commence.</source>
-        <translation type="unfinished"></translation>
+        <translation>Give the address of the catalogue, where the covers come from, and the page on which a visit to it begins.</translation>
     </message>
     <message>
         <source>Adresse du catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Address of the catalogue</translation>
     </message>
     <message>
         <source>Page d&apos;accueil</source>
-        <translation type="unfinished"></translation>
+        <translation>Home page</translation>
     </message>
     <message>
         <source>Enregistrer</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>« %1 » n&apos;est pas une adresse du web.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” is not a web address.</translation>
     </message>
 </context>
 <context>
     <name>AccordPourLaNote</name>
     <message>
         <source>Cette dédicace est une note : « %1 ». L&apos;image la remplacera. Continuer ?</source>
-        <translation>This dedication is a note: “%1”. The picture will replace it. Continue?</translation>
+        <translation>This signed sketch is a note: “%1”. The picture will replace it. Continue?</translation>
     </message>
 </context>
 <context>
@@ -90,11 +90,11 @@
     </message>
     <message>
         <source>Utiliser comme dédicace 1</source>
-        <translation>Use as dedication 1</translation>
+        <translation>Use as signed sketch 1</translation>
     </message>
     <message>
         <source>Utiliser comme dédicace 2</source>
-        <translation>Use as dedication 2</translation>
+        <translation>Use as signed sketch 2</translation>
     </message>
     <message>
         <source>Montrez un album dans la fenêtre principale pour lui donner cette image.</source>
@@ -145,7 +145,7 @@
     <name>Acte</name>
     <message>
         <source>La modification est enregistrée, mais le disque a signalé une erreur.</source>
-        <translation type="unfinished"></translation>
+        <translation>The change is saved, but the disk reported an error.</translation>
     </message>
 </context>
 <context>
@@ -178,7 +178,7 @@
     <name>Apparence</name>
     <message>
         <source>Apparence</source>
-        <translation type="unfinished"></translation>
+        <translation>Appearance</translation>
     </message>
 </context>
 <context>
@@ -212,32 +212,32 @@
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”: an album begun is not created yet, it will be lost.</translation>
     </message>
     <message>
         <source>La couverture n&apos;a pas pu être gardée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The cover could not be kept: %1</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Perdre ce qui est saisi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>This album is not created yet. Lose what has been entered?</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>This album is not created yet. Close anyway?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>What has been entered will be there the next time this opens, as long as the program is not quit.</translation>
     </message>
 </context>
 <context>
     <name>BandeSerie</name>
     <message numerus="yes">
         <source>%n tome(s) de plus</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n more volume</numerusform>
+            <numerusform>%n more volumes</numerusform>
         </translation>
     </message>
 </context>
@@ -340,23 +340,23 @@
     </message>
     <message>
         <source>Une longue lecture de la base est en cours.</source>
-        <translation type="unfinished"></translation>
+        <translation>A long reading of the database is under way.</translation>
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database is read-only: nothing in it can be changed.</translation>
     </message>
     <message>
         <source>Pour lire cette base, il en faut une copie, qui ne peut pas être faite.</source>
-        <translation type="unfinished"></translation>
+        <translation>To read this database a copy of it is needed, and that cannot be made.</translation>
     </message>
     <message>
         <source>Ce fichier contient des vues ou des règles qui ne viennent pas de Bulleo : il n&apos;est pas ouvert.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file contains views or rules that do not come from Bulleo: it is not opened.</translation>
     </message>
     <message>
         <source>La lecture a été arrêtée.</source>
-        <translation type="unfinished"></translation>
+        <translation>The reading was stopped.</translation>
     </message>
 </context>
 <context>
@@ -375,15 +375,15 @@
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database is read-only: nothing in it can be changed.</translation>
     </message>
     <message>
         <source>La lecture de la base dure plus longtemps que prévu. Attendre encore ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the database is taking longer than expected. Go on waiting?</translation>
     </message>
     <message>
         <source>La copie contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>The copy contains the data, not the pictures: their folders, images and image, are copied separately.</translation>
     </message>
 </context>
 <context>
@@ -449,14 +449,14 @@
     </message>
     <message>
         <source>Ce n&apos;est pas un fichier de valeurs séparées (CSV).</source>
-        <translation type="unfinished"></translation>
+        <translation>This is not a file of separated values (CSV).</translation>
     </message>
 </context>
 <context>
     <name>Demarrage</name>
     <message>
         <source>La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes d&apos;albums supprimés. Les ôter ? Ctrl+Z les remet.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database contains leftovers that nothing shows: interrupted entries, duplicate links, lines of deleted albums. Remove them? Ctrl+Z brings them back.</translation>
     </message>
 </context>
 <context>
@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>Titre, série, auteur ou éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Title, series, author or publisher</translation>
     </message>
 </context>
 <context>
@@ -558,11 +558,11 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>A name is missing.</translation>
     </message>
     <message>
         <source>« %1 » peut se lire %2 ou %3 : écrivez l&apos;un des deux.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” can be read as %2 or as %3: write one of the two.</translation>
     </message>
 </context>
 <context>
@@ -577,9 +577,9 @@
     </message>
     <message numerus="yes">
         <source>tome %1 · %n possédé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>volume %1 · %n owned</numerusform>
+            <numerusform>volume %1 · %n owned</numerusform>
         </translation>
     </message>
 </context>
@@ -587,7 +587,7 @@
     <name>FicheForme</name>
     <message>
         <source>Groupe suivant : F6, précédent : Maj+F6</source>
-        <translation type="unfinished"></translation>
+        <translation>Next group: F6, previous: Shift+F6</translation>
     </message>
 </context>
 <context>
@@ -598,27 +598,27 @@
     </message>
     <message>
         <source>Effacer tout ce qui est saisi ici ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear everything entered here?</translation>
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”: an album begun is not created yet, it will be lost.</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>This album is not created yet. Close anyway?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>What has been entered will be there the next time this opens, as long as the program is not quit.</translation>
     </message>
     <message>
         <source>Vider</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>Effacer tous les champs</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear all the fields</translation>
     </message>
 </context>
 <context>
@@ -667,11 +667,11 @@
     </message>
     <message>
         <source>« %1 » est connu dans un autre métier : il sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” is known in another role: it will be chosen.</translation>
     </message>
     <message>
         <source>« %1 » sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” will be chosen.</translation>
     </message>
 </context>
 <context>
@@ -914,23 +914,23 @@
     </message>
     <message>
         <source>Cette adresse ne s&apos;ouvre pas d&apos;ici : seuls les pages web et le courrier s&apos;ouvrent.</source>
-        <translation type="unfinished"></translation>
+        <translation>This address does not open from here: only web pages and mail open.</translation>
     </message>
     <message>
         <source>Aucun programme de courrier n&apos;est installé : copiez l&apos;adresse dans le vôtre.</source>
-        <translation type="unfinished"></translation>
+        <translation>No mail program is installed: copy the address into yours.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé : installez-en un, ou ouvrez cette adresse ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No browser is installed: install one, or open this address elsewhere.</translation>
     </message>
     <message>
         <source>Aucun programme n&apos;est installé pour voir cette image : installez une visionneuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>No program is installed to view this picture: install a picture viewer.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé pour lire l&apos;aide : installez-en un, ou ouvrez ce fichier ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No browser is installed to read the help: install one, or open this file elsewhere.</translation>
     </message>
 </context>
 <context>
@@ -970,7 +970,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>A name is missing.</translation>
     </message>
 </context>
 <context>
@@ -999,27 +999,27 @@
     <name>PageTheme</name>
     <message>
         <source>Thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Theme</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished">Windows:</translation>
+        <translation>Windows:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished">Light or dark windows</translation>
+        <translation>Light or dark windows</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished">like the desktop</translation>
+        <translation>like the desktop</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished">light</translation>
+        <translation>light</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished">dark</translation>
+        <translation>dark</translation>
     </message>
 </context>
 <context>
@@ -1034,7 +1034,7 @@
     </message>
     <message>
         <source>Cette fiche n&apos;est plus là : les listes ont été relues.</source>
-        <translation type="unfinished"></translation>
+        <translation>This record is no longer there: the lists have been read again.</translation>
     </message>
 </context>
 <context>
@@ -1070,7 +1070,7 @@
     </message>
     <message>
         <source>lecture seule</source>
-        <translation type="unfinished"></translation>
+        <translation>read-only</translation>
     </message>
 </context>
 <context>
@@ -1096,19 +1096,19 @@
     </message>
     <message>
         <source>Renommer</source>
-        <translation type="unfinished"></translation>
+        <translation>Rename</translation>
     </message>
     <message>
         <source>Rendre</source>
-        <translation type="unfinished"></translation>
+        <translation>Mark as returned</translation>
     </message>
     <message>
         <source>Prêter…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lend…</translation>
     </message>
     <message>
         <source>Copier</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy</translation>
     </message>
 </context>
 <context>
@@ -1154,38 +1154,38 @@
     </message>
     <message>
         <source>quelqu&apos;un qui n&apos;est plus dans la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>someone who is no longer in the list</translation>
     </message>
     <message>
         <source>Une personne a un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>A person needs a name.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) lui restent prêtés et le resteront.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album is still lent to this person and will stay so.</numerusform>
+            <numerusform>%n albums are still lent to this person and will stay so.</numerusform>
         </translation>
     </message>
     <message>
         <source>Prêter « %1 » à %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lend “%1” to %2</translation>
     </message>
     <message>
         <source>« %1 » est déjà prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” is already lent to %2.</translation>
     </message>
     <message>
         <source>« %1 » est prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” is lent to %2.</translation>
     </message>
     <message>
         <source>Le prêter maintenant à %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Lend it now to %1?</translation>
     </message>
     <message>
         <source>Le prêter maintenant à quelqu&apos;un d&apos;autre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Lend it now to someone else?</translation>
     </message>
 </context>
 <context>
@@ -1196,7 +1196,7 @@
     </message>
     <message>
         <source>Prêt</source>
-        <translation type="unfinished"></translation>
+        <translation>Loan</translation>
     </message>
 </context>
 <context>
@@ -1399,21 +1399,21 @@
     </message>
     <message numerus="yes">
         <source>Remplacer la base en service par celle du %1, avec %n album(s) ?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Replace the current database with that of %1, with %n album?</numerusform>
+            <numerusform>Replace the current database with that of %1, with %n albums?</numerusform>
         </translation>
     </message>
     <message>
         <source>Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>A backup contains the data, not the pictures: their folders, images and image, are copied separately.</translation>
     </message>
 </context>
 <context>
     <name>Restes</name>
     <message>
         <source>Restes ôtés : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Leftovers removed: %1</translation>
     </message>
 </context>
 <context>
@@ -1428,7 +1428,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>A name is missing.</translation>
     </message>
 </context>
 <context>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>Voir la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>See the list</translation>
     </message>
 </context>
 <context>
@@ -1502,7 +1502,7 @@
     </message>
     <message>
         <source>Statistiques ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistics ...</translation>
     </message>
 </context>
 <context>
@@ -1545,50 +1545,50 @@
     </message>
     <message>
         <source>Prix d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Purchase Price</translation>
     </message>
     <message>
         <source>Albums prêtés</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums lent</translation>
     </message>
     <message>
         <source>Vue d&apos;ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation>Overview</translation>
     </message>
 </context>
 <context>
     <name>Supprimer</name>
     <message numerus="yes">
         <source>%n album(s) restent, sans série.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album stays, without a series.</numerusform>
+            <numerusform>%n albums stay, without a series.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans éditeur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album stays, without a publisher.</numerusform>
+            <numerusform>%n albums stay, without a publisher.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cette collection.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album stays, without this collection.</numerusform>
+            <numerusform>%n albums stay, without this collection.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cet auteur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album stays, without this author.</numerusform>
+            <numerusform>%n albums stay, without this author.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cet album est prêté à %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>This album is lent to %1.</translation>
     </message>
 </context>
 <context>
@@ -1668,15 +1668,15 @@
     </message>
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit à la main, ligne par ligne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing here for now. This list is filled in by hand, line by line.</translation>
     </message>
     <message>
         <source>Créer un album</source>
-        <translation type="unfinished"></translation>
+        <translation>Create an album</translation>
     </message>
     <message>
         <source>Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv.</source>
-        <translation type="unfinished"></translation>
+        <translation>Previous or next entry: Ctrl+Page Up, Ctrl+Page Down</translation>
     </message>
 </context>
 </TS>

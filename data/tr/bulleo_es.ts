@@ -5,27 +5,27 @@
     <name>AccesBDNet</name>
     <message>
         <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
-        <translation type="unfinished">El navegador no está instalado (paquete libqt6webenginewidgets6). Para analizar la página de un álbum, basta con escribir arriba su dirección.</translation>
+        <translation>El navegador no está instalado (paquete libqt6webenginewidgets6). Para analizar la página de un álbum, basta con escribir arriba su dirección.</translation>
     </message>
     <message>
         <source>Donnez l&apos;adresse du catalogue, d&apos;où viennent les couvertures, et la page par laquelle sa visite commence.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique la dirección del catálogo, de donde vienen las cubiertas, y la página por la que empieza su visita.</translation>
     </message>
     <message>
         <source>Adresse du catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección del catálogo</translation>
     </message>
     <message>
         <source>Page d&apos;accueil</source>
-        <translation type="unfinished"></translation>
+        <translation>Página de inicio</translation>
     </message>
     <message>
         <source>Enregistrer</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>« %1 » n&apos;est pas une adresse du web.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una dirección web.</translation>
     </message>
 </context>
 <context>
@@ -145,7 +145,7 @@
     <name>Acte</name>
     <message>
         <source>La modification est enregistrée, mais le disque a signalé une erreur.</source>
-        <translation type="unfinished"></translation>
+        <translation>El cambio está guardado, pero el disco ha señalado un error.</translation>
     </message>
 </context>
 <context>
@@ -178,7 +178,7 @@
     <name>Apparence</name>
     <message>
         <source>Apparence</source>
-        <translation type="unfinished"></translation>
+        <translation>Apariencia</translation>
     </message>
 </context>
 <context>
@@ -212,32 +212,32 @@
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: un álbum empezado todavía no está creado, se perderá.</translation>
     </message>
     <message>
         <source>La couverture n&apos;a pas pu être gardée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido conservar la cubierta: %1</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Perdre ce qui est saisi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Este álbum todavía no está creado. ¿Perder lo introducido?</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Este álbum todavía no está creado. ¿Cerrar de todos modos?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo introducido estará ahí la próxima vez que se abra, mientras no se salga del programa.</translation>
     </message>
 </context>
 <context>
     <name>BandeSerie</name>
     <message numerus="yes">
         <source>%n tome(s) de plus</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tomo más</numerusform>
+            <numerusform>%n tomos más</numerusform>
         </translation>
     </message>
 </context>
@@ -340,23 +340,23 @@
     </message>
     <message>
         <source>Une longue lecture de la base est en cours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una lectura larga de la base de datos en curso.</translation>
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos es de solo lectura: no se puede modificar nada en ella.</translation>
     </message>
     <message>
         <source>Pour lire cette base, il en faut une copie, qui ne peut pas être faite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para leer esta base de datos hace falta una copia, que no se puede hacer.</translation>
     </message>
     <message>
         <source>Ce fichier contient des vues ou des règles qui ne viennent pas de Bulleo : il n&apos;est pas ouvert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo contiene vistas o reglas que no vienen de Bulleo: no se abre.</translation>
     </message>
     <message>
         <source>La lecture a été arrêtée.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha detenido la lectura.</translation>
     </message>
 </context>
 <context>
@@ -375,15 +375,15 @@
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos es de solo lectura: no se puede modificar nada en ella.</translation>
     </message>
     <message>
         <source>La lecture de la base dure plus longtemps que prévu. Attendre encore ?</source>
-        <translation type="unfinished"></translation>
+        <translation>La lectura de la base de datos dura más de lo previsto. ¿Seguir esperando?</translation>
     </message>
     <message>
         <source>La copie contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia contiene los datos, no las imágenes: sus carpetas, images e image, se copian aparte.</translation>
     </message>
 </context>
 <context>
@@ -449,14 +449,14 @@
     </message>
     <message>
         <source>Ce n&apos;est pas un fichier de valeurs séparées (CSV).</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo de valores separados (CSV).</translation>
     </message>
 </context>
 <context>
     <name>Demarrage</name>
     <message>
         <source>La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes d&apos;albums supprimés. Les ôter ? Ctrl+Z les remet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos contiene restos que nada muestra: entradas interrumpidas, enlaces duplicados, líneas de álbumes eliminados. ¿Quitarlos? Ctrl+Z los devuelve.</translation>
     </message>
 </context>
 <context>
@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>Titre, série, auteur ou éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Título, serie, autor o editorial</translation>
     </message>
 </context>
 <context>
@@ -558,11 +558,11 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta un nombre.</translation>
     </message>
     <message>
         <source>« %1 » peut se lire %2 ou %3 : écrivez l&apos;un des deux.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se puede leer %2 o %3: escriba uno de los dos.</translation>
     </message>
 </context>
 <context>
@@ -577,9 +577,9 @@
     </message>
     <message numerus="yes">
         <source>tome %1 · %n possédé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>tomo %1 · %n en la colección</numerusform>
+            <numerusform>tomo %1 · %n en la colección</numerusform>
         </translation>
     </message>
 </context>
@@ -587,7 +587,7 @@
     <name>FicheForme</name>
     <message>
         <source>Groupe suivant : F6, précédent : Maj+F6</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo siguiente: F6, anterior: Mayús+F6</translation>
     </message>
 </context>
 <context>
@@ -598,27 +598,27 @@
     </message>
     <message>
         <source>Effacer tout ce qui est saisi ici ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar todo lo introducido aquí?</translation>
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: un álbum empezado todavía no está creado, se perderá.</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Este álbum todavía no está creado. ¿Cerrar de todos modos?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo introducido estará ahí la próxima vez que se abra, mientras no se salga del programa.</translation>
     </message>
     <message>
         <source>Vider</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar</translation>
     </message>
     <message>
         <source>Effacer tous les champs</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar todos los campos</translation>
     </message>
 </context>
 <context>
@@ -667,11 +667,11 @@
     </message>
     <message>
         <source>« %1 » est connu dans un autre métier : il sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se conoce en otra actividad: se elegirá.</translation>
     </message>
     <message>
         <source>« %1 » sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se elegirá «%1».</translation>
     </message>
 </context>
 <context>
@@ -914,23 +914,23 @@
     </message>
     <message>
         <source>Cette adresse ne s&apos;ouvre pas d&apos;ici : seuls les pages web et le courrier s&apos;ouvrent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta dirección no se abre desde aquí: solo se abren páginas web y correo.</translation>
     </message>
     <message>
         <source>Aucun programme de courrier n&apos;est installé : copiez l&apos;adresse dans le vôtre.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún programa de correo instalado: copie la dirección en el suyo.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé : installez-en un, ou ouvrez cette adresse ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún navegador instalado: instale uno o abra esta dirección en otro lugar.</translation>
     </message>
     <message>
         <source>Aucun programme n&apos;est installé pour voir cette image : installez une visionneuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún programa instalado para ver esta imagen: instale un visor.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé pour lire l&apos;aide : installez-en un, ou ouvrez ce fichier ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún navegador instalado para leer la ayuda: instale uno o abra este archivo en otro lugar.</translation>
     </message>
 </context>
 <context>
@@ -970,7 +970,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta un nombre.</translation>
     </message>
 </context>
 <context>
@@ -999,27 +999,27 @@
     <name>PageTheme</name>
     <message>
         <source>Thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Tema</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished">Ventanas:</translation>
+        <translation>Ventanas:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished">Ventanas claras u oscuras</translation>
+        <translation>Ventanas claras u oscuras</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished">como el escritorio</translation>
+        <translation>como el escritorio</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished">claras</translation>
+        <translation>claras</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished">oscuras</translation>
+        <translation>oscuras</translation>
     </message>
 </context>
 <context>
@@ -1034,7 +1034,7 @@
     </message>
     <message>
         <source>Cette fiche n&apos;est plus là : les listes ont été relues.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta ficha ya no está: se han vuelto a leer las listas.</translation>
     </message>
 </context>
 <context>
@@ -1070,7 +1070,7 @@
     </message>
     <message>
         <source>lecture seule</source>
-        <translation type="unfinished"></translation>
+        <translation>solo lectura</translation>
     </message>
 </context>
 <context>
@@ -1096,19 +1096,19 @@
     </message>
     <message>
         <source>Renommer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre</translation>
     </message>
     <message>
         <source>Rendre</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar como devuelto</translation>
     </message>
     <message>
         <source>Prêter…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestar…</translation>
     </message>
     <message>
         <source>Copier</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
 </context>
 <context>
@@ -1154,38 +1154,38 @@
     </message>
     <message>
         <source>quelqu&apos;un qui n&apos;est plus dans la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>alguien que ya no está en la lista</translation>
     </message>
     <message>
         <source>Une personne a un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una persona debe tener un nombre.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) lui restent prêtés et le resteront.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n álbum sigue prestado a esta persona y lo seguirá estando.</numerusform>
+            <numerusform>%n álbumes siguen prestados a esta persona y lo seguirán estando.</numerusform>
         </translation>
     </message>
     <message>
         <source>Prêter « %1 » à %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestar «%1» a %2</translation>
     </message>
     <message>
         <source>« %1 » est déjà prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ya está prestado a %2.</translation>
     </message>
     <message>
         <source>« %1 » est prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está prestado a %2.</translation>
     </message>
     <message>
         <source>Le prêter maintenant à %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Prestarlo ahora a %1?</translation>
     </message>
     <message>
         <source>Le prêter maintenant à quelqu&apos;un d&apos;autre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Prestarlo ahora a otra persona?</translation>
     </message>
 </context>
 <context>
@@ -1196,7 +1196,7 @@
     </message>
     <message>
         <source>Prêt</source>
-        <translation type="unfinished"></translation>
+        <translation>Préstamo</translation>
     </message>
 </context>
 <context>
@@ -1399,21 +1399,21 @@
     </message>
     <message numerus="yes">
         <source>Remplacer la base en service par celle du %1, avec %n album(s) ?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>¿Reemplazar la base de datos actual por la del %1, con %n álbum?</numerusform>
+            <numerusform>¿Reemplazar la base de datos actual por la del %1, con %n álbumes?</numerusform>
         </translation>
     </message>
     <message>
         <source>Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una copia de seguridad contiene los datos, no las imágenes: sus carpetas, images e image, se copian aparte.</translation>
     </message>
 </context>
 <context>
     <name>Restes</name>
     <message>
         <source>Restes ôtés : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Restos quitados: %1</translation>
     </message>
 </context>
 <context>
@@ -1428,7 +1428,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta un nombre.</translation>
     </message>
 </context>
 <context>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>Voir la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver la lista</translation>
     </message>
 </context>
 <context>
@@ -1502,7 +1502,7 @@
     </message>
     <message>
         <source>Statistiques ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Estadísticas ...</translation>
     </message>
 </context>
 <context>
@@ -1545,50 +1545,50 @@
     </message>
     <message>
         <source>Prix d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Precio de compra</translation>
     </message>
     <message>
         <source>Albums prêtés</source>
-        <translation type="unfinished"></translation>
+        <translation>Álbumes prestados</translation>
     </message>
     <message>
         <source>Vue d&apos;ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation>Visión general</translation>
     </message>
 </context>
 <context>
     <name>Supprimer</name>
     <message numerus="yes">
         <source>%n album(s) restent, sans série.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n álbum se queda, sin serie.</numerusform>
+            <numerusform>%n álbumes se quedan, sin serie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans éditeur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n álbum se queda, sin editorial.</numerusform>
+            <numerusform>%n álbumes se quedan, sin editorial.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cette collection.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n álbum se queda, sin esta colección.</numerusform>
+            <numerusform>%n álbumes se quedan, sin esta colección.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cet auteur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n álbum se queda, sin este autor.</numerusform>
+            <numerusform>%n álbumes se quedan, sin este autor.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cet album est prêté à %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este álbum está prestado a %1.</translation>
     </message>
 </context>
 <context>
@@ -1668,15 +1668,15 @@
     </message>
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit à la main, ligne par ligne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Por ahora no hay nada aquí. Esta lista se llena a mano, línea por línea.</translation>
     </message>
     <message>
         <source>Créer un album</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear un álbum</translation>
     </message>
     <message>
         <source>Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada anterior o siguiente: Ctrl+Re Pág, Ctrl+Av Pág</translation>
     </message>
 </context>
 </TS>

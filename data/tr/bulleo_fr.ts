@@ -5,27 +5,27 @@
     <name>AccesBDNet</name>
     <message>
         <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
-        <translation type="unfinished">Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</translation>
+        <translation>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</translation>
     </message>
     <message>
         <source>Donnez l&apos;adresse du catalogue, d&apos;où viennent les couvertures, et la page par laquelle sa visite commence.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donnez l&apos;adresse du catalogue, d&apos;où viennent les couvertures, et la page par laquelle sa visite commence.</translation>
     </message>
     <message>
         <source>Adresse du catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse du catalogue</translation>
     </message>
     <message>
         <source>Page d&apos;accueil</source>
-        <translation type="unfinished"></translation>
+        <translation>Page d&apos;accueil</translation>
     </message>
     <message>
         <source>Enregistrer</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>« %1 » n&apos;est pas une adresse du web.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas une adresse du web.</translation>
     </message>
 </context>
 <context>
@@ -145,7 +145,7 @@
     <name>Acte</name>
     <message>
         <source>La modification est enregistrée, mais le disque a signalé une erreur.</source>
-        <translation type="unfinished"></translation>
+        <translation>La modification est enregistrée, mais le disque a signalé une erreur.</translation>
     </message>
 </context>
 <context>
@@ -178,7 +178,7 @@
     <name>Apparence</name>
     <message>
         <source>Apparence</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
 </context>
 <context>
@@ -212,32 +212,32 @@
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</translation>
     </message>
     <message>
         <source>La couverture n&apos;a pas pu être gardée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La couverture n&apos;a pas pu être gardée : %1</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Perdre ce qui est saisi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet album n&apos;est pas encore créé. Perdre ce qui est saisi ?</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet album n&apos;est pas encore créé. Fermer quand même ?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</translation>
     </message>
 </context>
 <context>
     <name>BandeSerie</name>
     <message numerus="yes">
         <source>%n tome(s) de plus</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tome de plus</numerusform>
+            <numerusform>%n tomes de plus</numerusform>
         </translation>
     </message>
 </context>
@@ -340,23 +340,23 @@
     </message>
     <message>
         <source>Une longue lecture de la base est en cours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une longue lecture de la base est en cours.</translation>
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base est en lecture seule : rien ne peut y être modifié.</translation>
     </message>
     <message>
         <source>Pour lire cette base, il en faut une copie, qui ne peut pas être faite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour lire cette base, il en faut une copie, qui ne peut pas être faite.</translation>
     </message>
     <message>
         <source>Ce fichier contient des vues ou des règles qui ne viennent pas de Bulleo : il n&apos;est pas ouvert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier contient des vues ou des règles qui ne viennent pas de Bulleo : il n&apos;est pas ouvert.</translation>
     </message>
     <message>
         <source>La lecture a été arrêtée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture a été arrêtée.</translation>
     </message>
 </context>
 <context>
@@ -375,15 +375,15 @@
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base est en lecture seule : rien ne peut y être modifié.</translation>
     </message>
     <message>
         <source>La lecture de la base dure plus longtemps que prévu. Attendre encore ?</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture de la base dure plus longtemps que prévu. Attendre encore ?</translation>
     </message>
     <message>
         <source>La copie contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie contient les données, pas les images : leurs dossiers, images et image, se copient à part.</translation>
     </message>
 </context>
 <context>
@@ -449,14 +449,14 @@
     </message>
     <message>
         <source>Ce n&apos;est pas un fichier de valeurs séparées (CSV).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas un fichier de valeurs séparées (CSV).</translation>
     </message>
 </context>
 <context>
     <name>Demarrage</name>
     <message>
         <source>La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes d&apos;albums supprimés. Les ôter ? Ctrl+Z les remet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes d&apos;albums supprimés. Les ôter ? Ctrl+Z les remet.</translation>
     </message>
 </context>
 <context>
@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>Titre, série, auteur ou éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre, série, auteur ou éditeur</translation>
     </message>
 </context>
 <context>
@@ -558,11 +558,11 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque un nom.</translation>
     </message>
     <message>
         <source>« %1 » peut se lire %2 ou %3 : écrivez l&apos;un des deux.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » peut se lire %2 ou %3 : écrivez l&apos;un des deux.</translation>
     </message>
 </context>
 <context>
@@ -577,9 +577,9 @@
     </message>
     <message numerus="yes">
         <source>tome %1 · %n possédé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>tome %1 · %n possédé</numerusform>
+            <numerusform>tome %1 · %n possédés</numerusform>
         </translation>
     </message>
 </context>
@@ -587,7 +587,7 @@
     <name>FicheForme</name>
     <message>
         <source>Groupe suivant : F6, précédent : Maj+F6</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe suivant : F6, précédent : Maj+F6</translation>
     </message>
 </context>
 <context>
@@ -598,27 +598,27 @@
     </message>
     <message>
         <source>Effacer tout ce qui est saisi ici ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer tout ce qui est saisi ici ?</translation>
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet album n&apos;est pas encore créé. Fermer quand même ?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</translation>
     </message>
     <message>
         <source>Vider</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Effacer tous les champs</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer tous les champs</translation>
     </message>
 </context>
 <context>
@@ -667,11 +667,11 @@
     </message>
     <message>
         <source>« %1 » est connu dans un autre métier : il sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est connu dans un autre métier : il sera choisi.</translation>
     </message>
     <message>
         <source>« %1 » sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » sera choisi.</translation>
     </message>
 </context>
 <context>
@@ -914,23 +914,23 @@
     </message>
     <message>
         <source>Cette adresse ne s&apos;ouvre pas d&apos;ici : seuls les pages web et le courrier s&apos;ouvrent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette adresse ne s&apos;ouvre pas d&apos;ici : seuls les pages web et le courrier s&apos;ouvrent.</translation>
     </message>
     <message>
         <source>Aucun programme de courrier n&apos;est installé : copiez l&apos;adresse dans le vôtre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun programme de courrier n&apos;est installé : copiez l&apos;adresse dans le vôtre.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé : installez-en un, ou ouvrez cette adresse ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun navigateur n&apos;est installé : installez-en un, ou ouvrez cette adresse ailleurs.</translation>
     </message>
     <message>
         <source>Aucun programme n&apos;est installé pour voir cette image : installez une visionneuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun programme n&apos;est installé pour voir cette image : installez une visionneuse.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé pour lire l&apos;aide : installez-en un, ou ouvrez ce fichier ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun navigateur n&apos;est installé pour lire l&apos;aide : installez-en un, ou ouvrez ce fichier ailleurs.</translation>
     </message>
 </context>
 <context>
@@ -970,7 +970,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque un nom.</translation>
     </message>
 </context>
 <context>
@@ -999,27 +999,27 @@
     <name>PageTheme</name>
     <message>
         <source>Thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Thème</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished">Fenêtres :</translation>
+        <translation>Fenêtres :</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished">Fenêtres claires ou sombres</translation>
+        <translation>Fenêtres claires ou sombres</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished">comme le bureau</translation>
+        <translation>comme le bureau</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished">claires</translation>
+        <translation>claires</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished">sombres</translation>
+        <translation>sombres</translation>
     </message>
 </context>
 <context>
@@ -1034,7 +1034,7 @@
     </message>
     <message>
         <source>Cette fiche n&apos;est plus là : les listes ont été relues.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette fiche n&apos;est plus là : les listes ont été relues.</translation>
     </message>
 </context>
 <context>
@@ -1070,7 +1070,7 @@
     </message>
     <message>
         <source>lecture seule</source>
-        <translation type="unfinished"></translation>
+        <translation>lecture seule</translation>
     </message>
 </context>
 <context>
@@ -1096,19 +1096,19 @@
     </message>
     <message>
         <source>Renommer</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Rendre</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendre</translation>
     </message>
     <message>
         <source>Prêter…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêter…</translation>
     </message>
     <message>
         <source>Copier</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
 </context>
 <context>
@@ -1154,38 +1154,38 @@
     </message>
     <message>
         <source>quelqu&apos;un qui n&apos;est plus dans la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>quelqu&apos;un qui n&apos;est plus dans la liste</translation>
     </message>
     <message>
         <source>Une personne a un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une personne a un nom.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) lui restent prêtés et le resteront.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album lui reste prêté et le restera.</numerusform>
+            <numerusform>%n albums lui restent prêtés et le resteront.</numerusform>
         </translation>
     </message>
     <message>
         <source>Prêter « %1 » à %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêter « %1 » à %2</translation>
     </message>
     <message>
         <source>« %1 » est déjà prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est déjà prêté à %2.</translation>
     </message>
     <message>
         <source>« %1 » est prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est prêté à %2.</translation>
     </message>
     <message>
         <source>Le prêter maintenant à %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prêter maintenant à %1 ?</translation>
     </message>
     <message>
         <source>Le prêter maintenant à quelqu&apos;un d&apos;autre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prêter maintenant à quelqu&apos;un d&apos;autre ?</translation>
     </message>
 </context>
 <context>
@@ -1196,7 +1196,7 @@
     </message>
     <message>
         <source>Prêt</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
 </context>
 <context>
@@ -1399,21 +1399,21 @@
     </message>
     <message numerus="yes">
         <source>Remplacer la base en service par celle du %1, avec %n album(s) ?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Remplacer la base en service par celle du %1, avec %n album ?</numerusform>
+            <numerusform>Remplacer la base en service par celle du %1, avec %n albums ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se copient à part.</translation>
     </message>
 </context>
 <context>
     <name>Restes</name>
     <message>
         <source>Restes ôtés : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Restes ôtés : %1</translation>
     </message>
 </context>
 <context>
@@ -1428,7 +1428,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque un nom.</translation>
     </message>
 </context>
 <context>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>Voir la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir la liste</translation>
     </message>
 </context>
 <context>
@@ -1502,7 +1502,7 @@
     </message>
     <message>
         <source>Statistiques ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques ...</translation>
     </message>
 </context>
 <context>
@@ -1545,50 +1545,50 @@
     </message>
     <message>
         <source>Prix d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Prix d&apos;achat</translation>
     </message>
     <message>
         <source>Albums prêtés</source>
-        <translation type="unfinished"></translation>
+        <translation>Albums prêtés</translation>
     </message>
     <message>
         <source>Vue d&apos;ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue d&apos;ensemble</translation>
     </message>
 </context>
 <context>
     <name>Supprimer</name>
     <message numerus="yes">
         <source>%n album(s) restent, sans série.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album reste, sans série.</numerusform>
+            <numerusform>%n albums restent, sans série.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans éditeur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album reste, sans éditeur.</numerusform>
+            <numerusform>%n albums restent, sans éditeur.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cette collection.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album reste, sans cette collection.</numerusform>
+            <numerusform>%n albums restent, sans cette collection.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cet auteur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album reste, sans cet auteur.</numerusform>
+            <numerusform>%n albums restent, sans cet auteur.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cet album est prêté à %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet album est prêté à %1.</translation>
     </message>
 </context>
 <context>
@@ -1668,15 +1668,15 @@
     </message>
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit à la main, ligne par ligne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ici pour l&apos;instant. Cette liste se remplit à la main, ligne par ligne.</translation>
     </message>
     <message>
         <source>Créer un album</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un album</translation>
     </message>
     <message>
         <source>Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv.</translation>
     </message>
 </context>
 </TS>

@@ -5,27 +5,27 @@
     <name>AccesBDNet</name>
     <message>
         <source>Le navigateur n&apos;est pas installé (paquet libqt6webenginewidgets6). L&apos;adresse d&apos;une fiche d&apos;album, écrite ci-dessus, suffit pour l&apos;analyser.</source>
-        <translation type="unfinished">Il browser non è installato (pacchetto libqt6webenginewidgets6). Per analizzare la pagina di un album basta scriverne l&apos;indirizzo qui sopra.</translation>
+        <translation>Il browser non è installato (pacchetto libqt6webenginewidgets6). Per analizzare la pagina di un album basta scriverne l&apos;indirizzo qui sopra.</translation>
     </message>
     <message>
         <source>Donnez l&apos;adresse du catalogue, d&apos;où viennent les couvertures, et la page par laquelle sa visite commence.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicate l&apos;indirizzo del catalogo, da cui vengono le copertine, e la pagina da cui comincia la visita.</translation>
     </message>
     <message>
         <source>Adresse du catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Indirizzo del catalogo</translation>
     </message>
     <message>
         <source>Page d&apos;accueil</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina iniziale</translation>
     </message>
     <message>
         <source>Enregistrer</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>« %1 » n&apos;est pas une adresse du web.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» non è un indirizzo web.</translation>
     </message>
 </context>
 <context>
@@ -145,7 +145,7 @@
     <name>Acte</name>
     <message>
         <source>La modification est enregistrée, mais le disque a signalé une erreur.</source>
-        <translation type="unfinished"></translation>
+        <translation>La modifica è salvata, ma il disco ha segnalato un errore.</translation>
     </message>
 </context>
 <context>
@@ -178,7 +178,7 @@
     <name>Apparence</name>
     <message>
         <source>Apparence</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspetto</translation>
     </message>
 </context>
 <context>
@@ -212,32 +212,32 @@
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: un album iniziato non è ancora creato, andrà perso.</translation>
     </message>
     <message>
         <source>La couverture n&apos;a pas pu être gardée : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile conservare la copertina: %1</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Perdre ce qui est saisi ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo album non è ancora creato. Perdere quanto inserito?</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo album non è ancora creato. Chiudere comunque?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quanto inserito sarà lì alla prossima apertura, finché non si esce dal programma.</translation>
     </message>
 </context>
 <context>
     <name>BandeSerie</name>
     <message numerus="yes">
         <source>%n tome(s) de plus</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n altro volume</numerusform>
+            <numerusform>%n altri volumi</numerusform>
         </translation>
     </message>
 </context>
@@ -340,23 +340,23 @@
     </message>
     <message>
         <source>Une longue lecture de la base est en cours.</source>
-        <translation type="unfinished"></translation>
+        <translation>È in corso una lunga lettura della base dati.</translation>
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base dati è in sola lettura: non vi si può modificare nulla.</translation>
     </message>
     <message>
         <source>Pour lire cette base, il en faut une copie, qui ne peut pas être faite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per leggere questa base dati ne serve una copia, che non può essere fatta.</translation>
     </message>
     <message>
         <source>Ce fichier contient des vues ou des règles qui ne viennent pas de Bulleo : il n&apos;est pas ouvert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file contiene viste o regole che non vengono da Bulleo: non viene aperto.</translation>
     </message>
     <message>
         <source>La lecture a été arrêtée.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lettura è stata interrotta.</translation>
     </message>
 </context>
 <context>
@@ -375,15 +375,15 @@
     </message>
     <message>
         <source>La base est en lecture seule : rien ne peut y être modifié.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base dati è in sola lettura: non vi si può modificare nulla.</translation>
     </message>
     <message>
         <source>La lecture de la base dure plus longtemps que prévu. Attendre encore ?</source>
-        <translation type="unfinished"></translation>
+        <translation>La lettura della base dati dura più del previsto. Attendere ancora?</translation>
     </message>
     <message>
         <source>La copie contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia contiene i dati, non le immagini: le loro cartelle, images e image, si copiano a parte.</translation>
     </message>
 </context>
 <context>
@@ -449,14 +449,14 @@
     </message>
     <message>
         <source>Ce n&apos;est pas un fichier de valeurs séparées (CSV).</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è un file di valori separati (CSV).</translation>
     </message>
 </context>
 <context>
     <name>Demarrage</name>
     <message>
         <source>La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes d&apos;albums supprimés. Les ôter ? Ctrl+Z les remet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base dati contiene resti che nulla mostra: inserimenti interrotti, collegamenti doppi, righe di album eliminati. Toglierli? Ctrl+Z li rimette.</translation>
     </message>
 </context>
 <context>
@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>Titre, série, auteur ou éditeur</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo, serie, autore o editore</translation>
     </message>
 </context>
 <context>
@@ -558,11 +558,11 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca un nome.</translation>
     </message>
     <message>
         <source>« %1 » peut se lire %2 ou %3 : écrivez l&apos;un des deux.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» si può leggere %2 o %3: scrivete uno dei due.</translation>
     </message>
 </context>
 <context>
@@ -577,9 +577,9 @@
     </message>
     <message numerus="yes">
         <source>tome %1 · %n possédé(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>volume %1 · %n posseduto</numerusform>
+            <numerusform>volume %1 · %n posseduti</numerusform>
         </translation>
     </message>
 </context>
@@ -587,7 +587,7 @@
     <name>FicheForme</name>
     <message>
         <source>Groupe suivant : F6, précédent : Maj+F6</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppo successivo: F6, precedente: Maiusc+F6</translation>
     </message>
 </context>
 <context>
@@ -598,27 +598,27 @@
     </message>
     <message>
         <source>Effacer tout ce qui est saisi ici ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellare tutto ciò che è inserito qui?</translation>
     </message>
     <message>
         <source>« %1 » : un album commencé n&apos;est pas encore créé, il sera perdu.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: un album iniziato non è ancora creato, andrà perso.</translation>
     </message>
     <message>
         <source>Cet album n&apos;est pas encore créé. Fermer quand même ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo album non è ancora creato. Chiudere comunque?</translation>
     </message>
     <message>
         <source>La saisie sera là à la prochaine ouverture, tant que le programme n&apos;est pas quitté.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quanto inserito sarà lì alla prossima apertura, finché non si esce dal programma.</translation>
     </message>
     <message>
         <source>Vider</source>
-        <translation type="unfinished"></translation>
+        <translation>Svuota</translation>
     </message>
     <message>
         <source>Effacer tous les champs</source>
-        <translation type="unfinished"></translation>
+        <translation>Svuota tutti i campi</translation>
     </message>
 </context>
 <context>
@@ -667,11 +667,11 @@
     </message>
     <message>
         <source>« %1 » est connu dans un autre métier : il sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» è noto in un&apos;altra attività: sarà scelto.</translation>
     </message>
     <message>
         <source>« %1 » sera choisi.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» sarà scelto.</translation>
     </message>
 </context>
 <context>
@@ -914,23 +914,23 @@
     </message>
     <message>
         <source>Cette adresse ne s&apos;ouvre pas d&apos;ici : seuls les pages web et le courrier s&apos;ouvrent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo indirizzo non si apre da qui: si aprono solo pagine web e posta.</translation>
     </message>
     <message>
         <source>Aucun programme de courrier n&apos;est installé : copiez l&apos;adresse dans le vôtre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun programma di posta è installato: copiate l&apos;indirizzo nel vostro.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé : installez-en un, ou ouvrez cette adresse ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun browser è installato: installatene uno oppure aprite questo indirizzo altrove.</translation>
     </message>
     <message>
         <source>Aucun programme n&apos;est installé pour voir cette image : installez une visionneuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun programma è installato per vedere questa immagine: installate un visualizzatore.</translation>
     </message>
     <message>
         <source>Aucun navigateur n&apos;est installé pour lire l&apos;aide : installez-en un, ou ouvrez ce fichier ailleurs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun browser è installato per leggere la guida: installatene uno oppure aprite questo file altrove.</translation>
     </message>
 </context>
 <context>
@@ -970,7 +970,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca un nome.</translation>
     </message>
 </context>
 <context>
@@ -999,27 +999,27 @@
     <name>PageTheme</name>
     <message>
         <source>Thème</source>
-        <translation type="unfinished"></translation>
+        <translation>Tema</translation>
     </message>
     <message>
         <source>Fenêtres :</source>
-        <translation type="unfinished">Finestre:</translation>
+        <translation>Finestre:</translation>
     </message>
     <message>
         <source>Fenêtres claires ou sombres</source>
-        <translation type="unfinished">Finestre chiare o scure</translation>
+        <translation>Finestre chiare o scure</translation>
     </message>
     <message>
         <source>comme le bureau</source>
-        <translation type="unfinished">come il desktop</translation>
+        <translation>come il desktop</translation>
     </message>
     <message>
         <source>claires</source>
-        <translation type="unfinished">chiare</translation>
+        <translation>chiare</translation>
     </message>
     <message>
         <source>sombres</source>
-        <translation type="unfinished">scure</translation>
+        <translation>scure</translation>
     </message>
 </context>
 <context>
@@ -1034,7 +1034,7 @@
     </message>
     <message>
         <source>Cette fiche n&apos;est plus là : les listes ont été relues.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa scheda non c&apos;è più: gli elenchi sono stati riletti.</translation>
     </message>
 </context>
 <context>
@@ -1070,7 +1070,7 @@
     </message>
     <message>
         <source>lecture seule</source>
-        <translation type="unfinished"></translation>
+        <translation>sola lettura</translation>
     </message>
 </context>
 <context>
@@ -1096,19 +1096,19 @@
     </message>
     <message>
         <source>Renommer</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina</translation>
     </message>
     <message>
         <source>Rendre</source>
-        <translation type="unfinished"></translation>
+        <translation>Segna come restituito</translation>
     </message>
     <message>
         <source>Prêter…</source>
-        <translation type="unfinished"></translation>
+        <translation>Presta…</translation>
     </message>
     <message>
         <source>Copier</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
 </context>
 <context>
@@ -1154,38 +1154,38 @@
     </message>
     <message>
         <source>quelqu&apos;un qui n&apos;est plus dans la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>qualcuno che non è più nell&apos;elenco</translation>
     </message>
     <message>
         <source>Une personne a un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una persona deve avere un nome.</translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) lui restent prêtés et le resteront.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album è ancora prestato a questa persona e lo resterà.</numerusform>
+            <numerusform>%n album sono ancora prestati a questa persona e lo resteranno.</numerusform>
         </translation>
     </message>
     <message>
         <source>Prêter « %1 » à %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Presta «%1» a %2</translation>
     </message>
     <message>
         <source>« %1 » est déjà prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» è già prestato a %2.</translation>
     </message>
     <message>
         <source>« %1 » est prêté à %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» è prestato a %2.</translation>
     </message>
     <message>
         <source>Le prêter maintenant à %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestarlo ora a %1?</translation>
     </message>
     <message>
         <source>Le prêter maintenant à quelqu&apos;un d&apos;autre ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestarlo ora a qualcun altro?</translation>
     </message>
 </context>
 <context>
@@ -1196,7 +1196,7 @@
     </message>
     <message>
         <source>Prêt</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestito</translation>
     </message>
 </context>
 <context>
@@ -1399,21 +1399,21 @@
     </message>
     <message numerus="yes">
         <source>Remplacer la base en service par celle du %1, avec %n album(s) ?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Sostituire la base dati attuale con quella del %1, con %n album?</numerusform>
+            <numerusform>Sostituire la base dati attuale con quella del %1, con %n album?</numerusform>
         </translation>
     </message>
     <message>
         <source>Une sauvegarde contient les données, pas les images : leurs dossiers, images et image, se copient à part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un salvataggio contiene i dati, non le immagini: le loro cartelle, images e image, si copiano a parte.</translation>
     </message>
 </context>
 <context>
     <name>Restes</name>
     <message>
         <source>Restes ôtés : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Resti tolti: %1</translation>
     </message>
 </context>
 <context>
@@ -1428,7 +1428,7 @@
     </message>
     <message>
         <source>Il manque un nom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca un nome.</translation>
     </message>
 </context>
 <context>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>Voir la liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Vedi l&apos;elenco</translation>
     </message>
 </context>
 <context>
@@ -1502,7 +1502,7 @@
     </message>
     <message>
         <source>Statistiques ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiche ...</translation>
     </message>
 </context>
 <context>
@@ -1545,50 +1545,50 @@
     </message>
     <message>
         <source>Prix d&apos;achat</source>
-        <translation type="unfinished"></translation>
+        <translation>Prezzo d&apos;acquisto</translation>
     </message>
     <message>
         <source>Albums prêtés</source>
-        <translation type="unfinished"></translation>
+        <translation>Album prestati</translation>
     </message>
     <message>
         <source>Vue d&apos;ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation>Panoramica</translation>
     </message>
 </context>
 <context>
     <name>Supprimer</name>
     <message numerus="yes">
         <source>%n album(s) restent, sans série.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album resta, senza serie.</numerusform>
+            <numerusform>%n album restano, senza serie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans éditeur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album resta, senza editore.</numerusform>
+            <numerusform>%n album restano, senza editore.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cette collection.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album resta, senza questa collana.</numerusform>
+            <numerusform>%n album restano, senza questa collana.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n album(s) restent, sans cet auteur.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n album resta, senza questo autore.</numerusform>
+            <numerusform>%n album restano, senza questo autore.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cet album est prêté à %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo album è prestato a %1.</translation>
     </message>
 </context>
 <context>
@@ -1668,15 +1668,15 @@
     </message>
     <message>
         <source>Rien ici pour l&apos;instant. Cette liste se remplit à la main, ligne par ligne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per ora qui non c&apos;è nulla. Questo elenco si riempie a mano, riga per riga.</translation>
     </message>
     <message>
         <source>Créer un album</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un album</translation>
     </message>
     <message>
         <source>Entrée précédente ou suivante : Ctrl+Page préc., Ctrl+Page suiv.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voce precedente o successiva: Ctrl+Pag su, Ctrl+Pag giù</translation>
     </message>
 </context>
 </TS>
