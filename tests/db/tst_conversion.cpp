@@ -5,6 +5,7 @@
 #include "db/files/Conversion.h"
 #include "db/schema/Tables.h"
 #include "entry/Catalogue.h"
+#include "entry/ListeCatalogue.h"
 #include "support/Bac.h"
 #include "support/Colonnes.h"
 #include "support/EcrivainJet.h"
@@ -253,7 +254,9 @@ private Q_SLOTS:
         const Rapport rapport = Conversion::Convertir(ancien(), m_bac.chemin("BDbase.bd"));
         QCOMPARE(rapport.details, "");
         QCOMPARE(rapport.nature, "catalogue");
-        QCOMPARE(Catalogue::LireAlbums().albums.texte(0), "Xq zé  (N° 7)");
+        ListeCatalogue lignes;
+        lignes.remplir(General::Tri::Albums, Catalogue::LireAlbums().albums);
+        QCOMPARE(lignes.index(0).data(), "Xq zé  (N° 7)");
         const auto reference = Catalogue::LireReference(5);
         QVERIFY(reference && reference->album[Rubrique::Couleur] == "1");
         QCOMPARE(reference->album[Rubrique::Serie], "Ww");
@@ -350,7 +353,7 @@ private Q_SLOTS:
                 const bool reussie = rapport.erreur == Code::Aucun;
                 reussies += reussie;
                 const bool tient = QFile::exists(cible) == reussie
-                    && (!reussie || (estSain(cible) && rendCompte(rapport, 3 * Albums)));
+                    && (!reussie || (estSain(cible) && rendCompte(rapport, qint64(3) * Albums)));
                 QFile::remove(cible);
                 if (!tient || !QFile::remove(source))
                     fautive = n;

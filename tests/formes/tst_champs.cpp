@@ -181,6 +181,8 @@ private Q_SLOTS:
             m_tri = cas.tri;
             m_avant = Bac::toutLire();
         }
+        // A number that was taken back is not given again in a run, but each case counts from the same one.
+        m_partage->bac.annonces.numeros.clear();
         montrer(cas.tri, 1);
         const QString vueAvant = montre(cas.controle);
         const QString luAvant = lire(cas.lu);

@@ -25,7 +25,7 @@ private Q_SLOTS:
                  {"Menu(3)", "Outils(3)", "Pret"}, {"Menu(3)", "Outils(5)", "Restauration"}}) {
             ouvrir(groupe, bouton, forme);
             // Over the main window, within the screen with its frame, and not just where the launcher is.
-            const QWidget *neuve = fenetre(forme);
+            const QWidget *neuve = fenetre(forme)->window();
             const int bas = neuve->screen()->availableGeometry().bottom();
             QTRY_VERIFY2(neuve->frameGeometry().bottom() <= bas, forme);
             QVERIFY(neuve->pos() != fenetre("Splash")->pos());

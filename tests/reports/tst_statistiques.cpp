@@ -31,8 +31,8 @@ private Q_SLOTS:
                  "INSERT INTO LAlbums (NAlbum) VALUES (1), (2), (3)",
                  "INSERT INTO Serie (NSerie, Nom) VALUES (0, '<script>'), (1, 'Zut & \"a\"'), (2, 'Écu')",
                  "INSERT INTO SerieAlbums (NSerie, NAlbum) VALUES (1, 1), (1, 2), (2, 3)",
-                 "INSERT INTO Auteurs (NAuteur, Nom, Dessin, Scena) VALUES (1, 'Cham', -1, 0), (2, 'Sand', "
-                 "0, -1)",
+                 "INSERT INTO Auteurs (NAuteur, Nom, Dessin) VALUES (1, 'Cham', -1)",
+                 "INSERT INTO Auteurs (NAuteur, Nom, Scena) VALUES (2, 'Sand', -1)",
                  "INSERT INTO AuteursAlbums VALUES (1, 1, -1, 0, 0), (2, 1, 0, -1, 0), (2, 2, 0, -1, 0)",
                  "INSERT INTO Genre VALUES (1, 'Mer')",
                  "INSERT INTO GenreAlbums VALUES (1, 1), (1, 2), (1, 3)",
