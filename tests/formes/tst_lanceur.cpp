@@ -67,6 +67,10 @@ private Q_SLOTS:
         const Ouverte s;
         commander(Qt::Key_L);
         QTRY_VERIFY(visible("Pret"));
+        // Enter presses what has the keyboard in the main window, too.
+        trouver<QWidget>("Menu(0)")->setFocus();
+        QTest::keyClick(trouver<QWidget>("Menu(0)"), Qt::Key_Return);
+        QTRY_VERIFY(visible("Splash"));
         QVERIFY(trouver<QWidget>("Menu(1)")->toolTip().endsWith("(Ctrl+N)"));
         QVERIFY(trouver<QWidget>("Tris(8)")->toolTip().endsWith("(Ctrl+9)"));
     }

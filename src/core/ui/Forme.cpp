@@ -6,8 +6,10 @@
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QShortcut>
 #include <QTimer>
+#include <QToolButton>
 
 namespace {
 
@@ -71,6 +73,20 @@ void Forme::keyPressEvent(QKeyEvent *evenement)
 {
     if (evenement->key() == Qt::Key_Escape)
         close();
-    else
+    else if (!EstEntree(*evenement) || !presserSousLeClavier())
         QWidget::keyPressEvent(evenement);
+}
+
+bool Forme::EstEntree(const QKeyEvent &evenement)
+{
+    return evenement.key() == Qt::Key_Return || evenement.key() == Qt::Key_Enter;
+}
+
+bool Forme::presserSousLeClavier()
+{
+    auto *bouton = qobject_cast<QAbstractButton *>(focusWidget());
+    const bool presse = qobject_cast<QPushButton *>(bouton) || qobject_cast<QToolButton *>(bouton);
+    if (presse)
+        bouton->click();
+    return presse;
 }

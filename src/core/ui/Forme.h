@@ -32,6 +32,10 @@ protected:
     virtual void Traduire() = 0;
 
     bool event(QEvent *evenement) override;
+    static bool EstEntree(const QKeyEvent &evenement);
+    /// Enter presses the button that has the keyboard, and leaves boxes to tick alone; false without one.
+    bool presserSousLeClavier();
+
     void changeEvent(QEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
 

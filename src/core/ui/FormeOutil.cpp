@@ -10,26 +10,12 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <utility>
 
 namespace {
 
 constexpr QSize TailleBouton(96, 32);
-
-bool estEntree(const QKeyEvent &evenement)
-{
-    return evenement.key() == Qt::Key_Return || evenement.key() == Qt::Key_Enter;
-}
-
-/// What Enter presses; it leaves boxes to tick alone.
-QAbstractButton *boutonSous(QWidget *focus)
-{
-    auto *bouton = qobject_cast<QAbstractButton *>(focus);
-    const bool presse = qobject_cast<QPushButton *>(bouton) || qobject_cast<QToolButton *>(bouton);
-    return presse ? bouton : nullptr;
-}
 
 }
 
@@ -141,13 +127,11 @@ void FormeOutil::dire(const QString &ligne, QPalette::ColorRole encre)
 
 void FormeOutil::keyPressEvent(QKeyEvent *evenement)
 {
-    if (!estEntree(*evenement))
+    if (!EstEntree(*evenement))
         return Forme::keyPressEvent(evenement);
     if (!m_entreeSeule && evenement->modifiers().testFlag(Qt::ControlModifier))
         presserPrincipal();
-    else if (QAbstractButton *bouton = boutonSous(focusWidget()))
-        bouton->click();
-    else
+    else if (!presserSousLeClavier())
         entrer();
 }
 
@@ -161,7 +145,7 @@ bool FormeOutil::eventFilter(QObject *objet, QEvent *evenement)
 {
     const auto entree = m_entrees.find(objet);
     if (evenement->type() != QEvent::KeyPress || entree == m_entrees.end()
-        || !estEntree(*static_cast<QKeyEvent *>(evenement)))
+        || !EstEntree(*static_cast<QKeyEvent *>(evenement)))
         return Forme::eventFilter(objet, evenement);
     entree->second();
     return true;
