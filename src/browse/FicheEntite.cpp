@@ -107,17 +107,19 @@ FicheEntite::FicheEntite(Feuille feuille, Demandes &demandes, QWidget *parent)
 void FicheEntite::disposer(Disposition disposition)
 {
     const bool etroite = disposition == Disposition::Etroite;
+    const bool large = disposition == Disposition::Large;
     const int colonne = etroite || !m_images ? 0 : 1;
     const int ligne = etroite ? 3 : 2;
     if (m_images)
-        m_page->addWidget(m_images, 2, 0, etroite ? 1 : 2, 1, Qt::AlignTop | Qt::AlignLeft);
+        m_page->addWidget(m_images, 2, 0, large ? 2 : 1, 1, Qt::AlignTop | Qt::AlignLeft);
     m_page->addWidget(m_groupes, ligne, colonne, 1, 2 - colonne);
-    m_page->addWidget(m_zoneMemos, ligne + 1, colonne, 1, 2 - colonne);
+    // Below groups that stand one above the other the texts take the whole width, so that the shelf keeps its room.
+    const int debut = large ? colonne : 0;
+    m_page->addWidget(m_zoneMemos, ligne + 1, debut, 1, 2 - debut);
     m_page->setColumnStretch(0, colonne == 0 ? 1 : 0);
     m_page->setColumnStretch(1, 1);
-    m_colonnes->setDirection(
-        disposition == Disposition::Large ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    rangerMemos(disposition != Disposition::Large);
+    m_colonnes->setDirection(large ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    rangerMemos(etroite);
 }
 
 int FicheEntite::largeurDesImages() const
