@@ -260,8 +260,8 @@
         <translation>Diashow</translation>
     </message>
     <message>
-        <source>Montrer tour à tour la couverture et le dos</source>
-        <translation>Titelbild und Rückseite abwechselnd zeigen</translation>
+        <source>Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste</source>
+        <translation>Titelbild und Rückseite abwechselnd zeigen; mit Umschalt auch die Liste durchlaufen</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>

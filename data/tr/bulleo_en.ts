@@ -260,8 +260,8 @@
         <translation>Slide Show</translation>
     </message>
     <message>
-        <source>Montrer tour à tour la couverture et le dos</source>
-        <translation>Show the cover and the back in turn</translation>
+        <source>Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste</source>
+        <translation>Show the cover and the back in turn; with Shift, go through the list, too</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>

@@ -260,8 +260,8 @@
         <translation>Presentación</translation>
     </message>
     <message>
-        <source>Montrer tour à tour la couverture et le dos</source>
-        <translation>Mostrar por turno la cubierta y la contracubierta</translation>
+        <source>Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste</source>
+        <translation>Mostrar por turno la cubierta y la contracubierta; con Mayús, recorrer también la lista</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>

@@ -260,8 +260,8 @@
         <translation>Diaporama</translation>
     </message>
     <message>
-        <source>Montrer tour à tour la couverture et le dos</source>
-        <translation>Montrer tour à tour la couverture et le dos</translation>
+        <source>Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste</source>
+        <translation>Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>

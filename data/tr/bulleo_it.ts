@@ -260,8 +260,8 @@
         <translation>Presentazione</translation>
     </message>
     <message>
-        <source>Montrer tour à tour la couverture et le dos</source>
-        <translation>Mostra a turno la copertina e il retro</translation>
+        <source>Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste</source>
+        <translation>Mostra a turno la copertina e il retro; con Maiusc scorre anche l&apos;elenco</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>

@@ -260,8 +260,8 @@
         <translation>Diavoorstelling</translation>
     </message>
     <message>
-        <source>Montrer tour à tour la couverture et le dos</source>
-        <translation>Cover en achterplat om de beurt tonen</translation>
+        <source>Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste</source>
+        <translation>Cover en achterplat om de beurt tonen; met Shift ook door de lijst lopen</translation>
     </message>
     <message>
         <source>Annuler (Ctrl+Z)</source>

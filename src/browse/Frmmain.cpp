@@ -28,6 +28,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
@@ -43,6 +44,8 @@ namespace {
 constexpr QSize TailleDessinee(1280, 800);
 constexpr QSize TailleMinimale(860, 560);
 constexpr int LargeurVolet = 318;
+/// Both sides of an album are seen before the next one.
+constexpr int DiaporamaMs = 6000;
 
 }
 
@@ -105,6 +108,14 @@ void Frmmain::brancher()
     connect(m_bandeau, &Bandeau::loopBascule, this, [this](bool actif) {
         Reglages::courant().ecrire(Cle::Loop, actif);
         m_fiches->poserDefilement(actif);
+        m_diaporama.stop();
+        if (actif && QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier))
+            m_diaporama.start(DiaporamaMs);
+    });
+    connect(&m_diaporama, &QTimer::timeout, this, [this] {
+        // Nobody is led away from what he types, nor from another form.
+        if (isActiveWindow() && !m_fiches->memosEnAttente())
+            m_parcours->avancer(1);
     });
     connect(m_bandeau, &Bandeau::annulationDemandee, this, &Frmmain::annuler);
     connect(m_bandeau, &Bandeau::retablissementDemande, this, &Frmmain::retablir);

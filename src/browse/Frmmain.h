@@ -3,6 +3,8 @@
 #include "core/ui/Forme.h"
 #include "model/General.h"
 
+#include <QTimer>
+
 class Bandeau;
 class Demandes;
 class Fond;
@@ -59,6 +61,7 @@ private:
     QSplitter *m_partage = nullptr;
     VoletListes *m_volet = nullptr;
     Fond *m_fond = nullptr;
+    QTimer m_diaporama; ///< leads through the list
     QScrollArea *m_defilement = nullptr;
     PileFiches *m_fiches = nullptr;
     Pied *m_pied = nullptr;
