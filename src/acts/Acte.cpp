@@ -72,7 +72,8 @@ std::shared_ptr<Bande> Acte::validerSansEtape()
 bool Acte::estFait()
 {
     try {
-        return !m_notes.bande().vide() && Retour::EstFait(m_base, m_notes.bande());
+        return m_base.connexion().profondeur == 0 && !m_notes.bande().vide()
+            && Retour::EstFait(m_base, m_notes.bande());
     } catch (const Error &) {
         return false;
     }

@@ -48,6 +48,13 @@ int creer(const Source &source, const QString &texte)
     return source.role ? Creer::CreerAuteur(texte, *source.role) : Creer::CreerEntree(*source.espece, texte);
 }
 
+/// Several where a field may hold several.
+QStringList nomsDe(const Base &base, const Source &source, const QString &texte)
+{
+    return source.lien == Sources::Lien::Tous ? Trouver::Enumerer(base, *source.espece, texte)
+                                              : QStringList{texte};
+}
+
 /// What was picked, or what the text names, made where there is none: several where a field may hold several.
 std::vector<int> trouverOuCreer(Base &base, const Source &source, const Choisie &choisie)
 {
@@ -55,11 +62,8 @@ std::vector<int> trouverOuCreer(Base &base, const Source &source, const Choisie 
         return {choisie.id};
     if (Texte::EstVide(choisie.texte))
         return {};
-    const QStringList noms = source.lien == Sources::Lien::Tous
-        ? Trouver::Enumerer(base, *source.espece, choisie.texte)
-        : QStringList{choisie.texte};
     std::vector<int> ids;
-    for (const QString &nom : noms) {
+    for (const QString &nom : nomsDe(base, source, choisie.texte)) {
         const int id = choisie.neuve ? 0 : chercher(base, source, nom);
         ids.push_back(id > 0 ? id : creer(source, nom));
     }
@@ -171,11 +175,23 @@ int Choisir::PorteurDe(const Edition &edition, const QString &texte)
     return porteurDe(base, *Ecrire::SourceDe(edition), texte);
 }
 
+QStringList Choisir::Nouveaux(const Edition &edition, const QString &texte)
+{
+    const Base base;
+    const Source &source = *Ecrire::SourceDe(edition);
+    QStringList noms = nomsDe(base, source, texte);
+    noms.removeIf([&](const QString &nom) { return chercher(base, source, nom) > 0; });
+    return noms;
+}
+
 int Choisir::Ajouter(const Edition &edition, const QString &texte)
 {
+    if (!Texte::EstUnNom(texte))
+        return 0;
+    const Source &source = *Ecrire::SourceDe(edition);
     int id = 0;
-    Ecrire::EnUnActe(edition, texte, [&](Base &) {
-        id = creer(*Ecrire::SourceDe(edition), texte);
+    Ecrire::EnUnActe(edition, texte, [&](Base &base) {
+        id = trouverOuCreer(base, source, {0, texte, source.lien != Sources::Lien::Tous}).front();
         return QString();
     });
     return id;

@@ -27,7 +27,11 @@ int Chercher(const Edition &edition, const QString &texte);
 /// The entry whose whole name, first name included, a typed text is, whether the field offers it or not; 0 for none.
 int PorteurDe(const Edition &edition, const QString &texte);
 
-/// Adds an entry to the field's table; an author gets the trade of the field. Returns its identifier.
+/// The names of a typed text that name nobody yet: what validating will add.
+QStringList Nouveaux(const Edition &edition, const QString &texte);
+
+/// Adds what a text names to the field's table; an author gets the trade of the field. Returns the identifier of the
+/// first, 0 for what is no name.
 int Ajouter(const Edition &edition, const QString &texte);
 
 /// True when the field holds the number of an entry that is gone: it shows nothing, and can be emptied none the less.

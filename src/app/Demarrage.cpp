@@ -10,6 +10,7 @@
 #include "core/ui/Messages.h"
 #include "db/files/Livraison.h"
 #include "db/files/MiseANiveau.h"
+#include "model/General.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -29,12 +30,12 @@ void importerIni()
     }
 }
 
-/// Nothing of a collection that does not open now.
+/// Nothing of a collection that does not open now, or where nothing could be done about it.
 std::optional<bool> resteQuelqueChose()
 {
     try {
         const QScopedValueRollback demande(Annonces::courant().reessayer, {});
-        return Restes::YEnA();
+        return General::EstEnLectureSeule() ? std::nullopt : std::optional(Restes::YEnA());
     } catch (const Error &) {
         return std::nullopt;
     }
@@ -83,13 +84,12 @@ void Demarrage::ProposerDOterLesRestes(QWidget *parent)
     if (Reglages::courant().texte(Cle::RestesVus) == examinee)
         return;
     const auto reste = resteQuelqueChose();
-    if (reste)
-        Reglages::courant().ecrire(Cle::RestesVus, examinee);
-    if (!reste.value_or(false))
+    if (!reste)
         return;
     const QString question = QCoreApplication::translate("Demarrage",
         "La base contient des restes que rien ne montre : saisies interrompues, liens en double, lignes"
         " d'albums supprimés. Les ôter ? Ctrl+Z les remet.");
-    if (Messages::Demander(parent, question))
+    if (*reste && Messages::Demander(parent, question))
         Restes::Oter();
+    Reglages::courant().ecrire(Cle::RestesVus, examinee);
 }

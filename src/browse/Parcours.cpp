@@ -41,6 +41,7 @@ void Parcours::ouvrir()
         return;
     m_volet.montrer(TriDe(Reglages::courant().entier(Cle::Tris)));
     m_ouverte = true;
+    m_fiches.permettre(!EstEnLectureSeule());
 }
 
 void Parcours::montrerTri(Tri tri)
@@ -50,6 +51,7 @@ void Parcours::montrerTri(Tri tri)
         m_volet.montrer(tri);
     });
     m_ouverte = true;
+    m_fiches.permettre(!EstEnLectureSeule());
     retenirTri(tri);
     m_courante = {};
     // The list that was there already keeps its entry.

@@ -43,7 +43,7 @@ bool PileFiches::montrer(General::Entree entree)
 {
     const bool la = entree.tri == General::Tri::Albums ? montrerAlbum(entree.id) : montrerEntite(entree);
     if (la)
-        montree()->permettre(!General::EstEnLectureSeule());
+        montree()->permettre(m_permis);
     return la;
 }
 

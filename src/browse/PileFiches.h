@@ -27,6 +27,8 @@ public:
     void ecrireMemos();
     bool memosEnAttente() const;
     void oublierMemos();
+    /// Whether values can be changed on the sheets, from the next one shown on.
+    void permettre(bool permis) { m_permis = permis; }
     /// Slideshow of the album's covers.
     void poserDefilement(bool defile);
     void appliquerPolices();
@@ -49,4 +51,5 @@ private:
     std::map<Champs::Feuille, FicheEntite *> m_entites;
     Accueil *m_accueil = nullptr;
     bool m_defile = false;
+    bool m_permis = true;
 };

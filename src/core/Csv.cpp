@@ -111,12 +111,10 @@ std::optional<QStringDecoder::Encoding> utf16(const QByteArray &debut)
                       : std::nullopt;
 }
 
-/// A text has no signs but those that end lines and cells.
+/// Pictures, archives and programs hold zeros; no text does.
 bool estUnTexte(const QString &texte)
 {
-    return std::none_of(texte.begin(), texte.end(), [](QChar c) {
-        return c.unicode() < 0x20 && c != u'\t' && c != u'\n' && c != u'\r' && c != u'\f' && c != u'\x1A';
-    });
+    return !texte.contains(QChar(0));
 }
 
 /// A file read piece by piece as UTF-8, whatever it is written in.

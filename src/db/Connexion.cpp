@@ -128,8 +128,10 @@ void Connexion::ouvrirPourLire(Entete::Nature nature)
     m_copiee = QFileInfo(m_chemin).lastModified();
     m_db = Copie::Ouvrir(m_chemin);
     armer();
-    if (nature == Entete::Nature::Collection)
+    if (nature == Entete::Nature::Collection) {
+        verifierIndex();
         mettreANiveau();
+    }
 }
 
 void Connexion::armer()

@@ -5,6 +5,7 @@
 #include "db/schema/Version.h"
 
 #include <QCoreApplication>
+#include <map>
 #include <memory>
 #include <sqlite3.h>
 #include <string>

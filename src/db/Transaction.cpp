@@ -42,8 +42,11 @@ void Transaction::Commit()
     try {
         m_connexion.executer([&] { m_connexion.db().exec("RELEASE " + point(m_connexion.profondeur - 1)); });
     } catch (const Error &) {
-        // Where the engine has ended it in failing, there is nothing left to take back, and the file says what holds.
-        if (m_connexion.profondeur == 1 && sqlite3_get_autocommit(m_connexion.db().getHandle())) {
+        // Where the engine has given up what was written there is nothing left to take back, and the file says what
+        // holds; by name the transaction may be open still.
+        SQLite::Database &db = m_connexion.db();
+        if (m_connexion.profondeur == 1 && sqlite3_txn_state(db.getHandle(), "main") == SQLITE_TXN_NONE) {
+            db.tryExec("ROLLBACK");
             fermer();
             m_connexion.oublierInstructions();
         }

@@ -169,12 +169,18 @@ void FrmModif::resoudre()
         return choisirOffert(offert);
     const Sources::Source &source = *Ecrire::SourceDe(edition());
     m_choisie.id = Choisir::PorteurDe(edition(), texte);
-    m_choisie.neuve = m_choisie.id == 0 && source.espece->libelle != Especes::Libelle::Nom;
-    const QStringList neuves = source.lien == Sources::Lien::Tous ? partiesNeuves(texte) : QStringList{texte};
-    if (m_choisie.id > 0 && source.role && m_modele.entrees().rang(m_choisie.id) < 0)
+    // An author is called by both his names; a contributor is found by his surname alone, too.
+    m_choisie.neuve = m_choisie.id == 0 && source.role;
+    if (m_choisie.id == 0 && !source.role)
+        m_choisie.id = Choisir::Chercher(edition(), texte);
+    const int rang = m_modele.entrees().rang(m_choisie.id);
+    const QStringList neuves = m_choisie.id > 0 ? QStringList()
+        : m_choisie.neuve                       ? QStringList{texte}
+                                                : Choisir::Nouveaux(edition(), texte);
+    if (m_choisie.id > 0 && source.role && rang < 0)
         prevenir(tr("« %1 » est connu dans un autre métier : il sera choisi.").arg(texte));
-    else if (m_choisie.id > 0 || neuves.isEmpty())
-        prevenir(tr("« %1 » sera choisi.").arg(texte));
+    else if (neuves.isEmpty())
+        prevenir(tr("« %1 » sera choisi.").arg(rang >= 0 ? m_modele.entrees().texte(rang) : texte));
     else
         prevenir(tr("« %1 » sera ajouté ; ↓ pour choisir dans la liste.")
                      .arg(neuves.join(QStringLiteral(" », « "))));
@@ -221,19 +227,6 @@ QModelIndex FrmModif::offertSous(const QString &nom) const
     return {};
 }
 
-/// Those of several names, joined by commas, that the list does not have.
-QStringList FrmModif::partiesNeuves(const QString &texte) const
-{
-    QStringList neuves;
-    for (const QString &partie : texte.split(u',', Qt::SkipEmptyParts))
-        neuves << partie.trimmed();
-    neuves.removeAll(QString());
-    for (int i = 0; i < m_modele.entrees().size(); ++i)
-        neuves.removeIf([nom = m_modele.entrees().texte(i)](
-                            const QString &partie) { return partie.compare(nom, Qt::CaseInsensitive) == 0; });
-    return neuves;
-}
-
 bool FrmModif::VerifierExist(const QString &nom) const
 {
     return Choisir::PorteurDe(edition(), nom) > 0;
@@ -242,7 +235,7 @@ bool FrmModif::VerifierExist(const QString &nom) const
 void FrmModif::ajouter()
 {
     const QString nom = m_saisie->text().trimmed();
-    if (nom.isEmpty()) {
+    if (!Texte::EstUnNom(nom)) {
         refuser(tr("Tapez d'abord le nom à ajouter."));
         m_saisie->setFocus();
         return;

@@ -37,7 +37,6 @@ private:
     void prendreJour();
     bool VerifierExist(const QString &nom) const;
     QModelIndex offertSous(const QString &nom) const;
-    QStringList partiesNeuves(const QString &texte) const;
     void ajouter();
 
     ListeEntrees m_modele;

@@ -81,7 +81,8 @@ QString Montant::Ecrire(double montant)
     for (double reste = montant; decimales < Decimales && std::abs(reste - std::round(reste)) > 1e-9;
          ++decimales)
         reste *= 10;
-    return locale.toString(montant, 'f', decimales);
+    // Three of them could be read as a group again.
+    return locale.toString(montant, 'f', decimales == ParGroupe ? Decimales : decimales);
 }
 
 QString Montant::Montrer(double montant)

@@ -3,6 +3,7 @@
 #include "core/Traduction.h"
 #include "core/ui/Legende.h"
 #include "core/ui/Theme.h"
+#include "model/Montant.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSeries>
@@ -177,7 +178,7 @@ void Graphique::colorer()
 QString Graphique::nombre(double valeur) const
 {
     const QLocale &locale = Traduction::courant().locale();
-    return m_donnees.montants ? locale.toString(valeur, 'f', 2) + u' ' + texte(Txt::Euro)
+    return m_donnees.montants ? Montant::Montrer(valeur) + u' ' + texte(Txt::Euro)
                               : locale.toString(valeur, 'f', 0);
 }
 

@@ -4,6 +4,7 @@
 #include "core/Traduction.h"
 #include "db/Base.h"
 #include "model/Fiche.h"
+#include "model/Montant.h"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -143,15 +144,16 @@ std::unordered_map<int, double> lireCotes()
     std::unordered_map<QString, QDate> jours;
     for (auto rs = base.read(QStringLiteral("SELECT NAlbum, Mois, Cotes From CotesAlbum")); !rs.AtEnd();
          rs.MoveNext()) {
-        const auto montant = Fiche::LireMontant(rs.Fields(2).toString().trimmed());
-        if (!montant)
+        // Of what could be two amounts the larger one is meant: nobody quotes thousandths.
+        const auto lectures = Montant::Lectures(rs.Fields(2).toString());
+        if (lectures.empty())
             continue;
         const auto [jour, neuf] = jours.try_emplace(rs.Fields(1).toString().trimmed());
         if (neuf)
             jour->second = Dates::LireJour(jour->first).value_or(QDate());
         Derniere &derniere = cotes[static_cast<int>(rs.Int64(0))];
         if (!derniere.jour.isValid() || (jour->second.isValid() && jour->second >= derniere.jour))
-            derniere = {jour->second, *montant};
+            derniere = {jour->second, lectures.front()};
     }
     std::unordered_map<int, double> montants;
     for (const auto &[album, cote] : cotes)

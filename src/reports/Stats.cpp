@@ -9,6 +9,7 @@
 #include "core/ui/Theme.h"
 #include "core/ui/VueWeb.h"
 #include "model/General.h"
+#include "model/Montant.h"
 #include "reports/Graphique.h"
 #include "reports/Statistiques.h"
 
@@ -133,7 +134,7 @@ void Stats::compter()
     const QLocale &locale = Traduction::courant().locale();
     const General::Totaux totaux = General::LireTotaux();
     const QString figures[] = {locale.toString(totaux.albums), locale.toString(totaux.series),
-        locale.toString(totaux.valeur, 'f', 2) + u' ' + texte(Txt::Euro),
+        Montant::Montrer(totaux.valeur) + u' ' + texte(Txt::Euro),
         locale.toString(General::LirePretes().size())};
     for (std::size_t i = 0; i < m_totaux.size(); ++i)
         m_totaux[i]->setText(figures[i]);

@@ -158,6 +158,14 @@ private Q_SLOTS:
         Choisir::Valider(
             {{General::Tri::Albums, 2}, &Champs::De(Champs::Feuille::Album, "Genre")}, {0, "Mer, Aventure"});
         QCOMPARE(lignes("GenreAlbums"), QStringList({"3|1", "1|1", "4|3", "1|3", "5|2", "1|2"}));
+        // What the chooser adds by its button is told apart in the same way, and what is no name is none.
+        const Edition genre{{General::Tri::Albums, 2}, &Champs::De(Champs::Feuille::Album, "Genre")};
+        QCOMPARE(Choisir::Nouveaux(genre, "mer, Conte, \"Rires, larmes\""),
+            QStringList({"Conte", "Rires, larmes"}));
+        QCOMPARE(Choisir::Ajouter(genre, "Conte, Fable"), 6);
+        QCOMPARE(lignes("Genre").mid(5), QStringList({"6|Conte", "7|Fable"}));
+        QCOMPARE(Choisir::Ajouter(genre, " , "), 0);
+        QCOMPARE(lignes("Genre").size(), 7);
     }
 
     void sansNomNiEntreeNiLien()

@@ -26,6 +26,11 @@ private Q_SLOTS:
                        "1",
                 28),
             "2:é|1");
+        cas("signe de commande",
+            "Titre,Tome\na\x0B"
+            "b,1\n",
+            "2:a\x0B"
+            "b|1");
         cas("ligne blanche", "Titre,Tome\n\na,1\n", "3:a|1");
     }
 

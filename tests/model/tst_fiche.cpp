@@ -159,6 +159,7 @@ private Q_SLOTS:
         bac.traduction.choisir(QStringLiteral("Français.lng"));
         const QString raison = Fiche::RaisonDuRefus(prix, "1.250");
         QVERIFY2(raison.contains("1250 ") && raison.contains("1,25 "), qPrintable(raison));
+        QCOMPARE(Montant::Lire(Montant::Ecrire(1.234)), 1.234);
     }
 
     void unTexteDUneLigneEnResteUne()

@@ -14,7 +14,8 @@ QRect Dans(QRect cadre, const QRect &libre);
 /// already is.
 void Centrer(QWidget &fenetre, const QWidget &sur);
 
-/// Brings a window that is shown into the screen, its frame included, as far as it can be that small. False as long as nobody has put a frame around it.
+/// Brings a window that is shown into the screen, its frame included, as far as it can be that small. False as long as
+/// nobody has put a frame around it.
 bool Rentrer(QWidget &fenetre);
 
 }

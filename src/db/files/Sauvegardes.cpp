@@ -102,14 +102,15 @@ QString nommer(const QString &dossier)
 void elaguer(Annonces::SuiviDesSauvegardes &suivi)
 {
     const QString ici = dossier();
-    const QStringList perimees
-        = Sauvegardes::ADetruire(lireListe(ici), suivi.derniere).mid(0, ++suivi.retraits);
-    if (perimees.isEmpty())
-        return;
-    for (const QString &chemin : perimees)
-        QFile::remove(chemin);
-    suivi.retraits -= static_cast<int>(perimees.size());
-    ecrireListe(ici, lireListe(ici));
+    const QStringList perimees = Sauvegardes::ADetruire(lireListe(ici), suivi.derniere);
+    const int permis = ++suivi.retraits;
+    for (const QString &chemin : perimees) {
+        // One that cannot be removed does not stand in the way of the others.
+        if (suivi.retraits > 0 && QFile::remove(chemin))
+            --suivi.retraits;
+    }
+    if (suivi.retraits < permis)
+        ecrireListe(ici, lireListe(ici));
 }
 
 /// The day, week or month whose newest copy is kept.
