@@ -171,7 +171,8 @@ void Bandeau::Traduire()
     }
     poserEtapes(m_aAnnuler, m_aRefaire);
     libeller(m_loops, tr("Diaporama"));
-    m_loops->setToolTip(tr("Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste"));
+    m_loops->setToolTip(
+        tr("Montrer tour à tour la couverture et le dos ; avec Maj, parcourir aussi la liste"));
     libeller(m_langues, QFileInfo(Traduction::LangueCourante()).completeBaseName());
     m_langues->setToolTip(texte(Txt::SelectionnerLaLangue));
     m_menu[Web]->setVisible(!Reglages::courant().texte(Cle::Site).isEmpty());
