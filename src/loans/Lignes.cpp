@@ -63,8 +63,12 @@ QString Lignes::Cle(int id)
 
 int Lignes::Courante(const QTreeView *liste)
 {
-    const QString cle = liste->currentIndex().siblingAtColumn(0).data(Qt::UserRole).toString();
-    return cle.mid(1).trimmed().toInt();
+    return NumeroDe(liste->currentIndex());
+}
+
+int Lignes::NumeroDe(const QModelIndex &cellule)
+{
+    return cellule.siblingAtColumn(0).data(Qt::UserRole).toString().mid(1).trimmed().toInt();
 }
 
 void Lignes::Retrouver(QTreeView *liste, int id, int rang)

@@ -31,6 +31,8 @@ void Trier(const QTreeView *liste, QStandardItemModel &modele);
 QString Cle(int id);
 /// The number of the current line, 0 when there is none.
 int Courante(const QTreeView *liste);
+/// The number of a line, whichever of its cells.
+int NumeroDe(const QModelIndex &cellule);
 /// Makes the line of a number the current one; without such a line, the one that took its place.
 void Retrouver(QTreeView *liste, int id, int rang);
 

@@ -11,11 +11,6 @@ namespace {
 
 constexpr int Colonnes = 3;
 
-int idDe(const QModelIndex &ligne)
-{
-    return ligne.siblingAtColumn(0).data(Qt::UserRole).toString().mid(1).trimmed().toInt();
-}
-
 QStringList textesDe(const Prets::Emprunteur &personne)
 {
     return {personne.nom, personne.prenom, personne.telephone};
@@ -44,7 +39,7 @@ void ListePersonnes::remplir(const std::vector<Prets::Emprunteur> &gens)
 {
     const QScopedValueRollback muette(m_muette, true);
     for (int ligne = m_modele.rowCount() - 1; ligne >= 0; --ligne) {
-        const int id = idDe(m_modele.index(ligne, 0));
+        const int id = Lignes::NumeroDe(m_modele.index(ligne, 0));
         const bool la = std::any_of(gens.begin(), gens.end(), [id](const auto &p) { return p.id == id; });
         if (id > 0 ? !la : state() != EditingState)
             m_modele.removeRow(ligne);
@@ -73,7 +68,7 @@ void ListePersonnes::ajouterLigne(const Prets::Emprunteur &personne)
 int ListePersonnes::ligneDe(int id) const
 {
     for (int ligne = 0; ligne < m_modele.rowCount(); ++ligne) {
-        if (idDe(m_modele.index(ligne, 0)) == id)
+        if (Lignes::NumeroDe(m_modele.index(ligne, 0)) == id)
             return ligne;
     }
     return -1;
@@ -82,10 +77,10 @@ int ListePersonnes::ligneDe(int id) const
 std::optional<Prets::Emprunteur> ListePersonnes::personne() const
 {
     const QModelIndex ici = currentIndex();
-    if (idDe(ici) == 0)
+    if (Lignes::NumeroDe(ici) == 0)
         return {};
     const auto texte = [&](int colonne) { return ici.siblingAtColumn(colonne).data().toString(); };
-    return Prets::Emprunteur{idDe(ici), texte(0), texte(1), texte(2)};
+    return Prets::Emprunteur{Lignes::NumeroDe(ici), texte(0), texte(1), texte(2)};
 }
 
 void ListePersonnes::ajouter()
@@ -110,7 +105,7 @@ void ListePersonnes::signaler(const QModelIndex &cellule, const QList<int> &role
 {
     if (m_muette || !roles.contains(Qt::EditRole))
         return;
-    const int id = idDe(cellule);
+    const int id = Lignes::NumeroDe(cellule);
     const int colonne = cellule.column();
     const QString texte = cellule.data().toString();
     QTimer::singleShot(0, this, [this, id, colonne, texte] {
